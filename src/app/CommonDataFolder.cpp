@@ -1,0 +1,62 @@
+#include "app/CommonDataFolder.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "base/Text.h"
+
+namespace hullwright {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An environment variable; `fallback` where it is missing or empty.
+std::string Environment(const char* name, std::string fallback)
+{
+  const char* const value = std::getenv(name);
+  return value == nullptr || *value == '\0' ? std::move(fallback) : std::string(value);
+}
+
+std::vector<std::string> SplitFolders(std::string_view list)
+{
+  std::vector<std::string> folders;
+  while (!list.empty()) {
+    const std::size_t end = std::min(list.find(':'), list.size());
+    if (end != 0) folders.emplace_back(list.substr(0, end));
+    list.remove_prefix(std::min(end + 1, list.size()));
+  }
+  return folders;
+}
+
+bool HoldsPackage(const std::string& folder)
+{
+  std::error_code error;
+  return !folder.empty() && fs::is_directory(fs::path(folder) / "Sondaris", error);
+}
+
+}  // namespace
+
+DataFolderCandidates FindDataFolderCandidates()
+{
+  DataFolderCandidates candidates;
+  candidates.user = Environment("XDG_DATA_HOME", Environment("HOME", "") + "/.local/share");
+  candidates.system = SplitFolders(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  candidates.besideProgram = (program.parent_path().parent_path() / "share").string();
+  return candidates;
+}
+
+std::u16string CommonDataFolder(const DataFolderCandidates& candidates)
+{
+  if (HoldsPackage(candidates.user)) return WideFromUtf8(candidates.user);
+  for (const std::string& folder : candidates.system) {
+    if (HoldsPackage(folder)) return WideFromUtf8(folder);
+  }
+  return WideFromUtf8(candidates.besideProgram);
+}
+
+}  // namespace hullwright

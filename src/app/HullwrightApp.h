@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/TraceLog.h"
+#include "model/DesignState.h"
+#include "platform/Framework.h"
+#include "platform/MainWindow.h"
+#include "platform/MessageBoxes.h"
+#include "platform/SettingsStore.h"
+#include "render/ViewPort.h"
+#include "view/ViewHost.h"
+
+namespace hullwright {
+
+class CMainFrame;
+
+/// One row of the table of length units.
+struct UnitRecord {
+  std::u16string strUnitShort;
+  std::u16string strUnit;
+  std::int32_t numId = 0;  ///< EPSG code
+};
+
+/// The one application object: it holds the design itself, carries out the design-wide commands and
+/// answers what the view asks. It is made before anything else and goes last.
+class CHullwrightApp : public DesignState, public IViewHost {
+public:
+  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages, std::u16string commonDataFolder);
+  ~CHullwrightApp() override;
+
+  /// Start-up to the first selected side, which is always the top. False ends the process; only a
+  /// failure of the libraries is told in a message.
+  bool InitInstance(IFramework& framework);
+
+  /// The process's exit code.
+  int ExitInstance(IFramework& framework);
+
+  /// Brings a side into view: stores the code, shows it on the toolbar's drop-down, repaints.
+  void SetViewSide(std::int32_t code);
+
+  /// Carries out a design command; false for an id that is none.
+  bool OnCommand(int id);
+
+  /// Adds a record to the log of a category.
+  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+             std::u16string_view text) const;
+
+  GridSettings LoadGridSettings() const override;
+  std::int32_t GetCursorTool() const override { return cursorTool; }
+  std::u16string GetUnitName() override;
+  void NotifyDesignChanged() override;
+  void SetModifiedFlag(bool modified) override;
+
+  CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
+  std::int32_t cursorTool = CursorTool::None;
+  std::vector<UnitRecord> unitTable;  ///< names of the units, empty until they are loaded
+  std::int32_t paneStyleFlag = 1;   ///< read once, when the frame builds its panes
+
+private:
+  ISettingsStore& settings_;
+  IMessageBoxes& messages_;
+  CTraceLog traceLog_;
+};
+
+}  // namespace hullwright

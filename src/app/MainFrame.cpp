@@ -1,0 +1,65 @@
+#include "app/MainFrame.h"
+
+#include "app/HullwrightApp.h"
+#include "file/HullwrightDoc.h"
+#include "resources/CommandIds.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+
+CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets)
+    : viewButtonImage(Command::SelectView), app_(app), widgets_(widgets)
+{
+  app.mainFrame = this;
+}
+
+CMainFrame::~CMainFrame() { app_.mainFrame = nullptr; }
+
+void CMainFrame::Notify(int code, std::intptr_t)
+{
+  if (code == Notification::RebuildTree) {
+    // Whatever was released from the design must not be reached through an old pick.
+    if (view != nullptr) view->DropReleasedItems();
+  } else if (view != nullptr) {
+    view->OnUser(code);
+  }
+}
+
+void CMainFrame::SetModifiedFlag(bool modified)
+{
+  if (document != nullptr) document->SetModifiedFlag(modified);
+}
+
+bool CMainFrame::OnCommand(int id)
+{
+  if (id == Command::ShowAll || id == Command::DrawPolyline) {
+    if (view != nullptr) view->OnCommand(id);
+    return view != nullptr;
+  }
+  return app_.OnCommand(id);
+}
+
+CommandState CMainFrame::QueryCommand(int id) const
+{
+  const auto tool = [this](std::int32_t value) {
+    return CommandState{true, app_.cursorTool == value, true};
+  };
+  switch (id) {
+    case Command::CursorZoomIn: return tool(CursorTool::ZoomIn);
+    case Command::CursorZoomOut: return tool(CursorTool::ZoomOut);
+    case Command::CursorMove: return tool(CursorTool::Move);
+    case Command::ShowAll: return {true};
+    case Command::DrawPolyline: return {true, view != nullptr && view->drawing, true};
+    default: return {FindViewSideByCommand(id) != nullptr};
+  }
+}
+
+void CMainFrame::SetViewButtonImage(int command)
+{
+  viewButtonImage = command;
+  widgets_.SetViewButtonImage(command);
+}
+
+void CMainFrame::InvalidateToolBar() { widgets_.InvalidateToolBar(); }
+
+}  // namespace hullwright

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "platform/Framework.h"
+#include "platform/MainWindow.h"
+#include "view/HullwrightView.h"
+
+namespace hullwright {
+
+class CHullwrightApp;
+class CHullwrightDoc;
+
+/// How a command's menu entry and button look at the moment.
+struct CommandState {
+  bool enabled = false;
+  bool checked = false;
+  bool checkable = false;
+};
+
+/// The main frame without its widgets: the switchboard of the notifications, the routing of commands
+/// and what they answer about themselves. Document and view are set by whoever makes them.
+class CMainFrame : public IMainWindow {
+public:
+  CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets);
+  ~CMainFrame() override;
+
+  bool HasWindow() const override { return hasWindow; }
+
+  /// The switchboard: the tree's code stays here, any other goes on to the view, without its value.
+  void Notify(int code, std::intptr_t value) override;
+  void SetModifiedFlag(bool modified) override;
+
+  /// Carries out a command of application or view; false for an id without a handler.
+  bool OnCommand(int id);
+
+  /// A command without a handler is disabled.
+  CommandState QueryCommand(int id) const;
+
+  /// The image that the side drop-down bears.
+  void SetViewButtonImage(int command);
+  void InvalidateToolBar();
+
+  CHullwrightDoc* document = nullptr;
+  CHullwrightView* view = nullptr;
+  bool hasWindow = false;
+  int viewButtonImage;  ///< command whose image the side drop-down bears
+
+private:
+  CHullwrightApp& app_;
+  IFrameWidgets& widgets_;
+};
+
+/// Widths of the three status panes for a client width: two of 250, the prompt takes the rest, which
+/// is negative in a window narrower than 500.
+constexpr std::array<int, 3> PaneWidths(int clientWidth) { return {clientWidth - 500, 250, 250}; }
+
+}  // namespace hullwright

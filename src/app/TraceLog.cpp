@@ -1,0 +1,93 @@
+#include "app/TraceLog.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "file/OpenFile.h"
+
+namespace hullwright {
+namespace {
+
+constexpr std::size_t longestLine = 2048;
+constexpr std::size_t mostRecords = 200;
+constexpr std::size_t longestPath = 259;
+
+struct Log {
+  std::uint32_t sequence = 0;
+  std::vector<std::string> records;  ///< with their line ends
+};
+
+/// One line with its line end, cut after the longest length; nothing at the end of the file.
+std::optional<std::string> ReadLine(std::FILE* file)
+{
+  std::array<char, longestLine + 1> line{};
+  if (std::fgets(line.data(), static_cast<int>(line.size()), file) == nullptr) return std::nullopt;
+  return std::string(line.data());
+}
+
+Log ReadLog(std::u16string_view path)
+{
+  Log log;
+  const FilePointer file = OpenFile(path, "r");
+  if (!file) return log;
+  if (const auto header = ReadLine(file.get())) {
+    log.sequence = static_cast<std::uint32_t>(ParseInt32(*header, 10));
+  }
+  while (auto line = ReadLine(file.get())) {
+    if (!line->empty()) log.records.push_back(std::move(*line));
+  }
+  return log;
+}
+
+std::string OnOneLine(std::string_view text)
+{
+  std::string out;
+  out.reserve(text.size());
+  for (const char c : text) {
+    switch (c) {
+      case '\r': out += "<CR>"; break;
+      case '\n': out += "<LF>"; break;
+      case '\t': out += "<TAB>"; break;
+      default: out.push_back(c);
+    }
+  }
+  return out;
+}
+
+/// Numbers of records wrap at the end of the signed 32-bit range.
+std::string Decimal(std::uint32_t number)
+{
+  return std::to_string(static_cast<std::int32_t>(number));
+}
+
+}  // namespace
+
+std::u16string CTraceLog::PathOf(std::u16string_view category) const
+{
+  return folder_ + u"/Sondaris/Tracing/Trace_" + std::u16string(category) + u".txt";
+}
+
+void CTraceLog::Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+                      std::u16string_view text) const
+{
+  const std::u16string path = PathOf(category);
+  if (path.size() > longestPath) return;
+  Log log = ReadLog(path);
+  const FilePointer file = OpenFile(path, "w");
+  if (!file) return;
+  ++log.sequence;
+  const std::string record = Decimal(log.sequence) + "|" + FormatFixed(elapsedSeconds, 3) + "|" +
+                             std::to_string(level) + "|" + AnsiFromWide(text);
+  log.records.push_back(OnOneLine(record) + "\r\n");
+  std::fprintf(file.get(), "%s\n", Decimal(log.sequence).c_str());
+  const std::size_t first = log.records.size() - std::min(log.records.size(), mostRecords);
+  for (std::size_t i = first; i < log.records.size(); ++i) {
+    std::fputs(log.records[i].c_str(), file.get());
+  }
+}
+
+}  // namespace hullwright

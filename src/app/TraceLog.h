@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace hullwright {
+
+/// Levels of log records.
+namespace TraceLevel {
+inline constexpr std::int32_t Failure = 1;
+inline constexpr std::int32_t Progress = 4;
+inline constexpr std::int32_t Success = 32;
+}  // namespace TraceLevel
+
+/// The log files: one for each category, in the folder "Sondaris/Tracing" of the common data folder.
+/// A log is a line with the running count of all records ever written, then the last 200 records,
+/// "number|seconds|level|text" each. The folder is never made, and a log that can't be written is
+/// silently left.
+class CTraceLog {
+public:
+  explicit CTraceLog(std::u16string commonDataFolder) : folder_(std::move(commonDataFolder)) {}
+
+  /// Adds one record, rewriting the log whole. `text` is the formatted message; its line breaks and
+  /// tabs become "<CR>", "<LF>" and "<TAB>".
+  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+             std::u16string_view text) const;
+
+  /// Path of a category's log.
+  std::u16string PathOf(std::u16string_view category) const;
+
+private:
+  std::u16string folder_;
+};
+
+}  // namespace hullwright

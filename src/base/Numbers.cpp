@@ -1,0 +1,246 @@
+#include "base/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+
+namespace hullwright {
+namespace {
+
+constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+/// Value of a digit of any base up to 36; 36 for a character that is no digit.
+constexpr int DigitValue(char c)
+{
+  if (IsDigit(c)) return c - '0';
+  const char lower = Lower(c);
+  return lower >= 'a' && lower <= 'z' ? lower - 'a' + 10 : 36;
+}
+
+/// Numbers are ASCII: the first unit beyond it ends any number, so it may as well end the text.
+std::string Narrow(std::u16string_view text)
+{
+  std::string out;
+  for (const char16_t unit : text) {
+    if (unit >= 0x80) break;
+    out.push_back(static_cast<char>(unit));
+  }
+  return out;
+}
+
+/// Takes leading white space and one sign off `text`; true for a minus.
+bool TakeSign(std::string_view& text)
+{
+  while (!text.empty() && IsSpace(text.front())) text.remove_prefix(1);
+  if (text.empty() || (text.front() != '-' && text.front() != '+')) return false;
+  const bool negative = text.front() == '-';
+  text.remove_prefix(1);
+  return negative;
+}
+
+bool StartsWithNoCase(std::string_view text, std::string_view lower)
+{
+  if (text.size() < lower.size()) return false;
+  for (std::size_t i = 0; i < lower.size(); ++i) {
+    if (Lower(text[i]) != lower[i]) return false;
+  }
+  return true;
+}
+
+bool HasHexPrefix(std::string_view text)
+{
+  return StartsWithNoCase(text, "0x") && text.size() > 2;
+}
+
+/// Tells overflow from underflow for a number that `from_chars` found out of range: its first
+/// significant digit stands before the point or it does not, moved by the exponent.
+bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
+{
+  long long position = 0;
+  bool significant = false;
+  bool point = false;
+  std::size_t i = 0;
+  for (; i < number.size() && Lower(number[i]) != exponentMark; ++i) {
+    if (number[i] == '.') {
+      point = true;
+      continue;
+    }
+    significant = significant || number[i] != '0';
+    if (significant && !point) ++position;
+    if (!significant && point) --position;
+  }
+  long long exponent = 0;
+  if (i + 1 < number.size()) {
+    std::string_view digits = number.substr(i + 1);
+    const bool negative = TakeSign(digits);
+    for (const char c : digits) {
+      if (exponent < std::numeric_limits<std::int32_t>::max()) exponent = exponent * 10 + (c - '0');
+    }
+    if (negative) exponent = -exponent;
+  }
+  return position * digitsPerExponent + exponent > 0;
+}
+
+double ParseMagnitude(std::string_view text)
+{
+  const bool hex = HasHexPrefix(text) && (DigitValue(text[2]) < 16 ||
+                                          (text[2] == '.' && text.size() > 3 && DigitValue(text[3]) < 16));
+  if (hex) text.remove_prefix(2);
+  if (text.empty() || text.front() == '-') return 0.0;  // a second sign is no number
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value,
+                                            hex ? std::chars_format::hex : std::chars_format::general);
+  if (error == std::errc::invalid_argument) return 0.0;
+  if (error == std::errc::result_out_of_range) {
+    const auto length = static_cast<std::size_t>(end - text.data());
+    const bool huge = IsHuge(text.substr(0, length), hex ? 'p' : 'e', hex ? 4 : 1);
+    return huge ? std::numeric_limits<double>::infinity() : 0.0;
+  }
+  return value;
+}
+
+/// The digits of an integer, saturated one past the unsigned 32-bit range.
+std::uint64_t ParseDigits(std::string_view text, int base)
+{
+  constexpr std::uint64_t limit = std::uint64_t{1} << 32U;
+  if (base == 16 && HasHexPrefix(text) && DigitValue(text[2]) < 16) text.remove_prefix(2);
+  std::uint64_t value = 0;
+  for (const char c : text) {
+    const int digit = DigitValue(c);
+    if (digit >= base) break;
+    value = std::min(limit, value * static_cast<std::uint64_t>(base) + static_cast<std::uint64_t>(digit));
+  }
+  return value;
+}
+
+/// The magnitude of `value` times 1000, rounded to the nearest integer, halves to even; false where
+/// this arithmetic does not reach (2^53 and above, infinities, NaN). A double is m * 2^-shift with m
+/// below 2^53, so m * 1000 stays below 2^63 and the bits shifted out decide the rounding exactly as
+/// the library's does.
+bool ScaleToThousandths(double value, std::uint64_t& thousandths)
+{
+  constexpr int mantissaBits = 52;
+  constexpr int exponentBias = 1075;
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  const int biased = static_cast<int>((bits >> mantissaBits) & 0x7FFU);
+  const int shift = exponentBias - biased;
+  if (shift < 1) return false;
+  if (biased == 0 || shift > 63) {
+    thousandths = 0;
+    return true;
+  }
+  const std::uint64_t mantissa =
+      (bits & ((std::uint64_t{1} << mantissaBits) - 1)) | (std::uint64_t{1} << mantissaBits);
+  const std::uint64_t product = mantissa * 1000;
+  const std::uint64_t rest = product & ((std::uint64_t{1} << shift) - 1);
+  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
+  thousandths = product >> shift;
+  if (rest > half || (rest == half && (thousandths & 1U) != 0)) ++thousandths;
+  return true;
+}
+
+}  // namespace
+
+std::int32_t TruncateToInt32(double value)
+{
+  if (value > -2147483649.0 && value < 2147483648.0) return static_cast<std::int32_t>(value);
+  return std::numeric_limits<std::int32_t>::min();
+}
+
+double ParseDouble(std::string_view text)
+{
+  const bool negative = TakeSign(text);
+  const double magnitude = ParseMagnitude(text);
+  return negative ? -magnitude : magnitude;
+}
+
+double ParseDouble(std::u16string_view text) { return ParseDouble(Narrow(text)); }
+
+std::int32_t ParseInt32(std::string_view text, int base)
+{
+  const bool negative = TakeSign(text);
+  const std::uint64_t value = ParseDigits(text, base);
+  if (negative) {
+    return value >= 0x80000000U ? std::numeric_limits<std::int32_t>::min()
+                                : -static_cast<std::int32_t>(value);
+  }
+  return value > 0x7FFFFFFFU ? std::numeric_limits<std::int32_t>::max()
+                             : static_cast<std::int32_t>(value);
+}
+
+std::int32_t ParseInt32(std::u16string_view text, int base) { return ParseInt32(Narrow(text), base); }
+
+std::uint32_t ParseUInt32(std::string_view text, int base)
+{
+  const bool negative = TakeSign(text);
+  const std::uint64_t value = ParseDigits(text, base);
+  if (value > 0xFFFFFFFFU) return 0xFFFFFFFFU;
+  const auto result = static_cast<std::uint32_t>(value);
+  return negative ? 0U - result : result;
+}
+
+std::uint32_t ParseUInt32(std::u16string_view text, int base)
+{
+  return ParseUInt32(Narrow(text), base);
+}
+
+std::string FormatFixed(double value, int decimals)
+{
+  // The largest double has 309 digits before the point.
+  std::array<char, 400> text{};
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+                                          std::chars_format::fixed, decimals);
+  return {text.data(), end};
+}
+
+void AppendFixed3(std::string& out, double value)
+{
+  std::uint64_t thousandths = 0;
+  if (!ScaleToThousandths(value, thousandths)) {
+    out += FormatFixed(value, 3);
+    return;
+  }
+  std::array<char, 24> text{};
+  char* at = text.data() + text.size();
+  for (int digits = 0; digits < 4 || thousandths != 0; ++digits) {
+    if (digits == 3) *--at = '.';
+    *--at = static_cast<char>('0' + thousandths % 10);
+    thousandths /= 10;
+  }
+  if (std::signbit(value)) *--at = '-';
+  out.append(at, text.data() + text.size());
+}
+
+std::string FormatSignedFixed(double value, int decimals, int width)
+{
+  std::string text = FormatFixed(value, decimals);
+  if (text.front() != '-') text.insert(0, 1, '+');
+  const auto wanted = static_cast<std::size_t>(width);
+  if (text.size() >= wanted) return text;
+  if (std::isfinite(value)) {
+    text.insert(1, wanted - text.size(), '0');
+  } else {
+    text.insert(0, wanted - text.size(), ' ');
+  }
+  return text;
+}
+
+std::string FormatHex(std::uint32_t value, int digits)
+{
+  std::string text;
+  do {
+    text.insert(0, 1, "0123456789ABCDEF"[value & 0xFU]);
+    value >>= 4U;
+  } while (value != 0);
+  const auto wanted = static_cast<std::size_t>(digits);
+  if (text.size() < wanted) text.insert(0, wanted - text.size(), '0');
+  return text;
+}
+
+}  // namespace hullwright

@@ -1,0 +1,49 @@
+#include "file/FileBase.h"
+
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <new>
+
+#include "file/OpenFile.h"
+
+namespace hullwright {
+namespace {
+
+/// Folds CR LF to LF in place, up to a 0x1A; the new length.
+std::size_t FoldToText(char* text, std::size_t length)
+{
+  constexpr char endOfText = 0x1A;
+  if (const void* const end = std::memchr(text, endOfText, length)) {
+    length = static_cast<std::size_t>(static_cast<const char*>(end) - text);
+  }
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < length; ++i) {
+    if (text[i] == '\r' && i + 1 < length && text[i + 1] == '\n') continue;
+    text[kept++] = text[i];
+  }
+  return kept;
+}
+
+}  // namespace
+
+int CFileBase::Load(std::u16string_view filePath)
+{
+  path = filePath;
+  const FilePointer file = OpenFile(filePath, "rb");
+  if (!file || std::fseek(file.get(), 0, SEEK_END) != 0) return -1;
+  const long length = std::ftell(file.get());
+  if (length <= 0 || length > std::numeric_limits<std::int32_t>::max()) return -1;
+  if (std::fseek(file.get(), 0, SEEK_SET) != 0) return -1;
+  const auto bytes = static_cast<std::size_t>(length);
+  buffer.reset(new (std::nothrow) char[bytes + 1]);
+  if (!buffer) return -1;
+  std::memset(buffer.get(), 0, bytes + 1);
+  const std::size_t kept = FoldToText(buffer.get(), std::fread(buffer.get(), 1, bytes, file.get()));
+  buffer[kept] = '\0';
+  size = static_cast<std::int64_t>(kept);
+  position = 0;
+  return 0;
+}
+
+}  // namespace hullwright

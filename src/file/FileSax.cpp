@@ -1,0 +1,214 @@
+#include "file/FileSax.h"
+
+#include <algorithm>
+#include <cstring>
+#include <initializer_list>
+#include <limits>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "file/OpenFile.h"
+#include "file/SaxHandlers.h"
+#include "file/SaxParser.h"
+
+namespace hullwright {
+namespace {
+
+// Room that each primitive asks for beside the text it can count.
+constexpr std::size_t openMargin = 0x200;
+constexpr std::size_t elementMargin = 0x100;
+
+std::string Joined(std::initializer_list<std::string_view> parts)
+{
+  std::string text;
+  for (const std::string_view part : parts) text += part;
+  return text;
+}
+
+/// One attribute as it stands in a tag; the blank stays behind every value.
+std::string AttributeText(std::u16string_view name, std::u16string_view value)
+{
+  return Joined({Utf8FromWide(name), "=\"", Escape(value), "\" "});
+}
+
+}  // namespace
+
+const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name)
+{
+  static const std::u16string missing;
+  const auto found = attributes.find(name);
+  return found == attributes.end() ? missing : found->second;
+}
+
+CFileSax::~CFileSax() = default;
+
+void CFileSax::StartElement(std::u16string_view, AttributeMap) {}
+
+void CFileSax::EndElement(std::u16string_view) {}
+
+void CFileSax::Characters(std::u16string_view) {}
+
+void CFileSax::Error(std::u16string_view, int, int, int) {}
+
+int CFileSax::Read(std::u16string_view path)
+{
+  CFileSaxContentHandler content(this);
+  CFileSaxErrorHandler errors(this);
+  return ParseXmlFile(path, content, errors) ? 0 : -1;
+}
+
+void CFileSax::ResetOutput()
+{
+  indent = 0;
+  outLength = 0;
+  outCapacity = 0;
+  outBuffer_.reset();
+}
+
+void CFileSax::WriteDeclaration()
+{
+  if (!MakeRoom(openMargin)) return;
+  Append("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n");
+}
+
+void CFileSax::OpenElement(std::u16string_view name)
+{
+  if (!MakeRoom(openMargin)) return;
+  WriteLine(0, Joined({"<", Utf8FromWide(name), ">\n"}));
+  ++indent;
+}
+
+void CFileSax::OpenElement(std::u16string_view name, const AttributeMap& attributes)
+{
+  // Each pair goes to the front, so that the names stand in descending order here.
+  std::string text;
+  for (const auto& [key, value] : attributes) text.insert(0, AttributeText(key, value));
+  if (!MakeRoom(elementMargin + text.size())) return;
+  WriteLine(0, Joined({"<", Utf8FromWide(name), " ", text, ">\n"}));
+  ++indent;
+}
+
+void CFileSax::CloseElement(std::u16string_view name)
+{
+  if (!MakeRoom(elementMargin)) return;
+  --indent;
+  WriteLine(0, Joined({"</", Utf8FromWide(name), ">\n"}));
+}
+
+void CFileSax::WriteTextElement(std::u16string_view name, std::u16string_view value)
+{
+  const std::string text = Escape(value);
+  const std::string tag = Utf8FromWide(name);
+  WriteLine(elementMargin + text.size(), Joined({"<", tag, ">", text, "</", tag, ">\n"}));
+}
+
+void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+                                 std::u16string_view body)
+{
+  std::string text;
+  for (const auto& [key, value] : attributes) text += AttributeText(key, value);
+  const std::string tag = Utf8FromWide(name);
+  if (body.empty()) {
+    WriteEmptyElementText(tag, text);
+    return;
+  }
+  const std::string content = Escape(body);
+  WriteLine(elementMargin + text.size() + content.size(),
+            Joined({"<", tag, " ", text, ">", content, "</", tag, ">\n"}));
+}
+
+void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view attributeText)
+{
+  WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
+}
+
+void CFileSax::WriteLine(std::size_t margin, std::string_view line)
+{
+  if (margin != 0 && !MakeRoom(margin)) return;
+  const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
+  // The margin covers what the format writes; deep nesting or a long name may need more.
+  if (outLength + blanks + line.size() > outCapacity && !Grow(blanks + line.size())) return;
+  std::memset(outBuffer_.get() + outLength, ' ', blanks);
+  outLength += static_cast<std::uint32_t>(blanks);
+  Append(line);
+}
+
+bool CFileSax::MakeRoom(std::size_t margin)
+{
+  return outBuffer_ && outLength + margin < outCapacity ? true : Grow(margin);
+}
+
+bool CFileSax::Grow(std::size_t margin)
+{
+  constexpr std::size_t step = 0x8000;
+  constexpr std::size_t largestSum = 0xFFFF7FFF;
+  const std::size_t wanted = outLength + margin;
+  const std::size_t request =
+      wanted > largestSum ? std::numeric_limits<std::size_t>::max() : wanted + step;
+  const bool fresh = !outBuffer_;
+  // A failed resize loses the block; the next one starts anew at the same length.
+  outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), request)));
+  if (!outBuffer_) return false;
+  outCapacity = static_cast<std::uint32_t>(request);
+  if (fresh) std::memset(outBuffer_.get(), 0, outLength);
+  return true;
+}
+
+void* CFileSax::Reallocate(void* block, std::size_t size)
+{
+  if (size == std::numeric_limits<std::size_t>::max()) {
+    std::free(block);
+    return nullptr;
+  }
+  void* const resized = std::realloc(block, size);
+  if (resized == nullptr) std::free(block);
+  return resized;
+}
+
+void CFileSax::Append(std::string_view text)
+{
+  std::memcpy(outBuffer_.get() + outLength, text.data(), text.size());
+  outLength += static_cast<std::uint32_t>(text.size());
+}
+
+int CFileSax::Flush(std::u16string_view path)
+{
+  if (path.empty() || !outBuffer_ || outLength == 0 || outCapacity == 0) return -1;
+  FilePointer file = OpenFile(path, "wb");
+  if (!file) return -1;
+  const bool written = std::fwrite(outBuffer_.get(), outLength, 1, file.get()) == 1;
+  // What is still in the stream's buffer reaches the disk only here.
+  const bool closed = std::fclose(file.release()) == 0;
+  if (written && closed) return 0;
+  messages_.ShowMessage(u"Error writing config file!!!");
+  return -1;
+}
+
+std::string_view CFileSax::Output() const
+{
+  return outBuffer_ ? std::string_view(outBuffer_.get(), outLength) : std::string_view();
+}
+
+std::string Escape(std::u16string_view text)
+{
+  std::string out;
+  out.reserve(text.size());
+  for (const char16_t unit : text) {
+    switch (unit) {
+      case u'"': out += "&quot;"; break;
+      case u'&': out += "&amp;"; break;
+      case u'\'': out += "&apos;"; break;
+      case u'<': out += "&lt;"; break;
+      case u'>': out += "&gt;"; break;
+      default:
+        if (unit >= 0x20 && unit <= 0x7F) {
+          out.push_back(static_cast<char>(unit));
+        } else {
+          out.append("&#x").append(FormatHex(unit, 1)).push_back(';');
+        }
+    }
+  }
+  return out;
+}
+
+}  // namespace hullwright

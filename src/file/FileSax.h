@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/MessageBoxes.h"
+
+namespace hullwright {
+
+/// Attributes of an element, ascending by name.
+using AttributeMap = std::map<std::u16string, std::u16string, std::less<>>;
+
+/// Value of an attribute; empty where it is missing.
+const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name);
+
+/// Base of the XML files. Reading pushes the file's elements and texts through the four callbacks;
+/// writing composes a document in a growing block that goes to the disk in one piece.
+class CFileSax {
+public:
+  /// `messages` shows that a block could not be written.
+  explicit CFileSax(IMessageBoxes& messages) : messages_(messages) {}
+  CFileSax(const CFileSax&) = delete;
+  CFileSax& operator=(const CFileSax&) = delete;
+  virtual ~CFileSax();
+
+  // Callbacks of reading; the base forms do nothing.
+  virtual void StartElement(std::u16string_view name, AttributeMap attributes);
+  virtual void EndElement(std::u16string_view name);
+  virtual void Characters(std::u16string_view text);
+  virtual void Error(std::u16string_view message, int line, int column, int code);
+
+  /// Parses a file; every callback runs inside. 0, or -1 for a file that can't be read or is not
+  /// well-formed XML. A document type declaration counts as not well-formed: no entity expands and
+  /// nothing outside the file is read.
+  int Read(std::u16string_view path);
+
+  /// Starts a document with an empty block.
+  void ResetOutput();
+
+  // Writing primitives: each makes room, writes `indent` blanks, then its text. When there is no
+  // memory for the room, it writes nothing and leaves `indent` alone.
+  void WriteDeclaration();
+  void OpenElement(std::u16string_view name);
+  void OpenElement(std::u16string_view name, const AttributeMap& attributes);
+  void CloseElement(std::u16string_view name);
+  void WriteTextElement(std::u16string_view name, std::u16string_view value);
+  void WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+                         std::u16string_view body = {});
+
+  /// Writes the block to a file, replacing it. 0 on success. -1 without a word when there is nothing
+  /// to write or the file won't open, and with a message when the writing fails.
+  int Flush(std::u16string_view path);
+
+  /// Text so far.
+  std::string_view Output() const;
+
+  std::int32_t indent = 0;         ///< current nesting level
+  std::uint32_t outLength = 0;     ///< bytes written
+  std::uint32_t outCapacity = 0;   ///< bytes of the block
+
+protected:
+  /// Resizes the block as `realloc` does; null when there is no memory for it.
+  virtual void* Reallocate(void* block, std::size_t size);
+
+  /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
+  void WriteEmptyElementText(std::string_view name, std::string_view attributeText);
+
+private:
+  struct FreeBlock {
+    void operator()(char* block) const { std::free(block); }
+  };
+
+  bool MakeRoom(std::size_t margin);
+  bool Grow(std::size_t margin);
+  void Append(std::string_view text);
+  void WriteLine(std::size_t margin, std::string_view line);
+
+  IMessageBoxes& messages_;
+  std::unique_ptr<char, FreeBlock> outBuffer_;
+};
+
+/// Replaces the five markup characters by their entities, and every unit outside 0x20 to 0x7F by a
+/// numeric character reference, so that the result is ASCII.
+std::string Escape(std::u16string_view text);
+
+}  // namespace hullwright

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "file/FileSax.h"
+#include "model/Anchors.h"
+#include "model/ShapePolyline.h"
+#include "model/Shapes.h"
+#include "model/ViewSide.h"
+
+namespace hullwright {
+
+/// The design file, for one open or one save. It has its own copies of offsets, unit and anchors;
+/// the groups it reads go straight into the array that `groups` points at. Elements are told apart
+/// by name alone: any may stand anywhere, and unknown ones are ignored.
+class CFileVessel : public CFileSax {
+public:
+  explicit CFileVessel(IMessageBoxes& messages);
+  ~CFileVessel() override;
+
+  /// Composes the document and writes it. 0 on success, -1 as `Flush`.
+  int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
+
+  void StartElement(std::u16string_view name, AttributeMap attributes) override;
+  void EndElement(std::u16string_view name) override;
+  void Characters(std::u16string_view text) override;
+
+  std::int32_t unitCode = 9001;
+  std::unique_ptr<CShapeVertex> gps = std::make_unique<CShapeVertex>();
+  std::unique_ptr<CShapeVertex> txd = std::make_unique<CShapeVertex>();
+  std::unique_ptr<CShapeVertex> piv = std::make_unique<CShapeVertex>();
+  std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
+  OwnedArray<CShapes>* groups = nullptr;  ///< set before reading
+
+private:
+  /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
+  /// state from any other.
+  enum class State { Start = 0, Between = 1, InGroup = 2, InPolyline = 3, InAnchor = 5 };
+
+  void ReadAnchorField(std::u16string_view text);
+  void WriteGroup(const CShapes& group);
+  void WritePolyline(const CShape& polyline);
+  void WriteCoordinates(std::string_view element, const CShapeVertex& vertex);
+  void WriteAnchors();
+
+  std::u16string element_;  ///< the element that started or ended last
+  State state_ = State::Start;
+  std::unique_ptr<CAnchor> currentAnchor_;
+  std::unique_ptr<CShapePolyline> currentPolyline_;
+  std::unique_ptr<CShapes> currentGroup_;
+};
+
+}  // namespace hullwright

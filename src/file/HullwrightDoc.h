@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/DesignState.h"
+#include "platform/MainWindow.h"
+#include "platform/MessageBoxes.h"
+
+namespace hullwright {
+
+/// Moves the design between the design state and files. It owns no data of its own but the modified
+/// flag and the path that the shell keeps with a document.
+class CHullwrightDoc {
+public:
+  CHullwrightDoc(DesignState& design, IMainWindow& mainWindow, IMessageBoxes& messages);
+
+  /// A new, empty document. Offsets, unit and side in view keep what the last design left.
+  bool OnNewDocument();
+
+  /// Replaces the design by that of a file; true only on full success. A file that can't be opened is
+  /// told in a message and changes nothing. One that is not well-formed fails without a word: the
+  /// groups that ended before the error are in the design, which otherwise is empty, and offsets and
+  /// unit stay as they were.
+  bool OnOpenDocument(std::u16string_view path);
+
+  /// Writes the design to a file. Always true, and the design then counts as saved, also when the
+  /// writing failed; `CFileVessel` tells what the user gets to see.
+  bool OnSaveDocument(std::u16string_view path);
+
+  void SetModifiedFlag(bool modified) { modified_ = modified; }
+  bool IsModified() const { return modified_; }
+
+private:
+  void DeleteContents();
+
+  DesignState& design_;
+  IMainWindow& mainWindow_;
+  IMessageBoxes& messages_;
+  bool modified_ = false;
+};
+
+}  // namespace hullwright

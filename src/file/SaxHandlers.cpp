@@ -1,0 +1,30 @@
+#include "file/SaxHandlers.h"
+
+#include <utility>
+
+namespace hullwright {
+
+void CFileSaxContentHandler::StartElement(std::u16string_view localName, AttributeMap attributes)
+{
+  if (owner_ != nullptr) owner_->StartElement(localName, std::move(attributes));
+}
+
+void CFileSaxContentHandler::EndElement(std::u16string_view localName)
+{
+  if (owner_ != nullptr) owner_->EndElement(localName);
+}
+
+void CFileSaxContentHandler::Characters(std::u16string_view chunk)
+{
+  if (owner_ == nullptr || chunk.empty()) return;
+  if (chunk.find_first_not_of(u' ') == std::u16string_view::npos) return;
+  if (chunk.front() == u'\n' || chunk.front() == u'\r') return;
+  owner_->Characters(chunk);
+}
+
+void CFileSaxErrorHandler::Error(std::u16string_view message, int line, int column, int code)
+{
+  if (owner_ != nullptr) owner_->Error(message, line, column, code);
+}
+
+}  // namespace hullwright

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string_view>
+
+#include "file/FileSax.h"
+
+namespace hullwright {
+
+/// Passes what the parser delivers on to a file object, filtered. Without an owner nothing happens.
+class CFileSaxContentHandler {
+public:
+  explicit CFileSaxContentHandler(CFileSax* owner) : owner_(owner) {}
+
+  /// `localName` bears no prefix; of attributes with the same local name the last one stands.
+  void StartElement(std::u16string_view localName, AttributeMap attributes);
+  void EndElement(std::u16string_view localName);
+
+  /// Drops a chunk that is empty, all blanks (tabs don't count), or starts with LF or CR, whatever
+  /// follows there. Any other chunk is one call, nothing is gathered.
+  void Characters(std::u16string_view chunk);
+
+private:
+  CFileSax* owner_;
+};
+
+/// Passes the parser's errors on to a file object.
+class CFileSaxErrorHandler {
+public:
+  explicit CFileSaxErrorHandler(CFileSax* owner) : owner_(owner) {}
+
+  /// Line and column count from 1; 0 where they are not known.
+  void Error(std::u16string_view message, int line, int column, int code);
+
+private:
+  CFileSax* owner_;
+};
+
+}  // namespace hullwright

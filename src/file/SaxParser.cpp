@@ -1,0 +1,151 @@
+#include "file/SaxParser.h"
+
+#include <expat.h>
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <type_traits>
+
+#include "base/Text.h"
+#include "file/OpenFile.h"
+
+namespace hullwright {
+namespace {
+
+/// Joins a namespace and a local name; no XML text can hold it.
+constexpr char nameSeparator = '\x01';
+
+std::u16string LocalName(const XML_Char* name)
+{
+  const std::string_view text(name);
+  return WideFromUtf8(text.substr(text.rfind(nameSeparator) + 1));
+}
+
+/// Drives one parse: gathers text to chunks and stops at a document type.
+class Driver {
+public:
+  Driver(XML_Parser parser, CFileSaxContentHandler& content) : parser_(parser), content_(content)
+  {
+    XML_SetUserData(parser, this);
+    XML_SetElementHandler(
+        parser,
+        [](void* self, const XML_Char* name, const XML_Char** attributes) {
+          static_cast<Driver*>(self)->StartElement(name, attributes);
+        },
+        [](void* self, const XML_Char* name) { static_cast<Driver*>(self)->EndElement(name); });
+    XML_SetCharacterDataHandler(parser, [](void* self, const XML_Char* text, int length) {
+      static_cast<Driver*>(self)->Text({text, static_cast<std::size_t>(length)});
+    });
+    XML_SetCommentHandler(
+        parser, [](void* self, const XML_Char*) { static_cast<Driver*>(self)->FlushText(); });
+    XML_SetProcessingInstructionHandler(
+        parser, [](void* self, const XML_Char*, const XML_Char*) {
+          static_cast<Driver*>(self)->FlushText();
+        });
+    XML_SetStartDoctypeDeclHandler(
+        parser, [](void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
+          XML_StopParser(static_cast<Driver*>(self)->parser_, XML_FALSE);
+        });
+    XML_SetUnknownEncodingHandler(parser, &Driver::DescribeEncoding, nullptr);
+  }
+
+private:
+  void StartElement(const XML_Char* name, const XML_Char** attributes)
+  {
+    FlushText();
+    AttributeMap map;
+    for (; *attributes != nullptr; attributes += 2) {
+      map[LocalName(attributes[0])] = WideFromUtf8(attributes[1]);
+    }
+    content_.StartElement(LocalName(name), std::move(map));
+  }
+
+  void EndElement(const XML_Char* name)
+  {
+    FlushText();
+    content_.EndElement(LocalName(name));
+  }
+
+  void Text(std::string_view text)
+  {
+    // The parser hands over each line break on its own.
+    if (text.front() == '\n' || text.front() == '\r') FlushText();
+    chunk_ += text;
+  }
+
+  void FlushText()
+  {
+    content_.Characters(WideFromUtf8(chunk_));
+    chunk_.clear();
+  }
+
+  /// The ANSI code page is the one encoding beyond the parser's own that files come in.
+  static int DescribeEncoding(void*, const XML_Char* name, XML_Encoding* encoding)
+  {
+    std::string lower(name);
+    for (char& c : lower) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    if (lower != "windows-1252") return XML_STATUS_ERROR;
+    for (int byte = 0; byte < 256; ++byte) {
+      encoding->map[byte] = WideFromAnsiByte(static_cast<unsigned char>(byte));
+    }
+    encoding->data = nullptr;
+    encoding->convert = nullptr;
+    encoding->release = nullptr;
+    return XML_STATUS_OK;
+  }
+
+  XML_Parser parser_;
+  CFileSaxContentHandler& content_;
+  std::string chunk_;
+};
+
+struct FreeParser {
+  void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+};
+
+/// Feeds the file piece by piece; false at the first error of the disk or of the document.
+bool Feed(std::FILE* file, XML_Parser parser)
+{
+  constexpr int pieceSize = 0x10000;
+  for (bool last = false; !last;) {
+    void* const piece = XML_GetBuffer(parser, pieceSize);
+    if (piece == nullptr) return false;
+    const std::size_t length = std::fread(piece, 1, pieceSize, file);
+    if (std::ferror(file) != 0) return false;
+    last = length < pieceSize;
+    if (XML_ParseBuffer(parser, static_cast<int>(length), last ? 1 : 0) != XML_STATUS_OK) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool XmlLibraryFits()
+{
+  const XML_Expat_Version found = XML_ExpatVersionInfo();
+  const std::array<int, 3> running = {found.major, found.minor, found.micro};
+  const std::array<int, 3> built = {XML_MAJOR_VERSION, XML_MINOR_VERSION, XML_MICRO_VERSION};
+  return running >= built;
+}
+
+bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
+                  CFileSaxErrorHandler& errors)
+{
+  const FilePointer file = OpenFile(path, "rb");
+  if (!file) return false;
+  const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser(
+      XML_ParserCreateNS(nullptr, nameSeparator));
+  if (!parser) return false;
+  Driver driver(parser.get(), content);
+  if (Feed(file.get(), parser.get())) return true;
+  const XML_Error code = XML_GetErrorCode(parser.get());
+  const XML_LChar* const text = XML_ErrorString(code);
+  errors.Error(WideFromUtf8(text == nullptr ? "" : text),
+               static_cast<int>(XML_GetCurrentLineNumber(parser.get())),
+               static_cast<int>(XML_GetCurrentColumnNumber(parser.get())) + 1, code);
+  return false;
+}
+
+}  // namespace hullwright

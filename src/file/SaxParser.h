@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "file/SaxHandlers.h"
+
+namespace hullwright {
+
+/// Whether the XML library found at run time is at least the one that the program was built with.
+bool XmlLibraryFits();
+
+/// Parses an XML file with namespaces and delivers local names, attributes and chunks of text. A
+/// chunk is the text of one line between two tags, whole: it never breaks at a character reference,
+/// and the line break belongs to the chunk that follows it. False for a file that can't be read, is
+/// not well-formed or declares a document type; what stood before the error has been delivered, and
+/// the error has been reported.
+bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
+                  CFileSaxErrorHandler& errors);
+
+}  // namespace hullwright

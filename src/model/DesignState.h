@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "model/Anchors.h"
+#include "model/ShapeVertex.h"
+#include "model/Shapes.h"
+#include "model/ViewSide.h"
+#include "model/Walk.h"
+
+namespace hullwright {
+
+class CViewPortDesigner;
+
+/// The design and what is in view of it: the state that files, scene, view and commands share. The
+/// application object derives from it and lives for the run; new and open replace parts of it.
+struct DesignState {
+  OwnedArray<CShapes> shapeGroups;  ///< in creation order, which is also the file's order
+
+  /// World-to-screen mapping; made by the application, destroyed by the design view.
+  CViewPortDesigner* viewPort = nullptr;
+
+  std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
+  std::unique_ptr<CShapeVertex> offsetGps = std::make_unique<CShapeVertex>(10.0, 0.0, 0.0);
+  std::unique_ptr<CShapeVertex> offsetTransducer = std::make_unique<CShapeVertex>(-10.0, 0.0, 0.0);
+  std::unique_ptr<CShapeVertex> offsetPivot = std::make_unique<CShapeVertex>(0.0, 10.0, 0.0);
+  std::int32_t unitCode = 9001;              ///< EPSG unit of measure; 9001 is the metre
+  std::int32_t activeView = ViewSide::Top;   ///< the side shown and edited
+};
+
+}  // namespace hullwright

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/ShapeAttributes.h"
+#include "model/Shapes.h"
+
+namespace hullwright {
+
+/// Holder that an import fills before its shapes are copied into the design; never saved.
+class CLayer {
+public:
+  /// Brings the bounds up to date. A box whose four bounds are all non-zero counts as computed; one
+  /// with a bound of exactly 0.0 is computed again, even where that is right.
+  void UpdateExtents();
+
+  std::unique_ptr<CShapes> shapes = std::make_unique<CShapes>();
+  std::unique_ptr<CShapeAttributes> attributes = std::make_unique<CShapeAttributes>();
+  std::u16string name;
+  std::u16string description;
+  std::int32_t flagA = 0;     ///< carried
+  std::int32_t flagB = 1;     ///< carried
+  std::int64_t enabled = 1;
+  double minX = 0.0;
+  double minY = 0.0;
+  double maxX = 0.0;
+  double maxY = 0.0;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "model/ShapeAttributes.h"
+#include "model/ShapeStyle.h"
+#include "model/ShapeVertex.h"
+#include "model/Walk.h"
+
+namespace hullwright {
+
+class CViewPort;
+
+/// Codes of the concrete shapes. Only polylines reach the design file and the object tree.
+namespace ShapeType {
+inline constexpr std::uint16_t Point = 1;
+inline constexpr std::uint16_t Polyline = 2;
+inline constexpr std::uint16_t Polygon = 3;
+inline constexpr std::uint16_t Text = 8;
+inline constexpr std::uint16_t Ring = 9;
+}  // namespace ShapeType
+
+/// Base of everything that is drawn in a view group. All coordinates are world coordinates in the
+/// design's length unit, all angles degrees. A shape owns its vertices, style and attributes and is
+/// itself owned by the group that it was handed to. `Draw`, `HitTest` and `IsVisible` need the
+/// viewport and are implemented beside it, in the render room.
+class CShape {
+public:
+  CShape();
+  CShape(const CShape&) = delete;
+  CShape& operator=(const CShape&) = delete;
+  virtual ~CShape() = default;
+
+  /// A new deep copy.
+  virtual std::unique_ptr<CShape> Clone() const = 0;
+
+  /// Paints the shape on the viewport's canvas; nothing without viewport or canvas.
+  virtual void Draw(const CViewPort* viewPort);
+
+  /// Whether the world point lies on the shape, within ten pixels.
+  virtual bool HitTest(const CViewPort* viewPort, double x, double y) const;
+
+  /// Widens the four bounds by the shape.
+  virtual void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const;
+
+  /// Distance of a world point from the shape; 0.0 where a shape does not say.
+  virtual double DistanceTo(double x, double y) const;
+
+  /// Takes the vertex out of the shape and releases it, if it is here.
+  virtual void RemoveVertex(const CShapeVertex* vertex);
+
+  /// Appends pointers to the shape's vertices.
+  virtual void GetVertices(std::vector<CShapeVertex*>& list);
+
+  virtual void Translate(double dx, double dy, double dz);
+  virtual void Scale(double sx, double sy, double sz);
+
+  /// Turns about the world origin; positive is counter-clockwise.
+  virtual void Rotate(double angleDegrees);
+
+  virtual bool IsVisible(const CViewPort& viewPort) const;
+
+  /// Back to type 0 and tag 0, not selected, without vertices; `editing` stays as it is. The type of
+  /// a constructed shape must be set after the last call.
+  void Reset();
+
+  /// The common half of every `Clone`: selected, tag, type, and copies of style and attributes where
+  /// this shape has them. Returns `target`, also when it is null.
+  CShape* CopyBaseTo(CShape* target) const;
+
+  std::unique_ptr<ShapeStyle> style;            ///< may be null
+  std::unique_ptr<CShapeAttributes> attributes;  ///< may be null
+  std::int32_t tag = 0;                         ///< an importer's handle
+  bool selected = false;                        ///< drawn with a yellow highlight
+  bool editing = false;                         ///< marked in the object tree; one of a group at most
+  std::uint16_t type = 0;
+  mutable std::uint32_t cursor = 0;
+  OwnedArray<CShapeVertex> vertices;  ///< the outline, in drawing order
+};
+
+}  // namespace hullwright

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/Walk.h"
+
+namespace hullwright {
+
+/// One name/value pair that an importer attaches to a shape.
+struct ShapeAttribute {
+  std::u16string name;
+  std::u16string value;
+};
+
+/// The name/value pairs of a shape, in insertion order.
+class CShapeAttributes {
+public:
+  CShapeAttributes() = default;
+  CShapeAttributes(const CShapeAttributes&) = delete;
+  CShapeAttributes& operator=(const CShapeAttributes&) = delete;
+  virtual ~CShapeAttributes() = default;
+
+  /// Appends a deep copy of every pair of `source` up to its first null entry, walking it with its
+  /// own cursor; what is here stays.
+  virtual CShapeAttributes& AppendFrom(const CShapeAttributes& source);
+
+  OwnedArray<ShapeAttribute> items;
+  mutable std::uint32_t cursor = 0;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,97 @@
+#include "model/ShapePolyline.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/Angle.h"
+#include "model/Extents.h"
+
+namespace hullwright {
+
+CShapePolyline::CShapePolyline() { type = ShapeType::Polyline; }
+
+std::unique_ptr<CShapePolyline> CShapePolyline::CreateArc(double cx, double cy, double radius,
+                                                          double startDegrees, double sweepDegrees)
+{
+  auto arc = std::make_unique<CShapePolyline>();
+  arc->AddArc(cx, cy, radius, startDegrees, sweepDegrees);
+  return arc;
+}
+
+std::unique_ptr<CShape> CShapePolyline::Clone() const
+{
+  auto copy = std::make_unique<CShapePolyline>();
+  CopyBaseTo(copy.get());
+  copy->vertices.reserve(vertices.size());
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { copy->AddVertex(v.x, v.y, v.z); });
+  return copy;
+}
+
+void CShapePolyline::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
+{
+  ForEachEntry(vertices,
+               [&](const CShapeVertex& v) { WidenExtents(v, 0.0, minX, minY, maxX, maxY); });
+}
+
+void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)
+{
+  const auto found = std::ranges::find(vertices, vertex, &std::unique_ptr<CShapeVertex>::get);
+  if (vertex != nullptr && found != vertices.end()) vertices.erase(found);
+}
+
+void CShapePolyline::GetVertices(std::vector<CShapeVertex*>& list)
+{
+  for (const auto& vertex : vertices) list.push_back(vertex.get());
+}
+
+void CShapePolyline::Translate(double dx, double dy, double dz)
+{
+  const CShapeVertex offset(dx, dy, dz);
+  ForEachEntry(vertices, [&](CShapeVertex& v) { v += offset; });
+}
+
+void CShapePolyline::Scale(double sx, double sy, double sz)
+{
+  ForEachEntry(vertices, [&](CShapeVertex& v) {
+    v.x *= sx;
+    v.y *= sy;
+    v.z *= sz;
+  });
+}
+
+void CShapePolyline::Rotate(double angleDegrees)
+{
+  if (angleDegrees == 0.0) return;
+  ForEachEntry(vertices, [&](CShapeVertex& v) { RotateVertex(v, angleDegrees); });
+}
+
+void CShapePolyline::AddVertex(double x, double y, double z)
+{
+  vertices.push_back(std::make_unique<CShapeVertex>(x, y, z));
+}
+
+void CShapePolyline::AppendVertices(const CShapePolyline* source)
+{
+  if (source == nullptr) return;
+  const std::size_t count = source->vertices.size();  // the source may be this polyline
+  std::size_t taken = 0;
+  for (const CShapeVertex* v = WalkFirst(source->cursor, source->vertices);
+       v != nullptr && taken < count; v = WalkNext(source->cursor, source->vertices), ++taken) {
+    vertices.push_back(std::make_unique<CShapeVertex>(*v));
+  }
+}
+
+void CShapePolyline::AddArc(double cx, double cy, double radius, double startDegrees,
+                            double sweepDegrees)
+{
+  constexpr int arcVertices = 61;
+  const double step = sweepDegrees / 60.0;
+  double degrees = startDegrees;
+  for (int i = 0; i < arcVertices; ++i) {
+    const double a = degrees * radiansPerDegree;
+    AddVertex(cx - std::cos(a) * radius, cy + std::sin(a) * radius, 0.0);
+    degrees += step;
+  }
+}
+
+}  // namespace hullwright

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "model/Shape.h"
+
+namespace hullwright {
+
+/// An open line through its vertices: the shape that a surveyor draws and the only one that is saved.
+class CShapePolyline : public CShape {
+public:
+  CShapePolyline();
+
+  /// A new polyline filled by `AddArc`.
+  static std::unique_ptr<CShapePolyline> CreateArc(double cx, double cy, double radius,
+                                                   double startDegrees, double sweepDegrees);
+
+  /// The vertices of the copy have x, y and z only; their carried fields are 0.
+  std::unique_ptr<CShape> Clone() const override;
+  void Draw(const CViewPort* viewPort) override;
+  bool HitTest(const CViewPort* viewPort, double x, double y) const override;
+  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void RemoveVertex(const CShapeVertex* vertex) override;
+  void GetVertices(std::vector<CShapeVertex*>& list) override;
+  void Translate(double dx, double dy, double dz) override;
+  void Scale(double sx, double sy, double sz) override;
+
+  /// An angle of exactly 0.0 leaves every coordinate bit for bit.
+  void Rotate(double angleDegrees) override;
+  bool IsVisible(const CViewPort& viewPort) const override;
+
+  void AddVertex(double x, double y, double z);
+
+  /// Appends copies of all vertices of `source` up to its first null entry, all six fields, walking
+  /// it with its own cursor. Null does nothing.
+  void AppendVertices(const CShapePolyline* source);
+
+  /// Appends 61 vertices, whatever the radius and sweep. Zero degrees lies at cx - radius.
+  void AddArc(double cx, double cy, double radius, double startDegrees, double sweepDegrees);
+};
+
+}  // namespace hullwright

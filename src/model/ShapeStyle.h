@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace hullwright {
+
+/// How a shape is stroked. A shape without a style is drawn black, one pixel wide.
+struct ShapeStyle {
+  std::uint32_t lineColour = 0;         ///< 0x00BBGGRR, red in the low byte
+  std::uint32_t fillColour = 0xC0C0C0;  ///< same encoding
+  std::uint8_t styleCode = 7;           ///< carried
+  float lineWidth = 1.0F;               ///< stroke width in pixels
+  std::uint8_t styleFlagA = 0;          ///< carried
+  std::uint8_t styleFlagB = 0;          ///< carried
+};
+
+}  // namespace hullwright

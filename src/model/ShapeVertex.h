@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+
+namespace hullwright {
+
+/// One 3-D world coordinate in the design's length unit. `z` is carried and saved; drawing and hit
+/// testing ignore it.
+class CShapeVertex final {
+public:
+  CShapeVertex() = default;
+  CShapeVertex(double wx, double wy, double wz) : x(wx), y(wy), z(wz) {}
+  CShapeVertex(const CShapeVertex& v) = default;
+
+  /// Copies all six fields.
+  virtual CShapeVertex& operator=(const CShapeVertex& v);
+
+  // Component-wise on x, y, z; the carried fields stay.
+  virtual CShapeVertex& operator+=(const CShapeVertex& v);
+  virtual CShapeVertex& operator-=(const CShapeVertex& v);
+
+  // Results are new vertices whose carried fields are zero. Divisors are not guarded against zero.
+  virtual CShapeVertex operator-(const CShapeVertex& v) const;
+  virtual CShapeVertex operator+(const CShapeVertex& v) const;
+  virtual CShapeVertex operator/(double d) const;
+  virtual CShapeVertex operator/(const CShapeVertex& v) const;
+  virtual CShapeVertex operator*(double d) const;
+
+  /// Orders by x, then y; z plays no part.
+  virtual bool operator<(const CShapeVertex& v) const;
+
+  /// Exact equality of all three coordinates, without tolerance.
+  virtual bool operator==(const CShapeVertex& v) const;
+
+  // Carried state: copied where an operation says so, otherwise written as 0 and read by nothing.
+  std::uint8_t flag = 0;
+  std::int32_t tagA = 0;
+  std::int32_t tagB = 0;
+
+  double x = 0.0;
+  double y = 0.0;
+  double z = 0.0;
+};
+
+/// Distance of `p` from the segment a-b in the x-y plane. False, with `distance` untouched, for a
+/// segment without length and for a point behind `a`; a point beyond `b` gets the distance to the
+/// nearer end.
+bool DistanceToSegment(const CShapeVertex& a, const CShapeVertex& b, const CShapeVertex& p,
+                       double& distance);
+
+/// Turns a vertex about the world origin in the x-y plane, through polar form; a positive angle
+/// turns from +x towards +y. `z` stays.
+void RotateVertex(CShapeVertex& vertex, double angleDegrees);
+
+}  // namespace hullwright

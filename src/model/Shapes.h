@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+
+#include "model/Shape.h"
+#include "model/Walk.h"
+
+namespace hullwright {
+
+/// The shapes of one view group, in insertion order. Whoever creates a group sets its code.
+class CShapes {
+public:
+  CShapes() = default;
+  explicit CShapes(std::int32_t code) : viewCode(code) {}
+  CShapes(const CShapes&) = delete;
+  CShapes& operator=(const CShapes&) = delete;
+  virtual ~CShapes() = default;
+
+  /// Releases every shape.
+  void Clear();
+
+  /// Appends a clone of every shape of `source` up to its first null entry, walking it with its own
+  /// cursor. Null does nothing.
+  void AppendClones(const CShapes* source);
+
+  /// Whether the group answers for a side: it bears the side's code, or the code of all sides.
+  bool AnswersFor(std::int32_t side) const;
+
+  mutable std::uint32_t cursor = 0;
+  std::int32_t viewCode = 0;
+  OwnedArray<CShape> shapes;
+};
+
+/// The first group that answers for the side; null if there is none.
+CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode);
+
+/// The first group that answers for the side, made and appended if there is none. Null for code 0.
+CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode);
+
+/// Releases every group.
+void ClearGroups(OwnedArray<CShapes>& shapeGroups);
+
+}  // namespace hullwright

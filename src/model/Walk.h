@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace hullwright {
+
+/// Growing array of owned objects. An entry may be null.
+template <class T>
+using OwnedArray = std::vector<std::unique_ptr<T>>;
+
+/// Starts a walk: sets the cursor to 1 and takes the first entry; null if there is none.
+template <class T>
+T* WalkFirst(std::uint32_t& cursor, const OwnedArray<T>& items)
+{
+  cursor = 1;
+  return items.empty() ? nullptr : items.front().get();
+}
+
+/// Goes on with a walk; null at the end.
+template <class T>
+T* WalkNext(std::uint32_t& cursor, const OwnedArray<T>& items)
+{
+  const std::uint32_t index = cursor++;
+  return index < items.size() ? items[index].get() : nullptr;
+}
+
+/// Calls `visit` with each entry up to the first null one. The walking position is the object's own
+/// `cursor`, so a walk inside `visit` over the same object disturbs this one.
+template <class T, class Visit>
+void Walk(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
+{
+  for (T* item = WalkFirst(cursor, items); item != nullptr; item = WalkNext(cursor, items)) {
+    visit(*item);
+  }
+}
+
+/// Calls `visit` with each entry that is not null, without a cursor.
+template <class T, class Visit>
+void ForEachEntry(const OwnedArray<T>& items, Visit visit)
+{
+  for (const auto& item : items) {
+    if (item) visit(*item);
+  }
+}
+
+}  // namespace hullwright

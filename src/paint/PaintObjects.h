@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <vector>
+
+#include "paint/PaintSurface.h"
+#include "platform/Drawing.h"
+#include "render/ClipPolyline.h"
+
+namespace hullwright {
+
+class PaintBrush : public IBrush {
+public:
+  explicit PaintBrush(const Colour& value) { SetColour(value); }
+  void SetColour(const Colour& value) override;
+  QColor colour;
+};
+
+class PaintTextFormat : public ITextFormat {
+public:
+  PaintTextFormat(std::u16string_view family, float size);
+  void CentreText() override { centred = true; }
+  void DisableWordWrapping() override { wrapped = false; }
+  QFont font;
+  bool centred = false;
+  bool wrapped = true;
+};
+
+/// A path as its figures; nothing of the toolkit is made before it is known to be visible.
+class PaintPath : public IPathGeometry {
+public:
+  struct Figure {
+    std::vector<PixelPoint> points;
+    bool closed = false;
+  };
+
+  Created<IPathSink> Open() override;
+  std::vector<Figure> figures;
+  bool roundJoins = false;
+};
+
+class PaintTarget : public IRenderTarget {
+public:
+  explicit PaintTarget(PaintSurface& surface) : surface_(surface) {}
+
+  void Resize(int width, int height) override;
+  void BeginDraw() override;
+  void Clear(const Colour& colour) override;
+  ResultCode EndDraw() override;
+  std::unique_ptr<IBrush> CreateSolidColourBrush(const Colour& colour) override;
+  void DrawLine(PixelPoint from, PixelPoint to, const IBrush& brush, float width) override;
+  void DrawRectangle(const PixelRect& rect, const IBrush& brush, float width) override;
+  void FillRectangle(const PixelRect& rect, const IBrush& brush) override;
+  void DrawEllipse(PixelPoint centre, float radiusX, float radiusY, const IBrush& brush,
+                   float width) override;
+  void DrawGeometry(const IPathGeometry& geometry, const IBrush& brush, float width) override;
+  void DrawText(std::u16string_view text, const ITextFormat& format, const PixelRect& rect,
+                const IBrush& brush) override;
+  void SetRotation(float angleDegrees, PixelPoint centre) override;
+
+private:
+  void StrokeRuns(std::span<const PixelPoint> points, const QPen& pen);
+  ClipRect ClipArea(float strokeWidth) const;
+  bool IsVisible(const PixelRect& rect, float strokeWidth) const;
+
+  PaintSurface& surface_;
+  QPainter painter_;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,43 @@
+#pragma once
+
+namespace hullwright {
+
+/// What start-up and exit need of the application framework, in the order of use. Steps that can
+/// stop the start-up answer with a boolean.
+class IFramework {
+public:
+  virtual ~IFramework() = default;
+
+  /// Widgets, tooltips and keyboard are ready.
+  virtual void InitialiseControls() = 0;
+
+  /// The shared libraries that files and pictures depend on are there, in a version that fits.
+  virtual bool InitialiseLibraries() = 0;
+
+  /// Opens the user's store under the maker's key and reads the list of recent files.
+  virtual void OpenUserStore(const char* maker, int recentFiles) = 0;
+
+  /// Makes document, main frame and view.
+  virtual bool CreateDocumentTemplate() = 0;
+
+  /// Opens the file that the command line names, or a new document.
+  virtual bool ProcessCommandLine() = 0;
+
+  virtual void ShowMainWindow() = 0;
+  virtual void AcceptDroppedFiles() = 0;
+  virtual void ReleaseLibraries() = 0;
+};
+
+/// The part of the main frame's look that commands change.
+class IFrameWidgets {
+public:
+  virtual ~IFrameWidgets() = default;
+
+  /// Gives the side drop-down the image of a command.
+  virtual void SetViewButtonImage(int command) = 0;
+
+  /// Draws the whole toolbar anew.
+  virtual void InvalidateToolBar() = 0;
+};
+
+}  // namespace hullwright

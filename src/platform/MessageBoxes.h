@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+namespace hullwright {
+
+/// Modal messages to the user.
+class IMessageBoxes {
+public:
+  virtual ~IMessageBoxes() = default;
+
+  /// Shows a text until the user has confirmed it.
+  virtual void ShowMessage(std::u16string_view text) = 0;
+};
+
+}  // namespace hullwright

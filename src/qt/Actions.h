@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <functional>
+#include <map>
+#include <span>
+
+#include "resources/Menus.h"
+
+class QMenuBar;
+
+namespace hullwright {
+
+/// The actions of all commands, made from the resource tables: texts, prompts, icons and keys. An
+/// action runs its command's number through one function.
+class Actions : public QObject {
+public:
+  Actions(QWidget* window, std::function<void(int)> run);
+
+  /// The action of a command; made on first use.
+  QAction* Get(int command);
+
+  /// Fills a menu bar or a menu from its rows, and tells each menu that it makes to `onMenu`.
+  void FillMenuBar(QMenuBar& bar, std::span<const MenuItem> rows);
+  void FillMenu(QMenu& menu, std::span<const MenuItem> rows);
+
+  /// Calls `visit` with each command and its action.
+  void ForEach(const std::function<void(int, QAction&)>& visit);
+
+  /// Draws the icons anew in the window's palette.
+  void RefreshIcons();
+
+  std::function<void(QMenu&)> onMenu;
+
+private:
+  void AddEntry(QMenu& menu, const MenuItem& item);
+  void SetKeys(int command, QAction& action);
+
+  QWidget* window_;
+  std::function<void(int)> run_;
+  std::map<int, QAction*> actions_;
+};
+
+/// A label of the resources on one line, with a blank where a carriage return marks its line break.
+QString OneLine(std::u16string_view label);
+
+/// The same label on two lines.
+QString TwoLines(std::u16string_view label);
+
+}  // namespace hullwright

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QWidget>
+
+#include "paint/PaintBackEnd.h"
+#include "paint/PaintSurface.h"
+#include "platform/Pointer.h"
+#include "view/HullwrightView.h"
+
+namespace hullwright {
+
+/// The widget of the design view: shows the picture that the view paints, and hands the mouse to the
+/// view. Positions are client pixels.
+class DesignWidget : public QWidget, public ICursor, public IRubberBand {
+  Q_OBJECT
+
+public:
+  explicit DesignWidget(QWidget* parent = nullptr);
+
+  /// Creates the view's canvas in this widget; the view must outlive the widget's events.
+  void Attach(CHullwrightView& view);
+  void Detach() { view_ = nullptr; }
+
+  IDrawingBackEnd& Drawing() { return backEnd_; }
+
+  void SetCursor(CursorShape shape) override;
+  void InvertLine(ClientPoint from, ClientPoint to) override;
+
+Q_SIGNALS:
+  /// A mouse event has run through the view, which may have changed what panes and commands show.
+  void ViewChanged();
+
+protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+  PaintBackEnd backEnd_;
+  PaintSurface surface_;
+  CHullwrightView* view_ = nullptr;
+  int wheelTurn_ = 0;  ///< turn that has not made up a notch yet
+};
+
+}  // namespace hullwright

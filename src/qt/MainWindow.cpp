@@ -1,0 +1,271 @@
+#include "qt/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+
+#include "qt/Icons.h"
+#include "qt/QtText.h"
+#include "resources/Accelerators.h"
+#include "resources/Commands.h"
+#include "resources/Menus.h"
+#include "resources/Strings.h"
+#include "resources/ToolBars.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* geometryKey = "Workspace/Geometry";
+constexpr const char* layoutKey = "Workspace/Layout";
+
+}  // namespace
+
+MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages)
+    : settings_(settings),
+      app_(app),
+      frame_(app, *this),
+      document_(app, frame_, messages),
+      design_(new DesignWidget(this)),
+      view_(app, app, {design_->Drawing(), messages, *design_, *design_}),
+      documents_(this, document_, settings, messages),
+      actions_(new Actions(this, [this](int command) { Run(command); }))
+{
+  messages.SetParent(this);
+  setWindowIcon(ApplicationIcon());
+  setCentralWidget(design_);
+  BuildMenus();
+  BuildToolBar();
+  BuildStatusBar();
+  for (const Accelerator& accelerator : accelerators) actions_->Get(accelerator.command);
+  frame_.document = &document_;
+  frame_.view = &view_;
+  documents_.onChange = [this] {
+    UpdateTitle();
+    UpdatePanes();
+  };
+  connect(design_, &DesignWidget::ViewChanged, this, [this] {
+    UpdatePanes();
+    UpdateCommands();
+    UpdateTitle();
+  });
+  design_->Attach(view_);
+  frame_.hasWindow = true;
+  resize(1280, 860);
+  UpdateCommands();
+  UpdateTitle();
+}
+
+MainWindow::~MainWindow()
+{
+  design_->Detach();
+  frame_.hasWindow = false;
+  frame_.view = nullptr;
+  frame_.document = nullptr;
+}
+
+void MainWindow::RestoreLayout()
+{
+  if (settings_.File() == nullptr) return;
+  restoreGeometry(settings_.File()->value(QLatin1String(geometryKey)).toByteArray());
+  restoreState(settings_.File()->value(QLatin1String(layoutKey)).toByteArray());
+}
+
+void MainWindow::BuildMenus()
+{
+  // What a menu shows is brought up to date when it opens.
+  actions_->onMenu = [this](QMenu& menu) {
+    connect(&menu, &QMenu::aboutToShow, this, [this] { UpdateCommands(); });
+  };
+  actions_->FillMenuBar(*menuBar(), mainMenu);
+  recentMenu_ = new QMenu(this);
+  actions_->Get(Command::RecentFile)->setMenu(recentMenu_);
+  toolBarsMenu_ = new QMenu(this);
+  actions_->Get(Command::ViewToolbars)->setMenu(toolBarsMenu_);
+  connect(recentMenu_, &QMenu::aboutToShow, this, [this] { FillRecentFiles(*recentMenu_); });
+}
+
+void MainWindow::BuildToolBar()
+{
+  toolBar_ = addToolBar(ToQString(Strings::standardToolBar));
+  toolBar_->setObjectName(QStringLiteral("StandardToolBar"));
+  toolBar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  toolBar_->setIconSize(QSize(24, 24));
+  const std::span<const int> buttons =
+      app_.paneStyleFlag != 0 ? std::span<const int>(mainToolBar) : std::span<const int>(smallToolBar);
+  for (const int command : buttons) {
+    if (command == toolBarSeparator) {
+      toolBar_->addSeparator();
+    } else if (command == Command::SelectView) {
+      toolBar_->addWidget(MakeViewButton());
+    } else {
+      toolBar_->addAction(actions_->Get(command));
+    }
+  }
+  toolBarsMenu_->addAction(toolBar_->toggleViewAction());
+}
+
+QToolButton* MainWindow::MakeViewButton()
+{
+  viewButton_ = new QToolButton(this);
+  auto* const menu = new QMenu(viewButton_);
+  actions_->FillMenu(*menu, viewMenu);
+  viewButton_->setMenu(menu);
+  viewButton_->setPopupMode(QToolButton::InstantPopup);
+  viewButton_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  viewButton_->setAutoRaise(true);
+  viewButton_->setFocusPolicy(Qt::TabFocus);
+  viewButton_->setText(TwoLines(viewButtonText));
+  viewButton_->setAccessibleName(OneLine(viewButtonText));
+  const CommandEntry* const entry = FindCommand(Command::SelectView);
+  viewButton_->setToolTip(OneLine(TooltipText(*entry)));
+  viewButton_->setStatusTip(ToQString(StatusText(*entry)));
+  viewButton_->setIcon(actions_->Get(Command::SelectView)->icon());
+  return viewButton_;
+}
+
+void MainWindow::BuildStatusBar()
+{
+  const auto dataPane = [this](const char* name, int width) {
+    auto* const pane = new QLabel(ToQString(Strings::paneEmpty), this);
+    pane->setAccessibleName(tr(name));
+    pane->setFixedWidth(width);
+    pane->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    pane->setMargin(2);
+    statusBar()->addPermanentWidget(pane);
+    return pane;
+  };
+  auto* const prompt = new QLabel(ToQString(Strings::ready), this);
+  prompt->setMargin(2);
+  statusBar()->addWidget(prompt, 1);
+  constexpr auto widths = PaneWidths(0);
+  coordinatesPane_ = dataPane("Coordinates", widths[1]);
+  unitsPane_ = dataPane("Units", widths[2]);
+  QAction* const toggle = actions_->Get(Command::ViewStatusBar);
+  toggle->setCheckable(true);
+  toggle->setChecked(true);
+}
+
+void MainWindow::FillRecentFiles(QMenu& menu)
+{
+  menu.clear();
+  int number = 0;
+  for (const QString& path : documents_.RecentFiles()) {
+    QString shown = path;
+    shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction* const entry = menu.addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown));
+    connect(entry, &QAction::triggered, this, [this, path] { documents_.Open(path); });
+  }
+}
+
+void MainWindow::SetViewButtonImage(int command)
+{
+  if (viewButton_ == nullptr) return;
+  QAction* const side = actions_->Get(command);
+  viewButton_->setIcon(side->icon());
+  viewButton_->setAccessibleDescription(side->text());
+}
+
+void MainWindow::InvalidateToolBar()
+{
+  if (toolBar_ != nullptr) toolBar_->update();
+}
+
+void MainWindow::Run(int command)
+{
+  if (!RunShellCommand(command)) frame_.OnCommand(command);
+  UpdateCommands();
+  UpdatePanes();
+  UpdateTitle();
+}
+
+bool MainWindow::RunShellCommand(int command)
+{
+  switch (command) {
+    case Command::FileNew: documents_.New(); return true;
+    case Command::FileOpen: documents_.Open(); return true;
+    case Command::FileSave: documents_.Save(); return true;
+    case Command::FileSaveAs: documents_.SaveAs(); return true;
+    case Command::Exit: close(); return true;
+    case Command::ViewStatusBar: statusBar()->setVisible(statusBar()->isHidden()); return true;
+    default: return false;
+  }
+}
+
+CommandState MainWindow::Query(int command) const
+{
+  switch (command) {
+    case Command::FileNew:
+    case Command::FileOpen:
+    case Command::FileSave:
+    case Command::FileSaveAs:
+    case Command::Exit:
+    case Command::ViewToolbars: return {true};
+    case Command::RecentFile: return {!documents_.RecentFiles().isEmpty()};
+    case Command::ViewStatusBar: return {true, !statusBar()->isHidden(), true};
+    default: return frame_.QueryCommand(command);
+  }
+}
+
+void MainWindow::UpdateCommands()
+{
+  actions_->ForEach([this](int command, QAction& action) {
+    const CommandState state = Query(command);
+    action.setEnabled(state.enabled);
+    action.setCheckable(state.checkable);
+    action.setChecked(state.checked);
+  });
+}
+
+void MainWindow::UpdatePanes()
+{
+  if (!view_.statusText.empty()) coordinatesPane_->setText(ToQString(view_.statusText));
+  unitsPane_->setText(ToQString(view_.UnitsPaneText()));
+}
+
+void MainWindow::UpdateTitle()
+{
+  setWindowTitle(documents_.Name() + QStringLiteral("[*] - ") +
+                 QString::fromLatin1(Strings::program));
+  setWindowModified(document_.IsModified());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+  if (!documents_.MayLeave()) {
+    event->ignore();
+    return;
+  }
+  if (QSettings* const file = settings_.File()) {
+    file->setValue(QLatin1String(geometryKey), saveGeometry());
+    file->setValue(QLatin1String(layoutKey), saveState());
+  }
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (!url.isLocalFile()) continue;
+    event->acceptProposedAction();
+    documents_.Open(url.toLocalFile());
+    return;
+  }
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && actions_ != nullptr) {
+    actions_->RefreshIcons();
+    SetViewButtonImage(frame_.viewButtonImage);
+  }
+}
+
+}  // namespace hullwright

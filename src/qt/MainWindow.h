@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "app/HullwrightApp.h"
+#include "app/MainFrame.h"
+#include "file/HullwrightDoc.h"
+#include "platform/Framework.h"
+#include "qt/Actions.h"
+#include "qt/DesignWidget.h"
+#include "qt/DocumentController.h"
+
+namespace hullwright {
+
+/// The window: menu bar, main toolbar, status bar with three panes, and the design view in the middle.
+/// It owns frame, document and view, and brings every command to whoever carries it out.
+class MainWindow : public QMainWindow, public IFrameWidgets {
+  Q_OBJECT
+
+public:
+  MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages);
+  ~MainWindow() override;
+
+  DocumentController& Document() { return documents_; }
+
+  /// Puts the window where it was when it was closed last.
+  void RestoreLayout();
+
+  void SetViewButtonImage(int command) override;
+  void InvalidateToolBar() override;
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+private:
+  void BuildMenus();
+  void BuildToolBar();
+  void BuildStatusBar();
+  QToolButton* MakeViewButton();
+  void FillRecentFiles(QMenu& menu);
+
+  void Run(int command);
+  bool RunShellCommand(int command);
+  CommandState Query(int command) const;
+  void UpdateCommands();
+  void UpdatePanes();
+  void UpdateTitle();
+
+  QtSettingsStore& settings_;
+  CHullwrightApp& app_;
+  CMainFrame frame_;
+  CHullwrightDoc document_;
+  DesignWidget* design_;
+  CHullwrightView view_;
+  DocumentController documents_;
+  Actions* actions_ = nullptr;
+  QToolBar* toolBar_ = nullptr;
+  QToolButton* viewButton_ = nullptr;
+  QMenu* recentMenu_ = nullptr;
+  QMenu* toolBarsMenu_ = nullptr;
+  QLabel* coordinatesPane_ = nullptr;
+  QLabel* unitsPane_ = nullptr;
+};
+
+}  // namespace hullwright

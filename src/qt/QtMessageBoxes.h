@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/MessageBoxes.h"
+
+namespace hullwright {
+
+/// Message boxes over the main window, or alone before there is one.
+class QtMessageBoxes : public IMessageBoxes {
+public:
+  void ShowMessage(std::u16string_view text) override;
+  void SetParent(QWidget* parent) { parent_ = parent; }
+
+private:
+  QPointer<QWidget> parent_;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QSettings>
+#include <memory>
+
+#include "platform/SettingsStore.h"
+
+namespace hullwright {
+
+/// The user's INI file in the system's configuration folder. `File` is open to the shell for what is
+/// its own: recent files and the window's layout.
+class QtSettingsStore : public ISettingsStore {
+public:
+  /// Until the store is opened, reads give the defaults and writes are lost.
+  void Open(const QString& maker, const QString& program);
+
+  std::int32_t ReadInteger(std::string_view section, std::string_view key,
+                           std::int32_t fallback) const override;
+  void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override;
+
+  QSettings* File() const { return file_.get(); }
+
+private:
+  std::unique_ptr<QSettings> file_;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,60 @@
+#include "qt/Shell.h"
+
+#include <QApplication>
+#include <cstdio>
+#include <utility>
+
+#include "app/CommonDataFolder.h"
+#include "file/SaxParser.h"
+#include "qt/Icons.h"
+#include "resources/Strings.h"
+
+namespace hullwright {
+
+Shell::Shell(QString file)
+    : file_(std::move(file)), app_(settings_, messages_, CommonDataFolder(FindDataFolderCandidates()))
+{
+}
+
+void Shell::InitialiseControls()
+{
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setDesktopFileName(QStringLiteral("hullwright"));
+  QApplication::setWindowIcon(ApplicationIcon());
+}
+
+bool Shell::InitialiseLibraries() { return XmlLibraryFits(); }
+
+void Shell::OpenUserStore(const char* maker, int)
+{
+  settings_.Open(QString::fromLatin1(maker), QString::fromLatin1(Strings::program));
+}
+
+bool Shell::CreateDocumentTemplate()
+{
+  window_ = std::make_unique<MainWindow>(app_, settings_, messages_);
+  return true;
+}
+
+bool Shell::ProcessCommandLine()
+{
+  if (file_.isEmpty()) {
+    window_->Document().New();
+    return true;
+  }
+  if (window_->Document().Open(file_)) return true;
+  std::fprintf(stderr, "hullwright: cannot open the design '%s'\n", file_.toLocal8Bit().constData());
+  return false;
+}
+
+void Shell::ShowMainWindow()
+{
+  window_->RestoreLayout();
+  window_->show();
+}
+
+void Shell::AcceptDroppedFiles() { window_->setAcceptDrops(true); }
+
+void Shell::ReleaseLibraries() { window_.reset(); }
+
+}  // namespace hullwright

@@ -1,0 +1,70 @@
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "model/ShapePolyline.h"
+#include "render/Canvas.h"
+#include "render/ShapeDrawing.h"
+
+namespace hullwright {
+namespace {
+
+/// Whether (x, y) lies within `t` of the segment from `b`, the later vertex, to `a`. The projection
+/// may reach up to one segment length past `b`; the bounding box holds that reach to within `t`.
+bool HitsSegment(const CShapeVertex& a, const CShapeVertex& b, double x, double y, double t)
+{
+  const bool candidate = x + t > std::min(b.x, a.x) && std::max(b.x, a.x) > x - t &&
+                         y + t > std::min(b.y, a.y) && std::max(b.y, a.y) > y - t;
+  if (!candidate) return false;
+  const double dx = a.x - b.x;
+  const double dy = a.y - b.y;
+  const double u = ((y - b.y) * dy + (x - b.x) * dx) / (dy * dy + dx * dx);
+  if (!(1.0 >= std::abs(u))) return false;  // also a segment without length, whose u is NaN
+  const double nearX = b.x + u * dx;
+  const double nearY = b.y + u * dy;
+  return std::sqrt((x - nearX) * (x - nearX) + (y - nearY) * (y - nearY)) < t;
+}
+
+}  // namespace
+
+void CShapePolyline::Draw(const CViewPort* viewPort)
+{
+  constexpr float highlightWidth = 4.0F;
+  CCanvas* const canvas = DrawableCanvas(viewPort);
+  if (canvas == nullptr || vertices.size() < 2) return;
+  const Colour colour = LineColour(style.get());
+  const auto brush = canvas->renderTarget->CreateSolidColourBrush(colour);
+  if (!brush) return;
+  std::vector<PixelPoint> points;
+  points.reserve(vertices.size());
+  ForEachEntry(vertices, [&](const CShapeVertex& v) {
+    points.push_back(Narrowed(viewPort->WorldToScreen(v.x, v.y)));
+  });
+  if (selected) {
+    brush->SetColour(Colours::highlight);
+    canvas->DrawPolyline(*brush, points, highlightWidth);
+    brush->SetColour(colour);
+  }
+  canvas->DrawPolyline(*brush, points, style ? style->lineWidth : 1.0F);
+}
+
+bool CShapePolyline::HitTest(const CViewPort* viewPort, double x, double y) const
+{
+  if (viewPort == nullptr || vertices.size() < 2) return false;
+  const double t = HitTolerance(*viewPort);
+  for (std::size_t i = 1; i < vertices.size(); ++i) {
+    const CShapeVertex* const b = vertices[i].get();
+    const CShapeVertex* const a = vertices[i - 1].get();
+    if (a != nullptr && b != nullptr && HitsSegment(*a, *b, x, y, t)) return true;
+  }
+  return false;
+}
+
+bool CShapePolyline::IsVisible(const CViewPort& viewPort) const
+{
+  return std::ranges::any_of(vertices, [&](const auto& vertex) {
+    return vertex && viewPort.Contains(vertex->x, vertex->y);
+  });
+}
+
+}  // namespace hullwright

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "platform/Drawing.h"
+#include "render/ViewPort.h"
+
+namespace hullwright {
+
+class CCanvas;
+struct ShapeStyle;
+
+namespace Colours {
+inline constexpr Colour black{0.0F, 0.0F, 0.0F, 1.0F};
+inline constexpr Colour highlight{1.0F, 1.0F, 0.0F, 1.0F};
+}  // namespace Colours
+
+/// The viewport's canvas if it has a render target, else null.
+CCanvas* DrawableCanvas(const CViewPort* viewPort);
+
+/// Narrows a pixel position to what the canvas takes.
+PixelPoint Narrowed(const ScreenPoint& point);
+
+/// Ten pixels in world units, measured along x for both axes.
+double HitTolerance(const CViewPort& viewPort);
+
+/// Colour of a shape's line; black without a style.
+Colour LineColour(const ShapeStyle* style);
+
+}  // namespace hullwright

@@ -1,0 +1,172 @@
+#include "render/ViewPort.h"
+
+#include <cmath>
+
+#include "model/Angle.h"
+
+namespace hullwright {
+namespace {
+
+constexpr double sixth = 0.16666666666666666;
+
+}  // namespace
+
+CViewPort::CViewPort() { SetRotation(0.0); }
+
+void CViewPort::SetRotation(double degrees)
+{
+  // Steps of a whole turn would take forever, or have no effect, on an angle this large.
+  constexpr double countable = 360.0 * 1e6;
+  if (std::abs(degrees) > countable) degrees = std::fmod(degrees, 360.0);
+  while (degrees < 0.0) degrees += 360.0;
+  while (degrees >= 360.0) degrees -= 360.0;
+  rotation = degrees;
+  cosRotation = std::cos(rotation * radiansPerDegree);
+  sinRotation = std::sin(rotation * radiansPerDegree);
+  cosInverse = std::cos(-rotation * radiansPerDegree);
+  sinInverse = std::sin(-rotation * radiansPerDegree);
+}
+
+void CViewPort::MeasureEdges()
+{
+  width = std::abs(right - left);
+  height = std::abs(top - bottom);
+}
+
+void CViewPort::ZoomIn(double sx, double sy)
+{
+  const double w = width;
+  const double h = height;
+  const WorldPoint centre = ScreenToWorld(sx, sy);
+  const double newLeft = centre.x - w * 0.5;
+  const double newBottom = centre.y - h * 0.5;
+  left = newLeft + w * 0.125;
+  right = (newLeft + w) - w * 0.125;
+  bottom = newBottom + h * 0.125;
+  top = (newBottom + h) - h * 0.125;
+  MeasureEdges();
+}
+
+void CViewPort::ZoomOut(double sx, double sy)
+{
+  const double w = width;
+  const double h = height;
+  const WorldPoint centre = ScreenToWorld(sx, sy);
+  const double newLeft = centre.x - w * 0.5;
+  const double newBottom = centre.y - h * 0.5;
+  left = newLeft - w * sixth;
+  right = (newLeft + w) + w * sixth;
+  bottom = newBottom - h * sixth;
+  top = (newBottom + h) + h * sixth;
+  MeasureEdges();
+}
+
+void CViewPort::CenterOn(double sx, double sy)
+{
+  const double w = width;
+  const double h = height;
+  const WorldPoint centre = ScreenToWorld(sx, sy);
+  left = centre.x - w * 0.5;
+  bottom = centre.y - h * 0.5;
+  right = left + w;
+  top = bottom + h;
+  MeasureEdges();
+}
+
+void CViewPort::KeepAspect()
+{
+  if (screenWidth == 0.0 || screenHeight == 0.0) return;
+  width = std::abs(right - left);
+  height = (screenHeight / screenWidth) * width;
+  const double cy = CentreY();
+  bottom = cy - height * 0.5;
+  top = cy + height * 0.5;
+}
+
+WorldPoint CViewPort::Rotated(double wx, double wy) const
+{
+  const double cx = CentreX();
+  const double cy = CentreY();
+  const double dx = wx - cx;
+  const double dy = wy - cy;
+  return {cosRotation * dx + sinRotation * dy + cx, cosRotation * dy - sinRotation * dx + cy};
+}
+
+bool CViewPort::Contains(double wx, double wy) const
+{
+  const ScreenPoint p = WorldToScreen(wx, wy);
+  return p.x >= 0.0 && p.x <= screenWidth && p.y >= 0.0 && p.y <= screenHeight;
+}
+
+ScreenPoint CViewPort::WorldToScreen(double wx, double wy) const
+{
+  const WorldPoint r = Rotated(wx, wy);
+  return WorldToScreenFlat(r.x, r.y);
+}
+
+ScreenPoint CViewPort::WorldToScreenFlat(double wx, double wy) const
+{
+  return {(wx - left) / (width / screenWidth),
+          screenHeight - (wy - bottom) / (height / screenHeight)};
+}
+
+WorldPoint CViewPort::ScreenToWorld(double sx, double sy) const
+{
+  const double cx = CentreX();
+  const double cy = CentreY();
+  const double dx = (sx / (screenWidth / width) + left) - cx;
+  const double dy = (top - sy / (screenHeight / height)) - cy;
+  return {dx * cosInverse + dy * sinInverse + cx, dy * cosInverse - dx * sinInverse + cy};
+}
+
+void CViewPort::WidenBySixth()
+{
+  const double mx = width * sixth;
+  const double my = height * sixth;
+  left -= mx;
+  bottom -= my;
+  right += mx;
+  top += my;
+  MeasureEdges();
+}
+
+void CViewPort::FitExtents(double minX, double minY, double maxX, double maxY)
+{
+  left = minX;
+  bottom = minY;
+  right = maxX;
+  top = maxY;
+  MeasureEdges();
+  WidenBySixth();
+  KeepAspect();
+}
+
+void CViewPort::ZoomToExtents(double minX, double minY, double maxX, double maxY)
+{
+  const double dx = std::abs(maxX - minX);
+  const double dy = std::abs(maxY - minY);
+  const double cx = (minX + maxX) * 0.5;
+  const double cy = (minY + maxY) * 0.5;
+  if (dx > dy) {
+    height = dx;
+    width = (screenWidth / screenHeight) * dx;
+  } else {
+    // The inverted shape, with the height as it stood, is how a tall box is framed; the loop below
+    // widens what does not fit.
+    width = (screenHeight / screenWidth) * dy;
+  }
+  left = cx - width * 0.5;
+  right = cx + width * 0.5;
+  bottom = cy - height * 0.5;
+  top = cy + height * 0.5;
+  KeepAspect();
+  constexpr int mostSteps = 30;
+  for (int step = 0; step < mostSteps; ++step) {
+    if (Contains(minX, minY) || Contains(maxX, maxY)) break;
+    WidenBySixth();
+  }
+  WidenBySixth();
+  WidenBySixth();
+}
+
+}  // namespace hullwright

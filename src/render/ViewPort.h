@@ -1,0 +1,86 @@
+#pragma once
+
+namespace hullwright {
+
+class CCanvas;
+
+struct WorldPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
+
+struct ScreenPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
+
+/// The mapping between world coordinates (y up, design units) and client pixels (y down). Pure
+/// arithmetic on the view rectangle; nothing is guarded against an extent of zero. Before the first
+/// resize both screen sizes are 0.0 and the mappings are not to be used.
+class CViewPort {
+public:
+  CViewPort();
+  CViewPort(const CViewPort&) = delete;
+  CViewPort& operator=(const CViewPort&) = delete;
+  virtual ~CViewPort() = default;
+
+  /// View rotation in degrees, stored normalised to 0 (inclusive) to 360 (exclusive).
+  void SetRotation(double degrees);
+
+  /// Makes the pixel the centre and shrinks the view rectangle to three quarters.
+  void ZoomIn(double sx, double sy);
+
+  /// Makes the pixel the centre and widens the view rectangle to four thirds.
+  void ZoomOut(double sx, double sy);
+
+  /// Makes the pixel the centre.
+  void CenterOn(double sx, double sy);
+
+  /// Derives the height of the view rectangle from its width and the client's shape.
+  void KeepAspect();
+
+  /// Whether the world point falls inside the client area, edges included.
+  bool Contains(double wx, double wy) const;
+
+  ScreenPoint WorldToScreen(double wx, double wy) const;
+
+  /// The forward mapping without the rotation.
+  ScreenPoint WorldToScreenFlat(double wx, double wy) const;
+
+  WorldPoint ScreenToWorld(double sx, double sy) const;
+
+  /// View rectangle around a box with a margin of one sixth of it on each side. The width rules: a
+  /// box that is tall for the client's shape is cropped.
+  void FitExtents(double minX, double minY, double maxX, double maxY);
+
+  /// View rectangle around the box of one shape.
+  void ZoomToExtents(double minX, double minY, double maxX, double maxY);
+
+  CCanvas* canvas = nullptr;  ///< what the shapes draw on; set by the design view
+  bool flag = false;          ///< carried
+  double left = -100.0;
+  double bottom = -100.0;
+  double right = 100.0;
+  double top = 100.0;
+  double width = 200.0;       ///< |right - left|
+  double height = 200.0;      ///< |top - bottom|
+  double screenWidth = 0.0;   ///< client size in pixels
+  double screenHeight = 0.0;
+  double rotation = 0.0;
+  double cosRotation = 1.0;
+  double sinRotation = 0.0;
+  double cosInverse = 1.0;
+  double sinInverse = 0.0;
+
+private:
+  double CentreX() const { return (left + right) * 0.5; }
+  double CentreY() const { return (bottom + top) * 0.5; }
+  WorldPoint Rotated(double wx, double wy) const;
+  void MeasureEdges();
+  void WidenBySixth();
+};
+
+/// The viewport of the design view.
+class CViewPortDesigner : public CViewPort {};
+
+}  // namespace hullwright

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+/// The program's own texts that stand in no table.
+namespace hullwright::Strings {
+
+inline constexpr const char* maker = "Quillmere";
+inline constexpr const char* program = "Hullwright";
+
+inline constexpr std::u16string_view librariesFailed =
+    u"OLE initialization failed.  Make sure that the OLE libraries are the correct version.";
+/// Told when a design could not be written.
+inline constexpr std::u16string_view writeFailed = u"Error writing config file!!!";
+inline constexpr std::u16string_view standardToolBar = u"Standard";
+inline constexpr std::u16string_view customize = u"Customize...";
+inline constexpr std::u16string_view objectView = u"Object View";
+inline constexpr std::u16string_view ready = u"Ready";
+inline constexpr std::u16string_view paneEmpty = u"N/A";
+inline constexpr std::u16string_view untitled = u"Untitled";
+
+// The document template.
+inline constexpr std::u16string_view fileFilter = u"Hullwright Files(*.xml)";
+inline constexpr std::u16string_view fileExtension = u".xml";
+inline constexpr std::u16string_view documentType = u"Hullwright.Document";
+
+}  // namespace hullwright::Strings

@@ -1,0 +1,163 @@
+#include "view/HullwrightView.h"
+
+#include <limits>
+#include <utility>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "platform/MainWindow.h"
+#include "render/Scene.h"
+#include "resources/CommandIds.h"
+
+namespace hullwright {
+
+CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const ViewPorts& ports)
+    : design_(design), host_(host), ports_(ports)
+{
+}
+
+CHullwrightView::~CHullwrightView()
+{
+  if (viewPort == nullptr) return;
+  // The application made the viewport, and its pointer goes with the object.
+  design_.viewPort = nullptr;
+  delete viewPort;
+}
+
+void CHullwrightView::OnCreate(IDrawingWindow* window)
+{
+  viewPort = design_.viewPort;
+  if (viewPort == nullptr) return;
+  canvas_ = std::make_unique<CCanvas>(ports_.drawing);
+  viewPort->canvas = canvas_.get();
+  if (!canvas_->Initialize(window)) ports_.messages.ShowMessage(WideFromUtf8(canvas_->errorText));
+}
+
+void CHullwrightView::OnSize(int cx, int cy)
+{
+  if (viewPort == nullptr) return;
+  if (canvas_ && canvas_->renderTarget) canvas_->renderTarget->Resize(cx, cy);
+  viewPort->screenWidth = cx;
+  viewPort->screenHeight = cy;
+  viewPort->KeepAspect();
+  Repaint();
+}
+
+void CHullwrightView::OnLButtonDown(ClientPoint point)
+{
+  const std::int32_t tool = host_.GetCursorTool();
+  if (HitVertex(point)) return;
+  if (drawing) {
+    AddPolylineVertex();
+    Repaint();
+  } else if (viewPort != nullptr) {
+    switch (tool) {
+      case CursorTool::ZoomIn: viewPort->ZoomIn(point.x, point.y); break;
+      case CursorTool::ZoomOut: viewPort->ZoomOut(point.x, point.y); break;
+      case CursorTool::Move: viewPort->CenterOn(point.x, point.y); break;
+      default: return;
+    }
+    Repaint();
+  }
+}
+
+void CHullwrightView::OnLButtonUp(ClientPoint point)
+{
+  if (dragging) EndDrag(point);
+  dragging = false;
+  hitKind = HitKind::None;
+  dragVertex = {};
+}
+
+void CHullwrightView::OnRButtonDown(ClientPoint point)
+{
+  HitVertex(point);
+  if (drawing) FinishPolyline();
+}
+
+void CHullwrightView::OnMouseMove(bool leftButton, ClientPoint point)
+{
+  const WorldPoint world = SnappedWorld(point);
+  statusText = u"X: " + WideFromAscii(FormatSignedFixed(world.x, 2, 6)) + u" Y: " +
+               WideFromAscii(FormatSignedFixed(world.y, 2, 6));
+  if (leftButton && dragVertex.index() != 0) {
+    dragging = true;
+    DragTo(point);
+  }
+  if (drawing) {
+    MoveRubberBand(world);
+  } else if (!dragging) {
+    cursorPoint = {};
+  }
+  HitVertex(point);
+}
+
+void CHullwrightView::OnMouseWheel(int delta, ClientPoint point)
+{
+  if (drawing) return;
+  if (viewPort != nullptr) {
+    if (delta < 0) {
+      viewPort->ZoomOut(point.x, point.y);
+    } else {
+      viewPort->ZoomIn(point.x, point.y);
+    }
+  }
+  Repaint();
+}
+
+void CHullwrightView::OnSetCursor()
+{
+  ports_.cursor.SetCursor(dragging ? CursorShape::Hand : CursorShape::Cross);
+}
+
+void CHullwrightView::OnUser(int code)
+{
+  if (code == Notification::RepaintDesign) Repaint();
+}
+
+void CHullwrightView::OnCommand(int id)
+{
+  if (id == Command::ShowAll) ShowAllShapes();
+  if (id == Command::DrawPolyline) BeginPolyline();
+}
+
+std::u16string CHullwrightView::UnitsPaneText() { return u"Units: " + host_.GetUnitName(); }
+
+void CHullwrightView::Repaint()
+{
+  DrawScene(design_, viewPort, newShape.get(), host_.LoadGridSettings());
+}
+
+void CHullwrightView::DropReleasedItems()
+{
+  const auto drop = [this](PickedItem& item) {
+    if (item.index() != 0 && !IsInDesign(design_, item)) item = ReleasedItem{};
+  };
+  drop(dragVertex);
+  drop(hitVertex);
+}
+
+void CHullwrightView::ShowAllShapes()
+{
+  constexpr double largest = std::numeric_limits<double>::max();
+  if (viewPort == nullptr) return;
+  CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
+  if (group == nullptr || group->shapes.empty()) return;
+  double minX = largest;
+  double minY = largest;
+  double maxX = -largest;
+  double maxY = -largest;
+  Walk(group->cursor, group->shapes,
+       [&](const CShape& shape) { shape.GetExtents(minX, minY, maxX, maxY); });
+  viewPort->FitExtents(minX, minY, maxX, maxY);
+  Repaint();
+}
+
+ClientPoint CHullwrightView::PixelOf(const WorldPoint& world) const
+{
+  if (viewPort == nullptr) return {};
+  const ScreenPoint p = viewPort->WorldToScreenFlat(world.x, world.y);
+  return {TruncateToInt32(p.x), TruncateToInt32(p.y)};
+}
+
+}  // namespace hullwright

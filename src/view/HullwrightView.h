@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/DesignState.h"
+#include "model/ShapePolyline.h"
+#include "platform/Drawing.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Pointer.h"
+#include "render/Canvas.h"
+#include "render/ViewPort.h"
+#include "view/PickedItem.h"
+#include "view/ViewHost.h"
+
+namespace hullwright {
+
+/// What the design view asks of the platform.
+struct ViewPorts {
+  IDrawingBackEnd& drawing;
+  IMessageBoxes& messages;
+  ICursor& cursor;
+  IRubberBand& rubberBand;
+};
+
+/// The view of the design: mouse and wheel come in, the picture goes out on the canvas. It is idle,
+/// dragging (`dragging`) or drawing a polyline (`drawing`). `OnCreate` must run before any event; it
+/// takes over the design's viewport, which the view then destroys. Every handler that changes the
+/// picture repaints it whole before it returns.
+class CHullwrightView {
+public:
+  CHullwrightView(DesignState& design, IViewHost& host, const ViewPorts& ports);
+  CHullwrightView(const CHullwrightView&) = delete;
+  CHullwrightView& operator=(const CHullwrightView&) = delete;
+  ~CHullwrightView();
+
+  /// Makes the canvas in the window. A canvas that fails is told in a message; the view goes on
+  /// without a picture.
+  void OnCreate(IDrawingWindow* window);
+
+  void OnSize(int cx, int cy);
+  void OnLButtonDown(ClientPoint point);
+  void OnLButtonUp(ClientPoint point);
+  void OnRButtonDown(ClientPoint point);
+  void OnMouseMove(bool leftButton, ClientPoint point);
+
+  /// One step for each message whatever the size of `delta`: negative zooms out, all else in.
+  void OnMouseWheel(int delta, ClientPoint point);
+
+  /// The platform asks for the cursor over the client area.
+  void OnSetCursor();
+
+  /// A notification passed on by the main window; only the repaint is acted on.
+  void OnUser(int code);
+
+  /// The view's own commands; any other id does nothing.
+  void OnCommand(int id);
+
+  /// Text of the units pane.
+  std::u16string UnitsPaneText();
+
+  /// Draws one whole frame.
+  void Repaint();
+
+  /// Forgets picked items that are no longer in the design, so that none is written after its release.
+  void DropReleasedItems();
+
+  PickedItem dragVertex;     ///< what a drag would move
+  PickedItem hitVertex;      ///< what was hit last; outlives the hover
+  bool dragging = false;
+  bool drawing = false;
+  std::int32_t hitKind = HitKind::None;
+  ClientPoint cursorPoint;   ///< free end of the rubber band
+  ClientPoint lastPoint;     ///< fixed end of the rubber band
+  CViewPortDesigner* viewPort = nullptr;  ///< null until the window exists
+  std::unique_ptr<CShapePolyline> newShape;  ///< the polyline under construction
+  std::u16string statusText;  ///< text of the coordinates pane
+
+private:
+  // Picking and dragging (VertexPicking.cpp)
+  bool HitVertex(ClientPoint point);
+  void DragTo(ClientPoint point);
+  void EndDrag(ClientPoint point);
+  WorldPoint SnappedWorld(ClientPoint point) const;
+
+  // Polyline tool (PolylineTool.cpp)
+  void BeginPolyline();
+  void AddPolylineVertex();
+  void MoveRubberBand(const WorldPoint& world);
+  void FinishPolyline();
+
+  void ShowAllShapes();
+  ClientPoint PixelOf(const WorldPoint& world) const;
+
+  DesignState& design_;
+  IViewHost& host_;
+  ViewPorts ports_;
+  std::unique_ptr<CCanvas> canvas_;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/GridSettings.h"
+
+namespace hullwright {
+
+/// Values of the application's `cursorTool`: what a left press on empty space does.
+namespace CursorTool {
+inline constexpr std::int32_t None = 0;
+inline constexpr std::int32_t ZoomIn = 1;
+inline constexpr std::int32_t ZoomOut = 2;
+inline constexpr std::int32_t Move = 8;
+}  // namespace CursorTool
+
+/// What the design view asks of the application.
+class IViewHost {
+public:
+  virtual ~IViewHost() = default;
+
+  /// The grid as the settings store has it now.
+  virtual GridSettings LoadGridSettings() const = 0;
+
+  /// One of the values of `CursorTool`.
+  virtual std::int32_t GetCursorTool() const = 0;
+
+  /// Long name of the design's unit; empty when it is not known.
+  virtual std::u16string GetUnitName() = 0;
+
+  /// Repaint, then tree, through the main window.
+  virtual void NotifyDesignChanged() = 0;
+
+  virtual void SetModifiedFlag(bool modified) = 0;
+};
+
+}  // namespace hullwright
