@@ -8,6 +8,7 @@ far to near; whatever a nearer face covers is cut away from the lines below.
 """
 
 import math
+import sys
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -1283,7 +1284,8 @@ def vessel_text(drawing, offsets, anchors):
 
 
 def main():
-    """Writes the three samples beside this file."""
+    """Writes the three samples beside this file; with --check only tells whether they are up to date."""
+    check = "--check" in sys.argv[1:]
     vessels = (
         # file, drawing, antenna, transducer and pivot offsets, anchors
         ("workboat.xml", draw_workboat(),
@@ -1295,7 +1297,11 @@ def main():
     )
     for name, drawing, offsets, anchors in vessels:
         text = vessel_text(drawing, offsets, anchors)
-        Path(__file__).with_name(name).write_bytes(text.encode("ascii"))
+        file = Path(__file__).with_name(name)
+        if not check:
+            file.write_bytes(text.encode("ascii"))
+        elif file.read_bytes() != text.encode("ascii"):
+            sys.exit(f"{name} is not what this script draws")
 
 
 if __name__ == "__main__":

@@ -25,7 +25,7 @@ std::vector<std::string> SplitFolders(std::string_view list)
   std::vector<std::string> folders;
   while (!list.empty()) {
     const std::size_t end = std::min(list.find(':'), list.size());
-    if (end != 0) folders.emplace_back(list.substr(0, end));
+    if (list.front() == '/') folders.emplace_back(list.substr(0, end));
     list.remove_prefix(std::min(end + 1, list.size()));
   }
   return folders;
@@ -42,7 +42,10 @@ bool HoldsPackage(const std::string& folder)
 DataFolderCandidates FindDataFolderCandidates()
 {
   DataFolderCandidates candidates;
-  candidates.user = Environment("XDG_DATA_HOME", Environment("HOME", "") + "/.local/share");
+  // The rules say to ignore folders that are not absolute.
+  const std::string home = Environment("HOME", "");
+  candidates.user = Environment("XDG_DATA_HOME", home.empty() ? "" : home + "/.local/share");
+  if (!candidates.user.starts_with('/')) candidates.user.clear();
   candidates.system = SplitFolders(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
@@ -58,5 +61,7 @@ std::u16string CommonDataFolder(const DataFolderCandidates& candidates)
   }
   return WideFromUtf8(candidates.besideProgram);
 }
+
+std::u16string FindCommonDataFolder() { return CommonDataFolder(FindDataFolderCandidates()); }
 
 }  // namespace hullwright

@@ -12,16 +12,17 @@
 namespace hullwright {
 
 CHullwrightApp::CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages,
-                               std::u16string commonDataFolder)
-    : settings_(settings), messages_(messages), traceLog_(std::move(commonDataFolder))
+                               std::function<std::u16string()> commonDataFolder)
+    : ownViewPort_(std::make_unique<CViewPortDesigner>()),
+      settings_(settings),
+      messages_(messages),
+      traceLog_(std::move(commonDataFolder))
 {
-  viewPort = new CViewPortDesigner;
+  viewPort = ownViewPort_.get();
 }
 
 CHullwrightApp::~CHullwrightApp()
 {
-  // A view that was there has destroyed the viewport and cleared the pointer.
-  delete viewPort;
   anchors.reset();
   offsetGps.reset();
   offsetPivot.reset();
@@ -80,6 +81,11 @@ void CHullwrightApp::Trace(double elapsedSeconds, std::int32_t level, std::u16st
                            std::u16string_view text) const
 {
   traceLog_.Trace(elapsedSeconds, level, category, text);
+}
+
+std::unique_ptr<CViewPortDesigner> CHullwrightApp::HandOverViewPort()
+{
+  return std::move(ownViewPort_);
 }
 
 GridSettings CHullwrightApp::LoadGridSettings() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,10 +28,12 @@ struct UnitRecord {
 };
 
 /// The one application object: it holds the design itself, carries out the design-wide commands and
-/// answers what the view asks. It is made before anything else and goes last.
+/// answers what the view asks. It is made before frame, document and view, and must outlive them.
 class CHullwrightApp : public DesignState, public IViewHost {
 public:
-  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages, std::u16string commonDataFolder);
+  /// `commonDataFolder` tells the folder of the survey package's common data.
+  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages,
+                 std::function<std::u16string()> commonDataFolder);
   ~CHullwrightApp() override;
 
   /// Start-up to the first selected side, which is always the top. False ends the process; only a
@@ -50,6 +53,7 @@ public:
   void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
              std::u16string_view text) const;
 
+  std::unique_ptr<CViewPortDesigner> HandOverViewPort() override;
   GridSettings LoadGridSettings() const override;
   std::int32_t GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override;
@@ -59,9 +63,10 @@ public:
   CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
   std::int32_t cursorTool = CursorTool::None;
   std::vector<UnitRecord> unitTable;  ///< names of the units, empty until they are loaded
-  std::int32_t paneStyleFlag = 1;   ///< read once, when the frame builds its panes
+  std::int32_t paneStyleFlag = 1;     ///< read once, when the frame builds its panes
 
 private:
+  std::unique_ptr<CViewPortDesigner> ownViewPort_;  ///< until a view takes it over
   ISettingsStore& settings_;
   IMessageBoxes& messages_;
   CTraceLog traceLog_;

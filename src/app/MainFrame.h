@@ -19,8 +19,8 @@ struct CommandState {
   bool checkable = false;
 };
 
-/// The main frame without its widgets: the switchboard of the notifications, the routing of commands
-/// and what they answer about themselves. Document and view are set by whoever makes them.
+/// The main frame without its widgets: the switchboard of the notifications, the routing of
+/// commands and what they answer about themselves. Document and view are set by whoever makes them.
 class CMainFrame : public IMainWindow {
 public:
   CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets);
@@ -52,8 +52,8 @@ private:
   IFrameWidgets& widgets_;
 };
 
-/// Widths of the three status panes for a client width: two of 250, the prompt takes the rest, which
-/// is negative in a window narrower than 500.
+/// Widths of the three status panes for a client width: two of 250, the prompt takes the rest,
+/// which is negative in a window narrower than 500.
 constexpr std::array<int, 3> PaneWidths(int clientWidth) { return {clientWidth - 500, 250, 250}; }
 
 }  // namespace hullwright

@@ -32,13 +32,17 @@ std::optional<std::string> ReadLine(std::FILE* file)
 Log ReadLog(std::u16string_view path)
 {
   Log log;
-  const FilePointer file = OpenFile(path, "r");
+  const FilePointer file = OpenToRead(path);
   if (!file) return log;
   if (const auto header = ReadLine(file.get())) {
     log.sequence = static_cast<std::uint32_t>(ParseInt32(*header, 10));
   }
+  bool continued = false;  // the piece before was cut and has no line end of its own
   while (auto line = ReadLine(file.get())) {
-    if (!line->empty()) log.records.push_back(std::move(*line));
+    const bool blank = line->find_first_not_of("\r\n") == std::string::npos;
+    const bool keep = continued || !blank;
+    continued = !line->ends_with('\n');
+    if (keep) log.records.push_back(std::move(*line));
   }
   return log;
 }
@@ -68,7 +72,7 @@ std::string Decimal(std::uint32_t number)
 
 std::u16string CTraceLog::PathOf(std::u16string_view category) const
 {
-  return folder_ + u"/Sondaris/Tracing/Trace_" + std::u16string(category) + u".txt";
+  return folder_() + u"/Sondaris/Tracing/Trace_" + std::u16string(category) + u".txt";
 }
 
 void CTraceLog::Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
@@ -77,11 +81,12 @@ void CTraceLog::Trace(double elapsedSeconds, std::int32_t level, std::u16string_
   const std::u16string path = PathOf(category);
   if (path.size() > longestPath) return;
   Log log = ReadLog(path);
-  const FilePointer file = OpenFile(path, "w");
+  const FilePointer file = OpenToWrite(path);
   if (!file) return;
   ++log.sequence;
   const std::string record = Decimal(log.sequence) + "|" + FormatFixed(elapsedSeconds, 3) + "|" +
-                             std::to_string(level) + "|" + AnsiFromWide(text);
+                             std::to_string(level) + "|" +
+                             AnsiFromWide(text.substr(0, text.find(u'\0')));
   log.records.push_back(OnOneLine(record) + "\r\n");
   std::fprintf(file.get(), "%s\n", Decimal(log.sequence).c_str());
   const std::size_t first = log.records.size() - std::min(log.records.size(), mostRecords);

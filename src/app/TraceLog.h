@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace hullwright {
 
@@ -13,16 +15,20 @@ inline constexpr std::int32_t Progress = 4;
 inline constexpr std::int32_t Success = 32;
 }  // namespace TraceLevel
 
-/// The log files: one for each category, in the folder "Sondaris/Tracing" of the common data folder.
-/// A log is a line with the running count of all records ever written, then the last 200 records,
-/// "number|seconds|level|text" each. The folder is never made, and a log that can't be written is
-/// silently left.
+/// The log files: one for each category, in the folder "Sondaris/Tracing" of the common data
+/// folder. A log is a line with the running count of all records ever written, then the last 200
+/// records, "number|seconds|level|text" each. The folder is never made, and a log that can't be
+/// written is silently left.
 class CTraceLog {
 public:
-  explicit CTraceLog(std::u16string commonDataFolder) : folder_(std::move(commonDataFolder)) {}
+  /// `commonDataFolder` tells the folder at each record, since it may come to be during the run.
+  explicit CTraceLog(std::function<std::u16string()> commonDataFolder)
+      : folder_(std::move(commonDataFolder))
+  {
+  }
 
-  /// Adds one record, rewriting the log whole. `text` is the formatted message; its line breaks and
-  /// tabs become "<CR>", "<LF>" and "<TAB>".
+  /// Adds one record, rewriting the log whole. `text` is the formatted message, which ends at a
+  /// NUL; its line breaks and tabs become "<CR>", "<LF>" and "<TAB>".
   void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
              std::u16string_view text) const;
 
@@ -30,7 +36,7 @@ public:
   std::u16string PathOf(std::u16string_view category) const;
 
 private:
-  std::u16string folder_;
+  std::function<std::u16string()> folder_;
 };
 
 }  // namespace hullwright

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <optional>
 
 namespace hullwright {
 namespace {
@@ -53,10 +54,7 @@ bool StartsWithNoCase(std::string_view text, std::string_view lower)
   return true;
 }
 
-bool HasHexPrefix(std::string_view text)
-{
-  return StartsWithNoCase(text, "0x") && text.size() > 2;
-}
+bool HasHexPrefix(std::string_view text) { return StartsWithNoCase(text, "0x") && text.size() > 2; }
 
 /// Tells overflow from underflow for a number that `from_chars` found out of range: its first
 /// significant digit stands before the point or it does not, moved by the exponent.
@@ -87,16 +85,19 @@ bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
   return position * digitsPerExponent + exponent > 0;
 }
 
-double ParseMagnitude(std::string_view text)
+/// The number that the text begins with; nothing where there is none, so that no sign is put to it.
+std::optional<double> ParseMagnitude(std::string_view text)
 {
-  const bool hex = HasHexPrefix(text) && (DigitValue(text[2]) < 16 ||
-                                          (text[2] == '.' && text.size() > 3 && DigitValue(text[3]) < 16));
+  const bool hex =
+      HasHexPrefix(text) &&
+      (DigitValue(text[2]) < 16 || (text[2] == '.' && text.size() > 3 && DigitValue(text[3]) < 16));
   if (hex) text.remove_prefix(2);
-  if (text.empty() || text.front() == '-') return 0.0;  // a second sign is no number
+  if (text.empty() || text.front() == '-') return std::nullopt;  // a second sign is no number
   double value = 0.0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value,
-                                            hex ? std::chars_format::hex : std::chars_format::general);
-  if (error == std::errc::invalid_argument) return 0.0;
+  const auto [end, error] =
+      std::from_chars(text.data(), text.data() + text.size(), value,
+                      hex ? std::chars_format::hex : std::chars_format::general);
+  if (error == std::errc::invalid_argument) return std::nullopt;
   if (error == std::errc::result_out_of_range) {
     const auto length = static_cast<std::size_t>(end - text.data());
     const bool huge = IsHuge(text.substr(0, length), hex ? 'p' : 'e', hex ? 4 : 1);
@@ -114,15 +115,16 @@ std::uint64_t ParseDigits(std::string_view text, int base)
   for (const char c : text) {
     const int digit = DigitValue(c);
     if (digit >= base) break;
-    value = std::min(limit, value * static_cast<std::uint64_t>(base) + static_cast<std::uint64_t>(digit));
+    value = std::min(limit,
+                     value * static_cast<std::uint64_t>(base) + static_cast<std::uint64_t>(digit));
   }
   return value;
 }
 
 /// The magnitude of `value` times 1000, rounded to the nearest integer, halves to even; false where
-/// this arithmetic does not reach (2^53 and above, infinities, NaN). A double is m * 2^-shift with m
-/// below 2^53, so m * 1000 stays below 2^63 and the bits shifted out decide the rounding exactly as
-/// the library's does.
+/// this arithmetic does not reach (2^52 and above, infinities, NaN). A double is m * 2^-shift with
+/// m below 2^53, so m * 1000 stays below 2^63 and the bits shifted out decide the rounding exactly
+/// as the library's does.
 bool ScaleToThousandths(double value, std::uint64_t& thousandths)
 {
   constexpr int mantissaBits = 52;
@@ -156,8 +158,9 @@ std::int32_t TruncateToInt32(double value)
 double ParseDouble(std::string_view text)
 {
   const bool negative = TakeSign(text);
-  const double magnitude = ParseMagnitude(text);
-  return negative ? -magnitude : magnitude;
+  const std::optional<double> magnitude = ParseMagnitude(text);
+  if (!magnitude) return 0.0;
+  return negative ? -*magnitude : *magnitude;
 }
 
 double ParseDouble(std::u16string_view text) { return ParseDouble(Narrow(text)); }
@@ -174,7 +177,10 @@ std::int32_t ParseInt32(std::string_view text, int base)
                              : static_cast<std::int32_t>(value);
 }
 
-std::int32_t ParseInt32(std::u16string_view text, int base) { return ParseInt32(Narrow(text), base); }
+std::int32_t ParseInt32(std::u16string_view text, int base)
+{
+  return ParseInt32(Narrow(text), base);
+}
 
 std::uint32_t ParseUInt32(std::string_view text, int base)
 {

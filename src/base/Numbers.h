@@ -13,8 +13,8 @@ namespace hullwright {
 std::int32_t TruncateToInt32(double value);
 
 /// Reads a double as `wcstod` does: leading white space, sign, decimal or hexadecimal digits, "inf"
-/// and "nan"; what follows the number is ignored. Text without a number gives 0.0, a value too large
-/// gives infinity.
+/// and "nan"; what follows the number is ignored. Text without a number gives 0.0, a value too
+/// large gives infinity.
 double ParseDouble(std::u16string_view text);
 double ParseDouble(std::string_view text);
 
@@ -28,7 +28,7 @@ std::int32_t ParseInt32(std::string_view text, int base);
 std::uint32_t ParseUInt32(std::u16string_view text, int base);
 std::uint32_t ParseUInt32(std::string_view text, int base);
 
-/// Formats as "%.<decimals>lf".
+/// Formats as "%.<decimals>lf"; `decimals` is at most 80.
 std::string FormatFixed(double value, int decimals);
 
 /// Appends "%.3lf", the form of all coordinates in files.

@@ -53,8 +53,8 @@ void AppendWide(std::u16string& out, char32_t code)
 
 /// What the first byte of a UTF-8 sequence promises.
 struct Utf8Lead {
-  int tails;                ///< continuation bytes that must follow; -1 for a byte that starts nothing
-  char32_t bits;            ///< payload of the lead byte
+  int tails;      ///< continuation bytes that must follow; -1 for a byte that starts nothing
+  char32_t bits;  ///< payload of the lead byte
   unsigned char secondMin;  ///< the second byte's range excludes overlong forms and surrogates
   unsigned char secondMax;
 };

@@ -14,7 +14,8 @@ std::int32_t MemorySettings::ReadInteger(std::string_view section, std::string_v
   return found == values_.end() ? fallback : found->second;
 }
 
-void MemorySettings::WriteInteger(std::string_view section, std::string_view key, std::int32_t value)
+void MemorySettings::WriteInteger(std::string_view section, std::string_view key,
+                                  std::int32_t value)
 {
   values_[std::string(section).append("/").append(key)] = value;
 }
@@ -32,7 +33,7 @@ struct HeadlessEditor::NoPointer : ICursor, IRubberBand {
 HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface)
     : widgets_(std::make_unique<NoWidgets>()),
       pointer_(std::make_unique<NoPointer>()),
-      app_(settings_, messages_, CommonDataFolder(FindDataFolderCandidates())),
+      app_(settings_, messages_, FindCommonDataFolder),
       frame_(app_, *widgets_),
       document_(app_, frame_, messages_),
       view_(app_, app_, {drawing, messages_, *pointer_, *pointer_})

@@ -74,8 +74,8 @@ int Render(const Options& options)
   for (const ViewSideEntry& side : viewSides) {
     if (options.side != "all" && options.side != side.name) continue;
     known = true;
-    const std::string problem = WritePicture({options.design, side.code, options.width,
-                                              options.height, OutputFor(options, side)});
+    const std::string problem = WritePicture(
+        {options.design, side.code, options.width, options.height, OutputFor(options, side)});
     if (!problem.empty()) {
       std::fprintf(stderr, "hullwright-cli: %s\n", problem.c_str());
       return exitFailed;
@@ -101,7 +101,8 @@ int main(int argc, char** argv)
       case 's': options.side = optarg; break;
       case 'o': options.output = optarg; break;
       case 'z':
-        if (!ParseSize(optarg, options)) return UsageError("not a size: '" + std::string(optarg) + "'");
+        if (!ParseSize(optarg, options))
+          return UsageError("not a size: '" + std::string(optarg) + "'");
         break;
       case 'h': std::fputs(help, stdout); return 0;
       case versionOption: std::puts("hullwright-cli " HULLWRIGHT_VERSION); return 0;

@@ -30,7 +30,7 @@ std::size_t FoldToText(char* text, std::size_t length)
 int CFileBase::Load(std::u16string_view filePath)
 {
   path = filePath;
-  const FilePointer file = OpenFile(filePath, "rb");
+  const FilePointer file = OpenToRead(filePath);
   if (!file || std::fseek(file.get(), 0, SEEK_END) != 0) return -1;
   const long length = std::ftell(file.get());
   if (length <= 0 || length > std::numeric_limits<std::int32_t>::max()) return -1;

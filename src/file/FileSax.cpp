@@ -74,8 +74,7 @@ void CFileSax::WriteDeclaration()
 void CFileSax::OpenElement(std::u16string_view name)
 {
   if (!MakeRoom(openMargin)) return;
-  WriteLine(0, Joined({"<", Utf8FromWide(name), ">\n"}));
-  ++indent;
+  if (WriteLine(0, Joined({"<", Utf8FromWide(name), ">\n"}))) ++indent;
 }
 
 void CFileSax::OpenElement(std::u16string_view name, const AttributeMap& attributes)
@@ -84,15 +83,14 @@ void CFileSax::OpenElement(std::u16string_view name, const AttributeMap& attribu
   std::string text;
   for (const auto& [key, value] : attributes) text.insert(0, AttributeText(key, value));
   if (!MakeRoom(elementMargin + text.size())) return;
-  WriteLine(0, Joined({"<", Utf8FromWide(name), " ", text, ">\n"}));
-  ++indent;
+  if (WriteLine(0, Joined({"<", Utf8FromWide(name), " ", text, ">\n"}))) ++indent;
 }
 
 void CFileSax::CloseElement(std::u16string_view name)
 {
   if (!MakeRoom(elementMargin)) return;
   --indent;
-  WriteLine(0, Joined({"</", Utf8FromWide(name), ">\n"}));
+  if (!WriteLine(0, Joined({"</", Utf8FromWide(name), ">\n"}))) ++indent;
 }
 
 void CFileSax::WriteTextElement(std::u16string_view name, std::u16string_view value)
@@ -122,15 +120,16 @@ void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view att
   WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
 }
 
-void CFileSax::WriteLine(std::size_t margin, std::string_view line)
+bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
 {
-  if (margin != 0 && !MakeRoom(margin)) return;
+  if (margin != 0 && !MakeRoom(margin)) return false;
   const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
   // The margin covers what the format writes; deep nesting or a long name may need more.
-  if (outLength + blanks + line.size() > outCapacity && !Grow(blanks + line.size())) return;
+  if (outLength + blanks + line.size() > outCapacity && !Grow(blanks + line.size())) return false;
   std::memset(outBuffer_.get() + outLength, ' ', blanks);
   outLength += static_cast<std::uint32_t>(blanks);
   Append(line);
+  return true;
 }
 
 bool CFileSax::MakeRoom(std::size_t margin)
@@ -174,7 +173,7 @@ void CFileSax::Append(std::string_view text)
 int CFileSax::Flush(std::u16string_view path)
 {
   if (path.empty() || !outBuffer_ || outLength == 0 || outCapacity == 0) return -1;
-  FilePointer file = OpenFile(path, "wb");
+  FilePointer file = OpenToWrite(path);
   if (!file) return -1;
   const bool written = std::fwrite(outBuffer_.get(), outLength, 1, file.get()) == 1;
   // What is still in the stream's buffer reaches the disk only here.

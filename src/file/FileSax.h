@@ -51,16 +51,16 @@ public:
   void WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
                          std::u16string_view body = {});
 
-  /// Writes the block to a file, replacing it. 0 on success. -1 without a word when there is nothing
-  /// to write or the file won't open, and with a message when the writing fails.
+  /// Writes the block to a file, replacing it. 0 on success. -1 without a word when there is
+  /// nothing to write or the file won't open, and with a message when the writing fails.
   int Flush(std::u16string_view path);
 
   /// Text so far.
   std::string_view Output() const;
 
-  std::int32_t indent = 0;         ///< current nesting level
-  std::uint32_t outLength = 0;     ///< bytes written
-  std::uint32_t outCapacity = 0;   ///< bytes of the block
+  std::int32_t indent = 0;        ///< current nesting level
+  std::uint32_t outLength = 0;    ///< bytes written
+  std::uint32_t outCapacity = 0;  ///< bytes of the block
 
 protected:
   /// Resizes the block as `realloc` does; null when there is no memory for it.
@@ -77,7 +77,7 @@ private:
   bool MakeRoom(std::size_t margin);
   bool Grow(std::size_t margin);
   void Append(std::string_view text);
-  void WriteLine(std::size_t margin, std::string_view line);
+  bool WriteLine(std::size_t margin, std::string_view line);
 
   IMessageBoxes& messages_;
   std::unique_ptr<char, FreeBlock> outBuffer_;

@@ -130,8 +130,8 @@ void CFileVessel::Characters(std::u16string_view text)
 void CFileVessel::ReadAnchorField(std::u16string_view text)
 {
   CAnchor& anchor = *currentAnchor_;
-  // Text behind a close tag still counts for the element that ended, and each chunk replaces the one
-  // before it.
+  // Text behind a close tag still counts for the element that ended, and each chunk replaces the
+  // one before it.
   if (element_ == u"id") anchor.id = ParseUInt32(text, 10);
   if (element_ == u"vessel") anchor.vessel = static_cast<std::uint16_t>(ParseUInt32(text, 10));
   if (element_ == u"attachmentX") anchor.attachmentX = ParseDouble(text);

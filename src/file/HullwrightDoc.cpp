@@ -27,7 +27,8 @@ std::u16string CannotOpen(std::u16string_view path, int error)
 
 }  // namespace
 
-CHullwrightDoc::CHullwrightDoc(DesignState& design, IMainWindow& mainWindow, IMessageBoxes& messages)
+CHullwrightDoc::CHullwrightDoc(DesignState& design, IMainWindow& mainWindow,
+                               IMessageBoxes& messages)
     : design_(design), mainWindow_(mainWindow), messages_(messages)
 {
 }
@@ -44,12 +45,13 @@ void CHullwrightDoc::DeleteContents()
   ClearGroups(design_.shapeGroups);
   design_.anchors->Clear();
   if (mainWindow_.HasWindow()) mainWindow_.NotifyDesignChanged();
+  if (onEmptied) onEmptied();
 }
 
 bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
   errno = 0;
-  if (!OpenFile(path, "rb")) {
+  if (!OpenToRead(path)) {
     messages_.ShowMessage(CannotOpen(path, errno));
     return false;
   }
@@ -78,7 +80,7 @@ bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
   CopyCoordinates(*design_.offsetGps, *file.gps);
   CopyCoordinates(*design_.offsetTransducer, *file.txd);
   CopyCoordinates(*design_.offsetPivot, *file.piv);
-  file.Save(path, design_.shapeGroups);
+  savedWhole_ = file.Save(path, design_.shapeGroups) == 0;
   mainWindow_.SetModifiedFlag(false);
   return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,15 +19,22 @@ public:
   /// A new, empty document. Offsets, unit and side in view keep what the last design left.
   bool OnNewDocument();
 
-  /// Replaces the design by that of a file; true only on full success. A file that can't be opened is
-  /// told in a message and changes nothing. One that is not well-formed fails without a word: the
-  /// groups that ended before the error are in the design, which otherwise is empty, and offsets and
-  /// unit stay as they were.
+  /// Replaces the design by that of a file; true only on full success. A file that can't be opened
+  /// is told in a message and changes nothing. One that is not well-formed fails without a word:
+  /// the groups that ended before the error are in the design, which otherwise is empty, and
+  /// offsets and unit stay as they were.
   bool OnOpenDocument(std::u16string_view path);
 
   /// Writes the design to a file. Always true, and the design then counts as saved, also when the
   /// writing failed; `CFileVessel` tells what the user gets to see.
   bool OnSaveDocument(std::u16string_view path);
+
+  /// Whether the last save reached the disk, for a shell that wants to lose nothing.
+  bool SavedWhole() const { return savedWhole_; }
+
+  /// Called when the design has been emptied, by new or by open: what is there then is no longer
+  /// what the file of before holds, also if the open fails later.
+  std::function<void()> onEmptied;
 
   void SetModifiedFlag(bool modified) { modified_ = modified; }
   bool IsModified() const { return modified_; }
@@ -38,6 +46,7 @@ private:
   IMainWindow& mainWindow_;
   IMessageBoxes& messages_;
   bool modified_ = false;
+  bool savedWhole_ = true;
 };
 
 }  // namespace hullwright

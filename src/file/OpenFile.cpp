@@ -1,17 +1,44 @@
 #include "file/OpenFile.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string_view>
 
 #include "base/Text.h"
 
 namespace hullwright {
+namespace {
 
-FilePointer OpenFile(std::u16string_view path, const char* mode)
+bool IsRegular(int descriptor)
 {
-  FilePointer file(std::fopen(Utf8FromWide(path).c_str(), mode));
-  struct stat status{};
-  if (file && fstat(fileno(file.get()), &status) == 0 && S_ISDIR(status.st_mode)) file.reset();
-  return file;
+  struct stat status {};
+  return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+}  // namespace
+
+FilePointer OpenToRead(std::u16string_view path)
+{
+  // Without blocking: a pipe that nobody writes to must not hold the program up.
+  const int descriptor = open(Utf8FromWide(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0) return nullptr;
+  if (!IsRegular(descriptor)) {
+    close(descriptor);
+    errno = 0;
+    return nullptr;
+  }
+  return FilePointer(fdopen(descriptor, "rb"));
+}
+
+FilePointer OpenToWrite(std::u16string_view path)
+{
+  constexpr mode_t anybody = 0666;
+  const int descriptor = open(Utf8FromWide(path).c_str(),
+                              O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC, anybody);
+  return descriptor < 0 ? nullptr : FilePointer(fdopen(descriptor, "wb"));
 }
 
 }  // namespace hullwright

@@ -11,7 +11,11 @@ struct CloseFile {
 };
 using FilePointer = std::unique_ptr<std::FILE, CloseFile>;
 
-/// Opens a file by its wide path. A folder counts as a file that can't be opened: null.
-FilePointer OpenFile(std::u16string_view path, const char* mode);
+/// Opens a file by its wide path; null with `errno` where that fails. Folders, pipes and devices
+/// are no files to read: null with an `errno` of 0.
+FilePointer OpenToRead(std::u16string_view path);
+
+/// Opens a file by its wide path, emptied or made anew; null with `errno` where that fails.
+FilePointer OpenToWrite(std::u16string_view path);
 
 }  // namespace hullwright

@@ -2,9 +2,11 @@
 
 #include <expat.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <string>
 #include <type_traits>
 
@@ -32,18 +34,22 @@ public:
     XML_SetElementHandler(
         parser,
         [](void* self, const XML_Char* name, const XML_Char** attributes) {
-          static_cast<Driver*>(self)->StartElement(name, attributes);
+          static_cast<Driver*>(self)->Run([&](Driver& d) { d.StartElement(name, attributes); });
         },
-        [](void* self, const XML_Char* name) { static_cast<Driver*>(self)->EndElement(name); });
-    XML_SetCharacterDataHandler(parser, [](void* self, const XML_Char* text, int length) {
-      static_cast<Driver*>(self)->Text({text, static_cast<std::size_t>(length)});
-    });
-    XML_SetCommentHandler(
-        parser, [](void* self, const XML_Char*) { static_cast<Driver*>(self)->FlushText(); });
-    XML_SetProcessingInstructionHandler(
-        parser, [](void* self, const XML_Char*, const XML_Char*) {
-          static_cast<Driver*>(self)->FlushText();
+        [](void* self, const XML_Char* name) {
+          static_cast<Driver*>(self)->Run([&](Driver& d) { d.EndElement(name); });
         });
+    XML_SetCharacterDataHandler(parser, [](void* self, const XML_Char* text, int length) {
+      static_cast<Driver*>(self)->Run([&](Driver& d) {
+        d.Text({text, static_cast<std::size_t>(length)});
+      });
+    });
+    XML_SetCommentHandler(parser, [](void* self, const XML_Char*) {
+      static_cast<Driver*>(self)->Run([](Driver& d) { d.FlushText(); });
+    });
+    XML_SetProcessingInstructionHandler(parser, [](void* self, const XML_Char*, const XML_Char*) {
+      static_cast<Driver*>(self)->Run([](Driver& d) { d.FlushText(); });
+    });
     XML_SetStartDoctypeDeclHandler(
         parser, [](void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
           XML_StopParser(static_cast<Driver*>(self)->parser_, XML_FALSE);
@@ -52,6 +58,18 @@ public:
   }
 
 private:
+  /// Runs a callback's work. The parser is C and no exception may cross it, so that memory running
+  /// out ends the parse as an error.
+  template <class Work>
+  void Run(Work work) noexcept
+  {
+    try {
+      work(*this);
+    } catch (const std::bad_alloc&) {
+      XML_StopParser(parser_, XML_FALSE);
+    }
+  }
+
   void StartElement(const XML_Char* name, const XML_Char** attributes)
   {
     FlushText();
@@ -70,8 +88,11 @@ private:
 
   void Text(std::string_view text)
   {
-    // The parser hands over each line break on its own.
-    if (text.front() == '\n' || text.front() == '\r') FlushText();
+    // The parser hands over each line break on its own. One that stands in the file has at most
+    // four bytes there; a longer one is a reference, which belongs to the text around it.
+    constexpr int longestLineBreak = 4;
+    const bool lineBreak = text.starts_with('\n') || text.starts_with('\r');
+    if (lineBreak && XML_GetCurrentByteCount(parser_) <= longestLineBreak) FlushText();
     chunk_ += text;
   }
 
@@ -108,14 +129,18 @@ struct FreeParser {
 /// Feeds the file piece by piece; false at the first error of the disk or of the document.
 bool Feed(std::FILE* file, XML_Parser parser)
 {
-  constexpr int pieceSize = 0x10000;
-  for (bool last = false; !last;) {
+  // The parser scans an unfinished token again with each piece, so pieces grow with the file: a
+  // token of any length then takes linear time.
+  constexpr int largestPiece = 0x4000000;
+  int pieceSize = 0x10000;
+  for (bool last = false; !last; pieceSize = std::min(pieceSize * 2, largestPiece)) {
     void* const piece = XML_GetBuffer(parser, pieceSize);
     if (piece == nullptr) return false;
-    const std::size_t length = std::fread(piece, 1, pieceSize, file);
+    const std::size_t length = std::fread(piece, 1, static_cast<std::size_t>(pieceSize), file);
     if (std::ferror(file) != 0) return false;
-    last = length < pieceSize;
-    if (XML_ParseBuffer(parser, static_cast<int>(length), last ? 1 : 0) != XML_STATUS_OK) return false;
+    last = length < static_cast<std::size_t>(pieceSize);
+    if (XML_ParseBuffer(parser, static_cast<int>(length), last ? 1 : 0) != XML_STATUS_OK)
+      return false;
   }
   return true;
 }
@@ -133,7 +158,7 @@ bool XmlLibraryFits()
 bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
                   CFileSaxErrorHandler& errors)
 {
-  const FilePointer file = OpenFile(path, "rb");
+  const FilePointer file = OpenToRead(path);
   if (!file) return false;
   const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser(
       XML_ParserCreateNS(nullptr, nameSeparator));

@@ -12,8 +12,8 @@ bool XmlLibraryFits();
 /// Parses an XML file with namespaces and delivers local names, attributes and chunks of text. A
 /// chunk is the text of one line between two tags, whole: it never breaks at a character reference,
 /// and the line break belongs to the chunk that follows it. False for a file that can't be read, is
-/// not well-formed or declares a document type; what stood before the error has been delivered, and
-/// the error has been reported.
+/// not well-formed, declares a document type or needs more memory than there is; what stood before
+/// the error has been delivered, and an error in the document has been reported.
 bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
                   CFileSaxErrorHandler& errors);
 

@@ -18,15 +18,15 @@ class CViewPortDesigner;
 struct DesignState {
   OwnedArray<CShapes> shapeGroups;  ///< in creation order, which is also the file's order
 
-  /// World-to-screen mapping; made by the application, destroyed by the design view.
+  /// World-to-screen mapping, borrowed: made by the application and handed over to the design view.
   CViewPortDesigner* viewPort = nullptr;
 
   std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
   std::unique_ptr<CShapeVertex> offsetGps = std::make_unique<CShapeVertex>(10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetTransducer = std::make_unique<CShapeVertex>(-10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetPivot = std::make_unique<CShapeVertex>(0.0, 10.0, 0.0);
-  std::int32_t unitCode = 9001;              ///< EPSG unit of measure; 9001 is the metre
-  std::int32_t activeView = ViewSide::Top;   ///< the side shown and edited
+  std::int32_t unitCode = 9001;             ///< EPSG unit of measure; 9001 is the metre
+  std::int32_t activeView = ViewSide::Top;  ///< the side shown and edited
 };
 
 }  // namespace hullwright

@@ -4,15 +4,21 @@
 
 namespace hullwright {
 
-/// Widens the four bounds by a vertex with `margin` world units on each side. A NaN coordinate
-/// widens nothing.
-inline void WidenExtents(const CShapeVertex& vertex, double margin, double& minX, double& minY,
-                         double& maxX, double& maxY)
+/// Widens the four bounds by a stretch of the world. A bound that is not a number widens nothing.
+inline void WidenExtents(double fromX, double fromY, double toX, double toY, double& minX,
+                         double& minY, double& maxX, double& maxY)
 {
-  if (vertex.x - margin < minX) minX = vertex.x - margin;
-  if (vertex.y - margin < minY) minY = vertex.y - margin;
-  if (vertex.x + margin > maxX) maxX = vertex.x + margin;
-  if (vertex.y + margin > maxY) maxY = vertex.y + margin;
+  if (fromX < minX) minX = fromX;
+  if (fromY < minY) minY = fromY;
+  if (toX > maxX) maxX = toX;
+  if (toY > maxY) maxY = toY;
+}
+
+/// Widens the four bounds by a vertex, without a margin: its very bits become the bounds.
+inline void WidenExtents(const CShapeVertex& vertex, double& minX, double& minY, double& maxX,
+                         double& maxY)
+{
+  WidenExtents(vertex.x, vertex.y, vertex.x, vertex.y, minX, minY, maxX, maxY);
 }
 
 }  // namespace hullwright

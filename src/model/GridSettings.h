@@ -4,7 +4,8 @@
 
 namespace hullwright {
 
-/// The user's grid, in design units. Nobody keeps a copy: each reader asks the settings store again.
+/// The user's grid, in design units. Nobody keeps a copy: each reader asks the settings store
+/// again.
 struct GridSettings {
   std::int32_t show = 1;  ///< the grid is drawn
   std::int32_t snap = 1;  ///< drawing and dragging snap to the grid

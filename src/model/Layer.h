@@ -20,13 +20,15 @@ public:
   std::unique_ptr<CShapeAttributes> attributes = std::make_unique<CShapeAttributes>();
   std::u16string name;
   std::u16string description;
-  std::int32_t flagA = 0;     ///< carried
-  std::int32_t flagB = 1;     ///< carried
+  std::int32_t flagA = 0;  ///< carried
+  std::int32_t flagB = 1;  ///< carried
   std::int64_t enabled = 1;
   double minX = 0.0;
   double minY = 0.0;
   double maxX = 0.0;
   double maxY = 0.0;
+  double spareA = 0.0;  ///< carried
+  double spareB = 0.0;  ///< carried
 };
 
 }  // namespace hullwright

@@ -4,6 +4,8 @@ namespace hullwright {
 
 CShape::CShape() { Reset(); }
 
+std::unique_ptr<CShape> CShape::Clone() const { return nullptr; }
+
 void CShape::GetExtents(double&, double&, double&, double&) const {}
 
 double CShape::DistanceTo(double, double) const { return 0.0; }

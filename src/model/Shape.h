@@ -62,19 +62,19 @@ public:
 
   virtual bool IsVisible(const CViewPort& viewPort) const;
 
-  /// Back to type 0 and tag 0, not selected, without vertices; `editing` stays as it is. The type of
-  /// a constructed shape must be set after the last call.
+  /// Back to type 0 and tag 0, not selected, without vertices; `editing` stays as it is. The type
+  /// of a constructed shape must be set after the last call.
   void Reset();
 
-  /// The common half of every `Clone`: selected, tag, type, and copies of style and attributes where
-  /// this shape has them. Returns `target`, also when it is null.
+  /// The common half of every `Clone`: selected, tag, type, and copies of style and attributes
+  /// where this shape has them. Returns `target`, also when it is null.
   CShape* CopyBaseTo(CShape* target) const;
 
-  std::unique_ptr<ShapeStyle> style;            ///< may be null
+  std::unique_ptr<ShapeStyle> style;             ///< may be null
   std::unique_ptr<CShapeAttributes> attributes;  ///< may be null
-  std::int32_t tag = 0;                         ///< an importer's handle
-  bool selected = false;                        ///< drawn with a yellow highlight
-  bool editing = false;                         ///< marked in the object tree; one of a group at most
+  std::int32_t tag = 0;                          ///< an importer's handle
+  bool selected = false;                         ///< drawn with a yellow highlight
+  bool editing = false;  ///< marked in the object tree; one of a group at most
   std::uint16_t type = 0;
   mutable std::uint32_t cursor = 0;
   OwnedArray<CShapeVertex> vertices;  ///< the outline, in drawing order

@@ -16,7 +16,9 @@ std::unique_ptr<CShape> CShapePoint::Clone() const
 
 void CShapePoint::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
 {
-  WidenExtents(position, 1.0, minX, minY, maxX, maxY);
+  constexpr double margin = 1.0;
+  WidenExtents(position.x - margin, position.y - margin, position.x + margin, position.y + margin,
+               minX, minY, maxX, maxY);
 }
 
 void CShapePoint::GetVertices(std::vector<CShapeVertex*>& list) { list.push_back(&position); }

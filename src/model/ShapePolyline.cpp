@@ -29,14 +29,13 @@ std::unique_ptr<CShape> CShapePolyline::Clone() const
 
 void CShapePolyline::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
 {
-  ForEachEntry(vertices,
-               [&](const CShapeVertex& v) { WidenExtents(v, 0.0, minX, minY, maxX, maxY); });
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { WidenExtents(v, minX, minY, maxX, maxY); });
 }
 
 void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)
 {
   const auto found = std::ranges::find(vertices, vertex, &std::unique_ptr<CShapeVertex>::get);
-  if (vertex != nullptr && found != vertices.end()) vertices.erase(found);
+  if (found != vertices.end()) vertices.erase(found);
 }
 
 void CShapePolyline::GetVertices(std::vector<CShapeVertex*>& list)

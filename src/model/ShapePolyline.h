@@ -4,7 +4,8 @@
 
 namespace hullwright {
 
-/// An open line through its vertices: the shape that a surveyor draws and the only one that is saved.
+/// An open line through its vertices: the shape that a surveyor draws and the only one that is
+/// saved.
 class CShapePolyline : public CShape {
 public:
   CShapePolyline();

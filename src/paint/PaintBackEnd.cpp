@@ -1,7 +1,8 @@
 #include "paint/PaintBackEnd.h"
 
-#include <QFontMetricsF>
+#include <QTextLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "paint/PaintObjects.h"
 
@@ -28,17 +29,31 @@ class PaintWriteFactory : public IWriteFactory {
 public:
   Created<ITextFormat> CreateTextFormat(std::u16string_view family, float size) override
   {
+    constexpr auto invalidArgument = static_cast<ResultCode>(0x80070057U);
+    if (!(size > 0.0F) || !std::isfinite(size)) return {invalidArgument, nullptr};
     return {0, std::make_unique<PaintTextFormat>(family, size)};
   }
 
   std::optional<PixelSize> MeasureText(const ITextFormat& format, std::u16string_view text,
-                                       float maxWidth, float maxHeight) override
+                                       float maxWidth, float) override
   {
-    const QFontMetricsF metrics(static_cast<const PaintTextFormat&>(format).font);
-    const QRectF box = metrics.boundingRect(
-        QRectF(0.0, 0.0, maxWidth, maxHeight), Qt::TextWordWrap,
-        QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
-    return PixelSize{static_cast<float>(box.width()), static_cast<float>(box.height())};
+    const auto& textFormat = static_cast<const PaintTextFormat&>(format);
+    QTextLayout layout(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())),
+                       textFormat.font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    double width = 0.0;
+    double height = 0.0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+      line.setLineWidth(maxWidth / textFormat.scale);
+      width = std::max(width, line.naturalTextWidth());
+      height += line.height();
+    }
+    layout.endLayout();
+    return PixelSize{static_cast<float>(width * textFormat.scale),
+                     static_cast<float>(height * textFormat.scale)};
   }
 };
 

@@ -1,7 +1,8 @@
 #include "paint/PaintObjects.h"
 
+#include <QFontMetricsF>
+#include <QLineF>
 #include <QPen>
-#include <QPolygonF>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,13 +11,29 @@ namespace hullwright {
 namespace {
 
 /// Fonts beyond this would cost the painter its time and memory; nobody could read them.
-constexpr int largestFont = 4000;
+constexpr float largestFont = 4000.0F;
+
+/// Strokes beyond this cover any picture.
+constexpr float widestStroke = 100000.0F;
+
+/// Points nearer than this to the one before them make no difference to the picture, in pixels.
+constexpr double nearestPoints = 0.125;
 
 const QColor& ColourOf(const IBrush& brush) { return static_cast<const PaintBrush&>(brush).colour; }
 
-QPen PenOf(const IBrush& brush, float width, Qt::PenJoinStyle join)
+/// Whether a stroke of this width covers anything; written so that NaN does not.
+bool IsStroke(float width) { return width > 0.0F && std::isfinite(width); }
+
+/// Runs without the points that lie on their predecessor, as far as a picture can show.
+std::vector<ScreenPoint> Thinned(const std::vector<ScreenPoint>& run)
 {
-  return {ColourOf(brush), width, Qt::SolidLine, Qt::FlatCap, join};
+  std::vector<ScreenPoint> kept = {run.front()};
+  for (std::size_t i = 1; i < run.size(); ++i) {
+    const bool near = std::abs(run[i].x - kept.back().x) < nearestPoints &&
+                      std::abs(run[i].y - kept.back().y) < nearestPoints;
+    if (!near || i + 1 == run.size()) kept.push_back(run[i]);
+  }
+  return kept;
 }
 
 QRectF ToQt(const PixelRect& rect)
@@ -40,10 +57,7 @@ public:
     auto& all = path_.figures.back().points;
     all.insert(all.end(), points.begin(), points.end());
   }
-  void EndFigure(FigureEnd end) override
-  {
-    path_.figures.back().closed = end == FigureEnd::Closed;
-  }
+  void EndFigure(FigureEnd end) override { path_.figures.back().closed = end == FigureEnd::Closed; }
   ResultCode Close() override { return 0; }
 
 private:
@@ -60,12 +74,16 @@ void PaintBrush::SetColour(const Colour& value)
 PaintTextFormat::PaintTextFormat(std::u16string_view family, float size)
 {
   // The metric twins of the named fonts come first, so that a picture looks alike everywhere.
-  const QString twin = family == u"Consolas" ? QStringLiteral("Liberation Mono")
-                                             : QStringLiteral("Liberation Sans");
+  const bool monospaced = family == u"Consolas";
+  const QString twin =
+      monospaced ? QStringLiteral("Liberation Mono") : QStringLiteral("Liberation Sans");
+  const float bounded = std::min(size, largestFont);
+  // The toolkit's fonts have whole sizes; the painter makes up the rest.
+  const float whole = std::ceil(bounded);
+  scale = bounded / whole;
   font.setFamilies({twin, ToQt(family)});
-  font.setPixelSize(std::clamp(static_cast<int>(std::lround(std::clamp(
-                                   size, 1.0F, static_cast<float>(largestFont)))),
-                               1, largestFont));
+  font.setStyleHint(monospaced ? QFont::Monospace : QFont::SansSerif);
+  font.setPixelSize(static_cast<int>(whole));
   font.setHintingPreference(QFont::PreferNoHinting);
 }
 
@@ -105,89 +123,128 @@ ClipRect PaintTarget::ClipArea(float strokeWidth) const
   return {-margin, -margin, surface_.Width() + margin, surface_.Height() + margin};
 }
 
-bool PaintTarget::IsVisible(const PixelRect& rect, float strokeWidth) const
+bool PaintTarget::IsVisible(const QRectF& rect, float strokeWidth) const
 {
   // Written so that a bound that is not a number is not visible.
   const ClipRect area = ClipArea(strokeWidth);
-  return painter_.isActive() && std::isfinite(rect.left) && std::isfinite(rect.top) &&
-         std::isfinite(rect.right) && std::isfinite(rect.bottom) && rect.right >= area.left &&
-         rect.left <= area.right && rect.bottom >= area.top && rect.top <= area.bottom;
+  return painter_.isActive() && std::isfinite(rect.left()) && std::isfinite(rect.top()) &&
+         std::isfinite(rect.right()) && std::isfinite(rect.bottom()) && rect.right() >= area.left &&
+         rect.left() <= area.right && rect.bottom() >= area.top && rect.top() <= area.bottom;
 }
 
-void PaintTarget::StrokeRuns(std::span<const PixelPoint> points, const QPen& pen)
+QPen PaintTarget::PenOf(const IBrush& brush, float width) const
+{
+  // Up to one pixel of the picture the painter would switch to hairlines, which are too thin where
+  // they slant and lack their corners.
+  const double thinnest = 1.0001 / surface_.Ratio();
+  const double stroke = std::max<double>(std::min(width, widestStroke), thinnest);
+  return {ColourOf(brush), stroke, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
+void PaintTarget::StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins)
 {
   if (!painter_.isActive()) return;
-  const auto runs = ClipPolyline(points, ClipArea(static_cast<float>(pen.widthF())));
-  if (runs.empty()) return;
-  painter_.setPen(pen);
-  painter_.setBrush(Qt::NoBrush);
-  for (const auto& run : runs) {
-    QPolygonF polygon;
-    polygon.reserve(static_cast<qsizetype>(run.size()));
-    for (const ScreenPoint& p : run) polygon.append(QPointF(p.x, p.y));
-    painter_.drawPolyline(polygon);
+  for (const auto& run : ClipPolyline(points, ClipArea(static_cast<float>(pen.widthF())))) {
+    const std::vector<ScreenPoint> kept = Thinned(run);
+    // Segment by segment: stroked as one path, a long line takes the painter minutes.
+    QList<QLineF> lines;
+    lines.reserve(static_cast<qsizetype>(kept.size()));
+    for (std::size_t i = 1; i < kept.size(); ++i) {
+      lines.append(QLineF(kept[i - 1].x, kept[i - 1].y, kept[i].x, kept[i].y));
+    }
+    painter_.setPen(pen);
+    painter_.drawLines(lines);
+    if (roundJoins) FillJoins(kept, pen);
+  }
+}
+
+void PaintTarget::FillJoins(const std::vector<ScreenPoint>& points, const QPen& pen)
+{
+  constexpr double thinnestWithJoins = 1.5;
+  if (pen.widthF() * surface_.Ratio() < thinnestWithJoins) return;
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(pen.color());
+  const double radius = pen.widthF() * 0.5;
+  for (std::size_t i = 1; i + 1 < points.size(); ++i) {
+    painter_.drawEllipse(QPointF(points[i].x, points[i].y), radius, radius);
   }
 }
 
 void PaintTarget::DrawLine(PixelPoint from, PixelPoint to, const IBrush& brush, float width)
 {
   const std::array<PixelPoint, 2> ends = {from, to};
-  StrokeRuns(ends, PenOf(brush, width, Qt::MiterJoin));
+  if (IsStroke(width)) StrokeRuns(ends, PenOf(brush, width), false);
 }
 
 void PaintTarget::DrawRectangle(const PixelRect& rect, const IBrush& brush, float width)
 {
-  if (!IsVisible(rect, width)) return;
-  painter_.setPen(PenOf(brush, width, Qt::MiterJoin));
+  if (!IsStroke(width) || !IsVisible(ToQt(rect), width)) return;
+  painter_.setPen(PenOf(brush, width));
   painter_.setBrush(Qt::NoBrush);
   painter_.drawRect(ToQt(rect));
 }
 
 void PaintTarget::FillRectangle(const PixelRect& rect, const IBrush& brush)
 {
-  if (IsVisible(rect, 0.0F)) painter_.fillRect(ToQt(rect), ColourOf(brush));
+  if (IsVisible(ToQt(rect), 0.0F)) painter_.fillRect(ToQt(rect), ColourOf(brush));
 }
 
 void PaintTarget::DrawEllipse(PixelPoint centre, float radiusX, float radiusY, const IBrush& brush,
                               float width)
 {
-  const PixelRect box{centre.x - radiusX, centre.y - radiusY, centre.x + radiusX,
-                      centre.y + radiusY};
-  if (!IsVisible(box, width)) return;
-  painter_.setPen(PenOf(brush, width, Qt::MiterJoin));
+  const QRectF box(centre.x - radiusX, centre.y - radiusY, 2.0 * radiusX, 2.0 * radiusY);
+  if (!IsStroke(width) || !IsVisible(box, width)) return;
+  painter_.setPen(PenOf(brush, width));
   painter_.setBrush(Qt::NoBrush);
-  painter_.drawEllipse(ToQt(box));
+  painter_.drawEllipse(box);
 }
 
 void PaintTarget::DrawGeometry(const IPathGeometry& geometry, const IBrush& brush, float width)
 {
+  if (!IsStroke(width)) return;
   const auto& path = static_cast<const PaintPath&>(geometry);
-  const QPen pen = PenOf(brush, width, path.roundJoins ? Qt::RoundJoin : Qt::MiterJoin);
+  const QPen pen = PenOf(brush, width);
   for (const PaintPath::Figure& figure : path.figures) {
-    StrokeRuns(figure.points, pen);
+    StrokeRuns(figure.points, pen, path.roundJoins);
     if (!figure.closed) continue;
     const std::array<PixelPoint, 2> closing = {figure.points.back(), figure.points.front()};
-    StrokeRuns(closing, pen);
+    StrokeRuns(closing, pen, path.roundJoins);
   }
 }
 
 void PaintTarget::DrawText(std::u16string_view text, const ITextFormat& format,
                            const PixelRect& rect, const IBrush& brush)
 {
-  if (!IsVisible(rect, 0.0F)) return;
+  const QRectF box = ToQt(rect);
+  const auto isFinite = [](double value) { return std::isfinite(value); };
+  const std::array<double, 4> bounds = {box.left(), box.top(), box.right(), box.bottom()};
+  if (!painter_.isActive() || !std::ranges::all_of(bounds, isFinite)) return;
   const auto& textFormat = static_cast<const PaintTextFormat&>(format);
-  const int alignment = textFormat.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop;
-  const int wrapping = textFormat.wrapped ? Qt::TextWordWrap : Qt::TextDontClip;
+  const int flags = Qt::TextDontClip |
+                    (textFormat.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop) |
+                    (textFormat.wrapped ? Qt::TextWordWrap : 0);
+  const double scale = textFormat.scale;
+  const QRectF scaled(box.topLeft() / scale, box.size() / scale);
+  const QString shown = ToQt(text);
+  // The text may reach out of its rectangle, so it counts for what is visible.
+  const QRectF ink = QFontMetricsF(textFormat.font).boundingRect(scaled, flags, shown);
+  const QRectF reach(ink.topLeft() * scale, ink.size() * scale);
+  if (!IsVisible(painter_.transform().mapRect(reach), 0.0F)) return;
+  painter_.save();
+  painter_.scale(scale, scale);
   painter_.setFont(textFormat.font);
   painter_.setPen(ColourOf(brush));
-  painter_.drawText(ToQt(rect), alignment | wrapping, ToQt(text));
+  painter_.drawText(scaled, flags, shown);
+  painter_.restore();
 }
 
 void PaintTarget::SetRotation(float angleDegrees, PixelPoint centre)
 {
   if (!painter_.isActive()) return;
   painter_.resetTransform();
-  if (angleDegrees == 0.0F || !std::isfinite(centre.x) || !std::isfinite(centre.y)) return;
+  const bool finite =
+      std::isfinite(angleDegrees) && std::isfinite(centre.x) && std::isfinite(centre.y);
+  if (angleDegrees == 0.0F || !finite) return;
   painter_.translate(centre.x, centre.y);
   painter_.rotate(angleDegrees);
   painter_.translate(-centre.x, -centre.y);

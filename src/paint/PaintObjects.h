@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPainter>
+#include <QPen>
 #include <vector>
 
 #include "paint/PaintSurface.h"
@@ -20,10 +21,12 @@ public:
 
 class PaintTextFormat : public ITextFormat {
 public:
+  /// `size` is positive, in pixels.
   PaintTextFormat(std::u16string_view family, float size);
   void CentreText() override { centred = true; }
   void DisableWordWrapping() override { wrapped = false; }
   QFont font;
+  double scale = 1.0;  ///< from the font's whole size to the size asked for
   bool centred = false;
   bool wrapped = true;
 };
@@ -61,9 +64,11 @@ public:
   void SetRotation(float angleDegrees, PixelPoint centre) override;
 
 private:
-  void StrokeRuns(std::span<const PixelPoint> points, const QPen& pen);
+  QPen PenOf(const IBrush& brush, float width) const;
+  void StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins);
+  void FillJoins(const std::vector<ScreenPoint>& points, const QPen& pen);
   ClipRect ClipArea(float strokeWidth) const;
-  bool IsVisible(const PixelRect& rect, float strokeWidth) const;
+  bool IsVisible(const QRectF& rect, float strokeWidth) const;
 
   PaintSurface& surface_;
   QPainter painter_;

@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "platform/Drawing.h"
-#include "platform/Pointer.h"
 
 namespace hullwright {
 
@@ -23,13 +22,11 @@ public:
 
   /// Pixels of the monitor for one client pixel; counts from the next `Allocate`.
   void SetRatio(double ratio) { ratio_ = ratio; }
+  double Ratio() const { return ratio_; }
 
   QImage& Picture() { return picture_; }
   int Width() const { return width_; }
   int Height() const { return height_; }
-
-  /// Inverts a dashed line of one pixel; the same call again restores the picture.
-  void InvertLine(ClientPoint from, ClientPoint to);
 
   std::function<void()> onFrame;  ///< called when a frame is complete
 

@@ -25,7 +25,8 @@ public:
 class IRubberBand {
 public:
   virtual ~IRubberBand() = default;
-  /// Inverts a dashed one-pixel line over the picture; the same call again restores the pixels.
+  /// Inverts a dashed one-pixel line over the picture; the same call again takes it away. The
+  /// picture itself stays intact.
   virtual void InvertLine(ClientPoint from, ClientPoint to) = 0;
 };
 

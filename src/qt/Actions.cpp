@@ -51,7 +51,8 @@ void Actions::SetKeys(int command, QAction& action)
   }
   if (keys.isEmpty()) return;
   action.setShortcuts(keys);
-  action.setToolTip(action.toolTip() + QStringLiteral(" (%1)").arg(keys.first().toString(QKeySequence::NativeText)));
+  action.setToolTip(action.toolTip() +
+                    QStringLiteral(" (%1)").arg(keys.first().toString(QKeySequence::NativeText)));
   window_->addAction(&action);
 }
 

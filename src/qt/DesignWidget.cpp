@@ -3,7 +3,9 @@
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPen>
 #include <cmath>
+#include <utility>
 
 namespace hullwright {
 namespace {
@@ -22,6 +24,7 @@ DesignWidget::DesignWidget(QWidget* parent) : QWidget(parent), surface_(0, 0)
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMinimumSize(120, 90);
+  setCursor(Qt::CrossCursor);
   setAccessibleName(tr("Design view"));
   setAccessibleDescription(tr("Outline of the vessel, seen from the selected side"));
   surface_.onFrame = [this] { update(); };
@@ -40,21 +43,39 @@ void DesignWidget::SetCursor(CursorShape shape)
 
 void DesignWidget::InvertLine(ClientPoint from, ClientPoint to)
 {
-  surface_.InvertLine(from, to);
-  update();
+  // The band is laid over the picture at the next paint, never drawn into it.
+  if (!(from == to)) update();
 }
 
 void DesignWidget::paintEvent(QPaintEvent*)
 {
+  if (surface_.Ratio() != devicePixelRatioF()) Resized();  // the window has gone to another monitor
   QPainter painter(this);
   if (surface_.Picture().isNull()) {
     painter.fillRect(rect(), palette().window());
   } else {
     painter.drawImage(0, 0, surface_.Picture());
+    PaintRubberBand(painter);
   }
 }
 
-void DesignWidget::resizeEvent(QResizeEvent*)
+void DesignWidget::PaintRubberBand(QPainter& painter) const
+{
+  if (view_ == nullptr || !view_->HasRubberBand()) return;
+  const QPoint from(view_->lastPoint.x, view_->lastPoint.y);
+  const QPoint to(view_->cursorPoint.x, view_->cursorPoint.y);
+  // Inverting keeps the line visible on paper and on ink.
+  QPen pen(Qt::white, 1.0);
+  pen.setCosmetic(true);
+  pen.setDashPattern({6.0, 4.0});
+  painter.setPen(pen);
+  painter.setCompositionMode(QPainter::CompositionMode_Difference);
+  painter.drawLine(from, to);
+}
+
+void DesignWidget::resizeEvent(QResizeEvent*) { Resized(); }
+
+void DesignWidget::Resized()
 {
   surface_.SetRatio(devicePixelRatioF());
   if (view_ != nullptr) view_->OnSize(width(), height());
@@ -97,12 +118,13 @@ void DesignWidget::wheelEvent(QWheelEvent* event)
 {
   constexpr int notch = 120;
   if (view_ == nullptr) return;
-  // Fine-grained wheels and touchpads send fractions of a notch; the view steps once a message.
-  wheelTurn_ += event->angleDelta().y();
-  for (; std::abs(wheelTurn_) >= notch; wheelTurn_ -= wheelTurn_ > 0 ? notch : -notch) {
-    view_->OnMouseWheel(wheelTurn_ > 0 ? notch : -notch, PixelOf(event->position()));
-  }
   event->accept();
+  // Fine-grained wheels and touchpads send fractions of a notch; those are gathered to a message. A
+  // message is one step, however far the wheel was turned.
+  const int turn = event->angleDelta().y();
+  wheelTurn_ = (turn < 0) == (wheelTurn_ < 0) ? wheelTurn_ + turn : turn;
+  if (std::abs(wheelTurn_) < notch) return;
+  view_->OnMouseWheel(std::exchange(wheelTurn_, 0), PixelOf(event->position()));
   Q_EMIT ViewChanged();
 }
 

@@ -7,10 +7,12 @@
 #include "platform/Pointer.h"
 #include "view/HullwrightView.h"
 
+class QPainter;
+
 namespace hullwright {
 
-/// The widget of the design view: shows the picture that the view paints, and hands the mouse to the
-/// view. Positions are client pixels.
+/// The widget of the design view: shows the picture that the view paints, and hands the mouse to
+/// the view. Positions are client pixels.
 class DesignWidget : public QWidget, public ICursor, public IRubberBand {
   Q_OBJECT
 
@@ -41,6 +43,9 @@ protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+  void Resized();
+  void PaintRubberBand(QPainter& painter) const;
+
   PaintBackEnd backEnd_;
   PaintSurface surface_;
   CHullwrightView* view_ = nullptr;

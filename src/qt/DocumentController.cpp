@@ -1,7 +1,6 @@
 #include "qt/DocumentController.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -12,58 +11,56 @@
 namespace hullwright {
 namespace {
 
-constexpr int mostRecentFiles = 4;
 constexpr const char* recentKey = "RecentFiles/Files";
 
-QString FileFilter()
-{
-  return QStringLiteral("Hullwright Files (*.xml);;All Files (*)");
-}
+QString FileFilter() { return ToQString(Strings::fileFilter) + QStringLiteral(";;All Files(*)"); }
 
-/// Whether a file can be written, found out without changing it and without leaving a new one.
+/// Whether a file can be written, or made, as far as that can be told without touching it.
 bool IsWritable(const QString& path)
 {
-  const bool existed = QFileInfo::exists(path);
-  QFile file(path);
-  if (!file.open(QIODevice::ReadWrite)) return QFileInfo(path).isWritable() && !QFileInfo(path).isDir();
-  file.close();
-  if (!existed) file.remove();
-  return true;
+  const QFileInfo file(path);
+  if (file.exists()) return file.isWritable() && !file.isDir();
+  return QFileInfo(file.absolutePath()).isDir() && QFileInfo(file.absolutePath()).isWritable();
 }
+
+QString DefaultSuffix() { return ToQString(Strings::fileExtension).mid(1); }
 
 }  // namespace
 
 DocumentController::DocumentController(QWidget* window, CHullwrightDoc& document,
-                                       QtSettingsStore& settings, QtMessageBoxes& messages)
-    : window_(window), document_(document), settings_(settings), messages_(messages)
+                                       QtSettingsStore& settings, QtMessageBoxes& messages,
+                                       int mostRecentFiles)
+    : window_(window),
+      document_(document),
+      settings_(settings),
+      messages_(messages),
+      mostRecentFiles_(mostRecentFiles)
 {
+  // What a failed open leaves must not be saved over the file that was open before.
+  document_.onEmptied = [this] { SetPath({}); };
 }
 
 void DocumentController::New()
 {
   if (!MayLeave()) return;
   document_.OnNewDocument();
-  SetPath({});
 }
 
 bool DocumentController::Open(QString path)
 {
   if (path.isEmpty()) {
-    path = QFileDialog::getOpenFileName(window_, QObject::tr("Open Design"), Folder(), FileFilter());
+    path =
+        QFileDialog::getOpenFileName(window_, QObject::tr("Open Design"), Folder(), FileFilter());
     if (path.isEmpty()) return false;
   }
   path = QFileInfo(path).absoluteFilePath();
   if (!MayLeave()) return false;
-  const bool readable = QFileInfo(path).isFile() && QFileInfo(path).isReadable();
   if (document_.OnOpenDocument(ToWide(path))) {
     Remember(path);
     SetPath(path);
     return true;
   }
   Forget(path);
-  // A file that was opened and is no design has emptied the document; what it left must not be saved
-  // over the file that stood there before.
-  if (readable) SetPath({});
   return false;
 }
 
@@ -71,6 +68,7 @@ bool DocumentController::Save()
 {
   if (path_.isEmpty()) return SaveAs();
   if (IsWritable(path_)) return SaveTo(path_);
+  // Nothing is lost: the design stays modified, and another place can be found for it.
   messages_.ShowMessage(Strings::writeFailed);
   return SaveAs();
 }
@@ -80,8 +78,8 @@ bool DocumentController::SaveAs()
   for (;;) {
     QFileDialog dialog(window_, QObject::tr("Save Design As"), Folder(), FileFilter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("xml"));
-    dialog.selectFile(path_.isEmpty() ? Name() + QStringLiteral(".xml")
+    dialog.setDefaultSuffix(DefaultSuffix());
+    dialog.selectFile(path_.isEmpty() ? Name() + ToQString(Strings::fileExtension)
                                       : QFileInfo(path_).fileName());
     if (dialog.exec() != QDialog::Accepted) return false;
     const QString path = dialog.selectedFiles().constFirst();
@@ -93,6 +91,10 @@ bool DocumentController::SaveAs()
 bool DocumentController::SaveTo(const QString& path)
 {
   document_.OnSaveDocument(ToWide(path));
+  if (!document_.SavedWhole()) {
+    document_.SetModifiedFlag(true);
+    return false;
+  }
   Remember(path);
   SetPath(path);
   return true;
@@ -101,9 +103,12 @@ bool DocumentController::SaveTo(const QString& path)
 bool DocumentController::MayLeave()
 {
   if (!document_.IsModified()) return true;
-  const auto answer = QMessageBox::question(
-      window_, QString::fromLatin1(Strings::program), QObject::tr("Save changes to %1?").arg(Name()),
-      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+  QMessageBox question(QMessageBox::Question, QString::fromLatin1(Strings::program),
+                       QObject::tr("Save changes to %1?").arg(Name()),
+                       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, window_);
+  question.setTextFormat(Qt::PlainText);
+  question.setDefaultButton(QMessageBox::Yes);
+  const int answer = question.exec();
   if (answer == QMessageBox::Yes) return Save();
   return answer == QMessageBox::No;
 }
@@ -115,7 +120,9 @@ QString DocumentController::Name() const
 
 QString DocumentController::Folder() const
 {
-  return path_.isEmpty() ? QDir::currentPath() : QFileInfo(path_).absolutePath();
+  if (!path_.isEmpty()) return QFileInfo(path_).absolutePath();
+  const QStringList recent = RecentFiles();
+  return recent.isEmpty() ? QDir::currentPath() : QFileInfo(recent.constFirst()).absolutePath();
 }
 
 void DocumentController::SetPath(const QString& path)
@@ -126,9 +133,11 @@ void DocumentController::SetPath(const QString& path)
 
 QStringList DocumentController::RecentFiles() const
 {
-  return settings_.File() == nullptr
-             ? QStringList()
-             : settings_.File()->value(QLatin1String(recentKey)).toStringList().mid(0, mostRecentFiles);
+  return settings_.File() == nullptr ? QStringList()
+                                     : settings_.File()
+                                           ->value(QLatin1String(recentKey))
+                                           .toStringList()
+                                           .mid(0, mostRecentFiles_);
 }
 
 void DocumentController::Remember(const QString& path)
@@ -136,7 +145,7 @@ void DocumentController::Remember(const QString& path)
   QStringList files = RecentFiles();
   files.removeAll(path);
   files.prepend(path);
-  StoreRecent(files.mid(0, mostRecentFiles));
+  StoreRecent(files.mid(0, mostRecentFiles_));
 }
 
 void DocumentController::Forget(const QString& path)

@@ -16,7 +16,7 @@ namespace hullwright {
 class DocumentController {
 public:
   DocumentController(QWidget* window, CHullwrightDoc& document, QtSettingsStore& settings,
-                     QtMessageBoxes& messages);
+                     QtMessageBoxes& messages, int mostRecentFiles);
 
   void New();
 
@@ -50,6 +50,7 @@ private:
   CHullwrightDoc& document_;
   QtSettingsStore& settings_;
   QtMessageBoxes& messages_;
+  int mostRecentFiles_;
   QString path_;  ///< absolute; empty for an untitled design
 };
 

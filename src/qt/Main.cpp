@@ -3,19 +3,37 @@
 
 #include "qt/Shell.h"
 
-int main(int argc, char** argv)
-{
-  QApplication toolkit(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("hullwright"));
-  QApplication::setApplicationVersion(QStringLiteral(HULLWRIGHT_VERSION));
+namespace {
 
-  QCommandLineParser commandLine;
+void Describe(QCommandLineParser& commandLine)
+{
   commandLine.setApplicationDescription(
       QStringLiteral("Draws the outline of a survey vessel and records where its equipment sits."));
   commandLine.addHelpOption();
   commandLine.addVersionOption();
   commandLine.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The design to open."),
                                     QStringLiteral("[FILE]"));
+}
+
+/// Help and version need no display; the toolkit's own options are not known yet and are no errors.
+void AnswerWithoutDisplay(QCommandLineParser& commandLine, int argc, char** argv)
+{
+  const QCoreApplication toolkit(argc, argv);
+  commandLine.parse(QCoreApplication::arguments());
+  if (commandLine.isSet(QStringLiteral("help"))) commandLine.showHelp();
+  if (commandLine.isSet(QStringLiteral("version"))) commandLine.showVersion();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  QCoreApplication::setApplicationName(QStringLiteral("hullwright"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(HULLWRIGHT_VERSION));
+  QCommandLineParser commandLine;
+  Describe(commandLine);
+  AnswerWithoutDisplay(commandLine, argc, argv);
+  const QApplication toolkit(argc, argv);
   commandLine.process(toolkit);
 
   hullwright::Shell shell(commandLine.positionalArguments().value(0));

@@ -2,9 +2,13 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 
 #include "qt/Icons.h"
 #include "qt/QtText.h"
@@ -19,17 +23,35 @@ namespace {
 
 constexpr const char* geometryKey = "Workspace/Geometry";
 constexpr const char* layoutKey = "Workspace/Layout";
+constexpr const char* statusBarKey = "Workspace/StatusBar";
+
+/// The first file on this machine among what is dropped; empty if there is none.
+QString DroppedFile(const QMimeData& data)
+{
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) return url.toLocalFile();
+  }
+  return {};
+}
+
+/// Takes a drop as a copy, whatever was proposed, so that nobody removes the file afterwards.
+void AcceptCopy(QDropEvent& event)
+{
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
 
 }  // namespace
 
-MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages)
+MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
+                       int recentFiles)
     : settings_(settings),
       app_(app),
       frame_(app, *this),
       document_(app, frame_, messages),
       design_(new DesignWidget(this)),
       view_(app, app, {design_->Drawing(), messages, *design_, *design_}),
-      documents_(this, document_, settings, messages),
+      documents_(this, document_, settings, messages, recentFiles),
       actions_(new Actions(this, [this](int command) { Run(command); }))
 {
   messages.SetParent(this);
@@ -51,8 +73,6 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
     UpdateTitle();
   });
   design_->Attach(view_);
-  frame_.hasWindow = true;
-  resize(1280, 860);
   UpdateCommands();
   UpdateTitle();
 }
@@ -65,11 +85,17 @@ MainWindow::~MainWindow()
   frame_.document = nullptr;
 }
 
-void MainWindow::RestoreLayout()
+void MainWindow::ShowAsBefore()
 {
-  if (settings_.File() == nullptr) return;
-  restoreGeometry(settings_.File()->value(QLatin1String(geometryKey)).toByteArray());
-  restoreState(settings_.File()->value(QLatin1String(layoutKey)).toByteArray());
+  resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 0.95));
+  if (const QSettings* const file = settings_.File()) {
+    restoreGeometry(file->value(QLatin1String(geometryKey)).toByteArray());
+    restoreState(file->value(QLatin1String(layoutKey)).toByteArray());
+    statusBar()->setVisible(file->value(QLatin1String(statusBarKey), true).toBool());
+  }
+  frame_.hasWindow = true;
+  show();
+  UpdateCommands();
 }
 
 void MainWindow::BuildMenus()
@@ -92,23 +118,33 @@ void MainWindow::BuildToolBar()
   toolBar_->setObjectName(QStringLiteral("StandardToolBar"));
   toolBar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
   toolBar_->setIconSize(QSize(24, 24));
-  const std::span<const int> buttons =
-      app_.paneStyleFlag != 0 ? std::span<const int>(mainToolBar) : std::span<const int>(smallToolBar);
+  const std::span<const int> buttons = app_.paneStyleFlag != 0 ? std::span<const int>(mainToolBar)
+                                                               : std::span<const int>(smallToolBar);
   for (const int command : buttons) {
     if (command == toolBarSeparator) {
       toolBar_->addSeparator();
     } else if (command == Command::SelectView) {
       toolBar_->addWidget(MakeViewButton());
     } else {
-      toolBar_->addAction(actions_->Get(command));
+      AddToolButton(*actions_->Get(command));
     }
   }
   toolBarsMenu_->addAction(toolBar_->toggleViewAction());
 }
 
+void MainWindow::AddToolButton(QAction& action)
+{
+  toolBar_->addAction(&action);
+  QWidget* const button = toolBar_->widgetForAction(&action);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAccessibleName(action.iconText().replace(QLatin1Char('\n'), QLatin1Char(' ')));
+  button->setAccessibleDescription(action.statusTip());
+}
+
 QToolButton* MainWindow::MakeViewButton()
 {
   viewButton_ = new QToolButton(this);
+  viewButton_->setObjectName(QStringLiteral("SideButton"));
   auto* const menu = new QMenu(viewButton_);
   actions_->FillMenu(*menu, viewMenu);
   viewButton_->setMenu(menu);
@@ -127,12 +163,8 @@ QToolButton* MainWindow::MakeViewButton()
 
 void MainWindow::BuildStatusBar()
 {
-  const auto dataPane = [this](const char* name, int width) {
-    auto* const pane = new QLabel(ToQString(Strings::paneEmpty), this);
-    pane->setAccessibleName(tr(name));
-    pane->setFixedWidth(width);
-    pane->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    pane->setMargin(2);
+  const auto dataPane = [this](int width) {
+    auto* const pane = new StatusPane(ToQString(Strings::paneEmpty), width, this);
     statusBar()->addPermanentWidget(pane);
     return pane;
   };
@@ -140,8 +172,9 @@ void MainWindow::BuildStatusBar()
   prompt->setMargin(2);
   statusBar()->addWidget(prompt, 1);
   constexpr auto widths = PaneWidths(0);
-  coordinatesPane_ = dataPane("Coordinates", widths[1]);
-  unitsPane_ = dataPane("Units", widths[2]);
+  coordinatesPane_ = dataPane(widths[1]);
+  unitsPane_ = dataPane(widths[2]);
+  unitsPane_->onPress = [this] { Run(Command::Units); };
   QAction* const toggle = actions_->Get(Command::ViewStatusBar);
   toggle->setCheckable(true);
   toggle->setChecked(true);
@@ -174,6 +207,7 @@ void MainWindow::InvalidateToolBar()
 
 void MainWindow::Run(int command)
 {
+  if (!Query(command).enabled) return;
   if (!RunShellCommand(command)) frame_.OnCommand(command);
   UpdateCommands();
   UpdatePanes();
@@ -220,14 +254,16 @@ void MainWindow::UpdateCommands()
 
 void MainWindow::UpdatePanes()
 {
-  if (!view_.statusText.empty()) coordinatesPane_->setText(ToQString(view_.statusText));
-  unitsPane_->setText(ToQString(view_.UnitsPaneText()));
+  // Until the mouse has been over the view there is no position to show.
+  if (!view_.statusText.empty()) coordinatesPane_->Show(ToQString(view_.statusText));
+  unitsPane_->Show(ToQString(view_.UnitsPaneText()));
 }
 
 void MainWindow::UpdateTitle()
 {
-  setWindowTitle(documents_.Name() + QStringLiteral("[*] - ") +
-                 QString::fromLatin1(Strings::program));
+  // Doubled, the mark for a modified document is shown as it stands in a file's name.
+  const QString name = documents_.Name().replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+  setWindowTitle(name + QStringLiteral("[*] - ") + QString::fromLatin1(Strings::program));
   setWindowModified(document_.IsModified());
 }
 
@@ -240,23 +276,23 @@ void MainWindow::closeEvent(QCloseEvent* event)
   if (QSettings* const file = settings_.File()) {
     file->setValue(QLatin1String(geometryKey), saveGeometry());
     file->setValue(QLatin1String(layoutKey), saveState());
+    file->setValue(QLatin1String(statusBarKey), !statusBar()->isHidden());
   }
   event->accept();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+  if (!DroppedFile(*event->mimeData()).isEmpty()) AcceptCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-  for (const QUrl& url : event->mimeData()->urls()) {
-    if (!url.isLocalFile()) continue;
-    event->acceptProposedAction();
-    documents_.Open(url.toLocalFile());
-    return;
-  }
+  const QString path = DroppedFile(*event->mimeData());
+  if (path.isEmpty()) return;
+  AcceptCopy(*event);
+  // Opening may ask a question; the one who dropped must not wait for its answer.
+  QTimer::singleShot(0, this, [this, path] { documents_.Open(path); });
 }
 
 void MainWindow::changeEvent(QEvent* event)

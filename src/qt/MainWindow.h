@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QToolBar>
 #include <QToolButton>
@@ -12,22 +11,24 @@
 #include "qt/Actions.h"
 #include "qt/DesignWidget.h"
 #include "qt/DocumentController.h"
+#include "qt/StatusPane.h"
 
 namespace hullwright {
 
-/// The window: menu bar, main toolbar, status bar with three panes, and the design view in the middle.
-/// It owns frame, document and view, and brings every command to whoever carries it out.
+/// The window: menu bar, main toolbar, status bar with three panes, and the design view in the
+/// middle. It owns frame, document and view, and brings every command to whoever carries it out.
 class MainWindow : public QMainWindow, public IFrameWidgets {
   Q_OBJECT
 
 public:
-  MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages);
+  MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
+             int recentFiles);
   ~MainWindow() override;
 
   DocumentController& Document() { return documents_; }
 
-  /// Puts the window where it was when it was closed last.
-  void RestoreLayout();
+  /// Shows the window where and as it was closed last.
+  void ShowAsBefore();
 
   void SetViewButtonImage(int command) override;
   void InvalidateToolBar() override;
@@ -42,6 +43,7 @@ private:
   void BuildMenus();
   void BuildToolBar();
   void BuildStatusBar();
+  void AddToolButton(QAction& action);
   QToolButton* MakeViewButton();
   void FillRecentFiles(QMenu& menu);
 
@@ -64,8 +66,8 @@ private:
   QToolButton* viewButton_ = nullptr;
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
-  QLabel* coordinatesPane_ = nullptr;
-  QLabel* unitsPane_ = nullptr;
+  StatusPane* coordinatesPane_ = nullptr;
+  StatusPane* unitsPane_ = nullptr;
 };
 
 }  // namespace hullwright

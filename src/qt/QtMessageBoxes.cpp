@@ -9,7 +9,10 @@ namespace hullwright {
 
 void QtMessageBoxes::ShowMessage(std::u16string_view text)
 {
-  QMessageBox::warning(parent_, QString::fromLatin1(Strings::program), ToQString(text));
+  QMessageBox box(QMessageBox::Warning, QString::fromLatin1(Strings::program), ToQString(text),
+                  QMessageBox::Ok, parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }
 
 }  // namespace hullwright

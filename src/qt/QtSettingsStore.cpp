@@ -1,5 +1,7 @@
 #include "qt/QtSettingsStore.h"
 
+#include <QFileInfo>
+
 #include "qt/QtText.h"
 
 namespace hullwright {
@@ -21,9 +23,18 @@ std::int32_t QtSettingsStore::ReadInteger(std::string_view section, std::string_
                                           std::int32_t fallback) const
 {
   if (!file_) return fallback;
+  ReadAgainIfChanged();
   bool isInteger = false;
   const int value = file_->value(Path(section, key)).toString().toInt(&isInteger);
   return isInteger ? value : fallback;
+}
+
+void QtSettingsStore::ReadAgainIfChanged() const
+{
+  const QDateTime stamp = QFileInfo(file_->fileName()).lastModified();
+  if (stamp == lastRead_) return;
+  file_->sync();
+  lastRead_ = QFileInfo(file_->fileName()).lastModified();
 }
 
 void QtSettingsStore::WriteInteger(std::string_view section, std::string_view key,

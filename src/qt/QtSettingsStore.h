@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QSettings>
 #include <memory>
 
@@ -7,7 +8,8 @@
 
 namespace hullwright {
 
-/// The user's INI file in the system's configuration folder. `File` is open to the shell for what is
+/// The user's INI file, shared by all running programs: each read sees what another one has
+/// written. It stands in the system's configuration folder. `File` is open to the shell for what is
 /// its own: recent files and the window's layout.
 class QtSettingsStore : public ISettingsStore {
 public:
@@ -21,7 +23,10 @@ public:
   QSettings* File() const { return file_.get(); }
 
 private:
+  void ReadAgainIfChanged() const;
+
   std::unique_ptr<QSettings> file_;
+  mutable QDateTime lastRead_;  ///< time stamp of the file when it was read
 };
 
 }  // namespace hullwright

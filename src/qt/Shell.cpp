@@ -12,7 +12,7 @@
 namespace hullwright {
 
 Shell::Shell(QString file)
-    : file_(std::move(file)), app_(settings_, messages_, CommonDataFolder(FindDataFolderCandidates()))
+    : file_(std::move(file)), app_(settings_, messages_, FindCommonDataFolder)
 {
 }
 
@@ -25,14 +25,15 @@ void Shell::InitialiseControls()
 
 bool Shell::InitialiseLibraries() { return XmlLibraryFits(); }
 
-void Shell::OpenUserStore(const char* maker, int)
+void Shell::OpenUserStore(const char* maker, int recentFiles)
 {
   settings_.Open(QString::fromLatin1(maker), QString::fromLatin1(Strings::program));
+  recentFiles_ = recentFiles;
 }
 
 bool Shell::CreateDocumentTemplate()
 {
-  window_ = std::make_unique<MainWindow>(app_, settings_, messages_);
+  window_ = std::make_unique<MainWindow>(app_, settings_, messages_, recentFiles_);
   return true;
 }
 
@@ -43,15 +44,13 @@ bool Shell::ProcessCommandLine()
     return true;
   }
   if (window_->Document().Open(file_)) return true;
-  std::fprintf(stderr, "hullwright: cannot open the design '%s'\n", file_.toLocal8Bit().constData());
+  // The process ends without a window; a terminal at least gets a word.
+  std::fprintf(stderr, "hullwright: cannot open the design '%s'\n",
+               file_.toLocal8Bit().constData());
   return false;
 }
 
-void Shell::ShowMainWindow()
-{
-  window_->RestoreLayout();
-  window_->show();
-}
+void Shell::ShowMainWindow() { window_->ShowAsBefore(); }
 
 void Shell::AcceptDroppedFiles() { window_->setAcceptDrops(true); }
 

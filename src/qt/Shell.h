@@ -11,7 +11,8 @@
 
 namespace hullwright {
 
-/// The framework's side of start-up and exit: settings, messages, application and window of one run.
+/// The framework's side of start-up and exit: settings, messages, application and window of one
+/// run.
 class Shell : public IFramework {
 public:
   /// `file` is the design that the command line names; empty for none.
@@ -31,6 +32,7 @@ public:
 
 private:
   QString file_;
+  int recentFiles_ = 0;  ///< length of the list of recent files
   QtSettingsStore settings_;
   QtMessageBoxes messages_;
   CHullwrightApp app_;

@@ -38,9 +38,8 @@ bool CCanvas::Initialize(IDrawingWindow* newWindow)
   }
   const auto client = window->ClientSize();
   if (!client) return false;
-  auto target =
-      draw.object->CreateWindowTarget(*window, static_cast<int>(client->width),
-                                      static_cast<int>(client->height), dpiX, dpiY);
+  auto target = draw.object->CreateWindowTarget(*window, static_cast<int>(client->width),
+                                                static_cast<int>(client->height), dpiX, dpiY);
   if (Failed(target.code)) return Fail("CreateHwndRenderTarget failed with error", target.code);
   auto write = backEnd_.CreateWriteFactory();
   if (Failed(write.code) || !write.object) {

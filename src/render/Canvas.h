@@ -11,7 +11,8 @@ namespace hullwright {
 
 /// The drawing surface of the design view: the render target of its window and the factories behind
 /// it. It caches nothing; drawers make their brushes and formats for each repaint. Without a target
-/// (before `Initialize`, after a failure, after `ReleaseResources`) drawers skip what they can't draw.
+/// (before `Initialize`, after a failure, after `ReleaseResources`) drawers skip what they can't
+/// draw.
 class CCanvas {
 public:
   explicit CCanvas(IDrawingBackEnd& backEnd) : backEnd_(backEnd) {}

@@ -1,54 +1,55 @@
 #include "render/ClipPolyline.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace hullwright {
 namespace {
 
-/// The stretch of a segment that lies in a rectangle, as fractions of its length.
-struct Stretch {
-  double enter = 0.0;
-  double leave = 1.0;
+/// A segment on its way through the edges. An end that was never cut is its point to the bit.
+struct Segment {
+  ScreenPoint from;
+  ScreenPoint to;
+  bool fromCut = false;
+  bool toCut = false;
 };
 
-/// Shortens the stretch to one side of an edge; `step` is the segment's way across the edge and
-/// `room` the way that is left to it. False when nothing stays.
-bool CutAtEdge(double step, double room, Stretch& stretch)
+/// The other coordinate where a segment crosses an edge. Both ends have their weight, in extended
+/// precision, so that an end far away takes nothing from the nearer one.
+double Crossing(double edge, double cut0, double other0, double cut1, double other1)
 {
-  if (step == 0.0) return room >= 0.0;
-  const double fraction = room / step;
-  if (step < 0.0) {
-    stretch.enter = std::max(stretch.enter, fraction);
-  } else {
-    stretch.leave = std::min(stretch.leave, fraction);
-  }
-  return stretch.enter <= stretch.leave;
+  const long double weight1 = static_cast<long double>(edge) - cut0;
+  const long double weight0 = static_cast<long double>(cut1) - edge;
+  return static_cast<double>((other0 * weight0 + other1 * weight1) / (weight0 + weight1));
+}
+
+using Coordinate = double ScreenPoint::*;
+
+/// Cuts a segment at one edge and keeps what lies on its inner side; false when nothing does.
+/// `inward` is 1 where larger values are inside, else -1.
+bool CutAtEdge(Segment& segment, Coordinate cut, Coordinate other, double edge, double inward)
+{
+  const auto outside = [&](const ScreenPoint& p) { return (p.*cut - edge) * inward < 0.0; };
+  const bool fromOut = outside(segment.from);
+  const bool toOut = outside(segment.to);
+  if (fromOut && toOut) return false;
+  if (!fromOut && !toOut) return true;
+  ScreenPoint& end = fromOut ? segment.from : segment.to;
+  const double crossing =
+      Crossing(edge, segment.from.*cut, segment.from.*other, segment.to.*cut, segment.to.*other);
+  end.*cut = edge;
+  end.*other = crossing;
+  (fromOut ? segment.fromCut : segment.toCut) = true;
+  return true;
 }
 
 bool IsFinite(PixelPoint p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
-bool Holds(const ClipRect& clip, PixelPoint p)
+bool Clip(Segment& segment, const ClipRect& clip)
 {
-  return p.x >= clip.left && p.x <= clip.right && p.y >= clip.top && p.y <= clip.bottom;
-}
-
-ScreenPoint At(PixelPoint from, PixelPoint to, double fraction)
-{
-  // The ends stay exactly themselves, so that neighbouring segments meet.
-  if (fraction == 0.0) return {from.x, from.y};
-  if (fraction == 1.0) return {to.x, to.y};
-  return {from.x + (double{to.x} - from.x) * fraction, from.y + (double{to.y} - from.y) * fraction};
-}
-
-bool Clip(PixelPoint from, PixelPoint to, const ClipRect& clip, Stretch& stretch)
-{
-  if (!IsFinite(from) || !IsFinite(to)) return false;
-  if (Holds(clip, from) && Holds(clip, to)) return true;
-  const double dx = double{to.x} - from.x;
-  const double dy = double{to.y} - from.y;
-  return CutAtEdge(-dx, from.x - clip.left, stretch) && CutAtEdge(dx, clip.right - from.x, stretch) &&
-         CutAtEdge(-dy, from.y - clip.top, stretch) && CutAtEdge(dy, clip.bottom - from.y, stretch);
+  constexpr Coordinate x = &ScreenPoint::x;
+  constexpr Coordinate y = &ScreenPoint::y;
+  return CutAtEdge(segment, x, y, clip.left, 1.0) && CutAtEdge(segment, x, y, clip.right, -1.0) &&
+         CutAtEdge(segment, y, x, clip.top, 1.0) && CutAtEdge(segment, y, x, clip.bottom, -1.0);
 }
 
 }  // namespace
@@ -59,14 +60,16 @@ std::vector<std::vector<ScreenPoint>> ClipPolyline(std::span<const PixelPoint> p
   std::vector<std::vector<ScreenPoint>> runs;
   bool connected = false;  // the last run ends at the point where the next segment begins
   for (std::size_t i = 1; i < points.size(); ++i) {
-    Stretch stretch;
-    if (!Clip(points[i - 1], points[i], clip, stretch)) {
+    const PixelPoint from = points[i - 1];
+    const PixelPoint to = points[i];
+    Segment segment{{from.x, from.y}, {to.x, to.y}};
+    if (!IsFinite(from) || !IsFinite(to) || !Clip(segment, clip)) {
       connected = false;
       continue;
     }
-    if (!connected || stretch.enter > 0.0) runs.push_back({At(points[i - 1], points[i], stretch.enter)});
-    runs.back().push_back(At(points[i - 1], points[i], stretch.leave));
-    connected = stretch.leave == 1.0;
+    if (!connected || segment.fromCut) runs.push_back({segment.from});
+    runs.back().push_back(segment.to);
+    connected = !segment.toCut;
   }
   return runs;
 }

@@ -16,8 +16,8 @@ struct ClipRect {
   double bottom = 0.0;
 };
 
-/// The parts of an open line that lie in the rectangle, one run of points each, in order. Computed in
-/// double precision, so that points far outside do no harm; a segment with a point that is not a
+/// The parts of an open line that lie in the rectangle, one run of points each, in order. Computed
+/// in double precision, so that points far outside do no harm; a segment with a point that is not a
 /// number, or infinite, is left out.
 std::vector<std::vector<ScreenPoint>> ClipPolyline(std::span<const PixelPoint> points,
                                                    const ClipRect& clip);

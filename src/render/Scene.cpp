@@ -82,8 +82,8 @@ void DrawOffsetSymbol(const CViewPort& viewPort, const OffsetSymbol& symbol)
   target.DrawLine({p.x - radius, p.y - radius}, {p.x + radius, p.y + radius}, *brush, stroke);
   target.DrawLine({p.x + radius, p.y - radius}, {p.x - radius, p.y + radius}, *brush, stroke);
   format->DisableWordWrapping();
-  target.DrawText(symbol.label, *format,
-                  {p.x - 50.0F, p.y - 40.0F, p.x + 50.0F, p.y - 10.0F}, *brush);
+  target.DrawText(symbol.label, *format, {p.x - 50.0F, p.y - 40.0F, p.x + 50.0F, p.y - 10.0F},
+                  *brush);
 }
 
 void DrawDevices(const DesignState& design, const CViewPort& viewPort)
@@ -149,8 +149,7 @@ void DrawAnchor(const CAnchor& anchor, const CViewPort& viewPort)
   const auto format = canvas->CreateFormat(symbolFont, fontSize);
   if (!brush || !format) return;
   format->CentreText();
-  const PixelPoint p =
-      Narrowed(viewPort.WorldToScreen(anchor.attachmentX, anchor.attachmentY));
+  const PixelPoint p = Narrowed(viewPort.WorldToScreen(anchor.attachmentX, anchor.attachmentY));
   format->DisableWordWrapping();
   target.DrawText(WideFromAscii(std::to_string(anchor.id)), *format,
                   {p.x - textReach, p.y - textReach, p.x + textReach, p.y + textReach}, *brush);

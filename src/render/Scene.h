@@ -17,7 +17,8 @@ void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyl
 /// axis shows the cross alone.
 void DrawGrid(const CViewPort& viewPort, const GridSettings& grid);
 
-/// A purple circle of 20 pixels with the anchor's number in it; nothing for one that is not visible.
+/// A purple circle of 20 pixels with the anchor's number in it; nothing for one that is not
+/// visible.
 void DrawAnchor(const CAnchor& anchor, const CViewPort& viewPort);
 
 }  // namespace hullwright

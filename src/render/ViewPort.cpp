@@ -17,7 +17,7 @@ void CViewPort::SetRotation(double degrees)
 {
   // Steps of a whole turn would take forever, or have no effect, on an angle this large.
   constexpr double countable = 360.0 * 1e6;
-  if (std::abs(degrees) > countable) degrees = std::fmod(degrees, 360.0);
+  if (std::abs(degrees) > countable) degrees = std::fmod(degrees, 360.0) + 0.0;
   while (degrees < 0.0) degrees += 360.0;
   while (degrees >= 360.0) degrees -= 360.0;
   rotation = degrees;

@@ -62,9 +62,9 @@ public:
   double bottom = -100.0;
   double right = 100.0;
   double top = 100.0;
-  double width = 200.0;       ///< |right - left|
-  double height = 200.0;      ///< |top - bottom|
-  double screenWidth = 0.0;   ///< client size in pixels
+  double width = 200.0;      ///< |right - left|
+  double height = 200.0;     ///< |top - bottom|
+  double screenWidth = 0.0;  ///< client size in pixels
   double screenHeight = 0.0;
   double rotation = 0.0;
   double cosRotation = 1.0;

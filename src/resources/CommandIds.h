@@ -1,6 +1,7 @@
 #pragma once
 
-/// Numbers of commands, menus, toolbars, panes and strings, as menus, accelerators and settings name them.
+/// Numbers of commands, menus, toolbars, panes and strings, as menus, accelerators and settings
+/// name them.
 namespace hullwright {
 
 namespace Command {

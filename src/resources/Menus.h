@@ -8,14 +8,15 @@
 namespace hullwright {
 
 enum class MenuRow {
-  Menu,       ///< begins a menu of the bar
-  SubMenu,    ///< begins a menu inside the current one
+  Menu,     ///< begins a menu of the bar
+  SubMenu,  ///< begins a menu inside the current one
   EndSubMenu,
   Entry,
   Separator
 };
 
-/// One row of a menu. Texts mark the access key with '&' and set the shortcut's name off with a tab.
+/// One row of a menu. Texts mark the access key with '&' and set the shortcut's name off with a
+/// tab.
 struct MenuItem {
   MenuRow row;
   int id = 0;

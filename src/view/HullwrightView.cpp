@@ -18,15 +18,12 @@ CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const Vie
 
 CHullwrightView::~CHullwrightView()
 {
-  if (viewPort == nullptr) return;
-  // The application made the viewport, and its pointer goes with the object.
-  design_.viewPort = nullptr;
-  delete viewPort;
+  if (viewPort) design_.viewPort = nullptr;
 }
 
 void CHullwrightView::OnCreate(IDrawingWindow* window)
 {
-  viewPort = design_.viewPort;
+  viewPort = host_.HandOverViewPort();
   if (viewPort == nullptr) return;
   canvas_ = std::make_unique<CCanvas>(ports_.drawing);
   viewPort->canvas = canvas_.get();
@@ -125,7 +122,7 @@ std::u16string CHullwrightView::UnitsPaneText() { return u"Units: " + host_.GetU
 
 void CHullwrightView::Repaint()
 {
-  DrawScene(design_, viewPort, newShape.get(), host_.LoadGridSettings());
+  DrawScene(design_, viewPort.get(), newShape.get(), host_.LoadGridSettings());
 }
 
 void CHullwrightView::DropReleasedItems()

@@ -25,8 +25,8 @@ struct ViewPorts {
 };
 
 /// The view of the design: mouse and wheel come in, the picture goes out on the canvas. It is idle,
-/// dragging (`dragging`) or drawing a polyline (`drawing`). `OnCreate` must run before any event; it
-/// takes over the design's viewport, which the view then destroys. Every handler that changes the
+/// dragging (`dragging`) or drawing a polyline (`drawing`). `OnCreate` must run before any event;
+/// it takes over the design's viewport, which goes with the view. Every handler that changes the
 /// picture repaints it whole before it returns.
 class CHullwrightView {
 public:
@@ -60,22 +60,26 @@ public:
   /// Text of the units pane.
   std::u16string UnitsPaneText();
 
+  /// Whether there is a rubber band to show, from `lastPoint` to `cursorPoint`.
+  bool HasRubberBand() const;
+
   /// Draws one whole frame.
   void Repaint();
 
-  /// Forgets picked items that are no longer in the design, so that none is written after its release.
+  /// Forgets picked items that are no longer in the design, so that none is written after its
+  /// release.
   void DropReleasedItems();
 
-  PickedItem dragVertex;     ///< what a drag would move
-  PickedItem hitVertex;      ///< what was hit last; outlives the hover
+  PickedItem dragVertex;  ///< what a drag would move
+  PickedItem hitVertex;   ///< what was hit last; outlives the hover
   bool dragging = false;
   bool drawing = false;
   std::int32_t hitKind = HitKind::None;
-  ClientPoint cursorPoint;   ///< free end of the rubber band
-  ClientPoint lastPoint;     ///< fixed end of the rubber band
-  CViewPortDesigner* viewPort = nullptr;  ///< null until the window exists
-  std::unique_ptr<CShapePolyline> newShape;  ///< the polyline under construction
-  std::u16string statusText;  ///< text of the coordinates pane
+  ClientPoint cursorPoint;                      ///< free end of the rubber band
+  ClientPoint lastPoint;                        ///< fixed end of the rubber band
+  std::unique_ptr<CViewPortDesigner> viewPort;  ///< null until the window exists
+  std::unique_ptr<CShapePolyline> newShape;     ///< the polyline under construction
+  std::u16string statusText;                    ///< text of the coordinates pane
 
 private:
   // Picking and dragging (VertexPicking.cpp)

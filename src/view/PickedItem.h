@@ -28,7 +28,8 @@ using PickedItem = std::variant<std::monostate, CShapeVertex*, CAnchor*, Release
 /// Whether the item is still part of the design. Nothing and released items are not.
 bool IsInDesign(const DesignState& design, const PickedItem& item);
 
-/// Writes x and y of a vertex, or the attachment point of an anchor; z stays. Other items take nothing.
+/// Writes x and y of a vertex, or the attachment point of an anchor; z stays. Other items take
+/// nothing.
 void MoveItem(const PickedItem& item, double x, double y);
 
 /// First item of the side in view whose pixel lies in the box of 10 by 10 pixels around the point,

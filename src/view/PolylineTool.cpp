@@ -3,10 +3,16 @@
 namespace hullwright {
 namespace {
 
-/// A coordinate of 0 means unset, so a band that ends on the first pixel row or column is not drawn.
+/// A coordinate of 0 means unset, so a band that ends on the first pixel row or column is not
+/// drawn.
 bool IsSet(ClientPoint point) { return point.x != 0 && point.y != 0; }
 
 }  // namespace
+
+bool CHullwrightView::HasRubberBand() const
+{
+  return drawing && IsSet(lastPoint) && IsSet(cursorPoint);
+}
 
 void CHullwrightView::BeginPolyline()
 {

@@ -4,8 +4,8 @@
 
 namespace hullwright {
 
-/// Rounds a world position to the nearest multiples of the snap spacing when snapping is on. A value
-/// exactly half-way goes toward zero.
+/// Rounds a world position to the nearest multiples of the snap spacing when snapping is on. A
+/// value exactly half-way goes toward zero.
 void SnapToGrid(const GridSettings& grid, double& x, double& y);
 
 }  // namespace hullwright

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "model/GridSettings.h"
+#include "render/ViewPort.h"
 
 namespace hullwright {
 
@@ -19,6 +21,10 @@ inline constexpr std::int32_t Move = 8;
 class IViewHost {
 public:
   virtual ~IViewHost() = default;
+
+  /// Hands the design's viewport over to the view that has been created; null when it is gone
+  /// already.
+  virtual std::unique_ptr<CViewPortDesigner> HandOverViewPort() = 0;
 
   /// The grid as the settings store has it now.
   virtual GridSettings LoadGridSettings() const = 0;

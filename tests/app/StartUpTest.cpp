@@ -1,0 +1,123 @@
+#include <gmock/gmock.h>
+
+#include "support/AppFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+
+/// Writes the steps of start-up and exit down, and fails where it is told to.
+class FakeFramework : public IFramework {
+public:
+  void InitialiseControls() override { steps.emplace_back("controls"); }
+  bool InitialiseLibraries() override { return Step("libraries"); }
+  void OpenUserStore(const char* maker, int recentFiles) override
+  {
+    steps.push_back(std::string("store ") + maker + " " + std::to_string(recentFiles));
+  }
+  bool CreateDocumentTemplate() override { return Step("template"); }
+  bool ProcessCommandLine() override { return Step("command line"); }
+  void ShowMainWindow() override { steps.emplace_back("show"); }
+  void AcceptDroppedFiles() override { steps.emplace_back("drops"); }
+  void ReleaseLibraries() override { steps.emplace_back("release"); }
+
+  std::vector<std::string> steps;
+  std::string failAt;
+
+private:
+  bool Step(const char* name)
+  {
+    steps.emplace_back(name);
+    return failAt != name;
+  }
+};
+
+class StartUp : public test::AppFixture {
+protected:
+  FakeFramework framework;
+};
+
+TEST_F(StartUp, RunsInOrderAndEndsOnTheTopSide)
+{
+  app.activeView = ViewSide::Rear;
+  EXPECT_TRUE(app.InitInstance(framework));
+  EXPECT_THAT(framework.steps, ElementsAre("controls", "libraries", "store Quillmere 4", "template",
+                                           "command line", "show", "drops"));
+  EXPECT_EQ(app.activeView, ViewSide::Top);
+  EXPECT_EQ(frame.viewButtonImage, 32804);
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(StartUp, LibrariesThatFailAreTold)
+{
+  framework.failAt = "libraries";
+  EXPECT_FALSE(app.InitInstance(framework));
+  EXPECT_THAT(framework.steps, ElementsAre("controls", "libraries"));
+  EXPECT_THAT(messages.shown, ElementsAre(u"OLE initialization failed.  Make sure that the OLE "
+                                          u"libraries are the correct version."));
+}
+
+TEST_F(StartUp, ATemplateThatFailsEndsItWithoutAMessage)
+{
+  framework.failAt = "template";
+  EXPECT_FALSE(app.InitInstance(framework));
+  EXPECT_EQ(framework.steps.back(), "template");
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(StartUp, ACommandLineThatFailsEndsItWithoutAMessage)
+{
+  framework.failAt = "command line";
+  EXPECT_FALSE(app.InitInstance(framework));
+  EXPECT_EQ(framework.steps.back(), "command line");
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(StartUp, ExitReleasesTheLibrariesAndSavesNoSettings)
+{
+  EXPECT_EQ(app.ExitInstance(framework), 0);
+  EXPECT_THAT(framework.steps, ElementsAre("release"));
+  EXPECT_TRUE(settings.written.empty());
+}
+
+TEST(Application, BeginsWithItsDefaults)
+{
+  test::FakeSettings settings;
+  test::FakeMessages messages;
+  const CHullwrightApp app(settings, messages, [] { return std::u16string(); });
+  EXPECT_EQ(app.cursorTool, 0);
+  EXPECT_EQ(app.paneStyleFlag, 1);
+  EXPECT_TRUE(app.unitTable.empty());
+  ASSERT_NE(app.viewPort, nullptr);
+  EXPECT_EQ(app.viewPort->left, -100.0);
+}
+
+TEST(Application, BeforeTheFrameExistsASideIsOnlyStored)
+{
+  test::FakeSettings settings;
+  test::FakeMessages messages;
+  CHullwrightApp app(settings, messages, [] { return std::u16string(); });
+  app.SetViewSide(ViewSide::Left);
+  app.NotifyDesignChanged();
+  app.SetModifiedFlag(true);
+  EXPECT_EQ(app.activeView, ViewSide::Left);
+}
+
+TEST(Application, NamesTheUnitOfTheDesign)
+{
+  test::FakeSettings settings;
+  test::FakeMessages messages;
+  CHullwrightApp app(settings, messages, [] { return std::u16string(); });
+  EXPECT_EQ(app.GetUnitName(), u"");
+  app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
+  EXPECT_EQ(app.GetUnitName(), u"metre");
+  app.unitCode = 9002;
+  EXPECT_EQ(app.GetUnitName(), u"foot");
+  app.unitCode = 1;
+  EXPECT_EQ(app.GetUnitName(), u"");
+}
+
+}  // namespace
+}  // namespace hullwright

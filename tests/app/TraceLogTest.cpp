@@ -1,0 +1,119 @@
+#include "app/TraceLog.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+class TraceLog : public testing::Test {
+protected:
+  void MakeFolder() const
+  {
+    std::filesystem::create_directories(folder.Path() / "Sondaris" / "Tracing");
+  }
+  std::string General() const { return folder.Read("Sondaris/Tracing/Trace_General.txt"); }
+
+  test::TempFolder folder;
+  CTraceLog log{[this] { return WideFromUtf8(folder.Path().string()); }};
+};
+
+TEST_F(TraceLog, WithoutItsFolderNothingIsWrittenAndNothingIsMade)
+{
+  log.Trace(1.0, TraceLevel::Success, u"General", u"text");
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / "Sondaris"));
+}
+
+TEST_F(TraceLog, TheFirstRecordHasNumberOne)
+{
+  MakeFolder();
+  log.Trace(12.3456, TraceLevel::Progress, u"General", u"[DXF] Processing file...");
+  EXPECT_EQ(General(), "1\n1|12.346|4|[DXF] Processing file...\r\n");
+}
+
+TEST_F(TraceLog, RecordsAddUpAndTheHeaderCountsThem)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, u"General", u"first");
+  log.Trace(0.5, 32, u"General", u"second|with a bar");
+  EXPECT_EQ(General(), "2\n1|0.000|1|first\r\n2|0.500|32|second|with a bar\r\n");
+}
+
+TEST_F(TraceLog, EachCategoryHasItsOwnFile)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, u"General", u"a");
+  log.Trace(0.0, 1, u"Processing", u"b");
+  EXPECT_EQ(General(), "1\n1|0.000|1|a\r\n");
+  EXPECT_EQ(folder.Read("Sondaris/Tracing/Trace_Processing.txt"), "1\n1|0.000|1|b\r\n");
+}
+
+TEST_F(TraceLog, ARecordStaysOnOneLine)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, u"General", u"a\r\nb\tc");
+  EXPECT_EQ(General(), "1\n1|0.000|1|a<CR><LF>b<TAB>c\r\n");
+}
+
+TEST_F(TraceLog, TextIsWrittenInTheAnsiCodePage)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, u"General", u"\u00FC\u20AC");
+  EXPECT_EQ(General(), "1\n1|0.000|1|\xFC\x80\r\n");
+}
+
+TEST_F(TraceLog, TheTwoHundredAndFirstRecordDropsTheOldest)
+{
+  MakeFolder();
+  for (int i = 1; i <= 201; ++i) log.Trace(0.0, 1, u"General", u"x");
+  const std::string text = General();
+  EXPECT_TRUE(text.starts_with("201\n2|0.000|1|x\r\n"));
+  EXPECT_TRUE(text.ends_with("201|0.000|1|x\r\n"));
+  EXPECT_EQ(std::ranges::count(text, '\n'), 201);
+}
+
+TEST_F(TraceLog, GoesOnFromTheHeaderOfAnOlderLog)
+{
+  MakeFolder();
+  folder.Write("Sondaris/Tracing/Trace_General.txt", "41\nold\r\n");
+  log.Trace(0.0, 1, u"General", u"new");
+  EXPECT_EQ(General(), "42\nold\r\n42|0.000|1|new\r\n");
+}
+
+TEST_F(TraceLog, BlankLinesAreDroppedAndLongOnesKeptWhole)
+{
+  MakeFolder();
+  const std::string longest(2048, 'x');
+  folder.Write("Sondaris/Tracing/Trace_General.txt", "1\n\n\r\n" + longest + "\r\n");
+  log.Trace(0.0, 1, u"General", u"new");
+  EXPECT_EQ(General(), "2\n" + longest + "\r\n2|0.000|1|new\r\n");
+}
+
+TEST_F(TraceLog, TextEndsAtANul)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, u"General", std::u16string_view(u"ab\0cd", 5));
+  EXPECT_EQ(General(), "1\n1|0.000|1|ab\r\n");
+}
+
+TEST_F(TraceLog, AHeaderThatIsNoNumberCountsFromZero)
+{
+  MakeFolder();
+  folder.Write("Sondaris/Tracing/Trace_General.txt", "abc\n");
+  log.Trace(0.0, 1, u"General", u"new");
+  EXPECT_EQ(General(), "1\n1|0.000|1|new\r\n");
+}
+
+TEST_F(TraceLog, APathBeyondItsBufferIsNotWritten)
+{
+  MakeFolder();
+  log.Trace(0.0, 1, std::u16string(300, u'c'), u"x");
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path() / "Sondaris" / "Tracing"));
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,50 @@
+#include "base/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace hullwright {
+namespace {
+
+TEST(Utf8, TakesEveryWidthThereAndBack)
+{
+  const std::u16string text = u"A\u00E4\u20AC\U0001F600";
+  EXPECT_EQ(Utf8FromWide(text), "A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
+  EXPECT_EQ(WideFromUtf8(Utf8FromWide(text)), text);
+  EXPECT_EQ(WideFromUtf8(""), u"");
+}
+
+TEST(Utf8, ALoneSurrogateBecomesTheReplacementCharacter)
+{
+  EXPECT_EQ(Utf8FromWide(std::u16string(1, char16_t{0xD83D})), "\xEF\xBF\xBD");
+  EXPECT_EQ(Utf8FromWide(std::u16string{char16_t{0xDE00}, u'x'}), "\xEF\xBF\xBDx");
+  EXPECT_EQ(Utf8FromWide(std::u16string{char16_t{0xD83D}, u'x'}), "\xEF\xBF\xBDx");
+}
+
+TEST(Utf8, EachIllFormedPieceBecomesOneReplacementCharacter)
+{
+  EXPECT_EQ(WideFromUtf8("a\xFF"
+                         "b"),
+            u"a\uFFFDb");
+  EXPECT_EQ(WideFromUtf8("\xE2\x82"), u"\uFFFD");
+  EXPECT_EQ(WideFromUtf8("\xE2\x82x"), u"\uFFFDx");
+  EXPECT_EQ(WideFromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD");
+  EXPECT_EQ(WideFromUtf8("\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFD");
+  EXPECT_EQ(WideFromUtf8("\xF4\x90\x80\x80"), u"\uFFFD\uFFFD\uFFFD\uFFFD");
+}
+
+TEST(Ansi, IsWindows1252)
+{
+  EXPECT_EQ(WideFromAnsi("A\x80\xE4\x9F"), u"A\u20AC\u00E4\u0178");
+  EXPECT_EQ(AnsiFromWide(u"A\u20AC\u00E4\u0178"), "A\x80\xE4\x9F");
+  EXPECT_EQ(AnsiFromWide(u"\u4E2D"), "?");
+}
+
+TEST(Ansi, EveryByteComesBack)
+{
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
+  EXPECT_EQ(AnsiFromWide(WideFromAnsi(bytes)), bytes);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,227 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "file/HullwrightDoc.h"
+#include "model/ShapePolyline.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr const char* good =
+    "<vessel><units id='9002'/><shapes view='01'><polyline><vertex x='1'/></polyline></shapes>"
+    "<gps x='1' y='2' z='3'/><txd x='4'/><piv x='5'/>"
+    "<anchors><anchor><id>3</id></anchor></anchors></vessel>";
+
+class Document : public testing::Test {
+protected:
+  bool Open(std::string_view xml) { return document.OnOpenDocument(folder.Write("in.xml", xml)); }
+
+  test::TempFolder folder;
+  test::FakeMessages messages;
+  test::FakeMainWindow window;
+  DesignState design;
+  CHullwrightDoc document{design, window, messages};
+};
+
+TEST_F(Document, OpenReplacesTheDesign)
+{
+  design.shapeGroups.push_back(std::make_unique<CShapes>(32));
+  design.anchors->items.push_back(design.anchors->NewAnchor());
+  document.SetModifiedFlag(true);
+  ASSERT_TRUE(Open(good));
+  ASSERT_EQ(design.shapeGroups.size(), 1U);
+  EXPECT_EQ(design.shapeGroups[0]->viewCode, 1);
+  EXPECT_TRUE(*design.offsetGps == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_TRUE(*design.offsetTransducer == CShapeVertex(4.0, 0.0, 0.0));
+  EXPECT_TRUE(*design.offsetPivot == CShapeVertex(5.0, 0.0, 0.0));
+  ASSERT_EQ(design.anchors->items.size(), 1U);
+  EXPECT_EQ(design.anchors->items[0]->id, 3U);
+  EXPECT_EQ(design.unitCode, 9002);
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Document, OpenTellsRepaintThenTreeForEmptyingAndForFilling)
+{
+  ASSERT_TRUE(Open(good));
+  EXPECT_THAT(window.codes, ElementsAre(1124, 1054, 1124, 1054));
+}
+
+TEST_F(Document, OpenLeavesTheSideInViewAndCarriedFieldsOfOffsets)
+{
+  design.activeView = 4;
+  design.offsetGps->tagA = 7;
+  ASSERT_TRUE(Open(good));
+  EXPECT_EQ(design.activeView, 4);
+  EXPECT_EQ(design.offsetGps->tagA, 7);
+}
+
+TEST_F(Document, AMalformedFileAfterAGoodOneKeepsOffsetsAndUnit)
+{
+  ASSERT_TRUE(Open(good));
+  window.codes.clear();
+  EXPECT_FALSE(Open("<vessel><units id='9003'/><shapes view='02'/><gps x='9'/><anchor/><shapes>"));
+  ASSERT_EQ(design.shapeGroups.size(), 1U);
+  EXPECT_EQ(design.shapeGroups[0]->viewCode, 2);
+  EXPECT_TRUE(design.anchors->items.empty());
+  EXPECT_EQ(design.offsetGps->x, 1.0);
+  EXPECT_EQ(design.unitCode, 9002);
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_THAT(window.codes, ElementsAre(1124, 1054));
+}
+
+TEST_F(Document, AFileWithoutAUnitIsInMetres)
+{
+  ASSERT_TRUE(Open(good));
+  ASSERT_TRUE(Open("<vessel/>"));
+  EXPECT_EQ(design.unitCode, 9001);
+  EXPECT_TRUE(*design.offsetGps == CShapeVertex());
+}
+
+TEST_F(Document, AFileThatCannotBeOpenedIsToldAndChangesNothing)
+{
+  ASSERT_TRUE(Open(good));
+  document.SetModifiedFlag(true);
+  window.codes.clear();
+  EXPECT_FALSE(document.OnOpenDocument(folder.File("missing.xml")));
+  EXPECT_FALSE(document.OnOpenDocument(folder.File("")));
+  EXPECT_EQ(messages.shown.size(), 2U);
+  EXPECT_EQ(design.shapeGroups.size(), 1U);
+  EXPECT_TRUE(document.IsModified());
+  EXPECT_TRUE(window.codes.empty());
+}
+
+TEST_F(Document, AFileWithoutReadPermissionIsTold)
+{
+  const auto path = folder.Write("locked.xml", good);
+  std::filesystem::permissions(folder.Path() / "locked.xml", std::filesystem::perms::none);
+  const bool allPowerful = access((folder.Path() / "locked.xml").c_str(), R_OK) == 0;
+  EXPECT_EQ(document.OnOpenDocument(path), allPowerful);
+  EXPECT_EQ(messages.shown.size(), allPowerful ? 0U : 1U);
+}
+
+TEST_F(Document, AnEmptyFileEmptiesTheDesignWithoutAWord)
+{
+  ASSERT_TRUE(Open(good));
+  EXPECT_FALSE(Open(""));
+  EXPECT_TRUE(design.shapeGroups.empty());
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Document, NewKeepsOffsetsUnitAndSide)
+{
+  ASSERT_TRUE(Open(good));
+  design.activeView = 8;
+  window.codes.clear();
+  document.SetModifiedFlag(true);
+  EXPECT_TRUE(document.OnNewDocument());
+  EXPECT_TRUE(design.shapeGroups.empty());
+  EXPECT_TRUE(design.anchors->items.empty());
+  EXPECT_EQ(design.offsetGps->x, 1.0);
+  EXPECT_EQ(design.unitCode, 9002);
+  EXPECT_EQ(design.activeView, 8);
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_THAT(window.codes, ElementsAre(1124, 1054));
+}
+
+TEST_F(Document, BeforeThereIsAWindowEmptyingTellsNobody)
+{
+  window.hasWindow = false;
+  document.OnNewDocument();
+  EXPECT_TRUE(window.codes.empty());
+}
+
+TEST_F(Document, SaveWritesTheDesignAndClearsTheModifiedFlag)
+{
+  ASSERT_TRUE(Open(good));
+  EXPECT_TRUE(document.OnSaveDocument(folder.File("out.xml")));
+  EXPECT_THAT(window.flags, ElementsAre(false));
+  EXPECT_EQ(folder.Read("out.xml"),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<vessel>\n <units id=\"9002\" />\n"
+            " <shapes view=\"01\" >\n  <polyline>\n"
+            "   <vertex x=\"1.000\" y=\"0.000\" z=\"0.000\" />\n  </polyline>\n </shapes>\n"
+            " <gps x=\"1.000\" y=\"2.000\" z=\"3.000\" />\n"
+            " <txd x=\"4.000\" y=\"0.000\" z=\"0.000\" />\n"
+            " <piv x=\"5.000\" y=\"0.000\" z=\"0.000\" />\n"
+            " <anchors>\n  <anchor>\n   <id>3</id>\n   <name></name>\n"
+            "   <attachmentX>0.000</attachmentX>\n   <attachmentY>0.000</attachmentY>\n"
+            "  </anchor>\n </anchors>\n</vessel>\n");
+}
+
+TEST_F(Document, SavingToAPathThatCannotBeWrittenCountsAsSaved)
+{
+  EXPECT_TRUE(document.OnSaveDocument(folder.File("no-folder/out.xml")));
+  EXPECT_THAT(window.flags, ElementsAre(false));
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Document, SavingToAFullDiskIsToldAndCountsAsSaved)
+{
+  EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
+  EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
+  EXPECT_THAT(window.flags, ElementsAre(false));
+}
+
+TEST_F(Document, TellsWhetherASaveReachedTheDisk)
+{
+  document.OnSaveDocument(u"/dev/full");
+  EXPECT_FALSE(document.SavedWhole());
+  document.OnSaveDocument(folder.File("out.xml"));
+  EXPECT_TRUE(document.SavedWhole());
+}
+
+TEST_F(Document, TellsThatItWasEmptiedAlsoWhenTheOpenFailsLater)
+{
+  int emptied = 0;
+  document.onEmptied = [&] { ++emptied; };
+  document.OnOpenDocument(folder.File("missing.xml"));
+  document.OnOpenDocument(u"/dev/zero");
+  EXPECT_EQ(emptied, 0);
+  Open("no xml");
+  EXPECT_EQ(emptied, 1);
+  document.OnNewDocument();
+  EXPECT_EQ(emptied, 2);
+}
+
+TEST_F(Document, ANameWithReferencesComesBack)
+{
+  auto anchor = design.anchors->NewAnchor();
+  anchor->name = u"A&B \"\u00FC\" <x>";
+  design.anchors->items.push_back(std::move(anchor));
+  document.OnSaveDocument(folder.File("out.xml"));
+  ASSERT_TRUE(document.OnOpenDocument(folder.File("out.xml")));
+  EXPECT_EQ(design.anchors->items.at(0)->name, u"A&B \"\u00FC\" <x>");
+}
+
+TEST_F(Document, ANameBeyondTheBasicPlaneMakesAFileThatIsRejected)
+{
+  auto anchor = design.anchors->NewAnchor();
+  anchor->name = u"\U0001F6A2";
+  design.anchors->items.push_back(std::move(anchor));
+  document.OnSaveDocument(folder.File("out.xml"));
+  EXPECT_FALSE(document.OnOpenDocument(folder.File("out.xml")));
+}
+
+class SampleRoundTrip : public Document, public testing::WithParamInterface<const char*> {};
+
+TEST_P(SampleRoundTrip, IsByteIdentical)
+{
+  const std::filesystem::path sample =
+      std::filesystem::path(HULLWRIGHT_SAMPLES) / (std::string(GetParam()) + ".xml");
+  std::filesystem::copy(sample, folder.Path() / "in.xml");
+  ASSERT_TRUE(document.OnOpenDocument(folder.File("in.xml")));
+  EXPECT_EQ(design.shapeGroups.size(), 6U);
+  document.OnSaveDocument(folder.File("out.xml"));
+  EXPECT_EQ(folder.Read("out.xml"), folder.Read("in.xml"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, SampleRoundTrip,
+                         testing::Values("workboat", "catamaran", "dredger"));
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,57 @@
+#include "file/FileBase.h"
+
+#include <gtest/gtest.h>
+
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+std::string TextOf(const CFileBase& file)
+{
+  return {file.buffer.get(), static_cast<std::size_t>(file.size)};
+}
+
+class FileBase : public testing::Test {
+protected:
+  test::TempFolder folder;
+  CFileBase file;
+};
+
+TEST_F(FileBase, ReadsAWholeFileAndEndsItWithANul)
+{
+  file.position = 9;
+  ASSERT_EQ(file.Load(folder.Write("a.txt", "0\nSECTION\n")), 0);
+  EXPECT_EQ(TextOf(file), "0\nSECTION\n");
+  EXPECT_EQ(file.buffer[10], '\0');
+  EXPECT_EQ(file.position, 0);
+}
+
+TEST_F(FileBase, FoldsLineEndsAndKeepsAStrayCarriageReturn)
+{
+  ASSERT_EQ(file.Load(folder.Write("a.txt", "a\r\nb\rc\r\r\nd\r")), 0);
+  EXPECT_EQ(TextOf(file), "a\nb\rc\r\nd\r");
+}
+
+TEST_F(FileBase, AControlZEndsTheText)
+{
+  ASSERT_EQ(file.Load(folder.Write("a.txt", std::string("ab\x1A") + "cd")), 0);
+  EXPECT_EQ(TextOf(file), "ab");
+}
+
+TEST_F(FileBase, AFileThatIsMissingEmptyOrAFolderFails)
+{
+  EXPECT_EQ(file.Load(folder.File("missing.txt")), -1);
+  EXPECT_EQ(file.Load(folder.Write("empty.txt", "")), -1);
+  EXPECT_EQ(file.Load(folder.File("")), -1);
+}
+
+TEST_F(FileBase, AnEarlierBufferStaysWhenAFileWontOpen)
+{
+  ASSERT_EQ(file.Load(folder.Write("a.txt", "abc")), 0);
+  EXPECT_EQ(file.Load(folder.File("missing.txt")), -1);
+  EXPECT_EQ(TextOf(file), "abc");
+}
+
+}  // namespace
+}  // namespace hullwright

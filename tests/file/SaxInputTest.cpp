@@ -1,0 +1,207 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "base/Text.h"
+#include "file/FileSax.h"
+#include "file/SaxHandlers.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+
+/// Writes every callback down.
+class Listener : public CFileSax {
+public:
+  using CFileSax::CFileSax;
+
+  void StartElement(std::u16string_view name, AttributeMap attributes) override
+  {
+    std::string line = "<" + Utf8FromWide(name);
+    for (const auto& [key, value] : attributes) {
+      line += " " + Utf8FromWide(key) + "=" + Utf8FromWide(value);
+    }
+    events.push_back(line);
+  }
+  void EndElement(std::u16string_view name) override { events.push_back(">" + Utf8FromWide(name)); }
+  void Characters(std::u16string_view text) override
+  {
+    events.push_back("'" + Utf8FromWide(text) + "'");
+  }
+  void Error(std::u16string_view message, int line, int column, int) override
+  {
+    error = Utf8FromWide(message);
+    errorLine = line;
+    errorColumn = column;
+  }
+
+  std::vector<std::string> events;
+  std::string error;
+  int errorLine = -1;
+  int errorColumn = -1;
+};
+
+class SaxInput : public testing::Test {
+protected:
+  int Read(std::string_view xml) { return listener.Read(folder.Write("in.xml", xml)); }
+
+  test::FakeMessages messages;
+  test::TempFolder folder;
+  Listener listener{messages};
+};
+
+TEST_F(SaxInput, DeliversElementsAttributesAndText)
+{
+  EXPECT_EQ(Read("<a y='2' x='1'><b>text</b></a>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a x=1 y=2", "<b", "'text'", ">b", ">a"));
+}
+
+TEST_F(SaxInput, NamesLoseTheirPrefix)
+{
+  EXPECT_EQ(Read("<a:vertex xmlns:a='urn:a' a:x='1' y='2'/>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<vertex x=1 y=2", ">vertex"));
+}
+
+TEST_F(SaxInput, AnUnboundPrefixIsNotWellFormed) { EXPECT_EQ(Read("<a:vertex/>"), -1); }
+
+TEST_F(SaxInput, OfAttributesWithTheSameLocalNameOneStands)
+{
+  EXPECT_EQ(Read("<v xmlns:a='urn:a' x='1' a:x='2'/>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<v x=2", ">v"));
+}
+
+TEST_F(SaxInput, TextIsNotCutAtReferencesOrPiecesOfTheFile)
+{
+  const std::string filler(0x10000 - 20, ' ');
+  EXPECT_EQ(Read("<a>" + filler + "<b>A&amp;B &#xE4; end of a long name</b></a>"), 0);
+  EXPECT_THAT(listener.events,
+              ElementsAre("<a", "<b", "'A&B \xC3\xA4 end of a long name'", ">b", ">a"));
+}
+
+TEST_F(SaxInput, ALineBreakInsideAValueLosesWhatFollows)
+{
+  EXPECT_EQ(Read("<a>first\nsecond\r\nthird</a>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a", "'first'", ">a"));
+}
+
+TEST_F(SaxInput, ALineBreakWrittenAsAReferenceBelongsToItsText)
+{
+  EXPECT_EQ(Read("<a>first&#xA;second&#13;third</a>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a", "'first\nsecond\rthird'", ">a"));
+}
+
+TEST_F(SaxInput, ALongTokenTakesLinearTime)
+{
+  // Scanned again at each piece of a fixed size, this would take a minute.
+  const std::string value(40'000'000, 'x');
+  EXPECT_EQ(Read("<a v='" + value + "'/>"), 0);
+  EXPECT_EQ(listener.events.at(0).size(), value.size() + 5);
+}
+
+TEST_F(SaxInput, APipeThatNobodyWritesToDoesNotHang)
+{
+  const std::string pipe = (folder.Path() / "pipe").string();
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(listener.Read(folder.File("pipe")), -1);
+  EXPECT_EQ(listener.Read(u"/dev/zero"), -1);
+}
+
+TEST_F(SaxInput, CommentsAndInstructionsCutText)
+{
+  EXPECT_EQ(Read("<a>1<!-- c -->2<?p q?>3<![CDATA[<4>]]></a>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a", "'1'", "'2'", "'3<4>'", ">a"));
+}
+
+TEST_F(SaxInput, AnErrorIsToldWithItsPlaceAndEndsTheReading)
+{
+  EXPECT_EQ(Read("<a>\n <b>\n</a>"), -1);
+  EXPECT_THAT(listener.events, ElementsAre("<a", "<b"));
+  EXPECT_EQ(listener.error, "mismatched tag");
+  EXPECT_EQ(listener.errorLine, 3);
+  EXPECT_EQ(listener.errorColumn, 3);
+}
+
+TEST_F(SaxInput, ADocumentTypeIsRefused)
+{
+  EXPECT_EQ(Read("<!DOCTYPE a [<!ENTITY e 'x'>]><a>&e;</a>"), -1);
+  EXPECT_EQ(Read("<!DOCTYPE a SYSTEM '/etc/passwd'><a/>"), -1);
+  EXPECT_THAT(listener.events, ElementsAre());
+}
+
+TEST_F(SaxInput, AnUndeclaredEntityIsNotWellFormed) { EXPECT_EQ(Read("<a>&e;</a>"), -1); }
+
+TEST_F(SaxInput, AReferenceToASurrogateIsNotWellFormed)
+{
+  EXPECT_EQ(Read("<a>&#xD83D;&#xDE00;</a>"), -1);
+}
+
+TEST_F(SaxInput, WhatIsNoFileOrNoXmlFails)
+{
+  EXPECT_EQ(Read(""), -1);
+  EXPECT_EQ(Read("0\nSECTION\n"), -1);
+  EXPECT_EQ(listener.Read(folder.File("missing.xml")), -1);
+  EXPECT_EQ(listener.Read(folder.File("")), -1);
+}
+
+TEST_F(SaxInput, OtherEncodingsAreRead)
+{
+  EXPECT_EQ(Read("<?xml version='1.0' encoding='windows-1252'?><a b='\x80\xE4'/>"), 0);
+  EXPECT_EQ(Read(std::string("\xFE\xFF\0<\0a\0/\0>", 10)), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a b=\xE2\x82\xAC\xC3\xA4", ">a", "<a", ">a"));
+  EXPECT_EQ(Read("<?xml version='1.0' encoding='x-none'?><a/>"), -1);
+}
+
+TEST_F(SaxInput, DeepNestingIsRead)
+{
+  constexpr int depth = 100000;
+  std::string xml;
+  for (int i = 0; i < depth; ++i) xml += "<a>";
+  for (int i = 0; i < depth; ++i) xml += "</a>";
+  EXPECT_EQ(Read(xml), 0);
+  EXPECT_EQ(listener.events.size(), 2U * depth);
+}
+
+class ContentHandler : public SaxInput {
+protected:
+  CFileSaxContentHandler handler{&listener};
+};
+
+TEST_F(ContentHandler, DropsChunksOfBlanksButNotOfTabs)
+{
+  handler.Characters(u"   ");
+  handler.Characters(u"");
+  handler.Characters(u"\t");
+  handler.Characters(u"\t ");
+  EXPECT_THAT(listener.events, ElementsAre("'\t'", "'\t '"));
+}
+
+TEST_F(ContentHandler, DropsChunksThatStartWithALineBreakWhateverFollows)
+{
+  handler.Characters(u"\nBow");
+  handler.Characters(u"\rBow");
+  handler.Characters(u" \nBow");
+  EXPECT_THAT(listener.events, ElementsAre("' \nBow'"));
+}
+
+TEST_F(ContentHandler, WithoutAnOwnerNothingHappens)
+{
+  CFileSaxContentHandler orphan(nullptr);
+  orphan.StartElement(u"a", {});
+  orphan.Characters(u"text");
+  orphan.EndElement(u"a");
+  CFileSaxErrorHandler(nullptr).Error(u"", 0, 0, 0);
+  EXPECT_TRUE(listener.events.empty());
+}
+
+TEST(AttributeValue, OfAMissingAttributeIsEmpty)
+{
+  const AttributeMap attributes = {{u"x", u"1"}};
+  EXPECT_EQ(AttributeValue(attributes, u"x"), u"1");
+  EXPECT_EQ(AttributeValue(attributes, u"y"), u"");
+}
+
+}  // namespace
+}  // namespace hullwright

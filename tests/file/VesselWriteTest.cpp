@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include "file/FileVessel.h"
+#include "model/ShapePoint.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* head = "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<vessel>\n";
+constexpr const char* tail =
+    " <gps x=\"10.000\" y=\"0.000\" z=\"0.000\" />\n"
+    " <txd x=\"-10.000\" y=\"0.000\" z=\"0.000\" />\n"
+    " <piv x=\"0.000\" y=\"10.000\" z=\"0.000\" />\n";
+
+class VesselWrite : public testing::Test {
+protected:
+  VesselWrite()
+  {
+    *file.gps = CShapeVertex(10.0, 0.0, 0.0);
+    *file.txd = CShapeVertex(-10.0, 0.0, 0.0);
+    *file.piv = CShapeVertex(0.0, 10.0, 0.0);
+  }
+
+  std::string Save()
+  {
+    EXPECT_EQ(file.Save(folder.File("out.xml"), groups), 0);
+    return folder.Read("out.xml");
+  }
+
+  CShapePolyline& AddLine(std::int32_t code)
+  {
+    groups.push_back(std::make_unique<CShapes>(code));
+    groups.back()->shapes.push_back(std::make_unique<CShapePolyline>());
+    return static_cast<CShapePolyline&>(*groups.back()->shapes.back());
+  }
+
+  test::FakeMessages messages;
+  test::TempFolder folder;
+  CFileVessel file{messages};
+  OwnedArray<CShapes> groups;
+};
+
+TEST_F(VesselWrite, TheExampleIsWrittenByteForByte)
+{
+  CShapePolyline& line = AddLine(1);
+  line.AddVertex(0.0, 0.0, 0.0);
+  line.AddVertex(12.5, 0.0, 0.0);
+  auto anchor = file.anchors->NewAnchor();
+  anchor->name = u"Bow";
+  anchor->attachmentX = 1.0;
+  anchor->attachmentY = 2.0;
+  file.anchors->items.push_back(std::move(anchor));
+  EXPECT_EQ(Save(),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n"
+            "<vessel>\n"
+            " <units id=\"9001\" />\n"
+            " <shapes view=\"01\" >\n"
+            "  <polyline>\n"
+            "   <vertex x=\"0.000\" y=\"0.000\" z=\"0.000\" />\n"
+            "   <vertex x=\"12.500\" y=\"0.000\" z=\"0.000\" />\n"
+            "  </polyline>\n"
+            " </shapes>\n"
+            " <gps x=\"10.000\" y=\"0.000\" z=\"0.000\" />\n"
+            " <txd x=\"-10.000\" y=\"0.000\" z=\"0.000\" />\n"
+            " <piv x=\"0.000\" y=\"10.000\" z=\"0.000\" />\n"
+            " <anchors>\n"
+            "  <anchor>\n"
+            "   <id>1</id>\n"
+            "   <name>Bow</name>\n"
+            "   <attachmentX>1.000</attachmentX>\n"
+            "   <attachmentY>2.000</attachmentY>\n"
+            "  </anchor>\n"
+            " </anchors>\n"
+            "</vessel>\n");
+}
+
+TEST_F(VesselWrite, ADesignWithoutGroupsAndAnchorsHasItsOffsetsOnly)
+{
+  EXPECT_EQ(Save(), std::string(head) + " <units id=\"9001\" />\n" + tail +
+                        " <anchors>\n </anchors>\n</vessel>\n");
+}
+
+TEST_F(VesselWrite, AUnitOfZeroIsLeftOutAndANegativeOneIsWritten)
+{
+  file.unitCode = 0;
+  EXPECT_EQ(Save(), std::string(head) + tail + " <anchors>\n </anchors>\n</vessel>\n");
+  file.unitCode = -5;
+  EXPECT_NE(Save().find("<units id=\"-5\" />"), std::string::npos);
+}
+
+TEST_F(VesselWrite, ViewCodesAreUpperCaseHexadecimalOfAtLeastTwoDigits)
+{
+  for (const std::int32_t code : {8, 16, 63, 0, 300, -1}) {
+    groups.push_back(std::make_unique<CShapes>(code));
+  }
+  const std::string text = Save();
+  for (const char* view : {"08", "10", "3F", "00", "12C", "FFFFFFFF"}) {
+    const std::string element = std::string(" <shapes view=\"") + view + "\" >\n </shapes>\n";
+    EXPECT_NE(text.find(element), std::string::npos) << view;
+  }
+}
+
+TEST_F(VesselWrite, OnlyPolylinesAreSaved)
+{
+  groups.push_back(std::make_unique<CShapes>(1));
+  groups.back()->shapes.push_back(std::make_unique<CShapePoint>());
+  EXPECT_NE(Save().find(" <shapes view=\"01\" >\n </shapes>\n"), std::string::npos);
+}
+
+TEST_F(VesselWrite, APolylineWithoutVerticesIsSaved)
+{
+  AddLine(2);
+  EXPECT_NE(Save().find("  <polyline>\n  </polyline>\n"), std::string::npos);
+}
+
+TEST_F(VesselWrite, CoordinatesHaveThreeDecimalsAndZeroKeepsItsSign)
+{
+  AddLine(1).AddVertex(-0.0004, 1.0005, 1234567.8915);
+  EXPECT_NE(Save().find("<vertex x=\"-0.000\" y=\"1.000\" z=\"1234567.891\" />"),
+            std::string::npos);
+}
+
+TEST_F(VesselWrite, ANullGroupEndsTheGroups)
+{
+  AddLine(1);
+  groups.push_back(nullptr);
+  AddLine(2);
+  const std::string text = Save();
+  EXPECT_NE(text.find("view=\"01\""), std::string::npos);
+  EXPECT_EQ(text.find("view=\"02\""), std::string::npos);
+}
+
+TEST_F(VesselWrite, ANullOffsetIsLeftOut)
+{
+  file.txd.reset();
+  file.anchors.reset();
+  const std::string text = Save();
+  EXPECT_EQ(text.find("txd"), std::string::npos);
+  EXPECT_EQ(text.find("anchors"), std::string::npos);
+}
+
+TEST_F(VesselWrite, NamesAreEscaped)
+{
+  auto anchor = file.anchors->NewAnchor();
+  anchor->name = u"A&B \u00FC\U0001F600";
+  file.anchors->items.push_back(std::move(anchor));
+  EXPECT_NE(Save().find("<name>A&amp;B &#xFC;&#xD83D;&#xDE00;</name>"), std::string::npos);
+}
+
+TEST_F(VesselWrite, EachSaveBeginsWithAnEmptyBlock)
+{
+  const std::string first = Save();
+  EXPECT_EQ(Save(), first);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,203 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "file/FileSax.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+/// A file whose memory can run out.
+class StingyFile : public CFileSax {
+public:
+  using CFileSax::CFileSax;
+  int failures = 0;  ///< how many resizes from now on fail
+
+protected:
+  void* Reallocate(void* block, std::size_t size) override
+  {
+    if (failures == 0) return CFileSax::Reallocate(block, size);
+    --failures;
+    std::free(block);
+    return nullptr;
+  }
+};
+
+class XmlOutput : public testing::Test {
+protected:
+  test::FakeMessages messages;
+  StingyFile file{messages};
+  test::TempFolder folder;
+};
+
+TEST_F(XmlOutput, TheDeclarationHasABlankBeforeItsEnd)
+{
+  file.WriteDeclaration();
+  EXPECT_EQ(file.Output(), "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n");
+}
+
+TEST_F(XmlOutput, NestingIndentsByOneBlankALevel)
+{
+  file.OpenElement(u"vessel");
+  file.OpenElement(u"anchors");
+  file.WriteTextElement(u"id", u"1");
+  file.CloseElement(u"anchors");
+  file.CloseElement(u"vessel");
+  EXPECT_EQ(file.Output(), "<vessel>\n <anchors>\n  <id>1</id>\n </anchors>\n</vessel>\n");
+  EXPECT_EQ(file.indent, 0);
+}
+
+TEST_F(XmlOutput, AttributesOfAnOpenTagStandInDescendingOrder)
+{
+  file.OpenElement(u"shapes", {{u"a", u"1"}, {u"b", u"2"}});
+  EXPECT_EQ(file.Output(), "<shapes b=\"2\" a=\"1\" >\n");
+  EXPECT_EQ(file.indent, 1);
+}
+
+TEST_F(XmlOutput, AttributesOfAnEmptyElementStandInAscendingOrder)
+{
+  file.WriteEmptyElement(u"vertex", {{u"z", u"3"}, {u"x", u"1"}, {u"y", u"2"}});
+  EXPECT_EQ(file.Output(), "<vertex x=\"1\" y=\"2\" z=\"3\" />\n");
+}
+
+TEST_F(XmlOutput, AnElementWithABodyIsClosedBehindIt)
+{
+  file.WriteEmptyElement(u"note", {{u"id", u"1"}}, u"a<b");
+  EXPECT_EQ(file.Output(), "<note id=\"1\" >a&lt;b</note>\n");
+}
+
+TEST_F(XmlOutput, AnEmptyNameGivesTheTwoTags)
+{
+  file.WriteTextElement(u"name", u"");
+  EXPECT_EQ(file.Output(), "<name></name>\n");
+}
+
+TEST_F(XmlOutput, ValuesOfAttributesAreEscaped)
+{
+  file.WriteEmptyElement(u"e", {{u"v", u"a<b"}});
+  EXPECT_EQ(file.Output(), "<e v=\"a&lt;b\" />\n");
+}
+
+TEST(Escape, ReplacesMarkupAndEverythingThatIsNotPlainAscii)
+{
+  EXPECT_EQ(Escape(u"\"&'<>"), "&quot;&amp;&apos;&lt;&gt;");
+  EXPECT_EQ(Escape(u"\t\n\r"), "&#x9;&#xA;&#xD;");
+  EXPECT_EQ(Escape(u" ~\x7F"), " ~\x7F");
+  EXPECT_EQ(Escape(u"\u0080\u00E4\u20AC"), "&#x80;&#xE4;&#x20AC;");
+  EXPECT_EQ(Escape(u"\U0001F600"), "&#xD83D;&#xDE00;");
+  EXPECT_EQ(Escape(std::u16string(1, u'\0')), "&#x0;");
+}
+
+TEST_F(XmlOutput, TheFirstPrimitiveAllocatesTheBlock)
+{
+  file.WriteDeclaration();
+  EXPECT_EQ(file.outCapacity, 0x8200U);
+  StingyFile other(messages);
+  other.CloseElement(u"a");
+  EXPECT_EQ(other.outCapacity, 0x8100U);
+  EXPECT_EQ(other.indent, -1);
+  EXPECT_EQ(other.Output(), "</a>\n");
+}
+
+TEST_F(XmlOutput, TheBlockGrowsWhenTheMarginReachesItsEnd)
+{
+  file.WriteDeclaration();
+  while (file.outLength + 0x100 + 1 < 0x8200U) file.WriteTextElement(u"e", u"0");
+  const std::uint32_t length = file.outLength;
+  EXPECT_EQ(file.outCapacity, 0x8200U);
+  file.WriteTextElement(u"e", u"0");
+  EXPECT_EQ(file.outCapacity, length + 0x101 + 0x8000);
+}
+
+TEST_F(XmlOutput, ANameOf600CharactersIsWrittenInOnePiece)
+{
+  const std::u16string name(600, u'\u00E4');
+  file.WriteTextElement(u"name", name);
+  EXPECT_EQ(file.outLength, 600U * 6U + 14U);
+  EXPECT_EQ(file.outCapacity, 0x100U + 3600U + 0x8000U);
+}
+
+TEST_F(XmlOutput, DeepNestingStaysInItsBlock)
+{
+  for (int level = 0; level < 3000; ++level) file.OpenElement(u"e");
+  for (int level = 0; level < 3000; ++level) file.CloseElement(u"e");
+  EXPECT_EQ(file.indent, 0);
+  EXPECT_EQ(file.Output().size(), 3000U * (4 + 5) + 2999U * 3000U);
+}
+
+TEST_F(XmlOutput, WithoutMemoryNothingIsWrittenAndTheIndentationStays)
+{
+  file.failures = 2;
+  file.OpenElement(u"a");
+  file.WriteTextElement(u"b", u"1");
+  EXPECT_EQ(file.indent, 0);
+  EXPECT_EQ(file.outLength, 0U);
+  file.OpenElement(u"c");
+  EXPECT_EQ(file.Output(), "<c>\n");
+}
+
+TEST_F(XmlOutput, ABlockThatWasLostGoesOnAtItsOffset)
+{
+  file.OpenElement(u"vessel");
+  const std::uint32_t before = file.outLength;
+  file.failures = 1;
+  file.WriteTextElement(u"name", std::u16string(0x9000, u'x'));
+  EXPECT_EQ(file.outLength, before);
+  EXPECT_EQ(file.Output(), "");
+  file.CloseElement(u"vessel");
+  EXPECT_EQ(file.Output(), std::string(before, '\0') + "</vessel>\n");
+}
+
+TEST_F(XmlOutput, ResetOutputBeginsAnew)
+{
+  file.OpenElement(u"a");
+  file.ResetOutput();
+  EXPECT_EQ(file.indent, 0);
+  EXPECT_EQ(file.outLength, 0U);
+  EXPECT_EQ(file.outCapacity, 0U);
+  EXPECT_EQ(file.Output(), "");
+}
+
+TEST_F(XmlOutput, FlushWritesTheBlock)
+{
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.Flush(folder.File("out.xml")), 0);
+  EXPECT_EQ(folder.Read("out.xml"), "<a>\n");
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(XmlOutput, FlushOfNothingOrToNowhereFails)
+{
+  EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);
+  EXPECT_EQ(folder.Read("out.xml"), "(no file)");
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.Flush(u""), -1);
+}
+
+TEST_F(XmlOutput, AFileThatWontOpenFailsWithoutAMessage)
+{
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.Flush(folder.File("no-folder/out.xml")), -1);
+  EXPECT_EQ(file.Flush(folder.File("")), -1);
+  EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(XmlOutput, AFullDiskIsTold)
+{
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.Flush(u"/dev/full"), -1);
+  EXPECT_THAT(messages.shown, testing::ElementsAre(u"Error writing config file!!!"));
+}
+
+TEST_F(XmlOutput, NamesWithBlanksUmlautsAndEmojiAreFine)
+{
+  file.OpenElement(u"a");
+  const char* const name = "Schiff \xC3\x84rger \xF0\x9F\x9A\xA2.xml";
+  EXPECT_EQ(file.Flush(folder.File(name)), 0);
+  EXPECT_EQ(folder.Read(name), "<a>\n");
+}
+
+}  // namespace
+}  // namespace hullwright

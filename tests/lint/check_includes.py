@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Checks that includes run one way: a room may include itself and the rooms that its row names, and
+only the rooms at the desk and the pictures may include the toolkit."""
+
+import pathlib
+import re
+import sys
+
+# room: the rooms that it may include beside itself
+ROOMS = {
+    "base": "",
+    "platform": "",
+    "model": "base",
+    "render": "base model platform",
+    "resources": "model",
+    "file": "base model platform",
+    "view": "base model platform render resources",
+    "app": "base model platform render resources file view",
+    "paint": "base model platform render",
+    "qt": "base model platform render resources file view app paint",
+    "cli": "base model platform render resources file view app paint",
+}
+
+# rooms, and single files, that may include the toolkit's headers
+TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp")
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<(Q[A-Za-z0-9/]+)>)')
+
+
+def problems(source):
+    """Yields what is wrong in the sources below a folder, a line each."""
+    for path in sorted(source.rglob("*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        name = path.relative_to(source).as_posix()
+        room = name.split("/")[0]
+        if room not in ROOMS:
+            yield f"{name}: no rule for the room '{room}'"
+            continue
+        for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+            found = INCLUDE.match(line)
+            if not found:
+                continue
+            target, toolkit = found.groups()
+            if toolkit and not name.startswith(TOOLKIT):
+                yield f"{name}:{number}: {room} may not include the toolkit's <{toolkit}>"
+            if target and target.split("/")[0] not in [room, *ROOMS[room].split()]:
+                yield f"{name}:{number}: {room} may not include \"{target}\""
+
+
+def self_test(folder):
+    """The check must find a wrong include, or it checks nothing."""
+    wrong = {
+        "model/Up.h": '#include "render/Canvas.h"\n',
+        "view/Toolkit.cpp": "#include <QWidget>\n",
+        "attic/Old.h": "",
+    }
+    for name, text in wrong.items():
+        file = folder / name
+        file.parent.mkdir(parents=True)
+        file.write_text(text, encoding="utf-8")
+    return len(list(problems(folder))) == len(wrong)
+
+
+def main():
+    import tempfile
+
+    with tempfile.TemporaryDirectory() as folder:
+        if not self_test(pathlib.Path(folder)):
+            sys.exit("the include check does not find wrong includes")
+    found = list(problems(pathlib.Path(sys.argv[1])))
+    print("\n".join(found) or "Includes run one way.")
+    sys.exit(1 if found else 0)
+
+
+if __name__ == "__main__":
+    main()

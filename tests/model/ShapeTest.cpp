@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include "model/ShapeAttributes.h"
+#include "model/ShapePolyline.h"
+
+namespace hullwright {
+namespace {
+
+std::unique_ptr<ShapeAttribute> Pair(std::u16string name, std::u16string value)
+{
+  return std::make_unique<ShapeAttribute>(ShapeAttribute{std::move(name), std::move(value)});
+}
+
+TEST(ShapeStyle, HasTheDefaultsOfANewShape)
+{
+  const ShapeStyle style;
+  EXPECT_EQ(style.lineColour, 0U);
+  EXPECT_EQ(style.fillColour, 0xC0C0C0U);
+  EXPECT_EQ(style.styleCode, 7);
+  EXPECT_EQ(style.lineWidth, 1.0F);
+  EXPECT_EQ(style.styleFlagA, 0);
+  EXPECT_EQ(style.styleFlagB, 0);
+}
+
+TEST(ShapeAttributes, AppendFromAddsDeepCopiesBehindWhatIsThere)
+{
+  CShapeAttributes source;
+  source.items.push_back(Pair(u"LAYER", u"Hull"));
+  CShapeAttributes target;
+  target.items.push_back(Pair(u"HANDLE", u"1F"));
+  EXPECT_EQ(&target.AppendFrom(source), &target);
+  source.items[0]->value = u"changed";
+  ASSERT_EQ(target.items.size(), 2U);
+  EXPECT_EQ(target.items[1]->name, u"LAYER");
+  EXPECT_EQ(target.items[1]->value, u"Hull");
+}
+
+TEST(ShapeAttributes, ANullEntryEndsTheCopying)
+{
+  CShapeAttributes source;
+  source.items.push_back(Pair(u"a", u"1"));
+  source.items.push_back(nullptr);
+  source.items.push_back(Pair(u"b", u"2"));
+  CShapeAttributes target;
+  target.AppendFrom(source);
+  EXPECT_EQ(target.items.size(), 1U);
+  EXPECT_EQ(source.cursor, 2U);
+}
+
+TEST(ShapeAttributes, AppendingAListToItselfDoublesItOnce)
+{
+  CShapeAttributes list;
+  list.items.push_back(Pair(u"a", u"1"));
+  list.AppendFrom(list);
+  EXPECT_EQ(list.items.size(), 2U);
+}
+
+TEST(Shape, ResetClearsTypeTagSelectionAndVerticesButNotEditing)
+{
+  CShapePolyline shape;
+  shape.AddVertex(1.0, 2.0, 3.0);
+  shape.tag = 5;
+  shape.selected = true;
+  shape.editing = true;
+  shape.Reset();
+  EXPECT_EQ(shape.type, 0);
+  EXPECT_EQ(shape.tag, 0);
+  EXPECT_FALSE(shape.selected);
+  EXPECT_TRUE(shape.editing);
+  EXPECT_TRUE(shape.vertices.empty());
+}
+
+TEST(Shape, CopyBaseToCopiesStyleAndAttributesWhereThereAreAny)
+{
+  CShapePolyline source;
+  source.tag = 7;
+  source.selected = true;
+  source.editing = true;
+  source.style = std::make_unique<ShapeStyle>();
+  source.style->lineWidth = 3.0F;
+  source.attributes = std::make_unique<CShapeAttributes>();
+  source.attributes->items.push_back(Pair(u"LAYER", u"0"));
+  CShapePolyline target;
+  EXPECT_EQ(source.CopyBaseTo(&target), &target);
+  EXPECT_EQ(target.tag, 7);
+  EXPECT_TRUE(target.selected);
+  EXPECT_FALSE(target.editing);
+  EXPECT_EQ(target.type, ShapeType::Polyline);
+  EXPECT_EQ(target.style->lineWidth, 3.0F);
+  EXPECT_EQ(target.attributes->items.at(0)->name, u"LAYER");
+}
+
+TEST(Shape, CopyBaseToLeavesWhatTheSourceLacks)
+{
+  const CShapePolyline source;
+  CShapePolyline target;
+  target.style = std::make_unique<ShapeStyle>();
+  target.attributes = std::make_unique<CShapeAttributes>();
+  source.CopyBaseTo(&target);
+  EXPECT_NE(target.style, nullptr);
+  EXPECT_NE(target.attributes, nullptr);
+  EXPECT_EQ(source.CopyBaseTo(nullptr), nullptr);
+}
+
+TEST(Walk, StopsAtANullEntryAndAtTheEnd)
+{
+  OwnedArray<int> items;
+  std::uint32_t cursor = 9;
+  EXPECT_EQ(WalkFirst(cursor, items), nullptr);
+  EXPECT_EQ(cursor, 1U);
+  items.push_back(std::make_unique<int>(1));
+  items.push_back(std::make_unique<int>(2));
+  items.push_back(nullptr);
+  items.push_back(std::make_unique<int>(3));
+  int sum = 0;
+  Walk(cursor, items, [&](int value) { sum += value; });
+  EXPECT_EQ(sum, 3);
+}
+
+TEST(Walk, AWalkInsideAWalkDisturbsTheOuterOne)
+{
+  OwnedArray<int> items;
+  for (int i = 1; i <= 3; ++i) items.push_back(std::make_unique<int>(i));
+  std::uint32_t cursor = 0;
+  std::vector<int> seen;
+  Walk(cursor, items, [&](int value) {
+    seen.push_back(value);
+    if (value == 1) Walk(cursor, items, [](int) {});
+  });
+  EXPECT_EQ(seen, std::vector<int>{1});
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "model/ShapeVertex.h"
+
+namespace hullwright {
+namespace {
+
+CShapeVertex Tagged(double x, double y, double z)
+{
+  CShapeVertex v(x, y, z);
+  v.flag = 1;
+  v.tagA = 2;
+  v.tagB = 3;
+  return v;
+}
+
+void ExpectTags(const CShapeVertex& v, int flag, int tagA, int tagB)
+{
+  EXPECT_EQ(v.flag, flag);
+  EXPECT_EQ(v.tagA, tagA);
+  EXPECT_EQ(v.tagB, tagB);
+}
+
+TEST(Vertex, BeginsAsZero)
+{
+  const CShapeVertex v;
+  EXPECT_TRUE(v == CShapeVertex(0.0, 0.0, 0.0));
+  ExpectTags(v, 0, 0, 0);
+}
+
+TEST(Vertex, AssignmentCopiesCarriedFields)
+{
+  CShapeVertex v;
+  v = Tagged(1.0, 2.0, 3.0);
+  EXPECT_TRUE(v == CShapeVertex(1.0, 2.0, 3.0));
+  ExpectTags(v, 1, 2, 3);
+}
+
+TEST(Vertex, InPlaceArithmeticKeepsCarriedFieldsOfTheTarget)
+{
+  CShapeVertex v = Tagged(1.0, 2.0, 3.0);
+  v += CShapeVertex(10.0, 20.0, 30.0);
+  EXPECT_TRUE(v == CShapeVertex(11.0, 22.0, 33.0));
+  v -= CShapeVertex(1.0, 2.0, 3.0);
+  EXPECT_TRUE(v == CShapeVertex(10.0, 20.0, 30.0));
+  ExpectTags(v, 1, 2, 3);
+}
+
+TEST(Vertex, ResultsByValueDropCarriedFields)
+{
+  const CShapeVertex v = Tagged(2.0, 4.0, 8.0);
+  ExpectTags(v - v, 0, 0, 0);
+  ExpectTags(v + v, 0, 0, 0);
+  EXPECT_TRUE(v - CShapeVertex(1.0, 1.0, 1.0) == CShapeVertex(1.0, 3.0, 7.0));
+  EXPECT_TRUE(v / 2.0 == CShapeVertex(1.0, 2.0, 4.0));
+  EXPECT_TRUE(v / CShapeVertex(2.0, 1.0, 4.0) == CShapeVertex(1.0, 4.0, 2.0));
+  EXPECT_TRUE(v * 0.5 == CShapeVertex(1.0, 2.0, 4.0));
+}
+
+TEST(Vertex, DivisionByZeroIsNotGuarded)
+{
+  EXPECT_EQ((CShapeVertex(1.0, -1.0, 0.0) / 0.0).x, std::numeric_limits<double>::infinity());
+}
+
+TEST(Vertex, OrderLooksAtXThenYAndNeverAtZ)
+{
+  EXPECT_TRUE(CShapeVertex(1.0, 9.0, 0.0) < CShapeVertex(2.0, 0.0, 0.0));
+  EXPECT_TRUE(CShapeVertex(1.0, 1.0, 0.0) < CShapeVertex(1.0, 2.0, 0.0));
+  EXPECT_FALSE(CShapeVertex(1.0, 1.0, 0.0) < CShapeVertex(1.0, 1.0, 5.0));
+  EXPECT_FALSE(CShapeVertex(1.0, 1.0, 5.0) < CShapeVertex(1.0, 1.0, 0.0));
+}
+
+TEST(Vertex, EqualityIsExact)
+{
+  EXPECT_FALSE(CShapeVertex(0.1 + 0.2, 0.0, 0.0) == CShapeVertex(0.3, 0.0, 0.0));
+  EXPECT_FALSE(CShapeVertex(0.0, 0.0, 1.0) == CShapeVertex(0.0, 0.0, 2.0));
+}
+
+double Distance(double px, double py)
+{
+  double distance = -1.0;
+  DistanceToSegment({0.0, 0.0, 0.0}, {10.0, 0.0, 0.0}, {px, py, 0.0}, distance);
+  return distance;
+}
+
+TEST(DistanceToSegment, BesideTheSegmentIsThePerpendicular) { EXPECT_EQ(Distance(4.0, 3.0), 3.0); }
+
+TEST(DistanceToSegment, APointBehindTheStartGetsNoDistance)
+{
+  EXPECT_EQ(Distance(-0.1, 0.0), -1.0);
+}
+
+TEST(DistanceToSegment, APointBeyondTheEndGetsTheNearerEnd) { EXPECT_EQ(Distance(13.0, 4.0), 5.0); }
+
+TEST(DistanceToSegment, ASegmentWithoutLengthGetsNoDistance)
+{
+  double distance = -1.0;
+  EXPECT_FALSE(DistanceToSegment({1.0, 1.0, 0.0}, {1.0, 1.0, 9.0}, {1.0, 1.0, 0.0}, distance));
+  EXPECT_EQ(distance, -1.0);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,205 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QWheelEvent>
+
+#include "qt/Shell.h"
+#include "resources/Strings.h"
+#include "support/ShellFixture.h"
+
+namespace hullwright {
+namespace {
+
+class Desk : public test::ShellFixture {
+protected:
+  Desk()
+  {
+    shell = std::make_unique<Shell>(QStringLiteral(HULLWRIGHT_SAMPLES "/workboat.xml"));
+    started = shell->App().InitInstance(*shell);
+    Window().resize(1280, 860);
+    QApplication::processEvents();
+  }
+
+  MainWindow& Window() { return *shell->Window(); }
+  DesignWidget& View() { return *Window().findChild<DesignWidget*>(); }
+
+  QAction* Action(const char* text)
+  {
+    for (QAction* action : Window().findChildren<QAction*>()) {
+      if (action->text().remove(QLatin1Char('&')) == QLatin1String(text)) return action;
+    }
+    return nullptr;
+  }
+
+  void Mouse(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held)
+  {
+    QMouseEvent event(type, at, View().mapToGlobal(at), button, held, Qt::NoModifier);
+    QApplication::sendEvent(&View(), &event);
+  }
+  void Move(QPoint at) { Mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
+  void Click(QPoint at)
+  {
+    Move(at);
+    Mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+    Mouse(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
+  }
+  void Wheel(int turn)
+  {
+    QWheelEvent event(QPointF(200, 200), View().mapToGlobal(QPointF(200, 200)), QPoint(),
+                      QPoint(0, turn), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&View(), &event);
+  }
+
+  QString PaneText(int index)
+  {
+    return Window().statusBar()->findChildren<StatusPane*>().at(index)->text();
+  }
+
+  std::unique_ptr<Shell> shell;
+  bool started = false;
+};
+
+TEST_F(Desk, StartsAndShowsTheDesign)
+{
+  ASSERT_TRUE(started);
+  const QImage picture = View().grab().toImage();
+  EXPECT_EQ(QColor(picture.pixel(2, 2)), QColor(255, 255, 224));
+  int ink = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    ink += QColor(picture.pixel(x, picture.height() / 2)).lightness() < 100 ? 1 : 0;
+  }
+  EXPECT_GT(ink, 5);
+}
+
+TEST_F(Desk, TheMenuBarHasItsMenus)
+{
+  QStringList titles;
+  for (const QAction* menu : Window().menuBar()->actions()) titles.append(menu->text());
+  EXPECT_EQ(titles,
+            (QStringList{QStringLiteral("&File"), QStringLiteral("&View"), QStringLiteral("&Edit"),
+                         QStringLiteral("Modify"), QStringLiteral("&Options"),
+                         QStringLiteral("Cursor"), QStringLiteral("&Help")}));
+}
+
+TEST_F(Desk, CommandsWithoutAHandlerAreGrey)
+{
+  ASSERT_NE(Action("Undo"), nullptr);
+  EXPECT_FALSE(Action("Undo")->isEnabled());
+  EXPECT_FALSE(Action("Redo\tCtrl+Y")->isEnabled());
+  EXPECT_TRUE(Action("Redo\tCtrl+Y")->shortcut().isEmpty());
+  EXPECT_TRUE(Action("New Design")->isEnabled());
+  EXPECT_EQ(Action("New Design")->shortcut(), QKeySequence(QStringLiteral("Ctrl+N")));
+}
+
+TEST_F(Desk, PromptsStandInTheStatusBar)
+{
+  EXPECT_EQ(Action("Draw Polyline")->statusTip(), QStringLiteral("Draw new shape"));
+  EXPECT_EQ(Action("Zoom In")->statusTip(), QStringLiteral("Cursor zooms in"));
+}
+
+TEST_F(Desk, TheSideDropDownSelectsTheSideAndBearsItsImage)
+{
+  auto* const button = Window().findChild<QToolButton*>(QStringLiteral("SideButton"));
+  ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->text(), QStringLiteral("Select\nView"));
+  QStringList entries;
+  for (const QAction* entry : button->menu()->actions()) entries.append(entry->text());
+  EXPECT_EQ(entries,
+            (QStringList{QStringLiteral("Top"), QStringLiteral("Bottom"), QStringLiteral("Front"),
+                         QStringLiteral("Rear"), QStringLiteral("Right"), QStringLiteral("Left")}));
+  const qint64 top = button->icon().cacheKey();
+  Action("Right")->trigger();
+  EXPECT_EQ(shell->App().activeView, ViewSide::Right);
+  EXPECT_NE(button->icon().cacheKey(), top);
+}
+
+TEST_F(Desk, PanesShowPositionAndUnit)
+{
+  EXPECT_EQ(PaneText(0), QStringLiteral("N/A"));
+  const int middleX = View().width() / 2;
+  const int middleY = View().height() / 2;
+  Move({middleX, middleY});
+  EXPECT_EQ(PaneText(0), QStringLiteral("X: +00.00 Y: +00.00"));
+  EXPECT_TRUE(PaneText(1).startsWith(QStringLiteral("Units: ")));
+}
+
+TEST_F(Desk, TheWheelGathersFractionsOfANotchAndTakesOneStepAMessage)
+{
+  const CViewPort& viewPort = *shell->App().viewPort;
+  Wheel(60);
+  EXPECT_EQ(viewPort.width, 200.0);
+  Wheel(60);
+  EXPECT_EQ(viewPort.width, 150.0);
+  Wheel(100);
+  Wheel(-120);
+  EXPECT_DOUBLE_EQ(viewPort.width, 200.0);
+  Wheel(480);
+  EXPECT_DOUBLE_EQ(viewPort.width, 150.0);
+}
+
+TEST_F(Desk, APolylineIsDrawnClickByClick)
+{
+  Action("Right")->trigger();
+  Action("Draw Polyline")->trigger();
+  EXPECT_TRUE(Action("Draw Polyline")->isChecked());
+  const std::size_t before =
+      FindViewGroup(shell->App().shapeGroups, ViewSide::Right)->shapes.size();
+  Click({50, 50});
+  Click({150, 50});
+  Mouse(QEvent::MouseButtonPress, {200, 200}, Qt::RightButton, Qt::RightButton);
+  EXPECT_FALSE(Action("Draw Polyline")->isChecked());
+  const CShapes& group = *FindViewGroup(shell->App().shapeGroups, ViewSide::Right);
+  ASSERT_EQ(group.shapes.size(), before + 1);
+  EXPECT_EQ(group.shapes.back()->vertices.size(), 2U);
+}
+
+TEST_F(Desk, TheRubberBandLeavesThePictureIntact)
+{
+  Action("Right")->trigger();
+  const QImage clean = View().grab().toImage();
+  Action("Draw Polyline")->trigger();
+  Click({150, 150});
+  Move({400, 150});
+  EXPECT_NE(View().grab().toImage(), clean);
+  Action("Left")->trigger();  // a whole new picture under the band
+  Action("Right")->trigger();
+  Mouse(QEvent::MouseButtonPress, {200, 200}, Qt::RightButton, Qt::RightButton);
+  EXPECT_EQ(View().grab().toImage(), clean);
+}
+
+TEST_F(Desk, TheStatusBarHidesAndItsStateSurvivesARestart)
+{
+  EXPECT_TRUE(Action("Status Bar")->isChecked());
+  Action("Status Bar")->trigger();
+  EXPECT_TRUE(Window().statusBar()->isHidden());
+  EXPECT_FALSE(Action("Status Bar")->isChecked());
+  Window().close();
+  shell = std::make_unique<Shell>(QString());
+  ASSERT_TRUE(shell->App().InitInstance(*shell));
+  EXPECT_TRUE(Window().statusBar()->isHidden());
+}
+
+TEST_F(Desk, ButtonsHaveNamesOnOneLineAndCanBeReachedByKey)
+{
+  for (const QToolButton* button : Window().findChildren<QToolButton*>()) {
+    if (button->parent() != Window().findChild<QToolBar*>() || button->text().isEmpty()) continue;
+    EXPECT_FALSE(button->accessibleName().isEmpty());
+    EXPECT_FALSE(button->accessibleName().contains(QLatin1Char('\n')));
+    EXPECT_TRUE((button->focusPolicy() & Qt::TabFocus) != 0);
+  }
+  EXPECT_EQ(View().accessibleName(), QStringLiteral("Design view"));
+}
+
+TEST_F(Desk, AWindowWithoutRoomForTheViewDoesNoHarm)
+{
+  Window().resize(200, 150);
+  QApplication::processEvents();
+  Wheel(-120);
+  EXPECT_GT(shell->App().viewPort->width, 0.0);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QThread>
+
+#include "qt/QtSettingsStore.h"
+#include "support/ShellFixture.h"
+
+namespace hullwright {
+namespace {
+
+class SettingsStore : public test::ShellFixture {};
+
+TEST_F(SettingsStore, BeforeItIsOpenItGivesTheDefaults)
+{
+  QtSettingsStore store;
+  store.WriteInteger("Grid", "Show", 0);
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
+}
+
+TEST_F(SettingsStore, KeepsIntegersInAnIniFileOfTheMakers)
+{
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  store.WriteInteger("Grid", "SpacingShowX", -100);
+  store.File()->sync();
+  EXPECT_EQ(store.ReadInteger("Grid", "SpacingShowX", 250), -100);
+  const std::string text = folder.Read("config/Quillmere/Hullwright.ini");
+  EXPECT_NE(text.find("[Grid]\nSpacingShowX=-100\n"), std::string::npos) << text;
+}
+
+TEST_F(SettingsStore, WhatIsNoIntegerReadsAsTheDefault)
+{
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere");
+  folder.Write("config/Quillmere/Hullwright.ini",
+               "[Grid]\nShow=abc\nSnap=99999999999\nSpacingShowX=1.5\n");
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
+  EXPECT_EQ(store.ReadInteger("Grid", "Snap", 1), 1);
+  EXPECT_EQ(store.ReadInteger("Grid", "SpacingShowX", 250), 250);
+}
+
+TEST_F(SettingsStore, SeesWhatAnotherProgramHasWritten)
+{
+  QtSettingsStore first;
+  first.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  first.WriteInteger("Grid", "Show", 1);
+  first.File()->sync();
+  EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
+  QThread::msleep(20);  // file times have a grain
+  folder.Write("config/Quillmere/Hullwright.ini", "[Grid]\nShow=0\n");
+  EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 0);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,115 @@
+#include "render/ShapeDrawing.h"
+
+#include <gmock/gmock.h>
+
+#include "model/ShapePoint.h"
+#include "support/SceneFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+
+class ShapeDrawing : public test::SceneFixture {
+protected:
+  ShapeDrawing() { backEnd.log.clear(); }
+};
+
+TEST_F(ShapeDrawing, APolylineWithoutAStyleIsBlackAndOnePixelWide)
+{
+  AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
+  EXPECT_THAT(backEnd.log,
+              ElementsAre("geometry round hollow 400,300 : 400,300 500,300 open width 1 "
+                          "colour 0 0 0 1"));
+}
+
+TEST_F(ShapeDrawing, APolylineTakesColourAndWidthFromItsStyle)
+{
+  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
+  line.style = std::make_unique<ShapeStyle>();
+  line.style->lineColour = 0x00FF8000;
+  line.style->lineWidth = 2.5F;
+  line.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log,
+              ElementsAre("geometry round hollow 400,300 : 400,300 400,200 open width 2.5 "
+                          "colour 0 0.5019608 1 1"));
+}
+
+TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
+{
+  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
+  line.selected = true;
+  line.Draw(&viewPort);
+  ASSERT_EQ(backEnd.log.size(), 2U);
+  EXPECT_THAT(backEnd.log[0], testing::EndsWith("width 4 colour 1 1 0 1"));
+  EXPECT_THAT(backEnd.log[1], testing::EndsWith("width 1 colour 0 0 0 1"));
+}
+
+TEST_F(ShapeDrawing, APolylineWithOneVertexOrNoneDrawsNothing)
+{
+  AddLine(1, {{0.0, 0.0, 0.0}}).Draw(&viewPort);
+  CShapePolyline().Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+TEST_F(ShapeDrawing, APolylineOutsideTheViewIsHandedOverAllTheSame)
+{
+  AddLine(1, {{500.0, 0.0, 0.0}, {600.0, 0.0, 0.0}}).Draw(&viewPort);
+  EXPECT_EQ(backEnd.log.size(), 1U);
+}
+
+TEST_F(ShapeDrawing, APolylineTurnsWithTheView)
+{
+  viewPort.SetRotation(180.0);
+  AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
+  EXPECT_THAT(backEnd.log.at(0), testing::HasSubstr(" 300,"));
+}
+
+TEST_F(ShapeDrawing, NothingIsDrawnWithoutViewPortCanvasTargetOrBrush)
+{
+  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
+  CShapePoint point;
+  line.Draw(nullptr);
+  point.Draw(nullptr);
+  backEnd.failAt = test::FailAt::Brush;
+  line.Draw(&viewPort);
+  point.Draw(&viewPort);
+  canvas.ReleaseResources();
+  line.Draw(&viewPort);
+  point.Draw(&viewPort);
+  viewPort.canvas = nullptr;
+  line.Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+TEST_F(ShapeDrawing, APointIsABlackSquareOfFivePixelsAtAnyZoom)
+{
+  CShapePoint point;
+  point.style = std::make_unique<ShapeStyle>();
+  point.style->lineColour = 0xFFFFFF;
+  point.Draw(&viewPort);
+  ShowWidth(2.0);
+  point.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1",
+                                       "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
+}
+
+TEST_F(ShapeDrawing, ASelectedPointHasAYellowFrame)
+{
+  CShapePoint point;
+  point.selected = true;
+  point.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("rect 397.5 297.5 402.5 302.5 width 6 colour 1 1 0 1",
+                                       "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
+}
+
+TEST_F(ShapeDrawing, APointOutsideTheViewIsNotDrawn)
+{
+  CShapePoint point;
+  point.position.x = 100.1;
+  point.Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "resources/Accelerators.h"
+#include "resources/Commands.h"
+#include "resources/Menus.h"
+#include "resources/Strings.h"
+#include "resources/ToolBars.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+namespace {
+
+/// The bar's menus in words: titles, entries with their ids, "-" for a separator.
+std::vector<std::pair<int, std::u16string>> Rows(std::u16string_view menu)
+{
+  std::vector<std::pair<int, std::u16string>> rows;
+  bool inside = false;
+  for (const MenuItem& item : mainMenu) {
+    if (item.row == MenuRow::Menu) inside = item.text == menu;
+    if (!inside || item.row == MenuRow::Menu || item.row == MenuRow::EndSubMenu) continue;
+    rows.emplace_back(item.id, item.row == MenuRow::Separator ? u"-" : std::u16string(item.text));
+  }
+  return rows;
+}
+
+using MenuRows = std::vector<std::pair<int, std::u16string>>;
+
+TEST(Menus, FileMenu)
+{
+  EXPECT_EQ(Rows(u"&File"), (MenuRows{{57600, u"&New Design\tCtrl+N"},
+                                      {57601, u"&Open Design...\tCtrl+O"},
+                                      {57603, u"&Save Design\tCtrl+S"},
+                                      {57604, u"Save Design &As..."},
+                                      {0, u"-"},
+                                      {32772, u"Import DXF File..."},
+                                      {0, u"-"},
+                                      {57616, u"Recent File"},
+                                      {0, u"-"},
+                                      {57665, u"E&xit"}}));
+}
+
+TEST(Menus, ModifyOptionsCursorAndHelp)
+{
+  EXPECT_EQ(Rows(u"Modify"), (MenuRows{{32776, u"Mirror Vertically"},
+                                       {32777, u"Mirror Horizontally"},
+                                       {0, u"-"},
+                                       {32779, u"Rotate Right..."},
+                                       {32778, u"Rotate Left..."},
+                                       {0, u"-"},
+                                       {32775, u"Scale..."},
+                                       {0, u"-"},
+                                       {32781, u"Move..."},
+                                       {0, u"-"},
+                                       {32780, u"Offsets..."}}));
+  EXPECT_EQ(Rows(u"&Options"), (MenuRows{{32818, u"Grid..."}, {0, u"-"}, {32819, u"&Units..."}}));
+  EXPECT_EQ(Rows(u"Cursor"), (MenuRows{{32784, u"Zoom &In"},
+                                       {32785, u"Zoom &Out"},
+                                       {0, u"-"},
+                                       {32787, u"&Move"},
+                                       {0, u"-"},
+                                       {32788, u"Draw &Polyline"}}));
+  EXPECT_EQ(Rows(u"&Edit"), (MenuRows{{57643, u"&Undo\tCtrl+Z"}, {57644, u"&Redo\tCtrl+Y"}}));
+  EXPECT_EQ(Rows(u"&Help"), (MenuRows{{57664, u"&About Sondaris..."}}));
+}
+
+TEST(Menus, ViewMenuHasTheLooks)
+{
+  EXPECT_EQ(Rows(u"&View"), (MenuRows{{59392, u"&Toolbars and Docking Windows"},
+                                      {59393, u"&Status Bar"},
+                                      {0, u"&Application Look"},
+                                      {205, u"Windows &2000"},
+                                      {206, u"Office &XP"},
+                                      {207, u"&Windows XP"},
+                                      {208, u"Office 200&3"},
+                                      {209, u"Visual Studio 200&5"},
+                                      {210, u"Visual Studio 200&8"},
+                                      {0, u"Office 200&7"},
+                                      {215, u"&Blue Style"},
+                                      {216, u"B&lack Style"},
+                                      {217, u"&Silver Style"},
+                                      {218, u"&Aqua Style"}}));
+}
+
+TEST(Menus, SideDropDown)
+{
+  std::vector<int> ids;
+  for (const MenuItem& item : viewMenu) ids.push_back(item.id);
+  EXPECT_EQ(ids, (std::vector<int>{32804, 32805, 32806, 32807, 32802, 32803}));
+}
+
+TEST(ToolBars, StandInTheirOrder)
+{
+  EXPECT_EQ(std::vector<int>(mainToolBar.begin(), mainToolBar.end()),
+            (std::vector<int>{57600, 57601, 57603, 0,     32772, 0,     32808, 0,     32784,
+                              32785, 32786, 0,     32787, 0,     57643, 57644, 0,     32775,
+                              0,     32781, 0,     32776, 32777, 0,     32778, 32779, 0,
+                              32780, 0,     32782, 32783, 0,     32788}));
+  EXPECT_EQ(std::vector<int>(smallToolBar.begin(), smallToolBar.end()),
+            (std::vector<int>{57600, 57601, 57603, 0, 57635, 57634, 57637, 0, 57607, 57664}));
+}
+
+TEST(Accelerators, RedoIsNamedInItsMenuButHasNoKey)
+{
+  for (const Accelerator& accelerator : accelerators)
+    EXPECT_NE(accelerator.command, Command::EditRedo);
+  EXPECT_EQ(accelerators.size(), 14U);
+}
+
+TEST(Commands, PromptsHaveAStatusTextAndATooltip)
+{
+  const CommandEntry* const move = FindCommand(Command::Move);
+  ASSERT_NE(move, nullptr);
+  EXPECT_EQ(StatusText(*move), u"Move design in a specified direction");
+  EXPECT_EQ(TooltipText(*move), u"Move\rDesign");
+  const CommandEntry* const grid = FindCommand(Command::Grid);
+  EXPECT_EQ(StatusText(*grid), u"");
+  EXPECT_EQ(TooltipText(*grid), u"");
+  EXPECT_EQ(FindCommand(1), nullptr);
+}
+
+TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
+{
+  for (const int command : mainToolBar) {
+    if (command == toolBarSeparator) continue;
+    const CommandEntry* const entry = FindCommand(command);
+    ASSERT_NE(entry, nullptr) << command;
+    EXPECT_FALSE(entry->icon.empty()) << command;
+    EXPECT_FALSE(TooltipText(*entry).empty()) << command;
+  }
+}
+
+TEST(ViewSides, CodesAndCommandsBelongTogether)
+{
+  EXPECT_EQ(FindViewSide(1)->command, 32804);
+  EXPECT_EQ(FindViewSide(2)->command, 32805);
+  EXPECT_EQ(FindViewSide(4)->command, 32802);
+  EXPECT_EQ(FindViewSide(8)->command, 32803);
+  EXPECT_EQ(FindViewSide(16)->command, 32806);
+  EXPECT_EQ(FindViewSide(32)->command, 32807);
+  EXPECT_EQ(FindViewSide(63), nullptr);
+  EXPECT_EQ(FindViewSideByCommand(32802)->code, 4);
+  EXPECT_EQ(FindViewSideByCommand(32808), nullptr);
+}
+
+TEST(Strings, TheLibrariesMessageHasTwoBlanks)
+{
+  EXPECT_EQ(
+      Strings::librariesFailed,
+      u"OLE initialization failed.  Make sure that the OLE libraries are the correct version.");
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "model/GridSettings.h"
+#include "platform/MainWindow.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Pointer.h"
+#include "platform/SettingsStore.h"
+
+namespace hullwright::test {
+
+class FakeSettings : public ISettingsStore {
+public:
+  std::int32_t ReadInteger(std::string_view section, std::string_view key,
+                           std::int32_t fallback) const override
+  {
+    const auto found = values.find(std::string(section).append("/").append(key));
+    return found == values.end() ? fallback : found->second;
+  }
+  void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override
+  {
+    const std::string path = std::string(section).append("/").append(key);
+    values[path] = value;
+    written.push_back(path);
+  }
+
+  std::map<std::string, std::int32_t> values;
+  std::vector<std::string> written;
+};
+
+class FakeMessages : public IMessageBoxes {
+public:
+  void ShowMessage(std::u16string_view text) override { shown.emplace_back(text); }
+  std::vector<std::u16string> shown;
+};
+
+class FakeCursor : public ICursor {
+public:
+  void SetCursor(CursorShape shape) override { shapes.push_back(shape); }
+  std::vector<CursorShape> shapes;
+};
+
+class FakeBand : public IRubberBand {
+public:
+  void InvertLine(ClientPoint from, ClientPoint to) override { lines.emplace_back(from, to); }
+  std::vector<std::pair<ClientPoint, ClientPoint>> lines;
+};
+
+/// A main window that only counts what it is told.
+class FakeMainWindow : public IMainWindow {
+public:
+  bool HasWindow() const override { return hasWindow; }
+  void Notify(int code, std::intptr_t) override { codes.push_back(code); }
+  void SetModifiedFlag(bool modified) override { flags.push_back(modified); }
+
+  bool hasWindow = true;
+  std::vector<int> codes;
+  std::vector<bool> flags;
+};
+
+}  // namespace hullwright::test

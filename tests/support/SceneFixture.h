@@ -1,0 +1,63 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "model/DesignState.h"
+#include "model/ShapePolyline.h"
+#include "render/Canvas.h"
+#include "render/ViewPort.h"
+#include "support/RecordingBackEnd.h"
+
+namespace hullwright::test {
+
+/// A design in a window of 800 by 600 whose drawing is written down. The view is 200 wide and 150
+/// high, so that 4 pixels are one world unit.
+class SceneFixture : public testing::Test {
+protected:
+  SceneFixture()
+  {
+    design.viewPort = &viewPort;
+    viewPort.canvas = &canvas;
+    canvas.Initialize(&window);
+    viewPort.screenWidth = 800.0;
+    viewPort.screenHeight = 600.0;
+    viewPort.KeepAspect();
+  }
+
+  /// Shows a stretch of the world that is `width` wide around the origin.
+  void ShowWidth(double width)
+  {
+    viewPort.left = width * -0.5;
+    viewPort.right = width * 0.5;
+    viewPort.KeepAspect();
+  }
+
+  CShapePolyline& AddLine(std::int32_t side, std::initializer_list<CShapeVertex> vertices)
+  {
+    auto line = std::make_unique<CShapePolyline>();
+    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
+    CShapePolyline& added = *line;
+    GetShapes(design.shapeGroups, side)->shapes.push_back(std::move(line));
+    return added;
+  }
+
+  CAnchor& AddAnchor(std::uint32_t id, double x, double y)
+  {
+    design.anchors->items.push_back(std::make_unique<CAnchor>());
+    CAnchor& anchor = *design.anchors->items.back();
+    anchor.id = id;
+    anchor.attachmentX = x;
+    anchor.attachmentY = y;
+    return anchor;
+  }
+
+  RecordingBackEnd backEnd;
+  RecordingWindow window;
+  CCanvas canvas{backEnd};
+  CViewPortDesigner viewPort;
+  DesignState design;
+};
+
+}  // namespace hullwright::test

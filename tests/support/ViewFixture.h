@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/ShapePolyline.h"
+#include "platform/MainWindow.h"
+#include "support/Fakes.h"
+#include "support/RecordingBackEnd.h"
+#include "view/HullwrightView.h"
+
+namespace hullwright::test {
+
+/// An application that only counts what the view asks of it.
+class FakeHost : public IViewHost {
+public:
+  std::unique_ptr<CViewPortDesigner> HandOverViewPort() override { return std::move(viewPort); }
+  GridSettings LoadGridSettings() const override { return grid; }
+  std::int32_t GetCursorTool() const override { return cursorTool; }
+  std::u16string GetUnitName() override { return unitName; }
+  void NotifyDesignChanged() override { events.emplace_back("changed"); }
+  void SetModifiedFlag(bool modified) override
+  {
+    events.emplace_back(modified ? "modified" : "clean");
+  }
+
+  std::unique_ptr<CViewPortDesigner> viewPort;
+  GridSettings grid;
+  std::int32_t cursorTool = CursorTool::None;
+  std::u16string unitName;
+  std::vector<std::string> events;
+};
+
+/// A view in a window of 800 by 600 over a design. The view is 200 wide and 150 high, so that 4
+/// pixels are one world unit and world (0, 0) is pixel (400, 300). Snapping is off.
+class ViewFixture : public testing::Test {
+protected:
+  ViewFixture()
+  {
+    GiveViewPort(design);
+    design.activeView = ViewSide::Right;  // no devices in the way
+    host.grid.snap = 0;
+    host.grid.show = 0;
+    view.OnCreate(&window);
+    view.OnSize(800, 600);
+    backEnd.log.clear();
+  }
+
+  /// Gives a design a viewport, which the next view created over it takes.
+  void GiveViewPort(DesignState& to)
+  {
+    host.viewPort = std::make_unique<CViewPortDesigner>();
+    to.viewPort = host.viewPort.get();
+  }
+
+  int Frames() const { return static_cast<int>(std::ranges::count(backEnd.log, "begin")); }
+
+  CShapePolyline& AddLine(std::initializer_list<CShapeVertex> vertices)
+  {
+    auto line = std::make_unique<CShapePolyline>();
+    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
+    CShapePolyline& added = *line;
+    GetShapes(design.shapeGroups, design.activeView)->shapes.push_back(std::move(line));
+    return added;
+  }
+
+  RecordingBackEnd backEnd;
+  RecordingWindow window;
+  FakeMessages messages;
+  FakeCursor cursor;
+  FakeBand band;
+  FakeHost host;
+  DesignState design;
+  CHullwrightView view{design, host, {backEnd, messages, cursor, band}};
+};
+
+}  // namespace hullwright::test
