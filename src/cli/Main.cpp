@@ -45,18 +45,23 @@ int UsageError(const std::string& problem)
   return exitUsage;
 }
 
+/// Reads a size from 1 to 20000, the whole text; 0 for anything else.
+int ParseLength(std::string_view text)
+{
+  constexpr int largest = 20000;
+  const bool digits = text.find_first_not_of("0123456789") == std::string_view::npos;
+  const int length = digits ? ParseInt32(text, 10) : 0;
+  return length <= largest ? length : 0;
+}
+
 /// Reads "1600x1000"; false for anything else and for sizes that no picture has.
 bool ParseSize(std::string_view text, Options& options)
 {
-  constexpr int largest = 20000;
   const std::size_t cross = text.find('x');
   if (cross == std::string_view::npos) return false;
-  const std::string_view height = text.substr(cross + 1);
-  if (text.find_first_not_of("0123456789x") != std::string_view::npos) return false;
-  options.width = ParseInt32(text.substr(0, cross), 10);
-  options.height = ParseInt32(height, 10);
-  return options.width > 0 && options.width <= largest && options.height > 0 &&
-         options.height <= largest;
+  options.width = ParseLength(text.substr(0, cross));
+  options.height = ParseLength(text.substr(cross + 1));
+  return options.width > 0 && options.height > 0;
 }
 
 std::string OutputFor(const Options& options, const ViewSideEntry& side)

@@ -15,6 +15,8 @@ namespace {
 void StartToolkit()
 {
   if (QCoreApplication::instance() != nullptr) return;
+  // The toolkit's remarks on a machine without a desktop are nothing to the user of a command line.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   static int count = 3;
   static char program[] = "hullwright-cli";
   static char option[] = "-platform";

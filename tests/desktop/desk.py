@@ -1,0 +1,118 @@
+"""A desk for the real program: a display of its own, a window manager, the mouse and the keys."""
+
+import os
+import pathlib
+import signal
+import struct
+import subprocess
+import tempfile
+import time
+
+PAPER = (255, 255, 224)  # the design view's background
+PATIENCE = 60            # seconds that anything may take on a slow machine
+
+
+class Desk:
+    """Runs one program in a real window under Xvfb. Settings and home lie in a folder of its own."""
+
+    def __init__(self, size="1400x1000"):
+        self._folder = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self._folder.name)
+        self._processes = []
+        self.environment = dict(os.environ, HOME=str(self.folder), QT_QPA_PLATFORM="xcb",
+                                XDG_CONFIG_HOME=str(self.folder / "config"),
+                                XDG_RUNTIME_DIR=str(self.folder))
+        read, write = os.pipe()
+        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+                    pass_fds=[write])
+        os.close(write)
+        with os.fdopen(read) as answer:
+            self.environment["DISPLAY"] = ":" + answer.readline().strip()
+        self._start(["openbox", "--sm-disable"])
+        self.window = None
+        self.program = None
+
+    def close(self):
+        """Ends everything that was started."""
+        for process in reversed(self._processes):
+            if process.poll() is None:
+                process.send_signal(signal.SIGTERM)
+            process.wait(PATIENCE)
+        self._folder.cleanup()
+
+    def _start(self, command, **options):
+        process = subprocess.Popen(command, env=self.environment, stderr=subprocess.DEVNULL,
+                                   stdout=subprocess.DEVNULL, **options)
+        self._processes.append(process)
+        return process
+
+    def start(self, program, *arguments):
+        """Starts the program and waits for its window."""
+        self.program = self._start([program, *map(str, arguments)])
+        found = self._xdotool("search", "--sync", "--onlyvisible", "--name", "Hullwright")
+        self.window = found.split()[-1]
+        self._xdotool("windowactivate", "--sync", self.window)
+        self.wait_until(lambda: self.paper() is not None)
+        self.settle()
+
+    def _xdotool(self, *words):
+        return subprocess.run(["xdotool", *map(str, words)], env=self.environment, check=True,
+                              capture_output=True, text=True, timeout=PATIENCE).stdout
+
+    def wait_until(self, happened):
+        """Waits until something has happened; fails when it takes too long."""
+        deadline = time.monotonic() + PATIENCE
+        while not happened():
+            if time.monotonic() > deadline:
+                raise AssertionError("nothing happened in time")
+            time.sleep(0.1)
+
+    def settle(self):
+        """Waits until the screen no longer changes."""
+        before = None
+        now = self.screen()
+        deadline = time.monotonic() + PATIENCE
+        while before != now and time.monotonic() < deadline:
+            time.sleep(0.3)
+            before, now = now, self.screen()
+
+    def screen(self):
+        """The screen as (bytes a pixel, rows of pixels in the order blue, green, red)."""
+        dump = subprocess.run(["xwd", "-root", "-silent"], env=self.environment, check=True,
+                              capture_output=True, timeout=PATIENCE).stdout
+        header = struct.unpack(">25I", dump[:100])
+        width, height, depth, stride = header[4], header[5], header[11] // 8, header[12]
+        start = header[0] + header[19] * 12
+        return depth, [dump[start + y * stride:][:width * depth] for y in range(height)]
+
+    def paper(self):
+        """The design view on the screen as (left, top, width, height); None if it can't be seen."""
+        depth, rows = self.screen()
+        ink = bytes((PAPER[2], PAPER[1], PAPER[0]))
+        found = [(y, row) for y, row in enumerate(rows) if row.count(ink) > 50]
+        if not found:
+            return None
+        lefts = [row.find(ink) // depth for _, row in found]
+        rights = [row.rfind(ink) // depth for _, row in found]
+        return (min(lefts), found[0][0], max(rights) - min(lefts) + 1, found[-1][0] - found[0][0] + 1)
+
+    def keys(self, *names):
+        """Presses keys one after the other."""
+        for name in names:
+            self._xdotool("key", "--clearmodifiers", name)
+            time.sleep(0.15)
+
+    def move(self, x, y):
+        """Moves the mouse to a position of the screen."""
+        self._xdotool("mousemove", "--sync", x, y)
+        time.sleep(0.15)
+
+    def click(self, x, y, button=1):
+        """Moves there and clicks."""
+        self.move(x, y)
+        self._xdotool("click", button)
+        time.sleep(0.15)
+
+    def wait_for_end(self):
+        """Waits until the program has ended by itself; its exit status."""
+        return self.program.wait(PATIENCE)

@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QImage>
+#include <cstdlib>
+
+#include "base/Text.h"
+#include "cli/HeadlessEditor.h"
+#include "paint/PaintBackEnd.h"
+#include "paint/PaintSurface.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+namespace {
+
+constexpr int width = 640;
+constexpr int height = 400;
+constexpr int channelTolerance = 8;
+constexpr double pixelTolerance = 0.001;  ///< share of the pixels that may differ by more
+
+bool Accepting() { return std::getenv("HULLWRIGHT_ACCEPT_PICTURES") != nullptr; }
+
+bool Differs(QRgb a, QRgb b)
+{
+  return std::abs(qRed(a) - qRed(b)) > channelTolerance ||
+         std::abs(qGreen(a) - qGreen(b)) > channelTolerance ||
+         std::abs(qBlue(a) - qBlue(b)) > channelTolerance;
+}
+
+/// Number of pixels that differ; marks them red in `marked`.
+int CountDifferences(const QImage& golden, const QImage& picture, QImage& marked)
+{
+  int count = 0;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      if (!Differs(golden.pixel(x, y), picture.pixel(x, y))) continue;
+      marked.setPixelColor(x, y, Qt::red);
+      ++count;
+    }
+  }
+  return count;
+}
+
+struct Case {
+  std::string sample;
+  ViewSideEntry side;
+};
+
+std::string NameOf(const Case& what) { return what.sample + "-" + std::string(what.side.name); }
+
+std::vector<Case> AllCases()
+{
+  std::vector<Case> cases;
+  for (const char* sample : {"workboat", "catamaran", "dredger"}) {
+    for (const ViewSideEntry& side : viewSides) cases.push_back({sample, side});
+  }
+  return cases;
+}
+
+class Golden : public testing::TestWithParam<Case> {};
+
+TEST_P(Golden, ThePictureIsAsAccepted)
+{
+  PaintSurface surface(width, height);
+  PaintBackEnd drawing;
+  HeadlessEditor editor(drawing, surface);
+  ASSERT_TRUE(editor.Open(WideFromUtf8(HULLWRIGHT_SAMPLES "/" + GetParam().sample + ".xml")));
+  editor.ShowSide(GetParam().side.code, width, height);
+  const QImage picture = surface.Picture();
+
+  const QString name = QString::fromStdString(NameOf(GetParam()));
+  const QString path = QStringLiteral(HULLWRIGHT_TEST_DATA "/picture/golden/%1.png").arg(name);
+  if (Accepting()) {
+    ASSERT_TRUE(picture.save(path));
+    return;
+  }
+  const QImage golden = QImage(path).convertToFormat(QImage::Format_RGB32);
+  ASSERT_EQ(golden.size(), picture.size()) << path.toStdString();
+  QImage marked = golden.copy();
+  const int differences = CountDifferences(golden, picture, marked);
+  if (differences <= pixelTolerance * width * height) return;
+  const QString left = QStringLiteral(HULLWRIGHT_PICTURES "/%1").arg(name);
+  picture.save(left + QStringLiteral(".out.png"));
+  marked.save(left + QStringLiteral(".diff.png"));
+  FAIL() << differences << " pixels differ; see " << left.toStdString() << ".{out,diff}.png";
+}
+
+INSTANTIATE_TEST_SUITE_P(SamplesAndSides, Golden, testing::ValuesIn(AllCases()),
+                         [](const auto& test) {
+                           return test.param.sample + "_" + std::string(test.param.side.name);
+                         });
+
+/// A surface with one target, for pictures of single strokes.
+class Stroke : public testing::Test {
+protected:
+  Stroke()
+  {
+    target->BeginDraw();
+    target->Clear({1.0F, 1.0F, 1.0F, 1.0F});
+  }
+
+  const QImage& Finish()
+  {
+    EXPECT_EQ(target->EndDraw(), 0);
+    return surface.Picture();
+  }
+
+  PaintSurface surface{60, 40};
+  PaintBackEnd backEnd;
+  std::unique_ptr<IDrawFactory> factory = backEnd.CreateDrawFactory().object;
+  std::unique_ptr<IRenderTarget> target =
+      factory->CreateWindowTarget(surface, 60, 40, 96.0F, 96.0F).object;
+  std::unique_ptr<IBrush> black = target->CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});
+};
+
+TEST_F(Stroke, AOnePixelLineOnPixelCentresCoversThemWhole)
+{
+  target->DrawLine({10.0F, 20.5F}, {50.0F, 20.5F}, *black, 1.0F);
+  const QImage& picture = Finish();
+  EXPECT_EQ(qGray(picture.pixel(30, 20)), 0);
+  EXPECT_GE(qGray(picture.pixel(30, 19)), 254);
+  EXPECT_GE(qGray(picture.pixel(30, 21)), 254);
+}
+
+TEST_F(Stroke, ASmallRectangleHasItsCorners)
+{
+  target->DrawRectangle({20.5F, 20.5F, 22.5F, 22.5F}, *black, 1.0F);
+  const QImage& picture = Finish();
+  EXPECT_EQ(qGray(picture.pixel(20, 20)), 0);
+  EXPECT_EQ(qGray(picture.pixel(22, 22)), 0);
+  EXPECT_GE(qGray(picture.pixel(21, 21)), 250);
+}
+
+TEST_F(Stroke, WidthsThatCoverNothingDrawNothing)
+{
+  for (const float strokeWidth : {0.0F, -1.0F, std::nanf("")}) {
+    target->DrawLine({0.0F, 20.0F}, {60.0F, 20.0F}, *black, strokeWidth);
+    target->DrawRectangle({5.0F, 5.0F, 30.0F, 30.0F}, *black, strokeWidth);
+    target->DrawEllipse({30.0F, 20.0F}, 10.0F, 10.0F, *black, strokeWidth);
+  }
+  const QImage& picture = Finish();
+  EXPECT_EQ(qGray(picture.pixel(30, 20)), 255);
+  EXPECT_EQ(qGray(picture.pixel(5, 20)), 255);
+}
+
+TEST_F(Stroke, CoordinatesThatAreNoNumbersOrHugeDoNoHarm)
+{
+  const float nan = std::nanf("");
+  const float huge = 1e38F;
+  const auto format = backEnd.CreateWriteFactory().object->CreateTextFormat(u"Arial", 14.0F).object;
+  target->DrawLine({nan, 1.0F}, {2.0F, nan}, *black, 1.0F);
+  target->DrawRectangle({nan, nan, nan, nan}, *black, 1.0F);
+  target->DrawEllipse({huge, -huge}, 15.0F, 15.0F, *black, 2.0F);
+  target->FillRectangle({-huge, nan, huge, nan}, *black);
+  target->DrawText(u"text", *format, {nan, 0.0F, nan, 1.0F}, *black);
+  target->SetRotation(nan, {0.0F, 0.0F});
+  target->DrawLine({-huge, 20.5F}, {huge, 20.5F}, *black, 1.0F);
+  const QImage& picture = Finish();
+  EXPECT_EQ(qGray(picture.pixel(30, 20)), 0);
+  EXPECT_EQ(qGray(picture.pixel(30, 10)), 255);
+}
+
+TEST_F(Stroke, AFontWithoutASizeIsRefused)
+{
+  const auto factoryOfText = backEnd.CreateWriteFactory().object;
+  for (const float size : {0.0F, -1.0F, std::nanf("")}) {
+    EXPECT_TRUE(Failed(factoryOfText->CreateTextFormat(u"Arial", size).code));
+  }
+}
+
+TEST_F(Stroke, TextIsMeasuredAsWrappedAtAThousandPixels)
+{
+  const auto text = backEnd.CreateWriteFactory().object;
+  const auto format = text->CreateTextFormat(u"Consolas", 20.0F).object;
+  const auto one = text->MeasureText(*format, u"W", 1000.0F, 100.0F);
+  const auto many = text->MeasureText(*format, std::u16string(200, u'W'), 1000.0F, 100.0F);
+  EXPECT_LE(many->width, 1000.0F);
+  EXPECT_GT(many->height, one->height * 2.0F);
+}
+
+TEST_F(Stroke, ManyLongSegmentsAreDrawnInTime)
+{
+  std::vector<PixelPoint> points;
+  for (int i = 0; i < 20000; ++i) {
+    points.push_back({static_cast<float>((i * 37) % 61), static_cast<float>((i * 53) % 41)});
+  }
+  const auto path = factory->CreatePathGeometry().object;
+  {
+    const auto sink = path->Open().object;
+    sink->ForceRoundLineJoins();
+    sink->BeginFigure(points.front(), FigureFill::Hollow);
+    sink->AddLines(points);
+    sink->EndFigure(FigureEnd::Open);
+    sink->Close();
+  }
+  // As one stroked path this would take minutes.
+  target->DrawGeometry(*path, *black, 2.0F);
+  EXPECT_EQ(qGray(Finish().pixel(30, 20)), 0);
+}
+
+TEST(Surface, AZeroSizeIsNoLostDevice)
+{
+  PaintSurface surface(0, 10);
+  PaintBackEnd backEnd;
+  const auto factory = backEnd.CreateDrawFactory().object;
+  const auto target = factory->CreateWindowTarget(surface, 0, 10, 96.0F, 96.0F).object;
+  target->BeginDraw();
+  target->Clear({});
+  EXPECT_EQ(target->EndDraw(), 0);
+}
+
+TEST(Surface, APictureThereIsNoMemoryForIsALostDevice)
+{
+  PaintSurface surface(10, 10);
+  PaintBackEnd backEnd;
+  const auto factory = backEnd.CreateDrawFactory().object;
+  const auto target =
+      factory->CreateWindowTarget(surface, 100000000, 100000000, 96.0F, 96.0F).object;
+  target->BeginDraw();
+  EXPECT_EQ(target->EndDraw(), recreateTarget);
+  EXPECT_EQ(backEnd.SystemMessage(recreateTarget), "There is not enough memory for the picture.");
+}
+
+}  // namespace
+}  // namespace hullwright
