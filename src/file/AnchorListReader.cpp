@@ -13,7 +13,7 @@ CAnchorListReader::CAnchorListReader(CAnchors& anchors, IMessageBoxes& messages)
 
 CAnchorListReader::~CAnchorListReader() = default;
 
-void CAnchorListReader::StartElement(std::u16string_view name, AttributeMap)
+void CAnchorListReader::StartElement(std::u16string_view name, const AttributeMap&)
 {
   element_ = name;
   if (name == u"anchor") current_ = std::make_unique<CAnchor>();

@@ -15,7 +15,7 @@ public:
   CAnchorListReader(CAnchors& anchors, IMessageBoxes& messages);
   ~CAnchorListReader() override;
 
-  void StartElement(std::u16string_view name, AttributeMap attributes) override;
+  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
   void EndElement(std::u16string_view name) override;
   void Characters(std::u16string_view text) override;
 

@@ -42,7 +42,7 @@ const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16str
 
 CFileSax::~CFileSax() = default;
 
-void CFileSax::StartElement(std::u16string_view, AttributeMap) {}
+void CFileSax::StartElement(std::u16string_view, const AttributeMap&) {}
 
 void CFileSax::EndElement(std::u16string_view) {}
 

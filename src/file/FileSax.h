@@ -28,7 +28,7 @@ public:
   virtual ~CFileSax();
 
   // Callbacks of reading; the base forms do nothing.
-  virtual void StartElement(std::u16string_view name, AttributeMap attributes);
+  virtual void StartElement(std::u16string_view name, const AttributeMap& attributes);
   virtual void EndElement(std::u16string_view name);
   virtual void Characters(std::u16string_view text);
   virtual void Error(std::u16string_view message, int line, int column, int code);

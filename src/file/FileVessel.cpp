@@ -93,7 +93,7 @@ void CFileVessel::WriteAnchors()
   CloseElement(u"anchors");
 }
 
-void CFileVessel::StartElement(std::u16string_view name, AttributeMap attributes)
+void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& attributes)
 {
   element_ = name;
   if (name == u"shapes") {

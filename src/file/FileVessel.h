@@ -23,7 +23,7 @@ public:
   /// Composes the document and writes it. 0 on success, -1 as `Flush`.
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
 
-  void StartElement(std::u16string_view name, AttributeMap attributes) override;
+  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
   void EndElement(std::u16string_view name) override;
   void Characters(std::u16string_view text) override;
 

@@ -1,12 +1,11 @@
 #include "file/SaxHandlers.h"
 
-#include <utility>
-
 namespace hullwright {
 
-void CFileSaxContentHandler::StartElement(std::u16string_view localName, AttributeMap attributes)
+void CFileSaxContentHandler::StartElement(std::u16string_view localName,
+                                          const AttributeMap& attributes)
 {
-  if (owner_ != nullptr) owner_->StartElement(localName, std::move(attributes));
+  if (owner_ != nullptr) owner_->StartElement(localName, attributes);
 }
 
 void CFileSaxContentHandler::EndElement(std::u16string_view localName)

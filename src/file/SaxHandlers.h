@@ -12,7 +12,7 @@ public:
   explicit CFileSaxContentHandler(CFileSax* owner) : owner_(owner) {}
 
   /// `localName` bears no prefix; of attributes with the same local name the last one stands.
-  void StartElement(std::u16string_view localName, AttributeMap attributes);
+  void StartElement(std::u16string_view localName, const AttributeMap& attributes);
   void EndElement(std::u16string_view localName);
 
   /// Drops a chunk that is empty, all blanks (tabs don't count), or starts with LF or CR, whatever

@@ -77,7 +77,7 @@ private:
     for (; *attributes != nullptr; attributes += 2) {
       map[LocalName(attributes[0])] = WideFromUtf8(attributes[1]);
     }
-    content_.StartElement(LocalName(name), std::move(map));
+    content_.StartElement(LocalName(name), map);
   }
 
   void EndElement(const XML_Char* name)

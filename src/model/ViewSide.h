@@ -3,10 +3,9 @@
 #include <array>
 #include <cstdint>
 
-namespace hullwright {
-
 /// Codes of the vessel's sides. They are compared by equality, never as a bit mask.
-namespace ViewSide {
+namespace hullwright::ViewSide {
+
 inline constexpr std::int32_t Top = 1;
 inline constexpr std::int32_t Bottom = 2;
 inline constexpr std::int32_t Right = 4;
@@ -17,6 +16,5 @@ inline constexpr std::int32_t All = 63;  ///< a group that answers for every sid
 
 /// The six sides that can be in view, in the order of their codes.
 inline constexpr std::array<std::int32_t, 6> each = {Top, Bottom, Right, Left, Front, Rear};
-}  // namespace ViewSide
 
-}  // namespace hullwright
+}  // namespace hullwright::ViewSide

@@ -66,11 +66,6 @@ private:
 
 }  // namespace
 
-void PaintBrush::SetColour(const Colour& value)
-{
-  colour = QColor::fromRgbF(value.red, value.green, value.blue, value.alpha);
-}
-
 PaintTextFormat::PaintTextFormat(std::u16string_view family, float size)
 {
   // The metric twins of the named fonts come first, so that a picture looks alike everywhere.
@@ -100,7 +95,7 @@ void PaintTarget::BeginDraw()
 
 void PaintTarget::Clear(const Colour& colour)
 {
-  if (painter_.isActive()) surface_.Picture().fill(PaintBrush(colour).colour);
+  if (painter_.isActive()) surface_.Picture().fill(ToQt(colour));
 }
 
 ResultCode PaintTarget::EndDraw()
@@ -220,9 +215,10 @@ void PaintTarget::DrawText(std::u16string_view text, const ITextFormat& format,
   const std::array<double, 4> bounds = {box.left(), box.top(), box.right(), box.bottom()};
   if (!painter_.isActive() || !std::ranges::all_of(bounds, isFinite)) return;
   const auto& textFormat = static_cast<const PaintTextFormat&>(format);
-  const int flags = Qt::TextDontClip |
-                    (textFormat.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop) |
-                    (textFormat.wrapped ? Qt::TextWordWrap : 0);
+  const Qt::Alignment alignment =
+      textFormat.centred ? Qt::Alignment(Qt::AlignCenter) : Qt::AlignLeft | Qt::AlignTop;
+  const int wrapping = textFormat.wrapped ? Qt::TextWordWrap : 0;
+  const int flags = static_cast<int>(alignment) | wrapping | static_cast<int>(Qt::TextDontClip);
   const double scale = textFormat.scale;
   const QRectF scaled(box.topLeft() / scale, box.size() / scale);
   const QString shown = ToQt(text);

@@ -12,10 +12,16 @@
 
 namespace hullwright {
 
+/// A colour of the interface in the toolkit's terms.
+inline QColor ToQt(const Colour& colour)
+{
+  return QColor::fromRgbF(colour.red, colour.green, colour.blue, colour.alpha);
+}
+
 class PaintBrush : public IBrush {
 public:
-  explicit PaintBrush(const Colour& value) { SetColour(value); }
-  void SetColour(const Colour& value) override;
+  explicit PaintBrush(const Colour& value) : colour(ToQt(value)) {}
+  void SetColour(const Colour& value) override { colour = ToQt(value); }
   QColor colour;
 };
 

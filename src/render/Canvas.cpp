@@ -63,7 +63,8 @@ void CCanvas::ReleaseResources()
   imagingFactory.reset();
 }
 
-void CCanvas::DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points, float width)
+void CCanvas::DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points,
+                           float width) const
 {
   if (points.data() == nullptr || points.size() < 2) return;
   const auto path = CreateGeometry();
@@ -78,21 +79,21 @@ void CCanvas::DrawPolyline(const IBrush& brush, std::span<const PixelPoint> poin
   renderTarget->DrawGeometry(*path, brush, width);
 }
 
-std::unique_ptr<ITextFormat> CCanvas::CreateFormat(std::u16string_view family, float size)
+std::unique_ptr<ITextFormat> CCanvas::CreateFormat(std::u16string_view family, float size) const
 {
   if (!writeFactory) return nullptr;
   auto format = writeFactory->CreateTextFormat(family, size);
   return Failed(format.code) ? nullptr : std::move(format.object);
 }
 
-std::unique_ptr<IPathGeometry> CCanvas::CreateGeometry()
+std::unique_ptr<IPathGeometry> CCanvas::CreateGeometry() const
 {
   if (!renderTarget || !factory) return nullptr;
   auto path = factory->CreatePathGeometry();
   return Failed(path.code) ? nullptr : std::move(path.object);
 }
 
-PixelSize CCanvas::MeasureText(const ITextFormat& format, std::u16string_view text)
+PixelSize CCanvas::MeasureText(const ITextFormat& format, std::u16string_view text) const
 {
   constexpr float maxWidth = 1000.0F;
   constexpr float maxHeight = 100.0F;

@@ -28,16 +28,16 @@ public:
   void ReleaseResources();
 
   /// Draws an open line with round joins. Fewer than two points draw nothing.
-  void DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points, float width);
+  void DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points, float width) const;
 
   /// A format of normal weight, style and stretch; `size` in pixels. Null on failure.
-  std::unique_ptr<ITextFormat> CreateFormat(std::u16string_view family, float size);
+  std::unique_ptr<ITextFormat> CreateFormat(std::u16string_view family, float size) const;
 
   /// An empty path; null on failure.
-  std::unique_ptr<IPathGeometry> CreateGeometry();
+  std::unique_ptr<IPathGeometry> CreateGeometry() const;
 
   /// Size of a text, measured as wrapped at 1000.0; zero on failure.
-  PixelSize MeasureText(const ITextFormat& format, std::u16string_view text);
+  PixelSize MeasureText(const ITextFormat& format, std::u16string_view text) const;
 
   /// Keeps the text of a failed frame, and makes the target anew when the device was lost. Success
   /// does nothing.

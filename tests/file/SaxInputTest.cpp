@@ -18,7 +18,7 @@ class Listener : public CFileSax {
 public:
   using CFileSax::CFileSax;
 
-  void StartElement(std::u16string_view name, AttributeMap attributes) override
+  void StartElement(std::u16string_view name, const AttributeMap& attributes) override
   {
     std::string line = "<" + Utf8FromWide(name);
     for (const auto& [key, value] : attributes) {
