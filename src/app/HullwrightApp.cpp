@@ -1,6 +1,7 @@
 #include "app/HullwrightApp.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "app/GridSettingsStore.h"
@@ -12,10 +13,13 @@
 namespace hullwright {
 
 CHullwrightApp::CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages,
+                               ILibraryLoader& libraries,
                                std::function<std::u16string()> commonDataFolder)
     : ownViewPort_(std::make_unique<CViewPortDesigner>()),
       settings_(settings),
       messages_(messages),
+      libraries_(libraries),
+      commonDataFolder_(commonDataFolder),
       traceLog_(std::move(commonDataFolder))
 {
   viewPort = ownViewPort_.get();
@@ -93,10 +97,29 @@ GridSettings CHullwrightApp::LoadGridSettings() const
   return hullwright::LoadGridSettings(settings_);
 }
 
+void CHullwrightApp::LoadUnits()
+{
+  std::vector<UnitRecord> read =
+      ReadUnits(libraries_, messages_, GetDatabasePath(commonDataFolder_()));
+  std::ranges::move(read, std::back_inserter(unitTable));
+}
+
+const UnitRecord* CHullwrightApp::FindUnit()
+{
+  if (unitTable.empty()) LoadUnits();
+  const auto found = std::ranges::find(unitTable, unitCode, &UnitRecord::numId);
+  return found == unitTable.end() ? nullptr : &*found;
+}
+
+void CHullwrightApp::GetUnitLabel(std::u16string& label)
+{
+  if (const UnitRecord* const unit = FindUnit()) label = unit->strUnitShort;
+}
+
 std::u16string CHullwrightApp::GetUnitName()
 {
-  const auto found = std::ranges::find(unitTable, unitCode, &UnitRecord::numId);
-  return found == unitTable.end() ? std::u16string() : found->strUnit;
+  const UnitRecord* const unit = FindUnit();
+  return unit == nullptr ? std::u16string() : unit->strUnit;
 }
 
 void CHullwrightApp::NotifyDesignChanged()

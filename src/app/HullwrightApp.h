@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/TraceLog.h"
+#include "app/UnitTable.h"
 #include "model/DesignState.h"
 #include "platform/Framework.h"
 #include "platform/MainWindow.h"
@@ -20,19 +21,12 @@ namespace hullwright {
 
 class CMainFrame;
 
-/// One row of the table of length units.
-struct UnitRecord {
-  std::u16string strUnitShort;
-  std::u16string strUnit;
-  std::int32_t numId = 0;  ///< EPSG code
-};
-
 /// The one application object: it holds the design itself, carries out the design-wide commands and
 /// answers what the view asks. It is made before frame, document and view, and must outlive them.
 class CHullwrightApp : public DesignState, public IViewHost {
 public:
   /// `commonDataFolder` tells the folder of the survey package's common data.
-  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages,
+  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages, ILibraryLoader& libraries,
                  std::function<std::u16string()> commonDataFolder);
   ~CHullwrightApp() override;
 
@@ -45,6 +39,12 @@ public:
 
   /// Brings a side into view: stores the code, shows it on the toolbar's drop-down, repaints.
   void SetViewSide(std::int32_t code);
+
+  /// Fills the unit table from the database; what is there stays where that fails.
+  void LoadUnits();
+
+  /// Sets `label` to the short name of the design's unit; an unknown unit leaves it as it is.
+  void GetUnitLabel(std::u16string& label);
 
   /// Carries out a design command; false for an id that is none.
   bool OnCommand(int id);
@@ -62,13 +62,17 @@ public:
 
   CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
   std::int32_t cursorTool = CursorTool::None;
-  std::vector<UnitRecord> unitTable;  ///< names of the units, empty until they are loaded
+  std::vector<UnitRecord> unitTable;  ///< names of the units, loaded at their first use
   std::int32_t paneStyleFlag = 1;     ///< read once, when the frame builds its panes
 
 private:
   std::unique_ptr<CViewPortDesigner> ownViewPort_;  ///< until a view takes it over
+  const UnitRecord* FindUnit();
+
   ISettingsStore& settings_;
   IMessageBoxes& messages_;
+  ILibraryLoader& libraries_;
+  std::function<std::u16string()> commonDataFolder_;
   CTraceLog traceLog_;
 };
 

@@ -33,7 +33,7 @@ struct HeadlessEditor::NoPointer : ICursor, IRubberBand {
 HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface)
     : widgets_(std::make_unique<NoWidgets>()),
       pointer_(std::make_unique<NoPointer>()),
-      app_(settings_, messages_, FindCommonDataFolder),
+      app_(settings_, messages_, libraries_, FindCommonDataFolder),
       frame_(app_, *widgets_),
       document_(app_, frame_, messages_),
       view_(app_, app_, {drawing, messages_, *pointer_, *pointer_})

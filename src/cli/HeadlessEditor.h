@@ -7,6 +7,7 @@
 
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
+#include "app/SharedLibraries.h"
 #include "file/HullwrightDoc.h"
 #include "view/HullwrightView.h"
 
@@ -52,6 +53,7 @@ private:
 
   MemorySettings settings_;
   KeptMessages messages_;
+  SharedLibraries libraries_;
   std::unique_ptr<NoWidgets> widgets_;
   std::unique_ptr<NoPointer> pointer_;
   CHullwrightApp app_;

@@ -32,6 +32,10 @@ public:
   /// Exact equality of all three coordinates, without tolerance.
   virtual bool operator==(const CShapeVertex& v) const;
 
+  /// Takes all three coordinates from one unit to another. False, with nothing changed, at the
+  /// origin and when the units are the same.
+  bool ConvertUnits(std::int32_t fromCode, std::int32_t toCode);
+
   // Carried state: copied where an operation says so, otherwise written as 0 and read by nothing.
   std::uint8_t flag = 0;
   std::int32_t tagA = 0;

@@ -12,7 +12,7 @@
 namespace hullwright {
 
 Shell::Shell(QString file)
-    : file_(std::move(file)), app_(settings_, messages_, FindCommonDataFolder)
+    : file_(std::move(file)), app_(settings_, messages_, libraries_, FindCommonDataFolder)
 {
 }
 

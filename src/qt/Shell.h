@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/HullwrightApp.h"
+#include "app/SharedLibraries.h"
 #include "platform/Framework.h"
 #include "qt/MainWindow.h"
 #include "qt/QtMessageBoxes.h"
@@ -35,6 +36,7 @@ private:
   int recentFiles_ = 0;  ///< length of the list of recent files
   QtSettingsStore settings_;
   QtMessageBoxes messages_;
+  SharedLibraries libraries_;
   CHullwrightApp app_;
   std::unique_ptr<MainWindow> window_;
 };

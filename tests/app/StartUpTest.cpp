@@ -82,11 +82,16 @@ TEST_F(StartUp, ExitReleasesTheLibrariesAndSavesNoSettings)
   EXPECT_TRUE(settings.written.empty());
 }
 
-TEST(Application, BeginsWithItsDefaults)
-{
+class Application : public testing::Test {
+protected:
   test::FakeSettings settings;
   test::FakeMessages messages;
-  const CHullwrightApp app(settings, messages, [] { return std::u16string(); });
+  SharedLibraries libraries;
+  CHullwrightApp app{settings, messages, libraries, [] { return std::u16string(); }};
+};
+
+TEST_F(Application, BeginsWithItsDefaults)
+{
   EXPECT_EQ(app.cursorTool, 0);
   EXPECT_EQ(app.paneStyleFlag, 1);
   EXPECT_TRUE(app.unitTable.empty());
@@ -94,29 +99,12 @@ TEST(Application, BeginsWithItsDefaults)
   EXPECT_EQ(app.viewPort->left, -100.0);
 }
 
-TEST(Application, BeforeTheFrameExistsASideIsOnlyStored)
+TEST_F(Application, BeforeTheFrameExistsASideIsOnlyStored)
 {
-  test::FakeSettings settings;
-  test::FakeMessages messages;
-  CHullwrightApp app(settings, messages, [] { return std::u16string(); });
   app.SetViewSide(ViewSide::Left);
   app.NotifyDesignChanged();
   app.SetModifiedFlag(true);
   EXPECT_EQ(app.activeView, ViewSide::Left);
-}
-
-TEST(Application, NamesTheUnitOfTheDesign)
-{
-  test::FakeSettings settings;
-  test::FakeMessages messages;
-  CHullwrightApp app(settings, messages, [] { return std::u16string(); });
-  EXPECT_EQ(app.GetUnitName(), u"");
-  app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
-  EXPECT_EQ(app.GetUnitName(), u"metre");
-  app.unitCode = 9002;
-  EXPECT_EQ(app.GetUnitName(), u"foot");
-  app.unitCode = 1;
-  EXPECT_EQ(app.GetUnitName(), u"");
 }
 
 }  // namespace

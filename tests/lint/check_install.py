@@ -9,6 +9,7 @@ import tempfile
 EXPECTED = (
     "bin/hullwright",
     "bin/hullwright-cli",
+    "share/Sondaris/Database/geo.db",
     "share/applications/hullwright.desktop",
     "share/icons/hicolor/scalable/apps/hullwright.svg",
     "share/mime/packages/hullwright.xml",

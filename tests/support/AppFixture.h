@@ -8,9 +8,11 @@
 
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
+#include "app/SharedLibraries.h"
 #include "file/HullwrightDoc.h"
 #include "support/Fakes.h"
 #include "support/RecordingBackEnd.h"
+#include "support/TempFolder.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright::test {
@@ -52,7 +54,9 @@ protected:
   FakeWidgets widgets;
   RecordingBackEnd backEnd;
   RecordingWindow window;
-  CHullwrightApp app{settings, messages, [] { return std::u16string(u"/nowhere"); }};
+  SharedLibraries libraries;
+  TempFolder dataFolder;  ///< the common data folder, empty
+  CHullwrightApp app{settings, messages, libraries, [this] { return dataFolder.File(""); }};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
   CHullwrightView view{app, app, {backEnd, messages, cursor, band}};

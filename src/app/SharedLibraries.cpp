@@ -1,0 +1,16 @@
+#include "app/SharedLibraries.h"
+
+#include <dlfcn.h>
+
+namespace hullwright {
+
+void* SharedLibraries::Load(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
+
+void* SharedLibraries::Resolve(void* library, const char* entryPoint)
+{
+  return dlsym(library, entryPoint);
+}
+
+void SharedLibraries::Free(void* library) { dlclose(library); }
+
+}  // namespace hullwright

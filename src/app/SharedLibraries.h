@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/LibraryLoader.h"
+
+namespace hullwright {
+
+/// The system's own loader.
+class SharedLibraries : public ILibraryLoader {
+public:
+  void* Load(const char* name) override;
+  void* Resolve(void* library, const char* entryPoint) override;
+  void Free(void* library) override;
+};
+
+}  // namespace hullwright

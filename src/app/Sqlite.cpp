@@ -1,0 +1,154 @@
+#include "app/Sqlite.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* libraryName = "libsqlite3.so.0";
+
+constexpr std::string_view query = "SELECT * FROM tblUnits WHERE numDimension = 1 ORDER BY numId";
+static_assert(query.size() == 60);
+
+// Codes of the library's interface.
+constexpr int resultOk = 0;
+constexpr int resultRow = 100;
+constexpr int typeNull = 5;
+
+bool SameName(std::string_view a, std::string_view b)
+{
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  return std::ranges::equal(a, b, {}, lower, lower);
+}
+
+}  // namespace
+
+CSQLite::~CSQLite()
+{
+  Close();
+  Unload();
+}
+
+int CSQLite::Load()
+{
+  if (library_ != nullptr) return -1;
+  library_ = loader_.Load(libraryName);
+  if (library_ == nullptr) {
+    messages_.ShowMessage(u"Failed to load sqlite3.dll");
+    return -1;
+  }
+  if (!Bind()) return -1;
+  return call_.initialize() == resultOk ? 0 : -1;
+}
+
+bool CSQLite::Bind()
+{
+  const auto bind = [this](auto& entryPoint, const char* name) {
+    entryPoint = reinterpret_cast<std::remove_reference_t<decltype(entryPoint)>>(
+        loader_.Resolve(library_, name));
+    return entryPoint != nullptr;
+  };
+  // Bound with the others and never called: a library without them is not the one that is meant.
+  void (*unused)() = nullptr;
+  return bind(call_.initialize, "sqlite3_initialize") && bind(call_.shutdown, "sqlite3_shutdown") &&
+         bind(call_.open, "sqlite3_open") && bind(call_.close, "sqlite3_close") &&
+         bind(call_.prepare, "sqlite3_prepare_v2") && bind(call_.step, "sqlite3_step") &&
+         bind(call_.finalize, "sqlite3_finalize") &&
+         bind(call_.columnCount, "sqlite3_column_count") &&
+         bind(call_.columnName, "sqlite3_column_name") &&
+         bind(call_.columnType, "sqlite3_column_type") &&
+         bind(call_.columnText, "sqlite3_column_text") &&
+         bind(call_.columnInt, "sqlite3_column_int") && bind(unused, "sqlite3_column_double") &&
+         bind(call_.errorMessage, "sqlite3_errmsg") && bind(call_.errorCode, "sqlite3_errcode") &&
+         bind(unused, "sqlite3_exec") && bind(unused, "sqlite3_last_insert_rowid");
+}
+
+int CSQLite::Open(std::u16string_view path)
+{
+  if (library_ == nullptr || call_.open == nullptr) return -1;
+  if (call_.open(Utf8FromWide(path).c_str(), &database_) == resultOk && database_ != nullptr) {
+    return 0;
+  }
+  if (database_ != nullptr) KeepError();
+  Close();
+  return -1;
+}
+
+int CSQLite::SelectUnits()
+{
+  if (database_ == nullptr) return -1;
+  const int prepared =
+      call_.prepare(database_, query.data(), static_cast<int>(query.size()), &statement_, nullptr);
+  if (prepared != resultOk || statement_ == nullptr) {
+    KeepError();
+    return -1;
+  }
+  if (call_.step(statement_) == resultRow) return 1;
+  FinishQuery();
+  return -1;
+}
+
+void CSQLite::KeepError()
+{
+  lastError = u"SQLite ERROR #" + WideFromAscii(std::to_string(call_.errorCode(database_))) +
+              u" (" + WideFromUtf8(call_.errorMessage(database_)) + u")";
+}
+
+std::optional<int> CSQLite::FindColumn(std::string_view column) const
+{
+  if (statement_ == nullptr) return std::nullopt;
+  const int count = call_.columnCount(statement_);
+  for (int i = 0; i < count; ++i) {
+    const char* const name = call_.columnName(statement_, i);
+    if (name == nullptr || !SameName(name, column)) continue;
+    return call_.columnType(statement_, i) == typeNull ? std::nullopt : std::optional(i);
+  }
+  return std::nullopt;
+}
+
+void CSQLite::GetInt(std::string_view column, std::int32_t& value) const
+{
+  if (const auto index = FindColumn(column)) value = call_.columnInt(statement_, *index);
+}
+
+void CSQLite::GetText(std::string_view column, std::u16string& value) const
+{
+  const auto index = FindColumn(column);
+  if (!index) return;
+  const unsigned char* const text = call_.columnText(statement_, *index);
+  if (text != nullptr) value = WideFromUtf8(reinterpret_cast<const char*>(text));
+}
+
+bool CSQLite::Next()
+{
+  if (statement_ == nullptr) return false;
+  if (call_.step(statement_) == resultRow) return true;
+  FinishQuery();
+  return false;
+}
+
+void CSQLite::FinishQuery()
+{
+  if (statement_ != nullptr) call_.finalize(statement_);
+  statement_ = nullptr;
+}
+
+void CSQLite::Close()
+{
+  FinishQuery();
+  if (database_ != nullptr) call_.close(database_);
+  database_ = nullptr;
+}
+
+void CSQLite::Unload()
+{
+  if (library_ == nullptr) return;
+  if (call_.shutdown != nullptr) call_.shutdown();
+  loader_.Free(library_);
+  library_ = nullptr;
+  call_ = {};
+}
+
+}  // namespace hullwright

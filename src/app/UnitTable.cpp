@@ -1,0 +1,34 @@
+#include "app/UnitTable.h"
+
+#include "app/Sqlite.h"
+
+namespace hullwright {
+
+std::u16string GetDatabasePath(std::u16string_view commonDataFolder)
+{
+  std::u16string path(commonDataFolder);
+  for (const std::u16string_view component : {u"Sondaris", u"Database", u"geo.db"}) {
+    if (!path.empty() && !path.ends_with(u'/')) path += u'/';
+    path += component;
+  }
+  return path;
+}
+
+std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
+                                  std::u16string_view databasePath)
+{
+  std::vector<UnitRecord> units;
+  CSQLite database(loader, messages);
+  if (database.Load() != 0 || database.Open(databasePath) != 0) return units;
+  if (database.SelectUnits() != 1) return units;
+  UnitRecord row;
+  do {
+    database.GetInt("numId", row.numId);
+    database.GetText("strUnit", row.strUnit);
+    database.GetText("strUnitShort", row.strUnitShort);
+    units.push_back(row);
+  } while (database.Next());
+  return units;
+}
+
+}  // namespace hullwright
