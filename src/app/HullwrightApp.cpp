@@ -4,23 +4,18 @@
 #include <iterator>
 #include <utility>
 
+#include "app/Dialogs.h"
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
-#include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
 
-CHullwrightApp::CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages,
-                               ILibraryLoader& libraries,
-                               std::function<std::u16string()> commonDataFolder)
+CHullwrightApp::CHullwrightApp(AppPorts ports)
     : ownViewPort_(std::make_unique<CViewPortDesigner>()),
-      settings_(settings),
-      messages_(messages),
-      libraries_(libraries),
-      commonDataFolder_(commonDataFolder),
-      traceLog_(std::move(commonDataFolder))
+      ports_(std::move(ports)),
+      traceLog_(ports_.commonDataFolder)
 {
   viewPort = ownViewPort_.get();
 }
@@ -38,7 +33,7 @@ bool CHullwrightApp::InitInstance(IFramework& framework)
   constexpr int recentFiles = 4;
   framework.InitialiseControls();
   if (!framework.InitialiseLibraries()) {
-    messages_.ShowMessage(Strings::librariesFailed);
+    ports_.messages.ShowMessage(Strings::librariesFailed);
     return false;
   }
   framework.OpenUserStore(Strings::maker, recentFiles);
@@ -67,20 +62,6 @@ void CHullwrightApp::SetViewSide(std::int32_t code)
   mainFrame->Notify(Notification::RepaintDesign, 0);
 }
 
-bool CHullwrightApp::OnCommand(int id)
-{
-  if (const ViewSideEntry* const side = FindViewSideByCommand(id)) {
-    SetViewSide(side->code);
-    return true;
-  }
-  switch (id) {
-    case Command::CursorZoomIn: cursorTool = CursorTool::ZoomIn; return true;
-    case Command::CursorZoomOut: cursorTool = CursorTool::ZoomOut; return true;
-    case Command::CursorMove: cursorTool = CursorTool::Move; return true;
-    default: return false;
-  }
-}
-
 void CHullwrightApp::Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
                            std::u16string_view text) const
 {
@@ -94,13 +75,18 @@ std::unique_ptr<CViewPortDesigner> CHullwrightApp::HandOverViewPort()
 
 GridSettings CHullwrightApp::LoadGridSettings() const
 {
-  return hullwright::LoadGridSettings(settings_);
+  return hullwright::LoadGridSettings(ports_.settings);
+}
+
+std::vector<UnitRecord> CHullwrightApp::ReadUnits()
+{
+  return hullwright::ReadUnits(ports_.libraries, ports_.messages,
+                               GetDatabasePath(ports_.commonDataFolder()));
 }
 
 void CHullwrightApp::LoadUnits()
 {
-  std::vector<UnitRecord> read =
-      ReadUnits(libraries_, messages_, GetDatabasePath(commonDataFolder_()));
+  std::vector<UnitRecord> read = ReadUnits();
   std::ranges::move(read, std::back_inserter(unitTable));
 }
 
@@ -120,6 +106,23 @@ std::u16string CHullwrightApp::GetUnitName()
 {
   const UnitRecord* const unit = FindUnit();
   return unit == nullptr ? std::u16string() : unit->strUnit;
+}
+
+void CHullwrightApp::SaveGridSettings(const GridSettings& grid)
+{
+  hullwright::SaveGridSettings(ports_.settings, grid);
+}
+
+bool CHullwrightApp::EditVertex(CShapeVertex& vertex)
+{
+  CDialogVertex dialog(*this, &vertex);
+  return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;
+}
+
+bool CHullwrightApp::EditOffsets(std::int32_t focus)
+{
+  CDialogOffsets dialog(*this, focus);
+  return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;
 }
 
 void CHullwrightApp::NotifyDesignChanged()

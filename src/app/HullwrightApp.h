@@ -10,7 +10,9 @@
 #include "app/TraceLog.h"
 #include "app/UnitTable.h"
 #include "model/DesignState.h"
+#include "platform/Dialogs.h"
 #include "platform/Framework.h"
+#include "platform/LibraryLoader.h"
 #include "platform/MainWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
@@ -21,13 +23,20 @@ namespace hullwright {
 
 class CMainFrame;
 
+/// What the application asks of the platform.
+struct AppPorts {
+  ISettingsStore& settings;
+  IMessageBoxes& messages;
+  ILibraryLoader& libraries;
+  IDialogRunner& dialogs;
+  std::function<std::u16string()> commonDataFolder;  ///< of the survey package
+};
+
 /// The one application object: it holds the design itself, carries out the design-wide commands and
 /// answers what the view asks. It is made before frame, document and view, and must outlive them.
 class CHullwrightApp : public DesignState, public IViewHost {
 public:
-  /// `commonDataFolder` tells the folder of the survey package's common data.
-  CHullwrightApp(ISettingsStore& settings, IMessageBoxes& messages, ILibraryLoader& libraries,
-                 std::function<std::u16string()> commonDataFolder);
+  explicit CHullwrightApp(AppPorts ports);
   ~CHullwrightApp() override;
 
   /// Start-up to the first selected side, which is always the top. False ends the process; only a
@@ -49,11 +58,31 @@ public:
   /// Carries out a design command; false for an id that is none.
   bool OnCommand(int id);
 
+  /// Whether the id is a design command.
+  static bool IsCommand(int id);
+
+  /// Turns the polylines of the side in view, making the group if need be; shapes of other kinds
+  /// stay as they are. An angle of 0.0 turns nothing.
+  void RotatePolylines(double angleDegrees);
+
+  /// Takes the shapes of the side in view, the antenna's and the transducer's offset from one unit
+  /// to another, if the user wants to. Without shapes there, or between equal units, nobody is
+  /// asked.
+  void ConvertDesign(std::int32_t fromCode, std::int32_t toCode);
+
+  /// The units of length that the database has now.
+  std::vector<UnitRecord> ReadUnits();
+
+  void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
+  void SaveGridSettings(const GridSettings& grid);
+
   /// Adds a record to the log of a category.
   void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
              std::u16string_view text) const;
 
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override;
+  bool EditVertex(CShapeVertex& vertex) override;
+  bool EditOffsets(std::int32_t focus) override;
   GridSettings LoadGridSettings() const override;
   std::int32_t GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override;
@@ -69,10 +98,28 @@ private:
   std::unique_ptr<CViewPortDesigner> ownViewPort_;  ///< until a view takes it over
   const UnitRecord* FindUnit();
 
-  ISettingsStore& settings_;
-  IMessageBoxes& messages_;
-  ILibraryLoader& libraries_;
-  std::function<std::u16string()> commonDataFolder_;
+  struct CommandRow;
+  static const CommandRow* FindCommandRow(int id);
+
+  // Design commands (DesignCommands.cpp)
+  void Scale(double fx, double fy, double fz);
+  void MirrorVertically();
+  void MirrorHorizontally();
+  void ScaleDesign();
+  void MoveDesign();
+  void RotateRight();
+  void RotateLeft();
+  void RotateDesign(bool clockwise);
+  void ModifyOffsets();
+  void SwitchUnits();
+  void EditGrid();
+  void ToggleGrid();
+  void ToggleSnap();
+  void ShowAbout();
+  void Repaint();
+  void TellAll();
+
+  AppPorts ports_;
   CTraceLog traceLog_;
 };
 

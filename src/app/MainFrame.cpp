@@ -3,7 +3,6 @@
 #include "app/HullwrightApp.h"
 #include "file/HullwrightDoc.h"
 #include "resources/CommandIds.h"
-#include "resources/ViewSides.h"
 
 namespace hullwright {
 
@@ -45,12 +44,14 @@ CommandState CMainFrame::QueryCommand(int id) const
     return CommandState{true, app_.cursorTool == value, true};
   };
   switch (id) {
+    case Command::ToggleGrid: return {true, app_.LoadGridSettings().show != 0, true};
+    case Command::ToggleSnap: return {true, app_.LoadGridSettings().snap != 0, true};
     case Command::CursorZoomIn: return tool(CursorTool::ZoomIn);
     case Command::CursorZoomOut: return tool(CursorTool::ZoomOut);
     case Command::CursorMove: return tool(CursorTool::Move);
     case Command::ShowAll: return {true};
     case Command::DrawPolyline: return {true, view != nullptr && view->drawing, true};
-    default: return {FindViewSideByCommand(id) != nullptr};
+    default: return {CHullwrightApp::IsCommand(id)};
   }
 }
 

@@ -25,18 +25,24 @@ struct HeadlessEditor::NoWidgets : IFrameWidgets {
   void InvalidateToolBar() override {}
 };
 
-struct HeadlessEditor::NoPointer : ICursor, IRubberBand {
+struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
+  void Show(std::span<const PopupEntry>, ClientPoint) override {}
   void SetCursor(CursorShape) override {}
   void InvertLine(ClientPoint, ClientPoint) override {}
+};
+
+struct HeadlessEditor::NoDialogs : IDialogRunner {
+  DialogEnd Run(IDialog&) override { return DialogEnd::Cancel; }
 };
 
 HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface)
     : widgets_(std::make_unique<NoWidgets>()),
       pointer_(std::make_unique<NoPointer>()),
-      app_(settings_, messages_, libraries_, FindCommonDataFolder),
+      dialogs_(std::make_unique<NoDialogs>()),
+      app_({settings_, messages_, libraries_, *dialogs_, FindCommonDataFolder}),
       frame_(app_, *widgets_),
       document_(app_, frame_, messages_),
-      view_(app_, app_, {drawing, messages_, *pointer_, *pointer_})
+      view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})
 {
   frame_.document = &document_;
   frame_.view = &view_;

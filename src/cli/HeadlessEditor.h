@@ -28,6 +28,7 @@ private:
 class KeptMessages : public IMessageBoxes {
 public:
   void ShowMessage(std::u16string_view text) override { last = text; }
+  bool AskYesNo(std::u16string_view) override { return false; }
   std::u16string last;
 };
 
@@ -48,6 +49,7 @@ public:
 private:
   struct NoWidgets;
   struct NoPointer;
+  struct NoDialogs;
 
   void FitSide();
 
@@ -56,6 +58,7 @@ private:
   SharedLibraries libraries_;
   std::unique_ptr<NoWidgets> widgets_;
   std::unique_ptr<NoPointer> pointer_;
+  std::unique_ptr<NoDialogs> dialogs_;
   CHullwrightApp app_;
   CMainFrame frame_;
   CHullwrightDoc document_;

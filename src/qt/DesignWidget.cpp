@@ -1,11 +1,15 @@
 #include "qt/DesignWidget.h"
 
+#include <QAction>
 #include <QContextMenuEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
 #include <cmath>
 #include <utility>
+
+#include "qt/QtText.h"
 
 namespace hullwright {
 namespace {
@@ -45,6 +49,25 @@ void DesignWidget::InvertLine(ClientPoint from, ClientPoint to)
 {
   // The band is laid over the picture at the next paint, never drawn into it.
   if (!(from == to)) update();
+}
+
+void DesignWidget::Show(std::span<const PopupEntry> entries, ClientPoint at)
+{
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const PopupEntry& entry : entries) {
+    if (entry.id == 0) {
+      menu->addSeparator();
+      continue;
+    }
+    QAction* const action = menu->addAction(ToQString(entry.text));
+    if (iconOf) action->setIcon(iconOf(entry.id));
+    connect(action, &QAction::triggered, this, [this, id = entry.id] {
+      if (view_ != nullptr) view_->OnMenuCommand(id);
+      Q_EMIT ViewChanged();
+    });
+  }
+  menu->popup(mapToGlobal(QPoint(at.x, at.y)));
 }
 
 void DesignWidget::paintEvent(QPaintEvent*)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
+#include <functional>
 
 #include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
@@ -13,7 +15,7 @@ namespace hullwright {
 
 /// The widget of the design view: shows the picture that the view paints, and hands the mouse to
 /// the view. Positions are client pixels.
-class DesignWidget : public QWidget, public ICursor, public IRubberBand {
+class DesignWidget : public QWidget, public ICursor, public IRubberBand, public IPopupMenu {
   Q_OBJECT
 
 public:
@@ -27,6 +29,10 @@ public:
 
   void SetCursor(CursorShape shape) override;
   void InvertLine(ClientPoint from, ClientPoint to) override;
+  void Show(std::span<const PopupEntry> entries, ClientPoint at) override;
+
+  /// Gives the entries of context menus their images.
+  std::function<QIcon(int)> iconOf;
 
 Q_SIGNALS:
   /// A mouse event has run through the view, which may have changed what panes and commands show.

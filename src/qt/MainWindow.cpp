@@ -50,7 +50,7 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       frame_(app, *this),
       document_(app, frame_, messages),
       design_(new DesignWidget(this)),
-      view_(app, app, {design_->Drawing(), messages, *design_, *design_}),
+      view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
       documents_(this, document_, settings, messages, recentFiles),
       actions_(new Actions(this, [this](int command) { Run(command); }))
 {
@@ -72,6 +72,7 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
     UpdateCommands();
     UpdateTitle();
   });
+  design_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
   design_->Attach(view_);
   UpdateCommands();
   UpdateTitle();

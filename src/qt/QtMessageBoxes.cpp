@@ -15,4 +15,13 @@ void QtMessageBoxes::ShowMessage(std::u16string_view text)
   box.exec();
 }
 
+bool QtMessageBoxes::AskYesNo(std::u16string_view question)
+{
+  QMessageBox box(QMessageBox::Question, QString::fromLatin1(Strings::program), ToQString(question),
+                  QMessageBox::Yes | QMessageBox::No, parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
 }  // namespace hullwright

@@ -11,6 +11,7 @@ namespace hullwright {
 class QtMessageBoxes : public IMessageBoxes {
 public:
   void ShowMessage(std::u16string_view text) override;
+  bool AskYesNo(std::u16string_view question) override;
   void SetParent(QWidget* parent) { parent_ = parent; }
 
 private:

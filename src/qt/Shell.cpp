@@ -12,7 +12,8 @@
 namespace hullwright {
 
 Shell::Shell(QString file)
-    : file_(std::move(file)), app_(settings_, messages_, libraries_, FindCommonDataFolder)
+    : file_(std::move(file)),
+      app_({settings_, messages_, libraries_, dialogs_, FindCommonDataFolder})
 {
 }
 
@@ -34,6 +35,7 @@ void Shell::OpenUserStore(const char* maker, int recentFiles)
 bool Shell::CreateDocumentTemplate()
 {
   window_ = std::make_unique<MainWindow>(app_, settings_, messages_, recentFiles_);
+  dialogs_.SetParent(window_.get());
   return true;
 }
 

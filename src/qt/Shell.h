@@ -7,6 +7,7 @@
 #include "app/SharedLibraries.h"
 #include "platform/Framework.h"
 #include "qt/MainWindow.h"
+#include "qt/QtDialogRunner.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtSettingsStore.h"
 
@@ -37,6 +38,7 @@ private:
   QtSettingsStore settings_;
   QtMessageBoxes messages_;
   SharedLibraries libraries_;
+  QtDialogRunner dialogs_;
   CHullwrightApp app_;
   std::unique_ptr<MainWindow> window_;
 };

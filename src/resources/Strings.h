@@ -19,6 +19,11 @@ inline constexpr std::u16string_view ready = u"Ready";
 inline constexpr std::u16string_view paneEmpty = u"N/A";
 inline constexpr std::u16string_view untitled = u"Untitled";
 
+/// Told when the units dialog is to be left without a choice.
+inline constexpr std::u16string_view selectUnit = u"Please select an unit from the list first !";
+inline constexpr std::u16string_view convertUnits =
+    u"The unit setting has changed. Do you want to convert all coordinates to the new units ?";
+
 // The document template.
 inline constexpr std::u16string_view fileFilter = u"Hullwright Files(*.xml)";
 inline constexpr std::u16string_view fileExtension = u".xml";

@@ -61,15 +61,18 @@ void CHullwrightView::OnLButtonDown(ClientPoint point)
 void CHullwrightView::OnLButtonUp(ClientPoint point)
 {
   if (dragging) EndDrag(point);
-  dragging = false;
-  hitKind = HitKind::None;
-  dragVertex = {};
+  ClearPick();
 }
 
 void CHullwrightView::OnRButtonDown(ClientPoint point)
 {
-  HitVertex(point);
-  if (drawing) FinishPolyline();
+  const CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
+  const bool hit = HitVertex(point);
+  if (drawing) {
+    FinishPolyline();
+  } else if (group != nullptr) {
+    OfferMenu(point, hit);
+  }
 }
 
 void CHullwrightView::OnMouseMove(bool leftButton, ClientPoint point)

@@ -9,6 +9,7 @@
 #include "platform/Drawing.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pointer.h"
+#include "platform/PopupMenu.h"
 #include "render/Canvas.h"
 #include "render/ViewPort.h"
 #include "view/PickedItem.h"
@@ -22,6 +23,7 @@ struct ViewPorts {
   IMessageBoxes& messages;
   ICursor& cursor;
   IRubberBand& rubberBand;
+  IPopupMenu& popupMenu;
 };
 
 /// The view of the design: mouse and wheel come in, the picture goes out on the canvas. It is idle,
@@ -57,6 +59,9 @@ public:
   /// The view's own commands; any other id does nothing.
   void OnCommand(int id);
 
+  /// A command of the context menu; any other id does nothing.
+  void OnMenuCommand(int id);
+
   /// Text of the units pane.
   std::u16string UnitsPaneText();
 
@@ -77,6 +82,7 @@ public:
   std::int32_t hitKind = HitKind::None;
   ClientPoint cursorPoint;                      ///< free end of the rubber band
   ClientPoint lastPoint;                        ///< fixed end of the rubber band
+  ClientPoint menuPoint;                        ///< where the last context menu was opened
   std::unique_ptr<CViewPortDesigner> viewPort;  ///< null until the window exists
   std::unique_ptr<CShapePolyline> newShape;     ///< the polyline under construction
   std::u16string statusText;                    ///< text of the coordinates pane
@@ -84,9 +90,18 @@ public:
 private:
   // Picking and dragging (VertexPicking.cpp)
   bool HitVertex(ClientPoint point);
+  void ClearPick();
   void DragTo(ClientPoint point);
   void EndDrag(ClientPoint point);
   WorldPoint SnappedWorld(ClientPoint point) const;
+
+  // Context menu (ContextMenu.cpp)
+  void OfferMenu(ClientPoint point, bool hit);
+  void ZoomByMenu(int id);
+  void EditItem(ClientPoint point);
+  void AddVertex(ClientPoint point);
+  void AddAnchor(ClientPoint point);
+  void RemoveHit();
 
   // Polyline tool (PolylineTool.cpp)
   void BeginPolyline();

@@ -15,6 +15,13 @@ bool CHullwrightView::HitVertex(ClientPoint point)
   return true;
 }
 
+void CHullwrightView::ClearPick()
+{
+  dragging = false;
+  hitKind = HitKind::None;
+  dragVertex = {};
+}
+
 void CHullwrightView::DragTo(ClientPoint point)
 {
   if (hitKind == HitKind::None || dragVertex.index() == 0) return;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/GridSettings.h"
+#include "model/ShapeVertex.h"
 #include "render/ViewPort.h"
 
 namespace hullwright {
@@ -34,6 +35,12 @@ public:
 
   /// Long name of the design's unit; empty when it is not known.
   virtual std::u16string GetUnitName() = 0;
+
+  /// Lets the user edit a vertex, which the dialog writes; false when it was cancelled.
+  virtual bool EditVertex(CShapeVertex& vertex) = 0;
+
+  /// Lets the user edit the offsets, beginning with the one of a kind of pick.
+  virtual bool EditOffsets(std::int32_t focus) = 0;
 
   /// Repaint, then tree, through the main window.
   virtual void NotifyDesignChanged() = 0;

@@ -87,7 +87,8 @@ protected:
   test::FakeSettings settings;
   test::FakeMessages messages;
   SharedLibraries libraries;
-  CHullwrightApp app{settings, messages, libraries, [] { return std::u16string(); }};
+  test::ScriptedDialogs dialogs;
+  CHullwrightApp app{{settings, messages, libraries, dialogs, [] { return std::u16string(); }}};
 };
 
 TEST_F(Application, BeginsWithItsDefaults)

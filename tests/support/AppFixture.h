@@ -12,6 +12,7 @@
 #include "file/HullwrightDoc.h"
 #include "support/Fakes.h"
 #include "support/RecordingBackEnd.h"
+#include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 #include "view/HullwrightView.h"
 
@@ -51,15 +52,18 @@ protected:
   FakeMessages messages;
   FakeCursor cursor;
   FakeBand band;
+  FakePopup popup;
+  ScriptedDialogs dialogs;
   FakeWidgets widgets;
   RecordingBackEnd backEnd;
   RecordingWindow window;
   SharedLibraries libraries;
   TempFolder dataFolder;  ///< the common data folder, empty
-  CHullwrightApp app{settings, messages, libraries, [this] { return dataFolder.File(""); }};
+  CHullwrightApp app{
+      {settings, messages, libraries, dialogs, [this] { return dataFolder.File(""); }}};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
-  CHullwrightView view{app, app, {backEnd, messages, cursor, band}};
+  CHullwrightView view{app, app, {backEnd, messages, cursor, band, popup}};
 };
 
 }  // namespace hullwright::test

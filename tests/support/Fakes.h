@@ -9,6 +9,7 @@
 #include "platform/MainWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pointer.h"
+#include "platform/PopupMenu.h"
 #include "platform/SettingsStore.h"
 
 namespace hullwright::test {
@@ -35,7 +36,15 @@ public:
 class FakeMessages : public IMessageBoxes {
 public:
   void ShowMessage(std::u16string_view text) override { shown.emplace_back(text); }
+  bool AskYesNo(std::u16string_view question) override
+  {
+    asked.emplace_back(question);
+    return answer;
+  }
+
   std::vector<std::u16string> shown;
+  std::vector<std::u16string> asked;
+  bool answer = false;
 };
 
 class FakeCursor : public ICursor {
@@ -48,6 +57,19 @@ class FakeBand : public IRubberBand {
 public:
   void InvertLine(ClientPoint from, ClientPoint to) override { lines.emplace_back(from, to); }
   std::vector<std::pair<ClientPoint, ClientPoint>> lines;
+};
+
+/// Keeps the menus that were offered.
+class FakePopup : public IPopupMenu {
+public:
+  void Show(std::span<const PopupEntry> entries, ClientPoint at) override
+  {
+    offered.clear();
+    for (const PopupEntry& entry : entries) offered.emplace_back(entry.id, entry.text);
+    place = at;
+  }
+  std::vector<std::pair<int, std::u16string>> offered;
+  ClientPoint place;
 };
 
 /// A main window that only counts what it is told.

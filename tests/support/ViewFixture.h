@@ -22,6 +22,18 @@ public:
   GridSettings LoadGridSettings() const override { return grid; }
   std::int32_t GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override { return unitName; }
+  bool EditVertex(CShapeVertex& vertex) override
+  {
+    events.emplace_back("edit vertex");
+    edited = vertex;
+    if (accept) vertex = typed;
+    return accept;
+  }
+  bool EditOffsets(std::int32_t focus) override
+  {
+    events.push_back("edit offsets " + std::to_string(focus));
+    return accept;
+  }
   void NotifyDesignChanged() override { events.emplace_back("changed"); }
   void SetModifiedFlag(bool modified) override
   {
@@ -33,6 +45,9 @@ public:
   std::int32_t cursorTool = CursorTool::None;
   std::u16string unitName;
   std::vector<std::string> events;
+  CShapeVertex edited;  ///< what the dialog showed
+  CShapeVertex typed;   ///< what is typed into it
+  bool accept = false;  ///< how it ends
 };
 
 /// A view in a window of 800 by 600 over a design. The view is 200 wide and 150 high, so that 4
@@ -73,9 +88,10 @@ protected:
   FakeMessages messages;
   FakeCursor cursor;
   FakeBand band;
+  FakePopup popup;
   FakeHost host;
   DesignState design;
-  CHullwrightView view{design, host, {backEnd, messages, cursor, band}};
+  CHullwrightView view{design, host, {backEnd, messages, cursor, band, popup}};
 };
 
 }  // namespace hullwright::test

@@ -13,7 +13,7 @@ class View : public test::ViewFixture {};
 
 TEST_F(View, BeginsIdle)
 {
-  const CHullwrightView fresh(design, host, {backEnd, messages, cursor, band});
+  const CHullwrightView fresh(design, host, {backEnd, messages, cursor, band, popup});
   EXPECT_FALSE(fresh.dragging);
   EXPECT_FALSE(fresh.drawing);
   EXPECT_EQ(fresh.hitKind, 0);
@@ -35,7 +35,7 @@ TEST_F(View, ACanvasThatFailsIsToldAndTheViewGoesOn)
 {
   DesignState other;
   GiveViewPort(other);
-  CHullwrightView blind(other, host, {backEnd, messages, cursor, band});
+  CHullwrightView blind(other, host, {backEnd, messages, cursor, band, popup});
   blind.OnCreate(nullptr);
   EXPECT_THAT(messages.shown,
               ElementsAre(u"Failed to initialize Canvas, hWnd == nullptr or window is invalid!"));
@@ -49,7 +49,7 @@ TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
 {
   DesignState other;
   host.cursorTool = CursorTool::ZoomIn;
-  CHullwrightView blind(other, host, {backEnd, messages, cursor, band});
+  CHullwrightView blind(other, host, {backEnd, messages, cursor, band, popup});
   blind.OnCreate(&window);
   blind.OnSize(800, 600);
   blind.OnMouseMove(false, {1, 1});
@@ -65,7 +65,7 @@ TEST_F(View, ItsEndDestroysTheViewPort)
   DesignState other;
   GiveViewPort(other);
   {
-    CHullwrightView shortLived(other, host, {backEnd, messages, cursor, band});
+    CHullwrightView shortLived(other, host, {backEnd, messages, cursor, band, popup});
     shortLived.OnCreate(&window);
   }
   EXPECT_EQ(other.viewPort, nullptr);

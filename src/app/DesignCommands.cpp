@@ -1,0 +1,196 @@
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "app/Dialogs.h"
+#include "app/HullwrightApp.h"
+#include "app/MainFrame.h"
+#include "resources/CommandIds.h"
+#include "resources/Strings.h"
+#include "resources/ViewSides.h"
+
+// The design commands of the application object. Each acts on the side in view, works about the
+// world origin and leaves offsets and anchors alone unless it is theirs.
+namespace hullwright {
+
+struct CHullwrightApp::CommandRow {
+  int id;
+  void (CHullwrightApp::*run)();
+};
+
+const CHullwrightApp::CommandRow* CHullwrightApp::FindCommandRow(int id)
+{
+  static constexpr auto rows = std::to_array<CommandRow>({
+      {Command::MirrorVertically, &CHullwrightApp::MirrorVertically},
+      {Command::MirrorHorizontally, &CHullwrightApp::MirrorHorizontally},
+      {Command::Scale, &CHullwrightApp::ScaleDesign},
+      {Command::Move, &CHullwrightApp::MoveDesign},
+      {Command::RotateRight, &CHullwrightApp::RotateRight},
+      {Command::RotateLeft, &CHullwrightApp::RotateLeft},
+      {Command::Offsets, &CHullwrightApp::ModifyOffsets},
+      {Command::Grid, &CHullwrightApp::EditGrid},
+      {Command::Units, &CHullwrightApp::SwitchUnits},
+      {Command::ToggleGrid, &CHullwrightApp::ToggleGrid},
+      {Command::ToggleSnap, &CHullwrightApp::ToggleSnap},
+      {Command::About, &CHullwrightApp::ShowAbout},
+  });
+  const auto* const found = std::ranges::find(rows, id, &CommandRow::id);
+  return found == rows.end() ? nullptr : found;
+}
+
+namespace {
+
+/// The tool that a cursor command selects; none for any other command.
+std::int32_t ToolOf(int command)
+{
+  switch (command) {
+    case Command::CursorZoomIn: return CursorTool::ZoomIn;
+    case Command::CursorZoomOut: return CursorTool::ZoomOut;
+    case Command::CursorMove: return CursorTool::Move;
+    default: return CursorTool::None;
+  }
+}
+
+}  // namespace
+
+bool CHullwrightApp::IsCommand(int id)
+{
+  return FindCommandRow(id) != nullptr || FindViewSideByCommand(id) != nullptr ||
+         ToolOf(id) != CursorTool::None;
+}
+
+bool CHullwrightApp::OnCommand(int id)
+{
+  if (const ViewSideEntry* const side = FindViewSideByCommand(id)) {
+    SetViewSide(side->code);
+  } else if (const std::int32_t tool = ToolOf(id); tool != CursorTool::None) {
+    cursorTool = tool;
+  } else if (const CommandRow* const row = FindCommandRow(id)) {
+    (this->*row->run)();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void CHullwrightApp::Repaint()
+{
+  if (mainFrame != nullptr) mainFrame->Notify(Notification::RepaintDesign, 0);
+}
+
+void CHullwrightApp::TellAll()
+{
+  NotifyDesignChanged();
+  SetModifiedFlag(true);
+}
+
+void CHullwrightApp::Scale(double fx, double fy, double fz)
+{
+  CShapes* const group = FindViewGroup(shapeGroups, activeView);
+  if (group == nullptr) return;
+  Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Scale(fx, fy, fz); });
+  TellAll();
+}
+
+void CHullwrightApp::MirrorVertically() { Scale(1.0, -1.0, 1.0); }
+
+void CHullwrightApp::MirrorHorizontally() { Scale(-1.0, 1.0, 1.0); }
+
+void CHullwrightApp::ScaleDesign()
+{
+  CDialogScale dialog(*this);
+  if (ports_.dialogs.Run(dialog) == DialogEnd::Cancel) return;
+  if (dialog.factor == 0.0) return;
+  Scale(dialog.factor, dialog.factor, dialog.factor);
+}
+
+void CHullwrightApp::MoveDesign()
+{
+  CShapeVertex way;
+  CDialogMove dialog(*this, way);
+  if (ports_.dialogs.Run(dialog) == DialogEnd::Cancel) return;
+  CShapes* const group = FindViewGroup(shapeGroups, activeView);
+  if (group == nullptr) return;
+  Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Translate(way.x, way.y, way.z); });
+  TellAll();
+}
+
+void CHullwrightApp::RotateRight() { RotateDesign(true); }
+
+void CHullwrightApp::RotateLeft() { RotateDesign(false); }
+
+void CHullwrightApp::RotateDesign(bool clockwise)
+{
+  // The dialog does the turning, so that the design has changed by the time that it closes.
+  CDialogRotate dialog(*this, clockwise);
+  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) TellAll();
+}
+
+void CHullwrightApp::RotatePolylines(double angleDegrees)
+{
+  CShapes* const group = GetShapes(shapeGroups, activeView);
+  if (group == nullptr || angleDegrees == 0.0) return;
+  Walk(group->cursor, group->shapes, [angleDegrees](CShape& shape) {
+    if (shape.type == ShapeType::Polyline) shape.Rotate(angleDegrees);
+  });
+}
+
+void CHullwrightApp::ModifyOffsets()
+{
+  if (!EditOffsets(HitKind::Gps)) return;
+  Repaint();
+  SetModifiedFlag(true);
+}
+
+void CHullwrightApp::SwitchUnits()
+{
+  CDialogUnits dialog(*this);
+  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) TellAll();
+}
+
+void CHullwrightApp::ConvertDesign(std::int32_t fromCode, std::int32_t toCode)
+{
+  const CShapes* const group = GetShapes(shapeGroups, activeView);
+  if (group == nullptr || group->shapes.empty() || fromCode == toCode) return;
+  if (!ports_.messages.AskYesNo(Strings::convertUnits)) return;
+  std::vector<CShapeVertex*> vertices;
+  Walk(group->cursor, group->shapes, [&](CShape& shape) {
+    shape.GetVertices(vertices);
+    for (CShapeVertex* const vertex : vertices) {
+      if (vertex != nullptr) vertex->ConvertUnits(fromCode, toCode);
+    }
+    vertices.clear();
+  });
+  // The pivot, the anchors and the other sides keep their numbers.
+  offsetGps->ConvertUnits(fromCode, toCode);
+  offsetTransducer->ConvertUnits(fromCode, toCode);
+}
+
+void CHullwrightApp::EditGrid()
+{
+  CDialogGrid dialog(*this);
+  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) Repaint();
+}
+
+void CHullwrightApp::ToggleGrid()
+{
+  GridSettings grid = LoadGridSettings();
+  grid.show = grid.show == 0 ? 1 : 0;
+  SaveGridSettings(grid);
+  Repaint();
+}
+
+void CHullwrightApp::ToggleSnap()
+{
+  GridSettings grid = LoadGridSettings();
+  grid.snap = grid.snap == 0 ? 1 : 0;
+  SaveGridSettings(grid);
+}
+
+void CHullwrightApp::ShowAbout()
+{
+  CAboutDlg dialog;
+  ports_.dialogs.Run(dialog);
+}
+
+}  // namespace hullwright

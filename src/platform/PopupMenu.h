@@ -1,0 +1,25 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "platform/Pointer.h"
+
+namespace hullwright {
+
+/// One row of a menu that is built at run time; an id of 0 is a separator.
+struct PopupEntry {
+  int id = 0;
+  std::u16string_view text;
+};
+
+/// Context menus over the design view.
+class IPopupMenu {
+public:
+  virtual ~IPopupMenu() = default;
+
+  /// Offers the entries at a client position; the entry chosen comes back to the view as a command.
+  virtual void Show(std::span<const PopupEntry> entries, ClientPoint at) = 0;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QDialog>
+#include <map>
+
+#include "platform/Dialogs.h"
+#include "resources/DialogTemplates.h"
+
+class QAbstractButton;
+class QDialogButtonBox;
+class QGridLayout;
+class QLineEdit;
+class QListWidget;
+class QVBoxLayout;
+
+namespace hullwright {
+
+/// A modal dialog made from its template: boxes from top to bottom, in each a column of labels, one
+/// of fields and one of units, OK and Cancel below. The logic fills it and takes its values.
+class TemplateDialog : public QDialog, public IDialogControls {
+public:
+  TemplateDialog(const DialogTemplate& rows, IDialog& logic, QWidget* parent);
+
+  std::u16string GetText(int id) const override;
+  void SetText(int id, std::u16string_view text) override;
+  bool IsChecked(int id) const override;
+  void SetChecked(int id, bool checked) override;
+  void SetEnabled(int id, bool enabled) override;
+  void FocusField(int id) override;
+  void FillList(std::span<const DialogListItem> items) override;
+  void SelectListItem(std::size_t index) override;
+  std::optional<std::int32_t> SelectedListData() const override;
+
+  /// OK: closes the dialog if the logic agrees.
+  void accept() override;
+
+private:
+  void AddRow(const DialogRow& row);
+  void AddGroup(const DialogRow& row);
+  void AddField(const DialogRow& row);
+  void AddButton(const DialogRow& row);
+  void AddList(const DialogRow& row);
+  void AddNote(const DialogRow& row);
+  void AddProduct(const DialogRow& row);
+  void AddUnit(const DialogRow& row);
+  void AddOkAndCancel(bool hasCancel);
+  QGridLayout& Grid();
+  QLineEdit* MakeField(int id, const QString& name);
+  void Keep(int id, QWidget* widget);
+
+  template <class T>
+  T* Find(int id) const;
+
+  IDialog& logic_;
+  QVBoxLayout* boxes_;
+  QWidget* box_ = nullptr;       ///< the box that rows go into
+  QGridLayout* grid_ = nullptr;  ///< its layout
+  QListWidget* list_ = nullptr;
+  std::map<int, QWidget*> widgets_;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,145 @@
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "resources/CommandIds.h"
+#include "view/HullwrightView.h"
+
+namespace hullwright {
+namespace {
+
+/// When an entry of the context menu is offered.
+enum class Offered { Always, OnHit, OnNoHitOrVertex, OnVertex, OnNoHit, OnAnchor };
+
+struct MenuEntry {
+  int id;
+  std::u16string_view text;
+  Offered offered;
+};
+
+constexpr auto menuEntries = std::to_array<MenuEntry>({
+    {Command::MenuZoomIn, u"Zoom &In", Offered::Always},
+    {Command::MenuZoomOut, u"Zoom &Out", Offered::Always},
+    {Command::MenuCenter, u"Ce&nter", Offered::Always},
+    {0, u"-", Offered::Always},
+    {Command::EditVertex, u"&Edit Vertex...", Offered::OnHit},
+    {Command::AddVertex, u"&Add Vertex...", Offered::OnNoHitOrVertex},
+    {Command::RemoveVertex, u"&Remove Vertex...", Offered::OnVertex},
+    {Command::AddAnchor, u"&Add Anchor", Offered::OnNoHit},
+    {Command::RemoveAnchor, u"&Remove Anchor...", Offered::OnAnchor},
+});
+
+bool IsOffered(Offered offered, bool hit, std::int32_t kind)
+{
+  switch (offered) {
+    case Offered::Always: return true;
+    case Offered::OnHit: return hit;
+    case Offered::OnNoHitOrVertex: return !hit || kind == HitKind::Vertex;
+    case Offered::OnVertex: return hit && kind == HitKind::Vertex;
+    case Offered::OnNoHit: return !hit;
+    case Offered::OnAnchor: return hit && kind == HitKind::Anchor;
+  }
+  return false;
+}
+
+}  // namespace
+
+void CHullwrightView::OfferMenu(ClientPoint point, bool hit)
+{
+  std::vector<PopupEntry> entries;
+  for (const MenuEntry& entry : menuEntries) {
+    if (IsOffered(entry.offered, hit, hitKind)) entries.push_back({entry.id, entry.text});
+  }
+  menuPoint = point;
+  ports_.popupMenu.Show(entries, point);
+}
+
+void CHullwrightView::OnMenuCommand(int id)
+{
+  switch (id) {
+    case Command::AddVertex: AddVertex(menuPoint); break;
+    case Command::EditVertex: EditItem(menuPoint); break;
+    case Command::RemoveVertex:
+    case Command::RemoveAnchor: RemoveHit(); break;
+    case Command::AddAnchor: AddAnchor(menuPoint); break;
+    case Command::MenuZoomIn:
+    case Command::MenuZoomOut:
+    case Command::MenuCenter: ZoomByMenu(id); break;
+    default: break;
+  }
+}
+
+void CHullwrightView::ZoomByMenu(int id)
+{
+  if (viewPort == nullptr) return;
+  if (id == Command::MenuZoomIn) viewPort->ZoomIn(menuPoint.x, menuPoint.y);
+  if (id == Command::MenuZoomOut) viewPort->ZoomOut(menuPoint.x, menuPoint.y);
+  if (id == Command::MenuCenter) viewPort->CenterOn(menuPoint.x, menuPoint.y);
+  Repaint();
+}
+
+void CHullwrightView::EditItem(ClientPoint point)
+{
+  if (dragging) return;
+  const Pick pick = FindItemAt(design_, point.x, point.y);
+  bool accepted = false;
+  if (pick.kind == HitKind::None) {
+    ClearPick();
+  } else if (const auto* const anchor = std::get_if<CAnchor*>(&pick.item)) {
+    CShapeVertex place((*anchor)->attachmentX, (*anchor)->attachmentY, 0.0);
+    accepted = host_.EditVertex(place);
+    if (accepted) MoveItem(pick.item, place.x, place.y);
+  } else if (pick.kind == HitKind::Vertex) {
+    accepted = host_.EditVertex(*std::get<CShapeVertex*>(pick.item));
+  } else {
+    accepted = host_.EditOffsets(pick.kind);
+  }
+  if (accepted) Repaint();
+}
+
+void CHullwrightView::AddVertex(ClientPoint point)
+{
+  CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
+  if (group == nullptr) return;
+  // The polyline marked in the tree takes the vertex, not the one under the mouse.
+  CShape* marked = WalkFirst(group->cursor, group->shapes);
+  while (marked != nullptr && !marked->editing) marked = WalkNext(group->cursor, group->shapes);
+  if (marked == nullptr || marked->type != ShapeType::Polyline) return;
+  const WorldPoint world = SnappedWorld(point);
+  auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
+  if (!host_.EditVertex(*vertex)) return;
+  host_.SetModifiedFlag(true);
+  marked->vertices.push_back(std::move(vertex));
+  Repaint();
+}
+
+void CHullwrightView::AddAnchor(ClientPoint point)
+{
+  if (!design_.anchors) return;
+  auto anchor = design_.anchors->NewAnchor();
+  const WorldPoint world = SnappedWorld(point);
+  anchor->attachmentX = world.x;
+  anchor->attachmentY = world.y;
+  design_.anchors->items.push_back(std::move(anchor));
+  host_.SetModifiedFlag(true);
+  Repaint();
+}
+
+void CHullwrightView::RemoveHit()
+{
+  if (hitKind == HitKind::None || hitVertex.index() == 0 || !design_.anchors) return;
+  CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
+  if (group == nullptr) return;
+  const auto* const vertex = std::get_if<CShapeVertex*>(&hitVertex);
+  if (hitKind == HitKind::Vertex && vertex != nullptr) {
+    Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.RemoveVertex(*vertex); });
+  }
+  const auto* const anchor = std::get_if<CAnchor*>(&hitVertex);
+  if (hitKind == HitKind::Anchor && anchor != nullptr) {
+    std::erase_if(design_.anchors->items, [&](const auto& item) { return item.get() == *anchor; });
+  }
+  host_.NotifyDesignChanged();
+  ClearPick();
+}
+
+}  // namespace hullwright

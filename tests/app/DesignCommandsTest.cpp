@@ -1,0 +1,425 @@
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+#include "model/ShapePoint.h"
+#include "resources/CommandIds.h"
+#include "support/AppFixture.h"
+
+namespace hullwright {
+namespace {
+
+using test::DialogScript;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+/// A main frame that also writes down what passes through it.
+class ListeningFrame : public CMainFrame {
+public:
+  using CMainFrame::CMainFrame;
+  void Notify(int code, std::intptr_t value) override
+  {
+    heard.emplace_back(code == Notification::RepaintDesign ? "repaint"
+                       : code == Notification::RebuildTree ? "tree"
+                                                           : std::to_string(code));
+    CMainFrame::Notify(code, value);
+  }
+  void SetModifiedFlag(bool modified) override
+  {
+    heard.emplace_back(modified ? "modified" : "clean");
+    CMainFrame::SetModifiedFlag(modified);
+  }
+  std::vector<std::string> heard;
+};
+
+class Commands : public test::AppFixture {
+protected:
+  Commands()
+  {
+    listening.document = &document;
+    listening.view = &view;
+    listening.hasWindow = true;
+  }
+
+  CShapePolyline& AddLine(std::int32_t side, const CShapeVertex& vertex)
+  {
+    auto line = std::make_unique<CShapePolyline>();
+    line->AddVertex(vertex.x, vertex.y, vertex.z);
+    CShapePolyline& added = *line;
+    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
+    return added;
+  }
+
+  CShapePoint& AddPoint(std::int32_t side, const CShapeVertex& position)
+  {
+    auto point = std::make_unique<CShapePoint>();
+    point->position = position;
+    CShapePoint& added = *point;
+    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(point));
+    return added;
+  }
+
+  void Run(int id, DialogScript script = {})
+  {
+    dialogs.script = std::move(script);
+    EXPECT_TRUE(listening.OnCommand(id)) << id;
+  }
+
+  ListeningFrame listening{app, widgets};
+};
+
+// ---------------------------------------------------------------------------------------------------
+// Which command tells what, accepted and cancelled, with and without a group
+
+struct CommandCase {
+  const char* name;
+  int id;
+  bool hasDialog;
+  std::vector<std::string> told;         ///< accepted, with a group
+  std::vector<std::string> toldWithout;  ///< accepted, without a group
+  bool makesGroup;
+};
+
+const std::vector<std::string> all = {"repaint", "tree", "modified"};
+const std::vector<std::string> none = {};
+const std::vector<std::string> repaint = {"repaint"};
+
+const std::vector<CommandCase>& CommandCases()
+{
+  static const std::vector<CommandCase> cases = {
+      {"MirrorVertically", Command::MirrorVertically, false, all, none, false},
+      {"MirrorHorizontally", Command::MirrorHorizontally, false, all, none, false},
+      {"Scale", Command::Scale, true, all, none, false},
+      {"Move", Command::Move, true, all, none, false},
+      {"RotateLeft", Command::RotateLeft, true, all, all, true},
+      {"RotateRight", Command::RotateRight, true, all, all, true},
+      {"Offsets", Command::Offsets, true, {"repaint", "modified"}, {"repaint", "modified"}, false},
+      {"Grid", Command::Grid, true, repaint, repaint, false},
+      {"Units", Command::Units, true, all, all, true},
+      {"ToggleGrid", Command::ToggleGrid, false, repaint, repaint, false},
+      {"ToggleSnap", Command::ToggleSnap, false, none, none, false},
+      {"CursorZoomIn", Command::CursorZoomIn, false, none, none, false},
+      {"CursorZoomOut", Command::CursorZoomOut, false, none, none, false},
+      {"CursorMove", Command::CursorMove, false, none, none, false},
+      {"ViewTop", Command::ViewTop, false, repaint, repaint, false},
+      {"ViewBottom", Command::ViewBottom, false, repaint, repaint, false},
+      {"ViewRight", Command::ViewRight, false, repaint, repaint, false},
+      {"ViewLeft", Command::ViewLeft, false, repaint, repaint, false},
+      {"ViewFront", Command::ViewFront, false, repaint, repaint, false},
+      {"ViewRear", Command::ViewRear, false, repaint, repaint, false},
+      {"About", Command::About, true, none, none, false},
+  };
+  return cases;
+}
+
+class EachCommand : public Commands, public testing::WithParamInterface<CommandCase> {
+protected:
+  /// OK as the dialog stands; in the units dialog the first unit is chosen.
+  static DialogScript Accept() { return {.ok = true, .select = 0}; }
+
+  EachCommand()
+  {
+    std::filesystem::create_directories(dataFolder.Path() / "Sondaris" / "Database");
+    std::filesystem::copy(HULLWRIGHT_UNIT_DATABASE,
+                          dataFolder.Path() / "Sondaris" / "Database" / "geo.db");
+  }
+};
+
+TEST_P(EachCommand, TellsItsNotificationsInOrder)
+{
+  AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  Run(GetParam().id, Accept());
+  EXPECT_THAT(listening.heard, ElementsAreArray(GetParam().told));
+  EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
+}
+
+TEST_P(EachCommand, WithoutAGroupTellsWhatItsRowSays)
+{
+  Run(GetParam().id, Accept());
+  EXPECT_THAT(listening.heard, ElementsAreArray(GetParam().toldWithout));
+  EXPECT_EQ(app.shapeGroups.size(), GetParam().makesGroup ? 1U : 0U);
+  EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EachCommand, testing::ValuesIn(CommandCases()),
+                         [](const auto& row) {
+                           return row.param.name;
+                           /// The rows that open a dialog.
+                           std::vector<CommandCase> DialogCases()
+                           {
+                             std::vector<CommandCase> cases = CommandCases();
+                             std::erase_if(cases,
+                                           [](const CommandCase& row) { return !row.hasDialog; });
+                             return cases;
+                           }
+
+                           class EachDialog : public EachCommand {};
+
+                           TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
+                           {
+                             const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+                             Run(GetParam().id, {.ok = false});
+                             EXPECT_TRUE(listening.heard.empty());
+                             EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
+                             EXPECT_TRUE(settings.written.empty());
+                             EXPECT_EQ(app.unitCode, 9001);
+                           }
+
+                           INSTANTIATE_TEST_SUITE_P(Table, EachDialog,
+                                                    testing::ValuesIn(DialogCases()),
+                                                    [](const auto& row) { return row.param.name; });
+                         });
+
+// ---------------------------------------------------------------------------------------------------
+// What each command changes
+
+TEST_F(Commands, MirrorsNegateTheirAxisAndTwiceBringEveryBitBack)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {0.1, 0.7, 3.0});
+  Run(Command::MirrorVertically);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.1, -0.7, 3.0));
+  Run(Command::MirrorHorizontally);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-0.1, -0.7, 3.0));
+  Run(Command::MirrorVertically);
+  Run(Command::MirrorHorizontally);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.1, 0.7, 3.0));
+}
+
+TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
+{
+  AddLine(ViewSide::Top, {1.0, 1.0, 1.0});
+  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {1.0, 1.0, 1.0});
+  app.anchors->items.push_back(app.anchors->NewAnchor());
+  app.anchors->items[0]->attachmentX = 5.0;
+  Run(Command::MirrorHorizontally);
+  Run(Command::Scale, {.ok = true, .fields = {{1011, u"3"}}});
+  Run(Command::Move, {.ok = true, .fields = {{1024, u"3"}, {1025, u"3"}}});
+  Run(Command::RotateRight, {.ok = true});
+  EXPECT_TRUE(*bottom.vertices[0] == CShapeVertex(1.0, 1.0, 1.0));
+  EXPECT_TRUE(*app.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
+  EXPECT_TRUE(*app.offsetTransducer == CShapeVertex(-10.0, 0.0, 0.0));
+  EXPECT_TRUE(*app.offsetPivot == CShapeVertex(0.0, 10.0, 0.0));
+  EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
+}
+
+TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
+{
+  const CShapePolyline& wildcard = AddLine(ViewSide::All, {1.0, 1.0, 0.0});
+  app.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Left));
+  app.activeView = ViewSide::Left;
+  Run(Command::MirrorHorizontally);
+  EXPECT_EQ(wildcard.vertices[0]->x, -1.0);
+}
+
+TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  Run(Command::Scale, {.ok = true, .fields = {{1011, u"-2 times"}}});
+  EXPECT_EQ(dialogs.startTexts[1011], u"1.00");
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-2.0, -4.0, -6.0));
+}
+
+TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
+    Run(Command::Scale, {.ok = true, .fields = {{1011, text}}});
+  }
+  EXPECT_TRUE(listening.heard.empty());
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_EQ(line.vertices[0]->x, 1.0);
+}
+
+TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
+  Run(Command::Move, {.ok = true, .fields = {{1024, u"1.5 m"}, {1025, u"two"}}});
+  EXPECT_EQ(dialogs.startTexts[1024], u"0.00");
+  EXPECT_EQ(dialogs.startTexts[1025], u"0.00");
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(2.5, 2.0, 3.0));
+  EXPECT_TRUE(point.position == CShapeVertex(1.5, 0.0, 0.0));
+}
+
+TEST_F(Commands, RotationTurnsPolylinesOnly)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 0.0, 3.0});
+  const CShapePoint& point = AddPoint(ViewSide::Top, {1.0, 0.0, 0.0});
+  Run(Command::RotateLeft, {.ok = true});
+  EXPECT_NEAR(line.vertices[0]->y, 1.0, 1e-15);
+  EXPECT_EQ(line.vertices[0]->z, 3.0);
+  EXPECT_EQ(point.position.x, 1.0);
+  Run(Command::RotateRight, {.ok = true});
+  EXPECT_NEAR(line.vertices[0]->x, 1.0, 1e-15);
+}
+
+struct AngleCase {
+  int command;
+  DialogScript script;
+  double degrees;  ///< where (1, 0) comes to lie
+};
+
+class Angle : public Commands, public testing::WithParamInterface<AngleCase> {};
+
+TEST_P(Angle, ComesFromButtonFieldAndDirection)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  Run(GetParam().command, GetParam().script);
+  const double radians = GetParam().degrees * 0.017453292519943295;
+  EXPECT_NEAR(line.vertices[0]->x, std::cos(radians), 1e-12);
+  EXPECT_NEAR(line.vertices[0]->y, std::sin(radians), 1e-12);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Choices, Angle,
+    testing::Values(AngleCase{Command::RotateLeft, {.ok = true}, 90.0},
+                    AngleCase{Command::RotateRight, {.ok = true}, -90.0},
+                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1014, true}}}, 180.0},
+                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1015, true}}}, 270.0},
+                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1021, true}}}, -90.0},
+                    AngleCase{Command::RotateRight, {.ok = true, .clicks = {{1022, true}}}, 90.0},
+                    AngleCase{Command::RotateLeft,
+                              {.ok = true, .fields = {{1017, u"30"}}, .clicks = {{1016, true}}},
+                              30.0},
+                    AngleCase{Command::RotateRight,
+                              {.ok = true, .fields = {{1017, u"-30"}}, .clicks = {{1016, true}}},
+                              30.0},
+                    AngleCase{Command::RotateLeft,
+                              {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}},
+                              0.0}));
+
+TEST_F(Commands, ARotationByNothingStillModifies)
+{
+  AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  Run(Command::RotateLeft, {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}});
+  EXPECT_THAT(listening.heard, ElementsAreArray(all));
+}
+
+TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)
+{
+  Run(Command::RotateRight, {});
+  EXPECT_TRUE(dialogs.startChecks[1013]);
+  EXPECT_TRUE(dialogs.startChecks[1021]);
+  EXPECT_FALSE(dialogs.startChecks[1022]);
+  EXPECT_EQ(dialogs.startTexts[1017], u"0.0");
+  Run(Command::RotateLeft, {});
+  EXPECT_FALSE(dialogs.startChecks[1021]);
+  EXPECT_TRUE(dialogs.startChecks[1022]);
+}
+
+TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)
+{
+  EXPECT_TRUE(listening.QueryCommand(Command::ToggleGrid).checked);
+  Run(Command::ToggleGrid);
+  EXPECT_EQ(settings.values["Grid/Show"], 0);
+  EXPECT_FALSE(listening.QueryCommand(Command::ToggleGrid).checked);
+  settings.values["Grid/Show"] = 7;
+  Run(Command::ToggleGrid);
+  EXPECT_EQ(settings.values["Grid/Show"], 0);
+  Run(Command::ToggleSnap);
+  EXPECT_EQ(settings.values["Grid/Snap"], 0);
+  Run(Command::ToggleSnap);
+  EXPECT_TRUE(listening.QueryCommand(Command::ToggleSnap).checked);
+  EXPECT_FALSE(document.IsModified());
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Units
+
+class UnitsCommand : public Commands {
+protected:
+  UnitsCommand()
+  {
+    app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
+    std::filesystem::create_directories(dataFolder.Path() / "Sondaris" / "Database");
+    std::filesystem::copy(HULLWRIGHT_UNIT_DATABASE,
+                          dataFolder.Path() / "Sondaris" / "Database" / "geo.db");
+  }
+
+  /// Chooses the foot, which is second in the list.
+  void ToFeet() { Run(Command::Units, {.ok = true, .select = 1}); }
+};
+
+TEST_F(UnitsCommand, TheListStandsInTheOrderOfTheCodesWithTheUnitSelected)
+{
+  app.unitCode = 9003;
+  Run(Command::Units, {});
+  ASSERT_EQ(dialogs.list.size(), 24U);
+  EXPECT_EQ(dialogs.list[0].text, u"metre");
+  EXPECT_EQ(dialogs.list[2].data, 9003);
+  EXPECT_EQ(dialogs.startSelected, 2U);
+}
+
+TEST_F(UnitsCommand, AnUnknownUnitSelectsNothingAndOkAsksForAChoice)
+{
+  app.unitCode = 5;
+  Run(Command::Units, {.ok = true});
+  EXPECT_FALSE(dialogs.startSelected.has_value());
+  EXPECT_TRUE(dialogs.stayedOpen);
+  EXPECT_THAT(messages.shown, ElementsAre(u"Please select an unit from the list first !"));
+  EXPECT_TRUE(listening.heard.empty());
+  EXPECT_EQ(app.unitCode, 5);
+}
+
+TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
+{
+  const CShapePolyline& top = AddLine(ViewSide::Top, {0.3048, 0.0, 3.048});
+  const CShapePoint& point = AddPoint(ViewSide::Top, {3.048, 0.0, 0.0});
+  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {1.0, 1.0, 1.0});
+  app.anchors->items.push_back(app.anchors->NewAnchor());
+  app.anchors->items[0]->attachmentX = 5.0;
+  messages.answer = true;
+  ToFeet();
+  EXPECT_THAT(messages.asked,
+              ElementsAre(u"The unit setting has changed. Do you want to convert all coordinates "
+                          u"to the new units ?"));
+  EXPECT_TRUE(*top.vertices[0] == CShapeVertex(1.0, 0.0, 3.048 / 0.3048));
+  EXPECT_EQ(point.position.x, 3.048 / 0.3048);
+  EXPECT_EQ(app.offsetGps->x, 10.0 / 0.3048);
+  EXPECT_EQ(app.offsetTransducer->x, -10.0 / 0.3048);
+  EXPECT_EQ(app.offsetPivot->y, 10.0);
+  EXPECT_EQ(bottom.vertices[0]->x, 1.0);
+  EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
+  EXPECT_EQ(app.unitCode, 9002);
+  EXPECT_THAT(listening.heard, ElementsAreArray(all));
+  EXPECT_TRUE(settings.written.empty());
+}
+
+TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
+{
+  const CShapePolyline& top = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  ToFeet();
+  EXPECT_EQ(top.vertices[0]->x, 1.0);
+  EXPECT_EQ(app.offsetGps->x, 10.0);
+  EXPECT_EQ(app.unitCode, 9002);
+  EXPECT_TRUE(document.IsModified());
+}
+
+TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
+{
+  AddLine(ViewSide::Bottom, {1.0, 0.0, 0.0});
+  messages.answer = true;
+  ToFeet();
+  EXPECT_TRUE(messages.asked.empty());
+  EXPECT_EQ(app.offsetGps->x, 10.0);
+  EXPECT_EQ(app.unitCode, 9002);
+}
+
+TEST_F(UnitsCommand, TheSameUnitIsNotAskedAboutAndStillModifies)
+{
+  AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  Run(Command::Units, {.ok = true});
+  EXPECT_TRUE(messages.asked.empty());
+  EXPECT_TRUE(document.IsModified());
+}
+
+TEST_F(UnitsCommand, AVertexAtTheOriginStaysThere)
+{
+  const CShapePolyline& top = AddLine(ViewSide::Top, {0.0, 0.0, 0.0});
+  messages.answer = true;
+  ToFeet();
+  EXPECT_TRUE(*top.vertices[0] == CShapeVertex());
+}
+
+}  // namespace
+}  // namespace hullwright

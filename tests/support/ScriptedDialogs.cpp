@@ -1,0 +1,94 @@
+#include "support/ScriptedDialogs.h"
+
+#include <algorithm>
+
+#include "resources/DialogTemplates.h"
+
+namespace hullwright::test {
+
+DialogEnd ScriptedDialogs::Run(IDialog& dialog)
+{
+  Open(dialog.Template());
+  dialog.OnStart(*this);
+  startTexts = texts_;
+  startChecks = checks_;
+  startEnabled = enabled;
+  startSelected = selected;
+  for (const auto& [id, text] : script.fields) SetText(id, text);
+  for (const auto& [id, checked] : script.clicks) Click(dialog, id, checked);
+  if (script.select) selected = script.select;
+  if (script.selectNothing) selected.reset();
+  if (!script.ok) return DialogEnd::Cancel;
+  stayedOpen = !dialog.OnOk(*this);
+  return stayedOpen ? DialogEnd::Cancel : DialogEnd::Ok;
+}
+
+void ScriptedDialogs::Open(int templateId)
+{
+  shown.push_back(templateId);
+  texts_.clear();
+  checks_.clear();
+  enabled.clear();
+  radioGroups_.assign(1, {});
+  list.clear();
+  focus.reset();
+  selected.reset();
+  const DialogTemplate* const rows = FindDialogTemplate(templateId);
+  if (rows == nullptr) return;
+  for (const DialogRow& row : rows->rows) {
+    switch (row.kind) {
+      case DialogRowKind::Group: radioGroups_.emplace_back(); break;
+      case DialogRowKind::Field:
+        texts_[row.id] = u"";
+        if (row.unitId != 0) texts_[row.unitId] = row.unitText;
+        break;
+      case DialogRowKind::RadioField: texts_[row.labelId] = u""; [[fallthrough]];
+      case DialogRowKind::Radio: radioGroups_.back().push_back(row.id); [[fallthrough]];
+      case DialogRowKind::Check: checks_[row.id] = false; break;
+      default: break;
+    }
+  }
+}
+
+void ScriptedDialogs::Click(IDialog& dialog, int id, bool checked)
+{
+  SetChecked(id, checked);
+  dialog.OnClick(*this, id);
+}
+
+std::u16string ScriptedDialogs::GetText(int id) const
+{
+  const auto found = texts_.find(id);
+  return found == texts_.end() ? std::u16string() : found->second;
+}
+
+void ScriptedDialogs::SetText(int id, std::u16string_view text)
+{
+  const auto found = texts_.find(id);
+  if (found != texts_.end()) found->second = text;
+}
+
+bool ScriptedDialogs::IsChecked(int id) const
+{
+  const auto found = checks_.find(id);
+  return found != checks_.end() && found->second;
+}
+
+void ScriptedDialogs::SetChecked(int id, bool checked)
+{
+  for (const auto& group : radioGroups_) {
+    if (checked && std::ranges::find(group, id) != group.end()) {
+      for (const int other : group) checks_[other] = false;
+    }
+  }
+  const auto found = checks_.find(id);
+  if (found != checks_.end()) found->second = checked;
+}
+
+std::optional<std::int32_t> ScriptedDialogs::SelectedListData() const
+{
+  if (!selected || *selected >= list.size()) return std::nullopt;
+  return list[*selected].data;
+}
+
+}  // namespace hullwright::test

@@ -1,0 +1,217 @@
+#include <gmock/gmock.h>
+
+#include "resources/CommandIds.h"
+#include "support/ViewFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+
+class ContextMenu : public test::ViewFixture {
+protected:
+  CAnchor& AddAnchor(double x, double y)
+  {
+    design.anchors->items.push_back(design.anchors->NewAnchor());
+    design.anchors->items.back()->attachmentX = x;
+    design.anchors->items.back()->attachmentY = y;
+    return *design.anchors->items.back();
+  }
+
+  std::vector<int> Offered() const
+  {
+    std::vector<int> ids;
+    for (const auto& [id, text] : popup.offered) ids.push_back(id);
+    return ids;
+  }
+};
+
+TEST_F(ContextMenu, OnEmptySpaceOffersZoomVertexAndAnchor)
+{
+  view.OnRButtonDown({123, 45});
+  EXPECT_THAT(
+      popup.offered,
+      ElementsAre(Pair(32790, u"Zoom &In"), Pair(32792, u"Zoom &Out"), Pair(32793, u"Ce&nter"),
+                  Pair(0, u"-"), Pair(32789, u"&Add Vertex..."), Pair(32815, u"&Add Anchor")));
+  EXPECT_EQ(popup.place, (ClientPoint{123, 45}));
+  EXPECT_EQ(view.menuPoint, (ClientPoint{123, 45}));
+}
+
+TEST_F(ContextMenu, OnAVertexOffersToEditAddAndRemove)
+{
+  AddLine({{0.0, 0.0, 0.0}});
+  view.OnRButtonDown({400, 300});
+  EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32789, 32798));
+}
+
+TEST_F(ContextMenu, OnAnAnchorAndOnAnOffsetOffersWhatTheyTake)
+{
+  design.activeView = ViewSide::Top;
+  AddAnchor(50.0, 50.0);
+  view.OnRButtonDown({600, 100});
+  EXPECT_THAT(popup.offered.back(), Pair(32816, u"&Remove Anchor..."));
+  EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32816));
+  view.OnRButtonDown({440, 300});
+  EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791));
+}
+
+TEST_F(ContextMenu, DuringADragNothingIsHit)
+{
+  AddLine({{0.0, 0.0, 0.0}});
+  view.OnMouseMove(false, {400, 300});
+  view.OnMouseMove(true, {420, 300});
+  view.OnRButtonDown({420, 300});
+  EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32789, 32815));
+}
+
+TEST_F(ContextMenu, TheRightPressMakesTheGroupAndWhileDrawingOpensNoMenu)
+{
+  view.OnRButtonDown({1, 1});
+  EXPECT_EQ(design.shapeGroups.size(), 1U);
+  popup.offered.clear();
+  view.OnCommand(Command::DrawPolyline);
+  view.OnRButtonDown({1, 1});
+  EXPECT_THAT(popup.offered, IsEmpty());
+}
+
+TEST_F(ContextMenu, ZoomsAndCentersAtThePress)
+{
+  view.OnRButtonDown({600, 300});
+  view.OnMenuCommand(Command::MenuZoomIn);
+  EXPECT_EQ(view.viewPort->width, 150.0);
+  EXPECT_EQ((view.viewPort->left + view.viewPort->right) * 0.5, 50.0);
+  view.OnMenuCommand(Command::MenuZoomOut);
+  EXPECT_DOUBLE_EQ(view.viewPort->width, 200.0);
+  view.OnMenuCommand(Command::MenuCenter);
+  EXPECT_EQ(Frames(), 3);
+}
+
+TEST_F(ContextMenu, OtherIdsOfItsRangeDoNothing)
+{
+  for (const int id : {32794, 32795, 32799, 32801, 32808, 32814, 1}) view.OnMenuCommand(id);
+  EXPECT_THAT(host.events, IsEmpty());
+  EXPECT_EQ(Frames(), 0);
+}
+
+TEST_F(ContextMenu, EditingAVertexRepaintsAndTellsNobody)
+{
+  CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}});
+  host.accept = true;
+  host.typed = CShapeVertex(1.0, 2.0, 3.0);
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_EQ(host.edited.z, 5.0);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_THAT(host.events, ElementsAre("edit vertex"));
+  EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, EditingAnAnchorGoesThroughATemporaryVertex)
+{
+  design.activeView = ViewSide::Top;
+  CAnchor& anchor = AddAnchor(50.0, 50.0);
+  view.OnRButtonDown({600, 100});
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_TRUE(host.edited == CShapeVertex(50.0, 50.0, 0.0));
+  EXPECT_EQ(anchor.attachmentX, 50.0);
+  EXPECT_EQ(Frames(), 0);
+  host.accept = true;
+  host.typed = CShapeVertex(1.0, 2.0, 3.0);
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_EQ(anchor.attachmentX, 1.0);
+  EXPECT_EQ(anchor.attachmentY, 2.0);
+  EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, EditingAnOffsetOpensTheOffsetsDialogForIt)
+{
+  design.activeView = ViewSide::Top;
+  host.accept = true;
+  view.OnRButtonDown({360, 300});
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_THAT(host.events, ElementsAre("edit offsets 13"));
+  EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, AddVertexGoesToTheEndOfThePolylineMarkedInTheTree)
+{
+  AddLine({{0.0, 0.0, 0.0}});
+  CShapePolyline& marked = AddLine({{50.0, 0.0, 0.0}, {60.0, 0.0, 0.0}});
+  marked.editing = true;
+  host.grid.snap = 1;
+  host.accept = true;
+  host.typed = CShapeVertex(7.0, 8.0, 9.0);
+  view.OnRButtonDown({414, 300});
+  view.OnMenuCommand(Command::AddVertex);
+  EXPECT_TRUE(host.edited == CShapeVertex(2.5, 0.0, 0.0));
+  ASSERT_EQ(marked.vertices.size(), 3U);
+  EXPECT_TRUE(*marked.vertices[2] == CShapeVertex(7.0, 8.0, 9.0));
+  EXPECT_THAT(host.events, ElementsAre("edit vertex", "modified"));
+  EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, AddVertexWithoutAMarkedPolylineOrCancelledDoesNothing)
+{
+  CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::AddVertex);
+  EXPECT_THAT(host.events, IsEmpty());
+  line.editing = true;
+  view.OnMenuCommand(Command::AddVertex);
+  EXPECT_THAT(host.events, ElementsAre("edit vertex"));
+  EXPECT_EQ(line.vertices.size(), 1U);
+  EXPECT_EQ(Frames(), 0);
+}
+
+TEST_F(ContextMenu, AddAnchorTakesTheLowestNumberAndTheSnappedPlaceOnAnySide)
+{
+  AddAnchor(0.0, 0.0);
+  host.grid.snap = 1;
+  view.OnRButtonDown({414, 300});
+  view.OnMenuCommand(Command::AddAnchor);
+  ASSERT_EQ(design.anchors->items.size(), 2U);
+  EXPECT_EQ(design.anchors->items[1]->id, 2U);
+  EXPECT_EQ(design.anchors->items[1]->attachmentX, 2.5);
+  EXPECT_TRUE(design.anchors->items[1]->name.empty());
+  EXPECT_THAT(host.events, ElementsAre("modified"));
+  EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, RemovingAVertexTellsRepaintAndTreeButDoesNotModify)
+{
+  CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}, {50.0, 0.0, 0.0}});
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::RemoveVertex);
+  ASSERT_EQ(line.vertices.size(), 1U);
+  EXPECT_EQ(line.vertices[0]->x, 50.0);
+  EXPECT_THAT(host.events, ElementsAre("changed"));
+  EXPECT_EQ(view.hitKind, HitKind::None);
+  EXPECT_EQ(view.dragVertex, PickedItem());
+}
+
+TEST_F(ContextMenu, RemovingAnAnchorTakesItOutOfTheList)
+{
+  design.activeView = ViewSide::Top;
+  AddAnchor(50.0, 50.0);
+  AddAnchor(70.0, 50.0);
+  view.OnRButtonDown({600, 100});
+  view.OnMenuCommand(Command::RemoveAnchor);
+  ASSERT_EQ(design.anchors->items.size(), 1U);
+  EXPECT_EQ(design.anchors->items[0]->id, 2U);
+  EXPECT_THAT(host.events, ElementsAre("changed"));
+}
+
+TEST_F(ContextMenu, AMoveToEmptySpaceWhileTheMenuIsOpenLeavesNothingToRemove)
+{
+  CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});
+  view.OnRButtonDown({400, 300});
+  view.OnMouseMove(false, {600, 500});
+  view.OnMenuCommand(Command::RemoveVertex);
+  EXPECT_EQ(line.vertices.size(), 1U);
+  EXPECT_THAT(host.events, IsEmpty());
+}
+
+}  // namespace
+}  // namespace hullwright
