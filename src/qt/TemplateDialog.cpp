@@ -35,12 +35,20 @@ TemplateDialog::TemplateDialog(const DialogTemplate& rows, IDialog& logic, QWidg
   for (const DialogRow& row : rows.rows) AddRow(row);
   AddOkAndCancel(rows.hasCancel);
   boxes_->setSizeConstraint(QLayout::SetFixedSize);
-  // The first field is ready to be typed over, unless the logic chooses another.
-  if (auto* const first = findChild<QLineEdit*>()) {
-    first->setFocus();
-    first->selectAll();
-  }
+  FocusFirst(rows);
   logic_.OnStart(*this);
+}
+
+void TemplateDialog::FocusFirst(const DialogTemplate& rows)
+{
+  // The first field is ready to be typed over, unless the logic chooses another.
+  for (const DialogRow& row : rows.rows) {
+    auto* const widget = Find<QWidget>(row.id);
+    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+    widget->setFocus();
+    if (auto* const field = qobject_cast<QLineEdit*>(widget)) field->selectAll();
+    return;
+  }
 }
 
 template <class T>
@@ -198,9 +206,8 @@ std::u16string TemplateDialog::GetText(int id) const
 void TemplateDialog::SetText(int id, std::u16string_view text)
 {
   if (auto* const field = Find<QLineEdit>(id)) {
-    const bool chosen = field->hasSelectedText() || field->hasFocus();
     field->setText(ToQString(text));
-    if (chosen || field == focusWidget()) field->selectAll();
+    if (field == focusWidget()) field->selectAll();
   } else if (auto* const label = Find<QLabel>(id)) {
     label->setText(ToQString(text));
   }

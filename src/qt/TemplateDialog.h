@@ -44,6 +44,7 @@ private:
   void AddProduct(const DialogRow& row);
   void AddUnit(const DialogRow& row);
   void AddOkAndCancel(bool hasCancel);
+  void FocusFirst(const DialogTemplate& rows);
   QGridLayout& Grid();
   QLineEdit* MakeField(int id, const QString& name);
   void Keep(int id, QWidget* widget);

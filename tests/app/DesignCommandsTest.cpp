@@ -142,33 +142,30 @@ TEST_P(EachCommand, WithoutAGroupTellsWhatItsRowSays)
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, EachCommand, testing::ValuesIn(CommandCases()),
-                         [](const auto& row) {
-                           return row.param.name;
-                           /// The rows that open a dialog.
-                           std::vector<CommandCase> DialogCases()
-                           {
-                             std::vector<CommandCase> cases = CommandCases();
-                             std::erase_if(cases,
-                                           [](const CommandCase& row) { return !row.hasDialog; });
-                             return cases;
-                           }
+                         [](const auto& row) { return row.param.name; });
 
-                           class EachDialog : public EachCommand {};
+/// The rows that open a dialog.
+std::vector<CommandCase> DialogCases()
+{
+  std::vector<CommandCase> cases = CommandCases();
+  std::erase_if(cases, [](const CommandCase& row) { return !row.hasDialog; });
+  return cases;
+}
 
-                           TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
-                           {
-                             const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
-                             Run(GetParam().id, {.ok = false});
-                             EXPECT_TRUE(listening.heard.empty());
-                             EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
-                             EXPECT_TRUE(settings.written.empty());
-                             EXPECT_EQ(app.unitCode, 9001);
-                           }
+class EachDialog : public EachCommand {};
 
-                           INSTANTIATE_TEST_SUITE_P(Table, EachDialog,
-                                                    testing::ValuesIn(DialogCases()),
-                                                    [](const auto& row) { return row.param.name; });
-                         });
+TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  Run(GetParam().id, {.ok = false});
+  EXPECT_TRUE(listening.heard.empty());
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_TRUE(settings.written.empty());
+  EXPECT_EQ(app.unitCode, 9001);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EachDialog, testing::ValuesIn(DialogCases()),
+                         [](const auto& row) { return row.param.name; });
 
 // ---------------------------------------------------------------------------------------------------
 // What each command changes
