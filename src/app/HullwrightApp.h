@@ -73,6 +73,13 @@ public:
   /// The units of length that the database has now.
   std::vector<UnitRecord> ReadUnits();
 
+  /// Repaints the design.
+  void Repaint();
+
+  /// Tells that a command has changed the design: repaint, tree, modified.
+  void TellAll();
+
+  bool AskYesNo(std::u16string_view question) { return ports_.messages.AskYesNo(question); }
   void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
   void SaveGridSettings(const GridSettings& grid);
 
@@ -116,9 +123,6 @@ private:
   void ToggleGrid();
   void ToggleSnap();
   void ShowAbout();
-  void Repaint();
-  void TellAll();
-
   AppPorts ports_;
   CTraceLog traceLog_;
 };

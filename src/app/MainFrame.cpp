@@ -1,6 +1,7 @@
 #include "app/MainFrame.h"
 
 #include "app/HullwrightApp.h"
+#include "app/ObjectView.h"
 #include "file/HullwrightDoc.h"
 #include "resources/CommandIds.h"
 
@@ -19,6 +20,7 @@ void CMainFrame::Notify(int code, std::intptr_t)
   if (code == Notification::RebuildTree) {
     // Whatever was released from the design must not be reached through an old pick.
     if (view != nullptr) view->DropReleasedItems();
+    if (objectView != nullptr) objectView->BuildTree();
   } else if (view != nullptr) {
     view->OnUser(code);
   }

@@ -11,6 +11,7 @@ namespace hullwright {
 
 class CHullwrightApp;
 class CHullwrightDoc;
+class CObjectView;
 
 /// How a command's menu entry and button look at the moment.
 struct CommandState {
@@ -20,7 +21,8 @@ struct CommandState {
 };
 
 /// The main frame without its widgets: the switchboard of the notifications, the routing of
-/// commands and what they answer about themselves. Document and view are set by whoever makes them.
+/// commands and what they answer about themselves. Document and views are set by whoever makes
+/// them.
 class CMainFrame : public IMainWindow {
 public:
   CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets);
@@ -44,6 +46,7 @@ public:
 
   CHullwrightDoc* document = nullptr;
   CHullwrightView* view = nullptr;
+  CObjectView* objectView = nullptr;
   bool hasWindow = false;
   int viewButtonImage;  ///< command whose image the side drop-down bears
 

@@ -21,6 +21,12 @@ inline constexpr std::u16string_view untitled = u"Untitled";
 
 /// Told when the units dialog is to be left without a choice.
 inline constexpr std::u16string_view selectUnit = u"Please select an unit from the list first !";
+inline constexpr std::u16string_view deleteAllShapes =
+    u"Are you sure you want to delete all shapes ?";
+inline constexpr std::u16string_view deleteShape =
+    u"Are you sure you want to delete the selected shape ?";
+inline constexpr std::u16string_view deletePoint =
+    u"Are you sure you want to delete the selected point from the polyline ?";
 inline constexpr std::u16string_view convertUnits =
     u"The unit setting has changed. Do you want to convert all coordinates to the new units ?";
 

@@ -1,0 +1,142 @@
+#include "app/ObjectTree.h"
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace hullwright {
+namespace {
+
+struct SideNode {
+  std::int32_t code;
+  std::u16string_view label;
+};
+
+constexpr std::array<SideNode, 7> sideNodes = {{{ViewSide::Top, u"TOP"},
+                                                {ViewSide::Bottom, u"BOTTOM"},
+                                                {ViewSide::Right, u"RIGHT"},
+                                                {ViewSide::Left, u"LEFT"},
+                                                {ViewSide::Front, u"FRONT"},
+                                                {ViewSide::Rear, u"REAR"},
+                                                {ViewSide::All, u"3D"}}};
+
+std::u16string PointText(const CShapeVertex& v)
+{
+  return WideFromAscii(FormatSignedFixed(v.x, 3) + "," + FormatSignedFixed(v.y, 3) + "," +
+                       FormatSignedFixed(v.z, 3));
+}
+
+}  // namespace
+
+void CObjectTree::Rebuild()
+{
+  ++build_;
+  for (std::size_t side = 0; side < sideCount; ++side) {
+    sides_[side].clear();
+    const CShapes* const group = FindViewGroup(design_.shapeGroups, sideNodes[side].code);
+    if (group == nullptr) continue;
+    ForEachEntry(group->shapes, [&](CShape& shape) {
+      if (shape.type != ShapeType::Polyline) return;
+      sides_[side].push_back({&shape, shape.vertices.size(), TreeImage::Polyline});
+    });
+  }
+  anchors_.clear();
+  hasAnchors_ = design_.anchors != nullptr;
+  if (!hasAnchors_) return;
+  Walk(design_.anchors->cursor, design_.anchors->items,
+       [this](CAnchor& anchor) { anchors_.push_back(&anchor); });
+}
+
+TreeItem CObjectTree::Anchors() const
+{
+  return hasAnchors_ ? Item(TreeLevel::Anchors) : TreeItem{};
+}
+
+TreeItem CObjectTree::Parent(const TreeItem& item) const
+{
+  if (!IsCurrent(item)) return {};
+  switch (item.level) {
+    case TreeLevel::Side: return Root();
+    case TreeLevel::Polyline: return Item(TreeLevel::Side, item.side);
+    case TreeLevel::Point: return Item(TreeLevel::Polyline, item.side, item.row);
+    case TreeLevel::Anchor: return Anchors();
+    default: return {};
+  }
+}
+
+std::size_t CObjectTree::ChildCount(const TreeItem& item) const
+{
+  if (!IsCurrent(item)) return 0;
+  switch (item.level) {
+    case TreeLevel::Root: return sideCount;
+    case TreeLevel::Side: return sides_[item.side].size();
+    case TreeLevel::Polyline: return sides_[item.side][item.row].points;
+    case TreeLevel::Anchors: return anchors_.size();
+    default: return 0;
+  }
+}
+
+TreeItem CObjectTree::Child(const TreeItem& item, std::size_t index) const
+{
+  if (index >= ChildCount(item)) return {};
+  switch (item.level) {
+    case TreeLevel::Root: return Item(TreeLevel::Side, index);
+    case TreeLevel::Side: return Item(TreeLevel::Polyline, item.side, index);
+    case TreeLevel::Polyline: return Item(TreeLevel::Point, item.side, item.row, index);
+    default: return Item(TreeLevel::Anchor, 0, index);
+  }
+}
+
+std::u16string CObjectTree::Text(const TreeItem& item) const
+{
+  if (!IsCurrent(item)) return {};
+  switch (item.level) {
+    case TreeLevel::Root: return u"Vessel Design";
+    case TreeLevel::Side: return std::u16string(sideNodes[item.side].label);
+    case TreeLevel::Polyline: return u"Polyline";
+    case TreeLevel::Anchors: return u"Anchors";
+    case TreeLevel::Anchor:
+      return u"Anchor #" + WideFromAscii(std::to_string(anchors_[item.row]->id));
+    default: break;
+  }
+  const CShapeVertex* const vertex = Vertex(item);
+  return vertex == nullptr ? std::u16string() : PointText(*vertex);
+}
+
+int CObjectTree::Image(const TreeItem& item) const
+{
+  if (!IsCurrent(item)) return TreeImage::Node;
+  switch (item.level) {
+    case TreeLevel::Polyline: return sides_[item.side][item.row].image;
+    case TreeLevel::Point: return TreeImage::Point;
+    case TreeLevel::Anchor:
+      return anchors_[item.row]->marked ? TreeImage::AnchorMarked : TreeImage::Anchor;
+    default: return TreeImage::Node;
+  }
+}
+
+CShape* CObjectTree::Shape(const TreeItem& item) const
+{
+  const bool isPolyline = IsCurrent(item) && item.level == TreeLevel::Polyline;
+  return isPolyline ? sides_[item.side][item.row].shape : nullptr;
+}
+
+CShapeVertex* CObjectTree::Vertex(const TreeItem& item) const
+{
+  if (!IsCurrent(item) || item.level != TreeLevel::Point) return nullptr;
+  const auto& vertices = sides_[item.side][item.row].shape->vertices;
+  return item.point < vertices.size() ? vertices[item.point].get() : nullptr;
+}
+
+CAnchor* CObjectTree::Anchor(const TreeItem& item) const
+{
+  return IsCurrent(item) && item.level == TreeLevel::Anchor ? anchors_[item.row] : nullptr;
+}
+
+void CObjectTree::SetImage(const TreeItem& polyline, int image)
+{
+  if (IsCurrent(polyline) && polyline.level == TreeLevel::Polyline) {
+    sides_[polyline.side][polyline.row].image = image;
+  }
+}
+
+}  // namespace hullwright

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/DesignState.h"
+
+namespace hullwright {
+
+/// Levels of the object tree.
+enum class TreeLevel { None, Root, Side, Polyline, Point, Anchors, Anchor };
+
+/// A place in the object tree, by its numbers from the top. A place of before a rebuild is no place
+/// any more.
+struct TreeItem {
+  TreeLevel level = TreeLevel::None;
+  std::size_t side = 0;
+  std::size_t row = 0;    ///< of a polyline in its side, or of an anchor
+  std::size_t point = 0;  ///< of a point in its polyline
+  std::uint32_t build = 0;
+
+  explicit operator bool() const { return level != TreeLevel::None; }
+  friend bool operator==(const TreeItem&, const TreeItem&) = default;
+};
+
+/// Images of the tree's strip.
+namespace TreeImage {
+inline constexpr int Node = 0;
+inline constexpr int PolylineUnmarked = 2;
+inline constexpr int Point = 3;
+inline constexpr int Anchor = 4;
+inline constexpr int Polyline = 5;
+inline constexpr int PolylineMarked = 7;
+inline constexpr int AnchorMarked = 9;
+}  // namespace TreeImage
+
+/// The design as a tree: sides with their polylines and points, and the anchors. It refers to the
+/// design and copies nothing of it but what is needed to stay in shape until the next rebuild: a
+/// rebuild costs a polyline, never a point, and texts are made when they are asked for. Whoever
+/// frees or adds shapes must ask for a rebuild before the tree is looked at again.
+class CObjectTree {
+public:
+  explicit CObjectTree(DesignState& design) : design_(design) {}
+
+  void Rebuild();
+
+  TreeItem Root() const { return Item(TreeLevel::Root); }
+  TreeItem Anchors() const;  ///< none without an anchor list
+  TreeItem Parent(const TreeItem& item) const;
+  std::size_t ChildCount(const TreeItem& item) const;
+  TreeItem Child(const TreeItem& item, std::size_t index) const;
+
+  std::u16string Text(const TreeItem& item) const;
+  int Image(const TreeItem& item) const;
+
+  // What an item stands for; null for an item of another level, or of before a rebuild.
+  CShape* Shape(const TreeItem& item) const;
+  CShapeVertex* Vertex(const TreeItem& item) const;
+  CAnchor* Anchor(const TreeItem& item) const;
+
+  /// Gives a polyline's node an image; the next rebuild takes it away.
+  void SetImage(const TreeItem& polyline, int image);
+
+  bool IsCurrent(const TreeItem& item) const { return item && item.build == build_; }
+
+private:
+  struct PolylineNode {
+    CShape* shape;
+    std::size_t points;
+    int image;
+  };
+
+  static constexpr std::size_t sideCount = 7;
+
+  TreeItem Item(TreeLevel level, std::size_t side = 0, std::size_t row = 0,
+                std::size_t point = 0) const
+  {
+    return {level, side, row, point, build_};
+  }
+
+  DesignState& design_;
+  std::uint32_t build_ = 0;
+  std::array<std::vector<PolylineNode>, sideCount> sides_;
+  std::vector<CAnchor*> anchors_;
+  bool hasAnchors_ = false;
+};
+
+}  // namespace hullwright
