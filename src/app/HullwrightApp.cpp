@@ -7,10 +7,17 @@
 #include "app/Dialogs.h"
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
+#include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
+namespace {
+
+constexpr std::string_view workspaceSection = "Workspace";
+constexpr std::string_view lookKey = "ApplicationLook";
+
+}  // namespace
 
 CHullwrightApp::CHullwrightApp(AppPorts ports)
     : ownViewPort_(std::make_unique<CViewPortDesigner>()),
@@ -111,6 +118,18 @@ std::u16string CHullwrightApp::GetUnitName()
 void CHullwrightApp::SaveGridSettings(const GridSettings& grid)
 {
   hullwright::SaveGridSettings(ports_.settings, grid);
+}
+
+void CHullwrightApp::LoadLook()
+{
+  applicationLook =
+      ports_.settings.ReadInteger(workspaceSection, lookKey, Command::LookVisualStudio2008);
+}
+
+void CHullwrightApp::StoreLook(int look)
+{
+  applicationLook = look;
+  ports_.settings.WriteInteger(workspaceSection, lookKey, look);
 }
 
 bool CHullwrightApp::EditVertex(CShapeVertex& vertex)

@@ -80,6 +80,10 @@ public:
   void TellAll();
 
   bool AskYesNo(std::u16string_view question) { return ports_.messages.AskYesNo(question); }
+  /// The look that the settings store has, and its way there.
+  void LoadLook();
+  void StoreLook(int look);
+
   void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
   void SaveGridSettings(const GridSettings& grid);
 
@@ -99,6 +103,7 @@ public:
   CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
   std::int32_t cursorTool = CursorTool::None;
   std::vector<UnitRecord> unitTable;  ///< names of the units, loaded at their first use
+  std::int32_t applicationLook = 0;   ///< command of the current look; read when the frame is made
   std::int32_t paneStyleFlag = 1;     ///< read once, when the frame builds its panes
 
 private:

@@ -6,11 +6,17 @@
 #include "resources/CommandIds.h"
 
 namespace hullwright {
+namespace {
+
+bool IsLook(int id) { return id >= Command::LookFirst && id <= Command::LookLast; }
+
+}  // namespace
 
 CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets)
     : viewButtonImage(Command::SelectView), app_(app), widgets_(widgets)
 {
   app.mainFrame = this;
+  app.LoadLook();
 }
 
 CMainFrame::~CMainFrame() { app_.mainFrame = nullptr; }
@@ -37,7 +43,18 @@ bool CMainFrame::OnCommand(int id)
     if (view != nullptr) view->OnCommand(id);
     return view != nullptr;
   }
+  if (IsLook(id)) {
+    OnApplicationLook(id);
+    return true;
+  }
   return app_.OnCommand(id);
+}
+
+void CMainFrame::OnApplicationLook(int look)
+{
+  app_.applicationLook = look;
+  widgets_.ApplyLook(look);
+  app_.StoreLook(look);
 }
 
 CommandState CMainFrame::QueryCommand(int id) const
@@ -53,8 +70,10 @@ CommandState CMainFrame::QueryCommand(int id) const
     case Command::CursorMove: return tool(CursorTool::Move);
     case Command::ShowAll: return {true};
     case Command::DrawPolyline: return {true, view != nullptr && view->drawing, true};
-    default: return {CHullwrightApp::IsCommand(id)};
+    default: break;
   }
+  if (IsLook(id)) return {true, app_.applicationLook == id, true};
+  return {CHullwrightApp::IsCommand(id)};
 }
 
 void CMainFrame::SetViewButtonImage(int command)

@@ -40,6 +40,9 @@ public:
   /// A command without a handler is disabled.
   CommandState QueryCommand(int id) const;
 
+  /// Selects a look by its command, shows it and stores it.
+  void OnApplicationLook(int look);
+
   /// The image that the side drop-down bears.
   void SetViewButtonImage(int command);
   void InvalidateToolBar();

@@ -23,6 +23,7 @@ void MemorySettings::WriteInteger(std::string_view section, std::string_view key
 struct HeadlessEditor::NoWidgets : IFrameWidgets {
   void SetViewButtonImage(int) override {}
   void InvalidateToolBar() override {}
+  void ApplyLook(int) override {}
 };
 
 struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {

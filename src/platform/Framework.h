@@ -38,6 +38,9 @@ public:
 
   /// Draws the whole toolbar anew.
   virtual void InvalidateToolBar() = 0;
+
+  /// Gives the program the look of a command and draws the frame anew.
+  virtual void ApplyLook(int look) = 0;
 };
 
 }  // namespace hullwright

@@ -21,8 +21,9 @@ QString TwoLines(std::u16string_view label)
 }
 
 Actions::Actions(QWidget* window, std::function<void(int)> run)
-    : QObject(window), window_(window), run_(std::move(run))
+    : QObject(window), window_(window), looks_(new QActionGroup(this)), run_(std::move(run))
 {
+  looks_->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
 }
 
 QAction* Actions::Get(int command)
@@ -38,6 +39,7 @@ QAction* Actions::Get(int command)
     action->setIconText(TwoLines(tooltip));
     action->setToolTip(OneLine(tooltip));
   }
+  if (command >= Command::LookFirst && command <= Command::LookLast) looks_->addAction(action);
   SetKeys(command, *action);
   connect(action, &QAction::triggered, this, [this, command] { run_(command); });
   return action;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 #include <functional>
 #include <map>
@@ -38,6 +39,7 @@ private:
   void SetKeys(int command, QAction& action);
 
   QWidget* window_;
+  QActionGroup* looks_;  ///< one of them is current, or none that the menu shows
   std::function<void(int)> run_;
   std::map<int, QAction*> actions_;
 };

@@ -1,5 +1,6 @@
 #include "qt/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QUrl>
 
 #include "qt/Icons.h"
+#include "qt/Looks.h"
 #include "qt/QtText.h"
 #include "resources/Accelerators.h"
 #include "resources/Commands.h"
@@ -52,6 +54,8 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       design_(new DesignWidget(this)),
       view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
       documents_(this, document_, settings, messages, recentFiles),
+      tree_(new ObjectTreeWidget(this)),
+      objects_(app, *tree_),
       actions_(new Actions(this, [this](int command) { Run(command); }))
 {
   messages.SetParent(this);
@@ -60,9 +64,11 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
   BuildMenus();
   BuildToolBar();
   BuildStatusBar();
+  BuildObjectPane();
   for (const Accelerator& accelerator : accelerators) actions_->Get(accelerator.command);
   frame_.document = &document_;
   frame_.view = &view_;
+  frame_.objectView = &objects_;
   documents_.onChange = [this] {
     UpdateTitle();
     UpdatePanes();
@@ -81,13 +87,16 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
 MainWindow::~MainWindow()
 {
   design_->Detach();
+  tree_->Detach();
   frame_.hasWindow = false;
   frame_.view = nullptr;
+  frame_.objectView = nullptr;
   frame_.document = nullptr;
 }
 
 void MainWindow::ShowAsBefore()
 {
+  frame_.OnApplicationLook(app_.applicationLook);
   resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 0.95));
   if (const QSettings* const file = settings_.File()) {
     restoreGeometry(file->value(QLatin1String(geometryKey)).toByteArray());
@@ -181,6 +190,42 @@ void MainWindow::BuildStatusBar()
   toggle->setChecked(true);
 }
 
+void MainWindow::BuildObjectPane()
+{
+  constexpr int startWidth = 200;
+  tree_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
+  tree_->Attach(objects_);
+  objects_.BuildTree();
+  objectPane_ = new QDockWidget(ToQString(Strings::objectView), this);
+  objectPane_->setObjectName(QStringLiteral("ObjectView"));
+  objectPane_->setWidget(tree_);
+  addDockWidget(Qt::LeftDockWidgetArea, objectPane_);
+  resizeDocks({objectPane_}, {startWidth}, Qt::Horizontal);
+  toolBarsMenu_->addAction(objectPane_->toggleViewAction());
+  connect(tree_, &ObjectTreeWidget::Changed, this, [this] {
+    UpdateCommands();
+    UpdatePanes();
+    UpdateTitle();
+  });
+}
+
+void MainWindow::GoToNextPane()
+{
+  // There are two panes, so the next one is also the one before.
+  QWidget* const next = design_->hasFocus() && objectPane_->isVisible()
+                            ? static_cast<QWidget*>(tree_)
+                            : static_cast<QWidget*>(design_);
+  next->window()->activateWindow();
+  next->setFocus(Qt::ShortcutFocusReason);
+}
+
+void MainWindow::ApplyLook(int look)
+{
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  hullwright::ApplyLook(look);
+  QApplication::restoreOverrideCursor();
+}
+
 void MainWindow::FillRecentFiles(QMenu& menu)
 {
   menu.clear();
@@ -223,6 +268,8 @@ bool MainWindow::RunShellCommand(int command)
     case Command::FileSave: documents_.Save(); return true;
     case Command::FileSaveAs: documents_.SaveAs(); return true;
     case Command::Exit: close(); return true;
+    case Command::NextPane:
+    case Command::PreviousPane: GoToNextPane(); return true;
     case Command::ViewStatusBar: statusBar()->setVisible(statusBar()->isHidden()); return true;
     default: return false;
   }
@@ -236,6 +283,8 @@ CommandState MainWindow::Query(int command) const
     case Command::FileSave:
     case Command::FileSaveAs:
     case Command::Exit:
+    case Command::NextPane:
+    case Command::PreviousPane:
     case Command::ViewToolbars: return {true};
     case Command::RecentFile: return {!documents_.RecentFiles().isEmpty()};
     case Command::ViewStatusBar: return {true, !statusBar()->isHidden(), true};

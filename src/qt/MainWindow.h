@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QToolBar>
 #include <QToolButton>
@@ -11,6 +12,7 @@
 #include "qt/Actions.h"
 #include "qt/DesignWidget.h"
 #include "qt/DocumentController.h"
+#include "qt/ObjectTreeWidget.h"
 #include "qt/StatusPane.h"
 
 namespace hullwright {
@@ -32,6 +34,7 @@ public:
 
   void SetViewButtonImage(int command) override;
   void InvalidateToolBar() override;
+  void ApplyLook(int look) override;
 
 protected:
   void closeEvent(QCloseEvent* event) override;
@@ -43,6 +46,8 @@ private:
   void BuildMenus();
   void BuildToolBar();
   void BuildStatusBar();
+  void BuildObjectPane();
+  void GoToNextPane();
   void AddToolButton(QAction& action);
   QToolButton* MakeViewButton();
   void FillRecentFiles(QMenu& menu);
@@ -61,6 +66,9 @@ private:
   DesignWidget* design_;
   CHullwrightView view_;
   DocumentController documents_;
+  ObjectTreeWidget* tree_;
+  CObjectView objects_;
+  QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
   QToolBar* toolBar_ = nullptr;
   QToolButton* viewButton_ = nullptr;

@@ -113,6 +113,21 @@ class Desk:
         self._xdotool("click", button)
         time.sleep(0.15)
 
+    def type(self, text):
+        """Types a text."""
+        self._xdotool("type", "--clearmodifiers", "--delay", 40, "--", text)
+        time.sleep(0.15)
+
+    def press(self):
+        """Presses the left button."""
+        self._xdotool("mousedown", 1)
+        time.sleep(0.15)
+
+    def release(self):
+        """Releases the left button."""
+        self._xdotool("mouseup", 1)
+        time.sleep(0.15)
+
     def wait_for_end(self):
         """Waits until the program has ended by itself; its exit status."""
         return self.program.wait(PATIENCE)

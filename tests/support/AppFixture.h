@@ -25,6 +25,7 @@ public:
     calls.push_back("image " + std::to_string(command));
   }
   void InvalidateToolBar() override { calls.emplace_back("invalidate"); }
+  void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
   std::vector<std::string> calls;
 };
 

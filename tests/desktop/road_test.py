@@ -31,18 +31,22 @@ class RoadTest(unittest.TestCase):
         scale = width / VIEW_WIDTH
         return round(left + width / 2 + x * scale), round(top + height / 2 - y * scale)
 
+    def choose_side(self, name):
+        """Chooses a side in the drop-down of the toolbar, which the tab key reaches from the view behind
+        the tree and the buttons new, open and save."""
+        down = ("Top", "Bottom", "Front", "Rear", "Right", "Left").index(name) + 1
+        self.desk.click(*self.pixel(-95, 0))
+        self.desk.keys("Tab", "Tab", "Tab", "Tab", "Tab", "space")
+        self.desk.settle()
+        self.desk.keys(*["Down"] * down, "Return")
+        self.desk.settle()
+
     def test_draw_a_polyline_on_the_right_side_and_save_it(self):
         before = self.design.read_text()
         self.desk.start(PROGRAM, self.design)
         self.paper = self.desk.paper()
 
-        # The side drop-down is the fourth button that the tab key reaches from the view: new, open and
-        # save come before it. "Right" is its fifth entry.
-        self.desk.click(*self.pixel(-95, 0))
-        self.desk.keys("Tab", "Tab", "Tab", "Tab", "space")
-        self.desk.settle()
-        self.desk.keys("Down", "Down", "Down", "Down", "Down", "Return")
-        self.desk.settle()
+        self.choose_side("Right")
 
         # "Draw Polyline" is the last entry of the last menu but one.
         self.desk.keys("alt+f", "Left", "Left", "Up", "Return")
@@ -69,10 +73,10 @@ class RoadTest(unittest.TestCase):
         self.paper = self.desk.paper()
         # Drag the GNSS antenna, which stands at (1.2, 0), to a grid point.
         self.desk.move(*self.pixel(1.2, 0))
-        self.desk._xdotool("mousedown", 1)
+        self.desk.press()
         for x in (5, 15, 25, 30):
             self.desk.move(*self.pixel(x, x))
-        self.desk._xdotool("mouseup", 1)
+        self.desk.release()
         self.desk.settle()
         self.desk.keys("alt+F4")
         self.desk.settle()

@@ -1,0 +1,65 @@
+#include "qt/Looks.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+#include <algorithm>
+#include <array>
+
+#include "resources/CommandIds.h"
+
+namespace hullwright {
+namespace {
+
+/// A look by its colours: the window's, and that of what is chosen. Palettes follow from the two.
+struct Look {
+  int id;
+  const char* style;
+  QRgb window;
+  QRgb highlight;
+};
+
+constexpr QRgb plainWindow = qRgb(0xef, 0xef, 0xef);
+constexpr QRgb plainHighlight = qRgb(0x30, 0x8c, 0xc6);
+
+constexpr auto looks = std::to_array<Look>({
+    {Command::LookWindows2000, "Windows", qRgb(0xd4, 0xd0, 0xc8), qRgb(0x0a, 0x24, 0x6a)},
+    {Command::LookOfficeXp, "Fusion", qRgb(0xec, 0xe9, 0xd8), qRgb(0x31, 0x6a, 0xc5)},
+    {Command::LookWindowsXp, "Fusion", qRgb(0xf1, 0xef, 0xe2), qRgb(0x31, 0x6a, 0xc5)},
+    {Command::LookOffice2003, "Fusion", qRgb(0xdd, 0xe8, 0xf7), qRgb(0x31, 0x6a, 0xc5)},
+    {Command::LookVisualStudio2005, "Fusion", qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
+    {Command::LookVisualStudio2008, "Fusion", plainWindow, plainHighlight},
+    {Command::LookBlue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
+    {Command::LookBlack, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x3d, 0x8f, 0xd1)},
+    {Command::LookSilver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x6b, 0x7a, 0x8f)},
+    {Command::LookAqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
+    {Command::LookLast, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x33, 0x99, 0xff)},
+});
+
+QPalette PaletteOf(const Look& look)
+{
+  QPalette palette = QPalette(QColor(look.window));
+  palette.setColor(QPalette::Highlight, QColor(look.highlight));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  const QColor window(look.window);
+  if (window.lightness() < 128) {
+    palette.setColor(QPalette::Base, window.darker(130));
+    palette.setColor(QPalette::AlternateBase, window.darker(115));
+    palette.setColor(QPalette::ToolTipBase, window.darker(130));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+  }
+  return palette;
+}
+
+}  // namespace
+
+void ApplyLook(int look)
+{
+  const auto* found = std::ranges::find(looks, look, &Look::id);
+  if (found == looks.end()) found = std::ranges::find(looks, Command::LookBlue, &Look::id);
+  QApplication::setStyle(QStyleFactory::create(QLatin1String(found->style)));
+  QApplication::setPalette(PaletteOf(*found));
+}
+
+}  // namespace hullwright

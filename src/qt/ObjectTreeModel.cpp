@@ -1,0 +1,116 @@
+#include "qt/ObjectTreeModel.h"
+
+#include <utility>
+
+#include "qt/QtText.h"
+
+namespace hullwright {
+namespace {
+
+// An index carries its row; level, side and polyline go into the number that the toolkit keeps with
+// it.
+constexpr unsigned sideShift = 4;
+constexpr unsigned rowShift = 8;
+
+quintptr Pack(const TreeItem& item)
+{
+  const auto level = static_cast<quintptr>(item.level);
+  const quintptr polyline = item.level == TreeLevel::Point ? item.row : 0;
+  return level | (item.side << sideShift) | (polyline << rowShift);
+}
+
+int RowOf(const TreeItem& item)
+{
+  switch (item.level) {
+    case TreeLevel::Side: return static_cast<int>(item.side);
+    case TreeLevel::Polyline:
+    case TreeLevel::Anchor: return static_cast<int>(item.row);
+    case TreeLevel::Point: return static_cast<int>(item.point);
+    case TreeLevel::Anchors: return 1;
+    default: return 0;
+  }
+}
+
+}  // namespace
+
+ObjectTreeModel::ObjectTreeModel(const CObjectTree& tree, QObject* parent)
+    : QAbstractItemModel(parent), tree_(tree)
+{
+}
+
+QModelIndex ObjectTreeModel::IndexOf(const TreeItem& item) const
+{
+  return item ? createIndex(RowOf(item), 0, Pack(item)) : QModelIndex();
+}
+
+TreeItem ObjectTreeModel::ItemAt(const QModelIndex& index) const
+{
+  if (!index.isValid()) return {};
+  const quintptr id = index.internalId();
+  const auto row = static_cast<std::size_t>(index.row());
+  TreeItem item = tree_.Root();
+  item.level = static_cast<TreeLevel>(id & 0xFU);
+  item.side = (id >> sideShift) & 0xFU;
+  item.row = item.level == TreeLevel::Point ? id >> rowShift : row;
+  item.point = item.level == TreeLevel::Point ? row : 0;
+  if (item.level == TreeLevel::Root || item.level == TreeLevel::Side ||
+      item.level == TreeLevel::Anchors) {
+    item.row = 0;
+  }
+  return item;
+}
+
+QModelIndex ObjectTreeModel::index(int row, int column, const QModelIndex& parent) const
+{
+  if (row < 0 || column != 0) return {};
+  if (parent.isValid()) return IndexOf(tree_.Child(ItemAt(parent), static_cast<std::size_t>(row)));
+  if (row == 0) return IndexOf(tree_.Root());
+  return row == 1 ? IndexOf(tree_.Anchors()) : QModelIndex();
+}
+
+QModelIndex ObjectTreeModel::parent(const QModelIndex& index) const
+{
+  return IndexOf(tree_.Parent(ItemAt(index)));
+}
+
+int ObjectTreeModel::rowCount(const QModelIndex& parent) const
+{
+  if (parent.isValid()) return static_cast<int>(tree_.ChildCount(ItemAt(parent)));
+  return tree_.Anchors() ? 2 : 1;
+}
+
+int ObjectTreeModel::columnCount(const QModelIndex&) const { return 1; }
+
+QVariant ObjectTreeModel::data(const QModelIndex& index, int role) const
+{
+  const TreeItem item = ItemAt(index);
+  if (role == Qt::DisplayRole) return ToQString(tree_.Text(item));
+  if (role != Qt::DecorationRole) return {};
+  const auto icon = icons_.find(tree_.Image(item));
+  return icon == icons_.end() ? QVariant() : QVariant(icon->second);
+}
+
+void ObjectTreeModel::Reset()
+{
+  beginResetModel();
+  endResetModel();
+}
+
+void ObjectTreeModel::RefreshImages()
+{
+  const QModelIndex root = index(0, 0, {});
+  for (int side = 0; side < rowCount(root); ++side) {
+    const QModelIndex node = index(side, 0, root);
+    const int last = rowCount(node) - 1;
+    if (last < 0) continue;
+    Q_EMIT dataChanged(index(0, 0, node), index(last, 0, node), {Qt::DecorationRole});
+  }
+}
+
+void ObjectTreeModel::SetIcons(std::map<int, QIcon> icons)
+{
+  icons_ = std::move(icons);
+  RefreshImages();
+}
+
+}  // namespace hullwright

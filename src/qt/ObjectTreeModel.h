@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QIcon>
+#include <map>
+
+#include "app/ObjectTree.h"
+
+namespace hullwright {
+
+/// The object tree for the toolkit: answers from the tree when it is asked and keeps nothing
+/// itself.
+class ObjectTreeModel : public QAbstractItemModel {
+  Q_OBJECT
+
+public:
+  ObjectTreeModel(const CObjectTree& tree, QObject* parent);
+
+  QModelIndex index(int row, int column, const QModelIndex& parent) const override;
+  QModelIndex parent(const QModelIndex& index) const override;
+  int rowCount(const QModelIndex& parent) const override;
+  int columnCount(const QModelIndex& parent) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+  TreeItem ItemAt(const QModelIndex& index) const;
+
+  /// Everything is new.
+  void Reset();
+
+  /// Images may have changed.
+  void RefreshImages();
+
+  void SetIcons(std::map<int, QIcon> icons);
+
+private:
+  QModelIndex IndexOf(const TreeItem& item) const;
+
+  const CObjectTree& tree_;
+  std::map<int, QIcon> icons_;  ///< by the numbers of the tree's images
+};
+
+}  // namespace hullwright
