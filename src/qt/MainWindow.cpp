@@ -9,8 +9,10 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolBar>
 #include <QUrl>
 
+#include "qt/CustomizeDialog.h"
 #include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "qt/QtText.h"
@@ -56,13 +58,13 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       documents_(this, document_, settings, messages, recentFiles),
       tree_(new ObjectTreeWidget(this)),
       objects_(app, *tree_),
-      actions_(new Actions(this, [this](int command) { Run(command); }))
+      actions_(new Actions(this, [this](int command) { RunCommand(command); }))
 {
   messages.SetParent(this);
   setWindowIcon(ApplicationIcon());
   setCentralWidget(design_);
   BuildMenus();
-  BuildToolBar();
+  BuildToolBars();
   BuildStatusBar();
   BuildObjectPane();
   for (const Accelerator& accelerator : accelerators) actions_->Get(accelerator.command);
@@ -122,53 +124,48 @@ void MainWindow::BuildMenus()
   connect(recentMenu_, &QMenu::aboutToShow, this, [this] { FillRecentFiles(*recentMenu_); });
 }
 
-void MainWindow::BuildToolBar()
+void MainWindow::BuildToolBars()
 {
-  toolBar_ = addToolBar(ToQString(Strings::standardToolBar));
-  toolBar_->setObjectName(QStringLiteral("StandardToolBar"));
-  toolBar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  toolBar_->setIconSize(QSize(24, 24));
-  const std::span<const int> buttons = app_.paneStyleFlag != 0 ? std::span<const int>(mainToolBar)
-                                                               : std::span<const int>(smallToolBar);
-  for (const int command : buttons) {
-    if (command == toolBarSeparator) {
-      toolBar_->addSeparator();
-    } else if (command == Command::SelectView) {
-      toolBar_->addWidget(MakeViewButton());
-    } else {
-      AddToolButton(*actions_->Get(command));
-    }
+  const std::span<const int> commands = app_.paneStyleFlag != 0
+                                            ? std::span<const int>(mainToolBar)
+                                            : std::span<const int>(smallToolBar);
+  toolBars_ = new ToolBars(*this, *actions_, QList<int>(commands.begin(), commands.end()));
+  if (const QSettings* const file = settings_.File()) {
+    toolBars_->Load(*file);
+  } else {
+    toolBars_->Build({toolBars_->StandardSpec()});
   }
-  toolBarsMenu_->addAction(toolBar_->toggleViewAction());
+  QAction* const customize = actions_->Get(Command::Customize);
+  customize->setText(ToQString(Strings::customize));
+  connect(toolBarsMenu_, &QMenu::aboutToShow, this, [this] { FillToolBarsMenu(); });
 }
 
-void MainWindow::AddToolButton(QAction& action)
+void MainWindow::FillToolBarsMenu()
 {
-  toolBar_->addAction(&action);
-  QWidget* const button = toolBar_->widgetForAction(&action);
-  button->setFocusPolicy(Qt::TabFocus);
-  button->setAccessibleName(action.iconText().replace(QLatin1Char('\n'), QLatin1Char(' ')));
-  button->setAccessibleDescription(action.statusTip());
+  toolBarsMenu_->clear();
+  for (const QToolBar* const bar : toolBars_->Bars()) {
+    toolBarsMenu_->addAction(bar->toggleViewAction());
+  }
+  toolBarsMenu_->addAction(objectPane_->toggleViewAction());
+  toolBarsMenu_->addSeparator();
+  toolBarsMenu_->addAction(actions_->Get(Command::Customize));
 }
 
-QToolButton* MainWindow::MakeViewButton()
+QMenu* MainWindow::createPopupMenu()
 {
-  viewButton_ = new QToolButton(this);
-  viewButton_->setObjectName(QStringLiteral("SideButton"));
-  auto* const menu = new QMenu(viewButton_);
-  actions_->FillMenu(*menu, viewMenu);
-  viewButton_->setMenu(menu);
-  viewButton_->setPopupMode(QToolButton::InstantPopup);
-  viewButton_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  viewButton_->setAutoRaise(true);
-  viewButton_->setFocusPolicy(Qt::TabFocus);
-  viewButton_->setText(TwoLines(viewButtonText));
-  viewButton_->setAccessibleName(OneLine(viewButtonText));
-  const CommandEntry* const entry = FindCommand(Command::SelectView);
-  viewButton_->setToolTip(OneLine(TooltipText(*entry)));
-  viewButton_->setStatusTip(ToQString(StatusText(*entry)));
-  viewButton_->setIcon(actions_->Get(Command::SelectView)->icon());
-  return viewButton_;
+  // The menu on toolbars and panes; it is the caller's to delete.
+  FillToolBarsMenu();
+  auto* const menu = new QMenu(this);
+  menu->addActions(toolBarsMenu_->actions());
+  return menu;
+}
+
+void MainWindow::Customize()
+{
+  CustomizeDialog dialog(*toolBars_, *actions_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  toolBars_->Build(dialog.Specs());
+  if (QSettings* const file = settings_.File()) toolBars_->Store(*file);
 }
 
 void MainWindow::BuildStatusBar()
@@ -184,7 +181,7 @@ void MainWindow::BuildStatusBar()
   constexpr auto widths = PaneWidths(0);
   coordinatesPane_ = dataPane(widths[1]);
   unitsPane_ = dataPane(widths[2]);
-  unitsPane_->onPress = [this] { Run(Command::Units); };
+  unitsPane_->onPress = [this] { RunCommand(Command::Units); };
   QAction* const toggle = actions_->Get(Command::ViewStatusBar);
   toggle->setCheckable(true);
   toggle->setChecked(true);
@@ -201,7 +198,6 @@ void MainWindow::BuildObjectPane()
   objectPane_->setWidget(tree_);
   addDockWidget(Qt::LeftDockWidgetArea, objectPane_);
   resizeDocks({objectPane_}, {startWidth}, Qt::Horizontal);
-  toolBarsMenu_->addAction(objectPane_->toggleViewAction());
   connect(tree_, &ObjectTreeWidget::Changed, this, [this] {
     UpdateCommands();
     UpdatePanes();
@@ -240,18 +236,16 @@ void MainWindow::FillRecentFiles(QMenu& menu)
 
 void MainWindow::SetViewButtonImage(int command)
 {
-  if (viewButton_ == nullptr) return;
-  QAction* const side = actions_->Get(command);
-  viewButton_->setIcon(side->icon());
-  viewButton_->setAccessibleDescription(side->text());
+  if (toolBars_ != nullptr) toolBars_->SetViewImage(command);
 }
 
 void MainWindow::InvalidateToolBar()
 {
-  if (toolBar_ != nullptr) toolBar_->update();
+  if (toolBars_ == nullptr) return;
+  for (QToolBar* const bar : toolBars_->Bars()) bar->update();
 }
 
-void MainWindow::Run(int command)
+void MainWindow::RunCommand(int command)
 {
   if (!Query(command).enabled) return;
   if (!RunShellCommand(command)) frame_.OnCommand(command);
@@ -268,6 +262,7 @@ bool MainWindow::RunShellCommand(int command)
     case Command::FileSave: documents_.Save(); return true;
     case Command::FileSaveAs: documents_.SaveAs(); return true;
     case Command::Exit: close(); return true;
+    case Command::Customize: Customize(); return true;
     case Command::NextPane:
     case Command::PreviousPane: GoToNextPane(); return true;
     case Command::ViewStatusBar: statusBar()->setVisible(statusBar()->isHidden()); return true;
@@ -283,6 +278,7 @@ CommandState MainWindow::Query(int command) const
     case Command::FileSave:
     case Command::FileSaveAs:
     case Command::Exit:
+    case Command::Customize:
     case Command::NextPane:
     case Command::PreviousPane:
     case Command::ViewToolbars: return {true};

@@ -2,8 +2,6 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
-#include <QToolBar>
-#include <QToolButton>
 
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
@@ -14,6 +12,7 @@
 #include "qt/DocumentController.h"
 #include "qt/ObjectTreeWidget.h"
 #include "qt/StatusPane.h"
+#include "qt/ToolBars.h"
 
 namespace hullwright {
 
@@ -29,6 +28,9 @@ public:
 
   DocumentController& Document() { return documents_; }
 
+  /// Carries out a command of menu, toolbar or key, if it is enabled.
+  void RunCommand(int command);
+
   /// Shows the window where and as it was closed last.
   void ShowAsBefore();
 
@@ -41,18 +43,18 @@ protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void changeEvent(QEvent* event) override;
+  QMenu* createPopupMenu() override;
 
 private:
   void BuildMenus();
-  void BuildToolBar();
+  void BuildToolBars();
+  void FillToolBarsMenu();
+  void Customize();
   void BuildStatusBar();
   void BuildObjectPane();
   void GoToNextPane();
-  void AddToolButton(QAction& action);
-  QToolButton* MakeViewButton();
   void FillRecentFiles(QMenu& menu);
 
-  void Run(int command);
   bool RunShellCommand(int command);
   CommandState Query(int command) const;
   void UpdateCommands();
@@ -70,8 +72,7 @@ private:
   CObjectView objects_;
   QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
-  QToolBar* toolBar_ = nullptr;
-  QToolButton* viewButton_ = nullptr;
+  ToolBars* toolBars_ = nullptr;
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
   StatusPane* coordinatesPane_ = nullptr;

@@ -4,6 +4,8 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include "qt/Shell.h"

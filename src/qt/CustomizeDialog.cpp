@@ -1,0 +1,181 @@
+#include "qt/CustomizeDialog.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "qt/Icons.h"
+#include "qt/QtText.h"
+#include "resources/Commands.h"
+#include "resources/ToolBars.h"
+
+namespace hullwright {
+
+CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWidget* parent)
+    : QDialog(parent),
+      actions_(actions),
+      standard_(toolBars.StandardSpec()),
+      specs_(toolBars.Specs()),
+      bars_(new QComboBox(this)),
+      available_(new QListWidget(this)),
+      shown_(new QListWidget(this)),
+      newBar_(MakeButton(tr("&New..."), &CustomizeDialog::NewToolBar)),
+      deleteBar_(MakeButton(tr("&Delete"), &CustomizeDialog::DeleteToolBar))
+{
+  setWindowTitle(tr("Customize Toolbars"));
+  auto* const grid = new QGridLayout(this);
+  auto* const barLabel = new QLabel(tr("&Toolbar:"), this);
+  barLabel->setBuddy(bars_);
+  auto* const availableLabel = new QLabel(tr("&Commands:"), this);
+  availableLabel->setBuddy(available_);
+  auto* const shownLabel = new QLabel(tr("&Buttons:"), this);
+  shownLabel->setBuddy(shown_);
+  grid->addWidget(barLabel, 0, 0);
+  grid->addWidget(bars_, 0, 0, 1, 1, Qt::AlignRight);
+  grid->addWidget(newBar_, 0, 1);
+  grid->addWidget(deleteBar_, 0, 2, Qt::AlignLeft);
+  grid->addWidget(availableLabel, 1, 0);
+  grid->addWidget(shownLabel, 1, 2);
+  grid->addWidget(available_, 2, 0);
+  grid->addWidget(shown_, 2, 2);
+  auto* const column = new QVBoxLayout;
+  column->addStretch();
+  column->addWidget(MakeButton(tr("&Add"), &CustomizeDialog::Add));
+  column->addWidget(MakeButton(tr("&Remove"), &CustomizeDialog::Remove));
+  column->addWidget(MakeButton(tr("Move &Up"), &CustomizeDialog::MoveUp));
+  column->addWidget(MakeButton(tr("Move Do&wn"), &CustomizeDialog::MoveDown));
+  column->addWidget(MakeButton(tr("R&eset"), &CustomizeDialog::Reset));
+  column->addStretch();
+  grid->addLayout(column, 2, 1);
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  buttons->button(QDialogButtonBox::Ok)->setIcon(ThemedIcon("dialog-ok", palette()));
+  buttons->button(QDialogButtonBox::Cancel)->setIcon(ThemedIcon("dialog-cancel", palette()));
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+    TakeOver();
+    accept();
+  });
+  connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  grid->addWidget(buttons, 3, 0, 1, 3);
+  bars_->setMinimumWidth(160);
+
+  for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
+  FillAvailable();
+  ShowToolBar(0);
+  connect(bars_, &QComboBox::currentIndexChanged, this, [this](int index) {
+    TakeOver();
+    ShowToolBar(index);
+  });
+}
+
+QPushButton* CustomizeDialog::MakeButton(const QString& text, void (CustomizeDialog::*act)())
+{
+  auto* const button = new QPushButton(text, this);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, act] { (this->*act)(); });
+  return button;
+}
+
+QListWidgetItem* CustomizeDialog::MakeItem(int command)
+{
+  auto* const item = new QListWidgetItem;
+  item->setData(Qt::UserRole, command);
+  if (command == toolBarSeparator) {
+    item->setText(tr("Separator"));
+    return item;
+  }
+  const CommandEntry* const entry = FindCommand(command);
+  const QString label = OneLine(TooltipText(*entry));
+  const QString prompt = ToQString(StatusText(*entry));
+  item->setText(label + QStringLiteral(" \u2013 ") + prompt);
+  item->setIcon(actions_.Get(command)->icon());
+  return item;
+}
+
+void CustomizeDialog::FillAvailable()
+{
+  available_->addItem(MakeItem(toolBarSeparator));
+  for (const CommandEntry& entry : Commands()) {
+    if (!entry.icon.empty() && !TooltipText(entry).empty()) available_->addItem(MakeItem(entry.id));
+  }
+  available_->setCurrentRow(0);
+}
+
+void CustomizeDialog::ShowToolBar(int index)
+{
+  current_ = index;
+  shown_->clear();
+  for (const int command : specs_.at(index).commands) shown_->addItem(MakeItem(command));
+  shown_->setCurrentRow(0);
+  UpdateButtons();
+}
+
+void CustomizeDialog::TakeOver()
+{
+  QList<int> commands;
+  for (int row = 0; row < shown_->count(); ++row) {
+    commands.append(shown_->item(row)->data(Qt::UserRole).toInt());
+  }
+  specs_[current_].commands = commands;
+}
+
+void CustomizeDialog::Add()
+{
+  const QListWidgetItem* const chosen = available_->currentItem();
+  if (chosen == nullptr) return;
+  const int row = shown_->currentRow() + 1;
+  shown_->insertItem(row, MakeItem(chosen->data(Qt::UserRole).toInt()));
+  shown_->setCurrentRow(row);
+}
+
+void CustomizeDialog::Remove() { delete shown_->takeItem(shown_->currentRow()); }
+
+void CustomizeDialog::MoveBy(int rows)
+{
+  const int row = shown_->currentRow();
+  const int target = row + rows;
+  if (row < 0 || target < 0 || target >= shown_->count()) return;
+  shown_->insertItem(target, shown_->takeItem(row));
+  shown_->setCurrentRow(target);
+}
+
+void CustomizeDialog::Reset()
+{
+  specs_[current_].commands = current_ == 0 ? standard_.commands : QList<int>();
+  ShowToolBar(current_);
+}
+
+void CustomizeDialog::NewToolBar()
+{
+  bool accepted = false;
+  const QString title =
+      QInputDialog::getText(this, tr("New Toolbar"), tr("Name:"), QLineEdit::Normal,
+                            tr("Toolbar %1").arg(specs_.size()), &accepted);
+  if (!accepted || title.trimmed().isEmpty()) return;
+  specs_.append({title.trimmed(), {}});
+  bars_->addItem(title.trimmed());
+  bars_->setCurrentIndex(bars_->count() - 1);
+}
+
+void CustomizeDialog::DeleteToolBar()
+{
+  if (current_ == 0) return;
+  const int index = current_;
+  const QSignalBlocker quiet(bars_);
+  specs_.removeAt(index);
+  bars_->removeItem(index);
+  bars_->setCurrentIndex(index - 1);
+  ShowToolBar(index - 1);
+}
+
+void CustomizeDialog::UpdateButtons()
+{
+  newBar_->setEnabled(specs_.size() <= ToolBars::mostUserToolBars);
+  deleteBar_->setEnabled(current_ > 0);
+}
+
+}  // namespace hullwright

@@ -1,0 +1,150 @@
+#include "qt/ToolBars.h"
+
+#include <QMainWindow>
+#include <QSettings>
+#include <QToolBar>
+#include <QToolButton>
+#include <utility>
+
+#include "qt/QtText.h"
+#include "resources/Commands.h"
+#include "resources/Menus.h"
+#include "resources/Strings.h"
+#include "resources/ToolBars.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* storeKey = "Workspace/ToolBars";
+constexpr int firstUserToolBar = 59432;
+
+/// One toolbar as a line of text: commands, then the title.
+QString ToText(const ToolBarSpec& spec)
+{
+  QStringList words;
+  for (const int command : spec.commands) words.append(QString::number(command));
+  return words.join(QLatin1Char(' ')) + QLatin1Char('|') + spec.title;
+}
+
+/// Leaves out what is no command of a button, as an older or newer program may have stored.
+ToolBarSpec FromText(const QString& text)
+{
+  ToolBarSpec spec;
+  spec.title = text.section(QLatin1Char('|'), 1);
+  for (const QString& word : text.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(' '))) {
+    bool isNumber = false;
+    const int command = word.toInt(&isNumber);
+    const CommandEntry* const entry = FindCommand(command);
+    if (!isNumber) continue;
+    if (command == toolBarSeparator || (entry != nullptr && !entry->icon.empty())) {
+      spec.commands.append(command);
+    }
+  }
+  return spec;
+}
+
+}  // namespace
+
+ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<int> standardCommands)
+    : QObject(&window),
+      window_(window),
+      actions_(actions),
+      standardCommands_(std::move(standardCommands)),
+      viewImage_(Command::SelectView)
+{
+}
+
+ToolBarSpec ToolBars::StandardSpec() const
+{
+  return {ToQString(Strings::standardToolBar), standardCommands_};
+}
+
+void ToolBars::Load(const QSettings& settings)
+{
+  QList<ToolBarSpec> specs;
+  for (const QString& text : settings.value(QLatin1String(storeKey)).toStringList()) {
+    if (specs.size() <= mostUserToolBars) specs.append(FromText(text));
+  }
+  if (specs.isEmpty() || specs.constFirst().commands.isEmpty()) specs = {StandardSpec()};
+  specs.first().title = StandardSpec().title;
+  Build(specs);
+}
+
+void ToolBars::Store(QSettings& settings) const
+{
+  QStringList lines;
+  for (const ToolBarSpec& spec : specs_) lines.append(ToText(spec));
+  settings.setValue(QLatin1String(storeKey), lines);
+}
+
+void ToolBars::Build(const QList<ToolBarSpec>& specs)
+{
+  viewButtons_.clear();
+  qDeleteAll(std::exchange(bars_, {}));
+  specs_ = specs;
+  for (const ToolBarSpec& spec : specs_) {
+    auto* const bar = window_.addToolBar(spec.title);
+    bar->setObjectName(
+        bars_.isEmpty() ? QStringLiteral("StandardToolBar")
+                        : QString::number(firstUserToolBar + static_cast<int>(bars_.size()) - 1));
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setIconSize(QSize(24, 24));
+    bars_.append(bar);
+    Fill(*bar, spec.commands);
+  }
+  SetViewImage(viewImage_);
+}
+
+void ToolBars::Fill(QToolBar& bar, const QList<int>& commands)
+{
+  for (const int command : commands) {
+    if (command == toolBarSeparator) {
+      bar.addSeparator();
+    } else if (command == Command::SelectView) {
+      bar.addWidget(MakeViewButton());
+    } else {
+      AddButton(bar, *actions_.Get(command));
+    }
+  }
+}
+
+void ToolBars::AddButton(QToolBar& bar, QAction& action)
+{
+  bar.addAction(&action);
+  QWidget* const button = bar.widgetForAction(&action);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setAccessibleName(action.iconText().replace(QLatin1Char('\n'), QLatin1Char(' ')));
+  button->setAccessibleDescription(action.statusTip());
+}
+
+QToolButton* ToolBars::MakeViewButton()
+{
+  auto* const button = new QToolButton(&window_);
+  button->setObjectName(QStringLiteral("SideButton"));
+  auto* const menu = new QMenu(button);
+  actions_.FillMenu(*menu, viewMenu);
+  button->setMenu(menu);
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setText(TwoLines(viewButtonText));
+  button->setAccessibleName(OneLine(viewButtonText));
+  const CommandEntry* const entry = FindCommand(Command::SelectView);
+  button->setToolTip(OneLine(TooltipText(*entry)));
+  button->setStatusTip(ToQString(StatusText(*entry)));
+  viewButtons_.append(button);
+  return button;
+}
+
+void ToolBars::SetViewImage(int command)
+{
+  viewImage_ = command;
+  const QAction* const side = actions_.Get(command);
+  for (QToolButton* const button : viewButtons_) {
+    button->setIcon(side->icon());
+    button->setAccessibleDescription(command == Command::SelectView ? QString() : side->text());
+  }
+}
+
+}  // namespace hullwright

@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolBar>
+
+#include "qt/CustomizeDialog.h"
+#include "qt/Shell.h"
+#include "resources/CommandIds.h"
+#include "resources/ToolBars.h"
+#include "support/ShellFixture.h"
+
+namespace hullwright {
+namespace {
+
+class Frame : public test::ShellFixture {
+protected:
+  Frame() { Restart(); }
+
+  void Restart()
+  {
+    if (shell) shell->Window()->close();
+    shell.reset();
+    shell = std::make_unique<Shell>(QString());
+    EXPECT_TRUE(shell->App().InitInstance(*shell));
+  }
+
+  MainWindow& Window() { return *shell->Window(); }
+
+  /// Commands of a toolbar's buttons by their labels.
+  static QStringList Labels(const QToolBar& bar)
+  {
+    QStringList labels;
+    for (const QAction* action : bar.actions()) {
+      labels.append(action->isSeparator() ? QStringLiteral("|") : action->iconText());
+    }
+    return labels;
+  }
+
+  QList<QToolBar*> Bars() { return Window().findChildren<QToolBar*>(Qt::FindDirectChildrenOnly); }
+
+  /// Runs the customisation with `act` on its dialog.
+  void Customize(const std::function<void(QDialog&)>& act)
+  {
+    WhenAsked<QDialog>([act](QDialog& dialog) { act(dialog); });
+    Window().RunCommand(Command::Customize);
+  }
+
+  static void Press(QDialog& dialog, const char* text)
+  {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->text().remove(QLatin1Char('&')) == QLatin1String(text)) return button->click();
+    }
+    ADD_FAILURE() << text;
+  }
+
+  std::unique_ptr<Shell> shell;
+};
+
+TEST_F(Frame, TheLookIsStoredAndRestoredByItsId)
+{
+  EXPECT_EQ(shell->App().applicationLook, 210);
+  Window().RunCommand(Command::LookBlack);
+  EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+  Restart();
+  EXPECT_EQ(shell->App().applicationLook, Command::LookBlack);
+  EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
+  Window().RunCommand(Command::LookWindows2000);
+  EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("windows"));
+  Window().RunCommand(Command::LookVisualStudio2008);
+  EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("fusion"));
+}
+
+TEST_F(Frame, TheStandardToolBarBeginsAsItsTableSays)
+{
+  ASSERT_EQ(Bars().size(), 1);
+  EXPECT_EQ(Bars().first()->windowTitle(), QStringLiteral("Standard"));
+  EXPECT_EQ(Bars().first()->actions().size(), static_cast<qsizetype>(mainToolBar.size()));
+}
+
+TEST_F(Frame, ButtonsCanBeTakenAwayAndMovedAndStayAwayAfterARestart)
+{
+  Customize([](QDialog& dialog) {
+    auto* const shown = dialog.findChildren<QListWidget*>().at(1);
+    shown->setCurrentRow(0);
+    Press(dialog, "Remove");  // New
+    shown->setCurrentRow(0);
+    Press(dialog, "Move Down");  // Open behind Save
+    dialog.accept();
+  });
+  // Closing the dialog by itself takes nothing over.
+  EXPECT_EQ(Labels(*Bars().first()).first(), QStringLiteral("New\nDesign"));
+  Customize([](QDialog& dialog) {
+    auto* const shown = dialog.findChildren<QListWidget*>().at(1);
+    shown->setCurrentRow(0);
+    Press(dialog, "Remove");
+    shown->setCurrentRow(0);
+    Press(dialog, "Move Down");
+    Press(dialog, "OK");
+  });
+  const QStringList wanted = {QStringLiteral("Save\nDesign"), QStringLiteral("Open\nDesign")};
+  EXPECT_EQ(Labels(*Bars().first()).mid(0, 2), wanted);
+  Restart();
+  EXPECT_EQ(Labels(*Bars().first()).mid(0, 2), wanted);
+  Customize([](QDialog& dialog) {
+    Press(dialog, "Reset");
+    Press(dialog, "OK");
+  });
+  EXPECT_EQ(Labels(*Bars().first()).first(), QStringLiteral("New\nDesign"));
+}
+
+TEST_F(Frame, AToolBarOfTheUsersOwnSurvivesARestartAndCanBeDeleted)
+{
+  Customize([this](QDialog& dialog) {
+    WhenAsked<QInputDialog>([](QInputDialog& input) {
+      input.setTextValue(QStringLiteral("Mine | 2"));
+      input.accept();
+    });
+    Press(dialog, "New...");
+    auto* const available = dialog.findChildren<QListWidget*>().at(0);
+    available->setCurrentRow(1);
+    Press(dialog, "Add");
+    available->setCurrentRow(0);
+    Press(dialog, "Add");
+    Press(dialog, "OK");
+  });
+  for (int start = 0; start < 2; ++start) {
+    ASSERT_EQ(Bars().size(), 2);
+    EXPECT_EQ(Bars().at(1)->windowTitle(), QStringLiteral("Mine | 2"));
+    EXPECT_EQ(Labels(*Bars().at(1)),
+              (QStringList{QStringLiteral("New\nDesign"), QStringLiteral("|")}));
+    Restart();
+  }
+  Customize([](QDialog& dialog) {
+    dialog.findChild<QComboBox*>()->setCurrentIndex(1);
+    Press(dialog, "Delete");
+    Press(dialog, "OK");
+  });
+  EXPECT_EQ(Bars().size(), 1);
+}
+
+TEST_F(Frame, TenToolBarsOfTheUsersOwnAreTheMost)
+{
+  QList<ToolBarSpec> specs = {{QStringLiteral("Standard"), {Command::FileNew}}};
+  for (int i = 0; i < 12; ++i) specs.append({QString::number(i), {Command::FileOpen}});
+  QSettings settings(QString::fromStdString((folder.Path() / "bars.ini").string()),
+                     QSettings::IniFormat);
+  Actions actions(&Window(), [](int) {});
+  ToolBars bars(Window(), actions, {Command::FileNew});
+  bars.Build(specs);
+  bars.Store(settings);
+  bars.Load(settings);
+  EXPECT_EQ(bars.Specs().size(), 11);
+  CustomizeDialog dialog(bars, actions, &Window());
+  for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    EXPECT_EQ(button->isEnabled(), button->text() != QStringLiteral("&New...") &&
+                                       button->text() != QStringLiteral("&Delete"));
+  }
+}
+
+TEST_F(Frame, WhatAnotherProgramStoredIsLeftOut)
+{
+  QSettings settings(QString::fromStdString((folder.Path() / "bars.ini").string()),
+                     QSettings::IniFormat);
+  settings.setValue(QStringLiteral("Workspace/ToolBars"),
+                    QStringList{QStringLiteral("57600 abc 12345 0 32788|Renamed")});
+  Actions actions(&Window(), [](int) {});
+  ToolBars bars(Window(), actions, {Command::FileNew});
+  bars.Load(settings);
+  ASSERT_EQ(bars.Specs().size(), 1);
+  EXPECT_EQ(bars.Specs().first(), (ToolBarSpec{QStringLiteral("Standard"), {57600, 0, 32788}}));
+  settings.setValue(QStringLiteral("Workspace/ToolBars"), QStringLiteral("nonsense"));
+  bars.Load(settings);
+  EXPECT_EQ(bars.Specs().first().commands, QList<int>{Command::FileNew});
+}
+
+TEST_F(Frame, TheKeysF6AndShiftF6MoveTheFocusBetweenViewAndTree)
+{
+  auto* const view = Window().findChild<DesignWidget*>();
+  auto* const tree = Window().findChild<ObjectTreeWidget*>();
+  Window().activateWindow();
+  QApplication::processEvents();
+  view->setFocus();
+  Window().RunCommand(Command::NextPane);
+  EXPECT_EQ(Window().focusWidget(), tree);
+  Window().RunCommand(Command::PreviousPane);
+  EXPECT_EQ(Window().focusWidget(), view);
+}
+
+}  // namespace
+}  // namespace hullwright
