@@ -104,6 +104,7 @@ int CDialogOffsets::Template() const { return DialogId::Offsets; }
 
 void CDialogOffsets::OnStart(IDialogControls& controls)
 {
+  if (!app_.offsetGps || !app_.offsetTransducer || !app_.offsetPivot) return;
   ShowNumber(controls, 1027, app_.offsetGps->x, longDecimals);
   ShowNumber(controls, 1028, app_.offsetGps->y, longDecimals);
   ShowNumber(controls, 1030, app_.offsetTransducer->x, longDecimals);

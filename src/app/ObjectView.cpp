@@ -127,23 +127,29 @@ void CObjectView::AddAnchor()
   app_.TellAll();
 }
 
+// A dialog or question may outlive what it is about: the design can be replaced meanwhile. Items of
+// before a rebuild stand for nothing, so each command looks its item up again afterwards.
+
 void CObjectView::AddPoint()
 {
-  CShape* const shape = tree_.Shape(selectedItem);
-  if (shape == nullptr) return;
+  const TreeItem item = selectedItem;
+  if (tree_.Shape(item) == nullptr) return;
   auto vertex = std::make_unique<CShapeVertex>();
   if (!app_.EditVertex(*vertex)) return;
+  CShape* const shape = tree_.Shape(item);
+  if (shape == nullptr) return;
   shape->vertices.push_back(std::move(vertex));
   app_.TellAll();
 }
 
 void CObjectView::RemovePolyline()
 {
-  const CShape* const shape = tree_.Shape(selectedItem);
-  CShapes* const group = Group();
-  if (shape == nullptr || group == nullptr) return;
+  const TreeItem item = selectedItem;
+  if (tree_.Shape(item) == nullptr || Group() == nullptr) return;
   if (!app_.AskYesNo(Strings::deleteShape)) return;
-  std::erase_if(group->shapes, [shape](const auto& owned) { return owned.get() == shape; });
+  const CShape* const shape = tree_.Shape(item);
+  if (shape == nullptr) return;
+  std::erase_if(Group()->shapes, [shape](const auto& owned) { return owned.get() == shape; });
   app_.TellAll();
 }
 
@@ -163,17 +169,24 @@ void CObjectView::ZoomPolyline()
 
 void CObjectView::EditPoint()
 {
-  CShapeVertex* const vertex = tree_.Vertex(selectedItem);
-  if (vertex != nullptr && app_.EditVertex(*vertex)) app_.TellAll();
+  const TreeItem item = selectedItem;
+  const CShapeVertex* const shown = tree_.Vertex(item);
+  if (shown == nullptr) return;
+  CShapeVertex copy(*shown);
+  if (!app_.EditVertex(copy)) return;
+  CShapeVertex* const vertex = tree_.Vertex(item);
+  if (vertex == nullptr) return;
+  *vertex = copy;
+  app_.TellAll();
 }
 
 void CObjectView::RemovePoint()
 {
-  const CShapeVertex* const vertex = tree_.Vertex(selectedItem);
-  CShape* const shape = tree_.Shape(tree_.Parent(selectedItem));
-  if (vertex == nullptr || shape == nullptr) return;
-  if (!app_.AskYesNo(Strings::deletePoint)) return;
-  shape->RemoveVertex(vertex);
+  const TreeItem item = selectedItem;
+  if (tree_.Vertex(item) == nullptr || !app_.AskYesNo(Strings::deletePoint)) return;
+  CShape* const shape = tree_.Shape(tree_.Parent(item));
+  if (shape == nullptr) return;
+  shape->RemoveVertex(tree_.Vertex(item));
   app_.TellAll();
 }
 

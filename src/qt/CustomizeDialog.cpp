@@ -62,6 +62,7 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
   grid->addWidget(buttons, 3, 0, 1, 3);
   bars_->setMinimumWidth(160);
+  for (QListWidget* const list : {available_, shown_}) list->setMinimumSize(300, 360);
 
   for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
   FillAvailable();

@@ -153,8 +153,12 @@ void DesignWidget::wheelEvent(QWheelEvent* event)
 
 void DesignWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-  // The right button has done its work at the press.
   event->accept();
+  // The mouse's right button has done its work at the press. While drawing, the key has none to do:
+  // it would finish the polyline.
+  if (event->reason() != QContextMenuEvent::Keyboard || view_ == nullptr || view_->drawing) return;
+  view_->OnRButtonDown(PixelOf(event->pos()));
+  Q_EMIT ViewChanged();
 }
 
 }  // namespace hullwright

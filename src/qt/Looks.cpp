@@ -48,6 +48,9 @@ QPalette PaletteOf(const Look& look)
     palette.setColor(QPalette::AlternateBase, window.darker(115));
     palette.setColor(QPalette::ToolTipBase, window.darker(130));
     palette.setColor(QPalette::ToolTipText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x8d, 0x91));
+    }
   }
   return palette;
 }

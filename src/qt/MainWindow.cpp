@@ -338,7 +338,10 @@ void MainWindow::dropEvent(QDropEvent* event)
   if (path.isEmpty()) return;
   AcceptCopy(*event);
   // Opening may ask a question; the one who dropped must not wait for its answer.
-  QTimer::singleShot(0, this, [this, path] { documents_.Open(path); });
+  // A dialog that has opened meanwhile works on the design as it is; it goes first.
+  QTimer::singleShot(0, this, [this, path] {
+    if (QApplication::activeModalWidget() == nullptr) documents_.Open(path);
+  });
 }
 
 void MainWindow::changeEvent(QEvent* event)

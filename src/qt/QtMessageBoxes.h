@@ -15,6 +15,9 @@ public:
   void SetParent(QWidget* parent) { parent_ = parent; }
 
 private:
+  /// The dialog in front, if there is one, else the main window.
+  QWidget* Parent() const;
+
   QPointer<QWidget> parent_;
 };
 

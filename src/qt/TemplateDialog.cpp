@@ -120,6 +120,9 @@ void TemplateDialog::AddUnit(const DialogRow& row)
   auto* const unit = new QLabel(ToQString(row.unitText), box_);
   unit->setMinimumWidth(unitWidth);
   Keep(row.unitId, unit);
+  const int field = row.kind == DialogRowKind::RadioField ? row.labelId : row.id;
+  unitOf_[unit] = Find<QLineEdit>(field);
+  unitOf_[unit]->setAccessibleDescription(unit->text());
   Grid().addWidget(unit, Grid().rowCount() - 1, unitColumn);
 }
 
@@ -140,7 +143,7 @@ void TemplateDialog::AddButton(const DialogRow& row)
     grid.addWidget(button, line, labelColumn, 1, allColumns);
     return;
   }
-  QLineEdit* const field = MakeField(row.labelId, ToQString(row.text));
+  QLineEdit* const field = MakeField(row.labelId, tr("%1 by").arg(ToQString(row.text)));
   // Typing an angle chooses it.
   connect(field, &QLineEdit::textEdited, button, [button] { button->setChecked(true); });
   grid.addWidget(button, line, labelColumn);
@@ -210,6 +213,8 @@ void TemplateDialog::SetText(int id, std::u16string_view text)
     if (field == focusWidget()) field->selectAll();
   } else if (auto* const label = Find<QLabel>(id)) {
     label->setText(ToQString(text));
+    const auto unit = unitOf_.find(label);
+    if (unit != unitOf_.end()) unit->second->setAccessibleDescription(label->text());
   }
 }
 

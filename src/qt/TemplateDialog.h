@@ -9,6 +9,7 @@
 class QAbstractButton;
 class QDialogButtonBox;
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QVBoxLayout;
@@ -58,6 +59,7 @@ private:
   QGridLayout* grid_ = nullptr;  ///< its layout
   QListWidget* list_ = nullptr;
   std::map<int, QWidget*> widgets_;
+  std::map<QLabel*, QLineEdit*> unitOf_;  ///< the field that a unit's label stands behind
 };
 
 }  // namespace hullwright

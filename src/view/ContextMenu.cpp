@@ -88,26 +88,37 @@ void CHullwrightView::EditItem(ClientPoint point)
   } else if (const auto* const anchor = std::get_if<CAnchor*>(&pick.item)) {
     CShapeVertex place((*anchor)->attachmentX, (*anchor)->attachmentY, 0.0);
     accepted = host_.EditVertex(place);
-    if (accepted) MoveItem(pick.item, place.x, place.y);
+    if (accepted && IsInDesign(design_, pick.item)) MoveItem(pick.item, place.x, place.y);
   } else if (pick.kind == HitKind::Vertex) {
-    accepted = host_.EditVertex(*std::get<CShapeVertex*>(pick.item));
+    // A copy is edited: the design may be another one by the time that the dialog closes.
+    CShapeVertex* const vertex = std::get<CShapeVertex*>(pick.item);
+    CShapeVertex copy(*vertex);
+    accepted = host_.EditVertex(copy);
+    if (accepted && IsInDesign(design_, pick.item)) *vertex = copy;
   } else {
     accepted = host_.EditOffsets(pick.kind);
   }
   if (accepted) Repaint();
 }
 
-void CHullwrightView::AddVertex(ClientPoint point)
+CShape* CHullwrightView::FindMarkedPolyline()
 {
-  CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
-  if (group == nullptr) return;
-  // The polyline marked in the tree takes the vertex, not the one under the mouse.
+  const CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
+  if (group == nullptr) return nullptr;
   CShape* marked = WalkFirst(group->cursor, group->shapes);
   while (marked != nullptr && !marked->editing) marked = WalkNext(group->cursor, group->shapes);
-  if (marked == nullptr || marked->type != ShapeType::Polyline) return;
+  return marked != nullptr && marked->type == ShapeType::Polyline ? marked : nullptr;
+}
+
+void CHullwrightView::AddVertex(ClientPoint point)
+{
+  if (FindMarkedPolyline() == nullptr) return;
   const WorldPoint world = SnappedWorld(point);
   auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
   if (!host_.EditVertex(*vertex)) return;
+  // Looked up once more, for the dialog may have outlived the polyline.
+  CShape* const marked = FindMarkedPolyline();
+  if (marked == nullptr) return;
   host_.SetModifiedFlag(true);
   marked->vertices.push_back(std::move(vertex));
   Repaint();

@@ -99,6 +99,10 @@ private:
   void OfferMenu(ClientPoint point, bool hit);
   void ZoomByMenu(int id);
   void EditItem(ClientPoint point);
+
+  /// The polyline marked in the tree, which takes new vertices whatever is under the mouse. Null if
+  /// the first marked shape is none.
+  CShape* FindMarkedPolyline();
   void AddVertex(ClientPoint point);
   void AddAnchor(ClientPoint point);
   void RemoveHit();

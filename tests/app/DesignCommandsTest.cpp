@@ -185,27 +185,42 @@ TEST_F(Commands, MirrorsNegateTheirAxisAndTwiceBringEveryBitBack)
 TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
 {
   AddLine(ViewSide::Top, {1.0, 1.0, 1.0});
-  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {1.0, 1.0, 1.0});
+  std::vector<const CShapePolyline*> others;
+  for (const std::int32_t side : ViewSide::each) {
+    if (side != ViewSide::Top) others.push_back(&AddLine(side, {1.0, 0.0, 1.0}));
+  }
   app.anchors->items.push_back(app.anchors->NewAnchor());
   app.anchors->items[0]->attachmentX = 5.0;
+  app.anchors->items[0]->attachmentY = 0.0;
+  Run(Command::MirrorVertically);
   Run(Command::MirrorHorizontally);
   Run(Command::Scale, {.ok = true, .fields = {{1011, u"3"}}});
   Run(Command::Move, {.ok = true, .fields = {{1024, u"3"}, {1025, u"3"}}});
   Run(Command::RotateRight, {.ok = true});
-  EXPECT_TRUE(*bottom.vertices[0] == CShapeVertex(1.0, 1.0, 1.0));
+  for (const CShapePolyline* const line : others) {
+    EXPECT_TRUE(*line->vertices[0] == CShapeVertex(1.0, 0.0, 1.0));
+    EXPECT_FALSE(std::signbit(line->vertices[0]->y));
+  }
   EXPECT_TRUE(*app.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetTransducer == CShapeVertex(-10.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetPivot == CShapeVertex(0.0, 10.0, 0.0));
   EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
+  EXPECT_FALSE(std::signbit(app.anchors->items[0]->attachmentY));
 }
 
 TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
 {
   const CShapePolyline& wildcard = AddLine(ViewSide::All, {1.0, 1.0, 0.0});
-  app.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Left));
-  app.activeView = ViewSide::Left;
-  Run(Command::MirrorHorizontally);
-  EXPECT_EQ(wildcard.vertices[0]->x, -1.0);
+  for (const std::int32_t side : ViewSide::each) {
+    app.shapeGroups.push_back(std::make_unique<CShapes>(side));
+    app.activeView = side;
+    Run(Command::MirrorHorizontally);
+    EXPECT_EQ(wildcard.vertices[0]->x, -1.0) << side;
+    Run(Command::Scale, {.ok = true, .fields = {{1011, u"-2"}}});
+    EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << side;
+    Run(Command::Move, {.ok = true, .fields = {{1024, u"-1"}}});
+    *wildcard.vertices[0] = CShapeVertex(1.0, 1.0, 0.0);
+  }
 }
 
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
@@ -231,6 +246,8 @@ TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
+  Run(Command::Move, {.ok = true, .fields = {{1024, u"east"}, {1025, u"0"}}});
+  EXPECT_EQ(line.vertices[0]->x, 1.0);
   Run(Command::Move, {.ok = true, .fields = {{1024, u"1.5 m"}, {1025, u"two"}}});
   EXPECT_EQ(dialogs.startTexts[1024], u"0.00");
   EXPECT_EQ(dialogs.startTexts[1025], u"0.00");
@@ -248,6 +265,25 @@ TEST_F(Commands, RotationTurnsPolylinesOnly)
   EXPECT_EQ(point.position.x, 1.0);
   Run(Command::RotateRight, {.ok = true});
   EXPECT_NEAR(line.vertices[0]->x, 1.0, 1e-15);
+  EXPECT_NEAR(line.vertices[0]->y, 0.0, 1e-15);
+}
+
+/// A shape of a kind that no rotation may reach.
+class Unturnable : public CShapePoint {
+public:
+  explicit Unturnable(std::uint16_t kind) { type = kind; }
+  void Rotate(double) override { ADD_FAILURE() << "turned a shape of type " << type; }
+};
+
+TEST_F(Commands, NoOtherKindOfShapeIsTurned)
+{
+  for (const std::uint16_t kind :
+       {ShapeType::Point, ShapeType::Polygon, ShapeType::Text, ShapeType::Ring}) {
+    GetShapes(app.shapeGroups, 1)->shapes.push_back(std::make_unique<Unturnable>(kind));
+  }
+  const CShapePolyline& last = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  Run(Command::RotateLeft, {.ok = true});
+  EXPECT_NEAR(last.vertices[0]->y, 1.0, 1e-15);
 }
 
 struct AngleCase {

@@ -63,6 +63,28 @@ TEST_F(Dialogs, TheGridDialogStoresAllSixSettings)
                                                                   {"Grid/SpacingSnapY", 0}}));
 }
 
+TEST_F(Dialogs, ASpacingTypedAsOneFifteenComesBackAsOneFourteen)
+{
+  Run(Command::Grid, {.ok = true, .fields = {{1009, u"1.15"}}});
+  Run(Command::Grid, {});
+  EXPECT_EQ(Start(1009), u"1.14");
+}
+
+TEST_F(Dialogs, ACancelledOffsetsDialogLeavesAllThree)
+{
+  Run(Command::Offsets, {.ok = false, .fields = {{1027, u"1"}, {1030, u"2"}, {1003, u"3"}}});
+  EXPECT_TRUE(*app.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
+  EXPECT_TRUE(*app.offsetTransducer == CShapeVertex(-10.0, 0.0, 0.0));
+  EXPECT_TRUE(*app.offsetPivot == CShapeVertex(0.0, 10.0, 0.0));
+}
+
+TEST_F(Dialogs, WithoutOneOfTheOffsetsNothingIsStored)
+{
+  app.offsetPivot.reset();
+  Run(Command::Offsets, {.ok = true, .fields = {{1027, u"1"}}});
+  EXPECT_EQ(app.offsetGps->x, 10.0);
+}
+
 TEST_F(Dialogs, TheOffsetsDialogShowsSevenNumbersAndFocusesTheFirst)
 {
   *app.offsetPivot = CShapeVertex(1.0, -2.5, 3.25);
@@ -125,8 +147,14 @@ TEST_F(Dialogs, UnitLabelsFollowTheUnitAndTheNumbersDoNot)
   CShapeVertex vertex(1.0, 2.0, 3.0);
   app.unitCode = 9002;
   app.EditVertex(vertex);
-  EXPECT_EQ(Start(1004), u"ft");
+  for (const int label : {1004, 1005, 1010}) EXPECT_EQ(Start(label), u"ft") << label;
   EXPECT_EQ(Start(1008), u"1.000");
+  Run(Command::Move, {});
+  for (const int label : {1004, 1005}) EXPECT_EQ(Start(label), u"ft") << label;
+  Run(Command::Offsets, {});
+  for (const int label : {1004, 1005, 1010, 1013, 1006, 1007, 1008}) {
+    EXPECT_EQ(Start(label), u"ft") << label;
+  }
 }
 
 TEST_F(Dialogs, WithoutAUnitTheLabelsKeepTheTemplatesText)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,7 @@ public:
   {
     events.emplace_back("edit vertex");
     edited = vertex;
+    if (whileEditing) whileEditing();
     if (accept) vertex = typed;
     return accept;
   }
@@ -45,9 +47,10 @@ public:
   std::int32_t cursorTool = CursorTool::None;
   std::u16string unitName;
   std::vector<std::string> events;
-  CShapeVertex edited;  ///< what the dialog showed
-  CShapeVertex typed;   ///< what is typed into it
-  bool accept = false;  ///< how it ends
+  CShapeVertex edited;                 ///< what the dialog showed
+  CShapeVertex typed;                  ///< what is typed into it
+  bool accept = false;                 ///< how it ends
+  std::function<void()> whileEditing;  ///< what happens meanwhile
 };
 
 /// A view in a window of 800 by 600 over a design. The view is 200 wide and 150 high, so that 4

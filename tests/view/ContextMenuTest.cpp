@@ -44,6 +44,8 @@ TEST_F(ContextMenu, OnAVertexOffersToEditAddAndRemove)
   AddLine({{0.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32789, 32798));
+  EXPECT_EQ(popup.offered[4].second, u"&Edit Vertex...");
+  EXPECT_EQ(popup.offered[6].second, u"&Remove Vertex...");
 }
 
 TEST_F(ContextMenu, OnAnAnchorAndOnAnOffsetOffersWhatTheyTake)
@@ -85,6 +87,8 @@ TEST_F(ContextMenu, ZoomsAndCentersAtThePress)
   view.OnMenuCommand(Command::MenuZoomOut);
   EXPECT_DOUBLE_EQ(view.viewPort->width, 200.0);
   view.OnMenuCommand(Command::MenuCenter);
+  EXPECT_NEAR((view.viewPort->left + view.viewPort->right) * 0.5, 137.5, 1e-9);
+  EXPECT_DOUBLE_EQ(view.viewPort->width, 200.0);
   EXPECT_EQ(Frames(), 3);
 }
 
@@ -106,6 +110,60 @@ TEST_F(ContextMenu, EditingAVertexRepaintsAndTellsNobody)
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_THAT(host.events, ElementsAre("edit vertex"));
   EXPECT_EQ(Frames(), 1);
+}
+
+TEST_F(ContextMenu, ACancelledEditChangesNothingAndDoesNotRepaint)
+{
+  const CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}});
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.0, 0.0, 5.0));
+  EXPECT_EQ(Frames(), 0);
+}
+
+TEST_F(ContextMenu, EditingOnEmptySpaceClearsThePick)
+{
+  AddLine({{0.0, 0.0, 5.0}});
+  view.OnMouseMove(false, {400, 300});
+  view.menuPoint = {10, 10};
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_EQ(view.hitKind, HitKind::None);
+  EXPECT_THAT(host.events, IsEmpty());
+}
+
+TEST_F(ContextMenu, ADesignReplacedUnderTheDialogIsNotWritten)
+{
+  AddLine({{0.0, 0.0, 5.0}}).editing = true;
+  host.accept = true;
+  host.whileEditing = [this] { ClearGroups(design.shapeGroups); };
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::AddVertex);
+  AddLine({{0.0, 0.0, 5.0}});
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::EditVertex);
+  EXPECT_THAT(host.events, ElementsAre("edit vertex", "edit vertex"));
+}
+
+TEST_F(ContextMenu, AMarkedShapeThatIsNoPolylineTakesNoVertex)
+{
+  auto other = std::make_unique<CShapePolyline>();
+  other->type = ShapeType::Text;
+  other->editing = true;
+  GetShapes(design.shapeGroups, design.activeView)->shapes.push_back(std::move(other));
+  AddLine({{0.0, 0.0, 0.0}}).editing = true;
+  view.OnRButtonDown({1, 1});
+  view.OnMenuCommand(Command::AddVertex);
+  EXPECT_THAT(host.events, IsEmpty());
+}
+
+TEST_F(ContextMenu, WithoutAnAnchorListNothingIsAddedOrRemoved)
+{
+  AddLine({{0.0, 0.0, 0.0}});
+  view.OnRButtonDown({400, 300});
+  design.anchors.reset();
+  view.OnMenuCommand(Command::AddAnchor);
+  view.OnMenuCommand(Command::RemoveVertex);
+  EXPECT_THAT(host.events, IsEmpty());
 }
 
 TEST_F(ContextMenu, EditingAnAnchorGoesThroughATemporaryVertex)

@@ -69,6 +69,12 @@ TEST_F(Picking, OnTheTopSideOffsetsGoBeforeAnchorsAndThoseBeforeVertices)
 
 TEST_F(Picking, OtherSidesOfferVerticesOnly)
 {
+  for (const std::int32_t side : {2, 4, 8, 16, 32}) {
+    design.activeView = side;
+    AddLine({{50.0, 50.0, 0.0}});
+    EXPECT_EQ(KindAt(440, 300), HitKind::None) << side;
+    EXPECT_EQ(KindAt(600, 100), HitKind::Vertex) << side;
+  }
   AddAnchor(0.0, 0.0);
   EXPECT_EQ(KindAt(400, 300), HitKind::None);
   EXPECT_EQ(KindAt(440, 300), HitKind::None);
@@ -171,6 +177,19 @@ TEST_F(Picking, AReleaseWithoutADragTellsNobody)
   view.OnLButtonUp({400, 300});
   EXPECT_TRUE(host.events.empty());
   EXPECT_EQ(view.hitKind, HitKind::None);
+}
+
+TEST_F(Picking, ADragWhoseReleaseIsMissedGoesOnUntilOneComes)
+{
+  CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}, {50.0, 0.0, 0.0}});
+  Hover(400, 300);
+  Drag(420, 300);
+  Hover(600, 300);  // the button was let go outside
+  EXPECT_TRUE(view.dragging);
+  EXPECT_EQ(line.vertices[0]->x, 5.0);
+  view.OnLButtonUp({440, 300});
+  EXPECT_EQ(line.vertices[0]->x, 10.0);
+  EXPECT_THAT(host.events, ElementsAre("changed", "modified"));
 }
 
 TEST_F(Picking, AnItemReleasedDuringADragIsNotWritten)
