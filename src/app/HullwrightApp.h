@@ -80,6 +80,7 @@ public:
   void TellAll();
 
   bool AskYesNo(std::u16string_view question) { return ports_.messages.AskYesNo(question); }
+
   /// The look that the settings store has, and its way there.
   void LoadLook();
   void StoreLook(int look);

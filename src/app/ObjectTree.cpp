@@ -46,6 +46,14 @@ void CObjectTree::Rebuild()
        [this](CAnchor& anchor) { anchors_.push_back(&anchor); });
 }
 
+const CObjectTree::PolylineNode* CObjectTree::Node(const TreeItem& item) const
+{
+  if (!IsCurrent(item) || item.side >= sideCount) return nullptr;
+  if (item.level != TreeLevel::Polyline && item.level != TreeLevel::Point) return nullptr;
+  const auto& nodes = sides_[item.side];
+  return item.row < nodes.size() ? &nodes[item.row] : nullptr;
+}
+
 TreeItem CObjectTree::Anchors() const
 {
   return hasAnchors_ ? Item(TreeLevel::Anchors) : TreeItem{};
@@ -69,7 +77,7 @@ std::size_t CObjectTree::ChildCount(const TreeItem& item) const
   switch (item.level) {
     case TreeLevel::Root: return sideCount;
     case TreeLevel::Side: return sides_[item.side].size();
-    case TreeLevel::Polyline: return sides_[item.side][item.row].points;
+    case TreeLevel::Polyline: return Node(item) == nullptr ? 0 : Node(item)->points;
     case TreeLevel::Anchors: return anchors_.size();
     default: return 0;
   }
@@ -94,9 +102,10 @@ std::u16string CObjectTree::Text(const TreeItem& item) const
     case TreeLevel::Side: return std::u16string(sideNodes[item.side].label);
     case TreeLevel::Polyline: return u"Polyline";
     case TreeLevel::Anchors: return u"Anchors";
-    case TreeLevel::Anchor:
-      return u"Anchor #" + WideFromAscii(std::to_string(anchors_[item.row]->id));
     default: break;
+  }
+  if (const CAnchor* const anchor = Anchor(item)) {
+    return u"Anchor #" + WideFromAscii(std::to_string(anchor->id));
   }
   const CShapeVertex* const vertex = Vertex(item);
   return vertex == nullptr ? std::u16string() : PointText(*vertex);
@@ -104,39 +113,37 @@ std::u16string CObjectTree::Text(const TreeItem& item) const
 
 int CObjectTree::Image(const TreeItem& item) const
 {
-  if (!IsCurrent(item)) return TreeImage::Node;
-  switch (item.level) {
-    case TreeLevel::Polyline: return sides_[item.side][item.row].image;
-    case TreeLevel::Point: return TreeImage::Point;
-    case TreeLevel::Anchor:
-      return anchors_[item.row]->marked ? TreeImage::AnchorMarked : TreeImage::Anchor;
-    default: return TreeImage::Node;
+  if (const PolylineNode* const node = Node(item)) {
+    return item.level == TreeLevel::Point ? TreeImage::Point : node->image;
   }
+  const CAnchor* const anchor = Anchor(item);
+  if (anchor == nullptr) return TreeImage::Node;
+  return anchor->marked ? TreeImage::AnchorMarked : TreeImage::Anchor;
 }
 
 CShape* CObjectTree::Shape(const TreeItem& item) const
 {
-  const bool isPolyline = IsCurrent(item) && item.level == TreeLevel::Polyline;
-  return isPolyline ? sides_[item.side][item.row].shape : nullptr;
+  const PolylineNode* const node = Node(item);
+  return node != nullptr && item.level == TreeLevel::Polyline ? node->shape : nullptr;
 }
 
 CShapeVertex* CObjectTree::Vertex(const TreeItem& item) const
 {
-  if (!IsCurrent(item) || item.level != TreeLevel::Point) return nullptr;
-  const auto& vertices = sides_[item.side][item.row].shape->vertices;
+  const PolylineNode* const node = Node(item);
+  if (node == nullptr || item.level != TreeLevel::Point) return nullptr;
+  const auto& vertices = node->shape->vertices;
   return item.point < vertices.size() ? vertices[item.point].get() : nullptr;
 }
 
 CAnchor* CObjectTree::Anchor(const TreeItem& item) const
 {
-  return IsCurrent(item) && item.level == TreeLevel::Anchor ? anchors_[item.row] : nullptr;
+  const bool isAnchor = IsCurrent(item) && item.level == TreeLevel::Anchor;
+  return isAnchor && item.row < anchors_.size() ? anchors_[item.row] : nullptr;
 }
 
 void CObjectTree::SetImage(const TreeItem& polyline, int image)
 {
-  if (IsCurrent(polyline) && polyline.level == TreeLevel::Polyline) {
-    sides_[polyline.side][polyline.row].image = image;
-  }
+  if (Shape(polyline) != nullptr) sides_[polyline.side][polyline.row].image = image;
 }
 
 }  // namespace hullwright

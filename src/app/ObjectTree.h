@@ -74,6 +74,9 @@ private:
 
   static constexpr std::size_t sideCount = 7;
 
+  /// The node of a polyline, or of the polyline of a point; null for any other item.
+  const PolylineNode* Node(const TreeItem& item) const;
+
   TreeItem Item(TreeLevel level, std::size_t side = 0, std::size_t row = 0,
                 std::size_t point = 0) const
   {

@@ -27,6 +27,7 @@ constexpr PopupEntry removePoint{Command::RemoveVertex, u"&Remove Point..."};
 void CObjectView::BuildTree()
 {
   selectedItem = {};
+  control_.BeforeRebuild();
   tree_.Rebuild();
   control_.Rebuilt();
 }

@@ -39,7 +39,8 @@ int CSQLite::Load()
     messages_.ShowMessage(u"Failed to load sqlite3.dll");
     return -1;
   }
-  if (!Bind()) return -1;
+  bound_ = Bind();
+  if (!bound_) return -1;
   return call_.initialize() == resultOk ? 0 : -1;
 }
 
@@ -67,7 +68,8 @@ bool CSQLite::Bind()
 
 int CSQLite::Open(std::u16string_view path)
 {
-  if (library_ == nullptr || call_.open == nullptr) return -1;
+  Close();
+  if (!bound_) return -1;
   if (call_.open(Utf8FromWide(path).c_str(), &database_) == resultOk && database_ != nullptr) {
     return 0;
   }
@@ -79,6 +81,7 @@ int CSQLite::Open(std::u16string_view path)
 int CSQLite::SelectUnits()
 {
   if (database_ == nullptr) return -1;
+  FinishQuery();
   const int prepared =
       call_.prepare(database_, query.data(), static_cast<int>(query.size()), &statement_, nullptr);
   if (prepared != resultOk || statement_ == nullptr) {
@@ -117,8 +120,8 @@ void CSQLite::GetText(std::string_view column, std::u16string& value) const
 {
   const auto index = FindColumn(column);
   if (!index) return;
-  const unsigned char* const text = call_.columnText(statement_, *index);
-  if (text != nullptr) value = WideFromUtf8(reinterpret_cast<const char*>(text));
+  const auto* const text = reinterpret_cast<const char*>(call_.columnText(statement_, *index));
+  if (text != nullptr) value = IsUtf8(text) ? WideFromUtf8(text) : WideFromAnsi(text);
 }
 
 bool CSQLite::Next()
@@ -149,6 +152,7 @@ void CSQLite::Unload()
   loader_.Free(library_);
   library_ = nullptr;
   call_ = {};
+  bound_ = false;
 }
 
 }  // namespace hullwright

@@ -35,8 +35,8 @@ public:
   /// Runs the one query of the program. 1 with the first row current; -1 also when there is no row.
   int SelectUnits();
 
-  /// A column of the current row, by its name in either case. A column that is missing or null
-  /// leaves `value` as it is.
+  /// A column of the current row, by its name in either case. Text that is not UTF-8 is taken for
+  /// the ANSI code page. A column that is missing or null leaves `value` as it is.
   void GetInt(std::string_view column, std::int32_t& value) const;
   void GetText(std::string_view column, std::u16string& value) const;
 
@@ -77,6 +77,7 @@ private:
   sqlite3* database_ = nullptr;
   sqlite3_stmt* statement_ = nullptr;
   EntryPoints call_{};
+  bool bound_ = false;  ///< all entry points are there
 };
 
 }  // namespace hullwright

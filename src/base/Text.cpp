@@ -72,18 +72,21 @@ constexpr Utf8Lead ClassifyLead(unsigned char byte)
   return {-1, 0, 0, 0};
 }
 
+/// No character: what an ill-formed piece decodes to.
+constexpr char32_t illFormed = 0xFFFFFFFF;
+
 /// Decodes one character at `at` and moves `at` past it, or past the ill-formed piece.
 char32_t TakeUtf8(std::string_view bytes, std::size_t& at)
 {
   const Utf8Lead lead = ClassifyLead(static_cast<unsigned char>(bytes[at++]));
-  if (lead.tails < 0) return replacement;
+  if (lead.tails < 0) return illFormed;
   char32_t code = lead.bits;
   for (int tail = 0; tail < lead.tails; ++tail) {
-    if (at == bytes.size()) return replacement;
+    if (at == bytes.size()) return illFormed;
     const auto byte = static_cast<unsigned char>(bytes[at]);
     const unsigned char low = tail == 0 ? lead.secondMin : 0x80;
     const unsigned char high = tail == 0 ? lead.secondMax : 0xBF;
-    if (byte < low || byte > high) return replacement;
+    if (byte < low || byte > high) return illFormed;
     code = (code << 6) | (byte & 0x3FU);
     ++at;
   }
@@ -111,8 +114,19 @@ std::u16string WideFromUtf8(std::string_view bytes)
 {
   std::u16string out;
   out.reserve(bytes.size());
-  for (std::size_t at = 0; at < bytes.size();) AppendWide(out, TakeUtf8(bytes, at));
+  for (std::size_t at = 0; at < bytes.size();) {
+    const char32_t code = TakeUtf8(bytes, at);
+    AppendWide(out, code == illFormed ? replacement : code);
+  }
   return out;
+}
+
+bool IsUtf8(std::string_view bytes)
+{
+  for (std::size_t at = 0; at < bytes.size();) {
+    if (TakeUtf8(bytes, at) == illFormed) return false;
+  }
+  return true;
 }
 
 char16_t WideFromAnsiByte(unsigned char byte)

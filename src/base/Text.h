@@ -11,6 +11,9 @@ std::string Utf8FromWide(std::u16string_view text);
 /// Converts UTF-8 to 16-bit text. Each maximal ill-formed piece becomes one U+FFFD.
 std::u16string WideFromUtf8(std::string_view bytes);
 
+/// Whether bytes are well-formed UTF-8.
+bool IsUtf8(std::string_view bytes);
+
 /// The 16-bit unit for one byte of the ANSI code page, which is Windows-1252 on every system.
 /// The five bytes that the code page leaves open map to the control character of the same value.
 char16_t WideFromAnsiByte(unsigned char byte);

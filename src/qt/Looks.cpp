@@ -21,7 +21,7 @@ struct Look {
 };
 
 constexpr QRgb plainWindow = qRgb(0xef, 0xef, 0xef);
-constexpr QRgb plainHighlight = qRgb(0x30, 0x8c, 0xc6);
+constexpr QRgb plainHighlight = qRgb(0x20, 0x6f, 0xa8);
 
 constexpr auto looks = std::to_array<Look>({
     {Command::LookWindows2000, "Windows", qRgb(0xd4, 0xd0, 0xc8), qRgb(0x0a, 0x24, 0x6a)},
@@ -31,10 +31,10 @@ constexpr auto looks = std::to_array<Look>({
     {Command::LookVisualStudio2005, "Fusion", qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
     {Command::LookVisualStudio2008, "Fusion", plainWindow, plainHighlight},
     {Command::LookBlue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
-    {Command::LookBlack, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x3d, 0x8f, 0xd1)},
+    {Command::LookBlack, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
     {Command::LookSilver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x6b, 0x7a, 0x8f)},
     {Command::LookAqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
-    {Command::LookLast, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x33, 0x99, 0xff)},
+    {Command::LookLast, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
 });
 
 QPalette PaletteOf(const Look& look)
@@ -48,6 +48,8 @@ QPalette PaletteOf(const Look& look)
     palette.setColor(QPalette::AlternateBase, window.darker(115));
     palette.setColor(QPalette::ToolTipBase, window.darker(130));
     palette.setColor(QPalette::ToolTipText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x6f, 0xb6, 0xf0));
+    palette.setColor(QPalette::LinkVisited, QColor(0xc3, 0xa6, 0xf0));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
       palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x8d, 0x91));
     }

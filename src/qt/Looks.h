@@ -2,8 +2,8 @@
 
 namespace hullwright {
 
-/// Gives the whole program the look of a command: a style of the toolkit and a palette. Looks that
-/// the toolkit has none for share its plain one.
+/// Gives the whole program the look of a command: a style of the toolkit and a palette. Numbers
+/// between the looks take the blue one.
 void ApplyLook(int look);
 
 }  // namespace hullwright

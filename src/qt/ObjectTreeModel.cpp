@@ -90,27 +90,6 @@ QVariant ObjectTreeModel::data(const QModelIndex& index, int role) const
   return icon == icons_.end() ? QVariant() : QVariant(icon->second);
 }
 
-void ObjectTreeModel::Reset()
-{
-  beginResetModel();
-  endResetModel();
-}
-
-void ObjectTreeModel::RefreshImages()
-{
-  const QModelIndex root = index(0, 0, {});
-  for (int side = 0; side < rowCount(root); ++side) {
-    const QModelIndex node = index(side, 0, root);
-    const int last = rowCount(node) - 1;
-    if (last < 0) continue;
-    Q_EMIT dataChanged(index(0, 0, node), index(last, 0, node), {Qt::DecorationRole});
-  }
-}
-
-void ObjectTreeModel::SetIcons(std::map<int, QIcon> icons)
-{
-  icons_ = std::move(icons);
-  RefreshImages();
-}
+void ObjectTreeModel::SetIcons(std::map<int, QIcon> icons) { icons_ = std::move(icons); }
 
 }  // namespace hullwright

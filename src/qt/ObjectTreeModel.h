@@ -24,11 +24,9 @@ public:
 
   TreeItem ItemAt(const QModelIndex& index) const;
 
-  /// Everything is new.
-  void Reset();
-
-  /// Images may have changed.
-  void RefreshImages();
+  // Around a rebuild of the tree.
+  void BeginReset() { beginResetModel(); }
+  void EndReset() { endResetModel(); }
 
   void SetIcons(std::map<int, QIcon> icons);
 

@@ -23,6 +23,12 @@ ObjectTreeWidget::ObjectTreeWidget(QWidget* parent) : QTreeView(parent)
   setAccessibleName(tr("Object tree"));
   setAccessibleDescription(tr("The design by side, with its polylines, points and anchors"));
   connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) { Click(index); });
+  // Opening or closing a side is a click on it, too.
+  const auto onSide = [this](const QModelIndex& index) {
+    if (model_ != nullptr && model_->ItemAt(index).level == TreeLevel::Side) Click(index);
+  };
+  connect(this, &QTreeView::expanded, this, onSide);
+  connect(this, &QTreeView::collapsed, this, onSide);
 }
 
 void ObjectTreeWidget::Attach(CObjectView& pane)
@@ -53,16 +59,22 @@ void ObjectTreeWidget::RefreshIcons()
   viewport()->update();
 }
 
+void ObjectTreeWidget::BeforeRebuild()
+{
+  if (model_ != nullptr) model_->BeginReset();
+}
+
 void ObjectTreeWidget::Rebuilt()
 {
   if (model_ == nullptr) return;
-  model_->Reset();
+  model_->EndReset();
   for (int root = 0; root < model_->rowCount({}); ++root) expand(model_->index(root, 0, {}));
 }
 
 void ObjectTreeWidget::ImagesChanged()
 {
-  if (model_ != nullptr) model_->RefreshImages();
+  // Whatever is seen is asked for its image again; telling of each changed row would take longer.
+  viewport()->update();
 }
 
 void ObjectTreeWidget::ShowMenu(std::span<const PopupEntry> entries)
@@ -102,6 +114,14 @@ void ObjectTreeWidget::changeEvent(QEvent* event)
   if (event->type() == QEvent::PaletteChange) RefreshIcons();
 }
 
+QItemSelectionModel::SelectionFlags ObjectTreeWidget::selectionCommand(const QModelIndex& index,
+                                                                       const QEvent*) const
+{
+  // The current item is the selected one, whatever keys are held.
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                         : QItemSelectionModel::SelectionFlags(QItemSelectionModel::NoUpdate);
+}
+
 void ObjectTreeWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
   QTreeView::currentChanged(current, previous);
@@ -115,6 +135,7 @@ void ObjectTreeWidget::contextMenuEvent(QContextMenuEvent* event)
   const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
   if (!index.isValid()) return;
   setCurrentIndex(index);
+  scrollTo(index);
   menuPlace_ = byKey ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos();
   pane_->OnContextMenu(model_->ItemAt(index));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QItemSelectionModel>
 #include <QTreeView>
 #include <functional>
 
@@ -21,6 +22,7 @@ public:
 
   void Detach();
 
+  void BeforeRebuild() override;
   void Rebuilt() override;
   void ImagesChanged() override;
   void ShowMenu(std::span<const PopupEntry> entries) override;
@@ -35,6 +37,8 @@ Q_SIGNALS:
 protected:
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 

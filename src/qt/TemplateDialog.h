@@ -19,6 +19,8 @@ namespace hullwright {
 /// A modal dialog made from its template: boxes from top to bottom, in each a column of labels, one
 /// of fields and one of units, OK and Cancel below. The logic fills it and takes its values.
 class TemplateDialog : public QDialog, public IDialogControls {
+  Q_OBJECT
+
 public:
   TemplateDialog(const DialogTemplate& rows, IDialog& logic, QWidget* parent);
 

@@ -135,6 +135,29 @@ TEST_F(MainFrame, ANewDesignDuringAHoverLeavesNothingToDrag)
   EXPECT_EQ(view.hitVertex, PickedItem(ReleasedItem{}));
 }
 
+TEST_F(MainFrame, ALookIsShownThenStoredAndBearsTheMark)
+{
+  EXPECT_EQ(app.applicationLook, 210);
+  EXPECT_TRUE(frame.QueryCommand(210).checked);
+  EXPECT_TRUE(frame.OnCommand(216));
+  EXPECT_THAT(widgets.calls, ElementsAre("look 216"));
+  EXPECT_EQ(settings.values["Workspace/ApplicationLook"], 216);
+  EXPECT_TRUE(frame.QueryCommand(216).checked);
+  EXPECT_FALSE(frame.QueryCommand(210).checked);
+  EXPECT_TRUE(frame.OnCommand(213));
+  EXPECT_EQ(app.applicationLook, 213);
+}
+
+TEST_F(MainFrame, AStoredLookOf219MarksNoEntryOfTheMenu)
+{
+  settings.values["Workspace/ApplicationLook"] = 219;
+  app.LoadLook();
+  EXPECT_EQ(app.applicationLook, 219);
+  for (const int id : {205, 206, 207, 208, 209, 210, 215, 216, 217, 218}) {
+    EXPECT_FALSE(frame.QueryCommand(id).checked) << id;
+  }
+}
+
 TEST(PaneWidths, GiveThePromptTheRestEvenIfThatIsNegative)
 {
   EXPECT_EQ(PaneWidths(1280), (std::array<int, 3>{780, 250, 250}));

@@ -18,13 +18,20 @@ using testing::Pair;
 
 class FakeTreeControl : public ITreeControl {
 public:
-  void Rebuilt() override { ++rebuilds; }
+  void BeforeRebuild() override { ++announced; }
+  void Rebuilt() override
+  {
+    ++rebuilds;
+    EXPECT_EQ(announced, 1);
+    announced = 0;
+  }
   void ImagesChanged() override { ++imageChanges; }
   void ShowMenu(std::span<const PopupEntry> entries) override
   {
     menu.clear();
     for (const PopupEntry& entry : entries) menu.emplace_back(entry.id, entry.text);
   }
+  int announced = 0;
   int rebuilds = 0;
   int imageChanges = 0;
   std::vector<std::pair<int, std::u16string>> menu;
@@ -243,6 +250,39 @@ TEST_F(ObjectPane, ImagesFollowTheSideNodeClickedLastAndNotTheParent)
   pane.OnClick(At({0, 0, 0}));
   EXPECT_THAT(Images(At({0, 0})), ElementsAre(5));
   EXPECT_THAT(Images(At({0, 1})), ElementsAre(2));
+}
+
+TEST_F(ObjectPane, ASideOfBeforeARebuildHasNoChildrenToShowMarksOn)
+{
+  CShapePolyline& line = AddLine(ViewSide::Top, {});
+  pane.BuildTree();
+  pane.OnClick(At({0, 0}));
+  pane.BuildTree();
+  pane.OnClick(At({0, 0, 0}));
+  EXPECT_TRUE(line.editing);
+  EXPECT_THAT(Images(At({0, 0})), ElementsAre(5));
+}
+
+TEST_F(ObjectPane, WithoutASideInViewShapeCommandsDoNothing)
+{
+  AddLine(ViewSide::Top, {});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  app.activeView = 0;
+  messages.answer = true;
+  for (const int id : {hullwright::Command::AddPolyline, hullwright::Command::RemoveAllPolylines,
+                       hullwright::Command::RemovePolyline}) {
+    Command(id, At({0, 0, 0}));
+  }
+  EXPECT_FALSE(ToldAll());
+  EXPECT_THAT(messages.asked, IsEmpty());
+}
+
+TEST_F(ObjectPane, WithoutAnAnchorListNoAnchorIsAdded)
+{
+  app.anchors.reset();
+  Command(hullwright::Command::AddAnchor, At({0}));
+  EXPECT_FALSE(ToldAll());
 }
 
 TEST_F(ObjectPane, AClickOnAPolylineOfAnotherSideOnlyClearsTheMarks)

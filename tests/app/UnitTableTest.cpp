@@ -122,6 +122,12 @@ TEST_F(Units, AColumnThatIsNullKeepsTheValueOfTheRowBefore)
   EXPECT_THAT(Read(), ElementsAre("9001  m", "9002 foot ft", "9003 foot ft"));
 }
 
+TEST_F(Units, TextThatIsNotUtf8IsOfTheAnsiCodePage)
+{
+  MakeTable("(9001, CAST(x'6DE8747265' AS TEXT), 'm', 1)");
+  EXPECT_THAT(Read(), ElementsAre("9001 m\u00E8tre m"));
+}
+
 TEST_F(Units, AMissingColumnLeavesItsValueEmpty)
 {
   Database(database).Run("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");

@@ -32,6 +32,14 @@ TEST(Utf8, EachIllFormedPieceBecomesOneReplacementCharacter)
   EXPECT_EQ(WideFromUtf8("\xF4\x90\x80\x80"), u"\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
+TEST(Utf8, TellsWhatIsWellFormed)
+{
+  EXPECT_TRUE(IsUtf8(""));
+  EXPECT_TRUE(IsUtf8("m\xC3\xA8tre \xF0\x9F\x98\x80 \xEF\xBF\xBD"));
+  EXPECT_FALSE(IsUtf8("m\xE8tre"));
+  EXPECT_FALSE(IsUtf8("\xC3"));
+}
+
 TEST(Ansi, IsWindows1252)
 {
   EXPECT_EQ(WideFromAnsi("A\x80\xE4\x9F"), u"A\u20AC\u00E4\u0178");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QStatusBar>
@@ -9,6 +10,7 @@
 #include <QWheelEvent>
 
 #include "qt/Shell.h"
+#include "qt/TemplateDialog.h"
 #include "resources/Strings.h"
 #include "support/ShellFixture.h"
 
@@ -126,6 +128,56 @@ TEST_F(Desk, PanesShowPositionAndUnit)
   Move({middleX, middleY});
   EXPECT_EQ(PaneText(0), QStringLiteral("X: +00.00 Y: +00.00"));
   EXPECT_EQ(PaneText(1), QStringLiteral("Units: metre"));
+}
+
+TEST_F(Desk, APressOnTheUnitsPaneOpensTheUnitsDialogAndOneOnTheOtherDoesNot)
+{
+  const auto panes = Window().statusBar()->findChildren<StatusPane*>();
+  const auto press = [](QWidget& pane) {
+    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&pane, &event);
+  };
+  press(*panes.at(0));
+  EXPECT_EQ(dialogs, 0);
+  WhenAsked<TemplateDialog>([this](TemplateDialog& dialog) {
+    lastQuestion = dialog.windowTitle();
+    dialog.reject();
+  });
+  press(*panes.at(1));
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_EQ(lastQuestion, QStringLiteral("Switch Units"));
+}
+
+TEST_F(Desk, ARebuiltTreeShowsItsRootsOpenAndItsSidesClosed)
+{
+  auto& tree = *Window().findChild<ObjectTreeWidget*>();
+  const QAbstractItemModel& model = *tree.model();
+  const auto root = [&] { return model.index(0, 0); };
+  tree.expand(model.index(0, 0, root()));
+  EXPECT_TRUE(tree.isExpanded(model.index(0, 0, root())));
+  Action("Mirror Vertically")->trigger();
+  EXPECT_TRUE(tree.isExpanded(root()));
+  EXPECT_TRUE(tree.isExpanded(model.index(1, 0)));
+  EXPECT_FALSE(tree.isExpanded(model.index(0, 0, root())));
+}
+
+TEST_F(Desk, OpeningASideInTheTreeCountsAsAClickOnIt)
+{
+  auto& tree = *Window().findChild<ObjectTreeWidget*>();
+  const QAbstractItemModel& model = *tree.model();
+  const QModelIndex top = model.index(0, 0, model.index(0, 0));
+  tree.expand(top);
+  const QModelIndex line = model.index(0, 0, top);
+  tree.setCurrentIndex(line);
+  const auto icon = [&] {
+    return model.data(line, Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+  };
+  const QImage before = icon();
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QApplication::sendEvent(&tree, &enter);
+  EXPECT_TRUE(FindViewGroup(shell->App().shapeGroups, 1)->shapes.at(0)->editing);
+  EXPECT_NE(icon(), before);
 }
 
 TEST_F(Desk, TheWheelGathersFractionsOfANotchAndTakesOneStepAMessage)

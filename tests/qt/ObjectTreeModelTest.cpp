@@ -45,8 +45,9 @@ TEST_F(TreeModel, AnswersTheToolkitConsistently)
 {
   const QAbstractItemModelTester tester(&model,
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
+  model.BeginReset();
   tree.Rebuild();
-  model.Reset();
+  model.EndReset();
   EXPECT_EQ(model.rowCount({}), 2);
 }
 
@@ -69,8 +70,9 @@ TEST_F(TreeModel, EveryLevelIsReachedAndFindsItsWayBack)
 TEST_F(TreeModel, WithoutAnAnchorListThereIsOneRoot)
 {
   design.anchors.reset();
+  model.BeginReset();
   tree.Rebuild();
-  model.Reset();
+  model.EndReset();
   EXPECT_EQ(model.rowCount({}), 1);
 }
 

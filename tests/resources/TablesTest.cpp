@@ -120,6 +120,37 @@ TEST(Commands, PromptsHaveAStatusTextAndATooltip)
   EXPECT_EQ(FindCommand(1), nullptr);
 }
 
+struct Prompt {
+  int id;
+  std::u16string_view text;
+};
+
+class Prompts : public testing::TestWithParam<Prompt> {};
+
+TEST_P(Prompts, StandWordForWord)
+{
+  ASSERT_NE(FindCommand(GetParam().id), nullptr);
+  EXPECT_EQ(FindCommand(GetParam().id)->prompt, GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, Prompts,
+    testing::Values(Prompt{32776, u"Mirror design vertical\nMirror\rVert"},
+                    Prompt{32777, u"Mirror design horizontal\nMirror\rHorz"},
+                    Prompt{32779, u"Rotate right\nRotate\rRight"},
+                    Prompt{32778, u"Rotate left\nRotate\rLeft"},
+                    Prompt{32775, u"Scale design\nScale\rDesign"},
+                    Prompt{32781, u"Move design in a specified direction\nMove\rDesign"},
+                    Prompt{32780, u"Modify offsets for devices\nModify\rOffsets"},
+                    Prompt{32818, u""}, Prompt{32819, u"Switch design units\nSwitch Units"},
+                    Prompt{32782, u"Toggle grid\nToggle\rGrid"},
+                    Prompt{32783, u"Toggle snap to grid\nToggle\rSnap"},
+                    Prompt{32784, u"Cursor zooms in\nZoom\rIn"},
+                    Prompt{32785, u"Cursor zooms out\nZoom\rOut"},
+                    Prompt{32787, u"Cursor moves vessel\nMove\rDesign"},
+                    Prompt{32772, u"Import shape(s) from an AutoCAD DXF file\nImport\rDXF"},
+                    Prompt{32808, u"Select the current view mode\nView\rMode"}));
+
 TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
 {
   for (const int command : mainToolBar) {
