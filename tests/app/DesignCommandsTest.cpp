@@ -2,9 +2,8 @@
 
 #include <cmath>
 
-#include "model/ShapePoint.h"
 #include "resources/CommandIds.h"
-#include "support/AppFixture.h"
+#include "support/CommandFixture.h"
 
 namespace hullwright {
 namespace {
@@ -13,60 +12,7 @@ using test::DialogScript;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
-/// A main frame that also writes down what passes through it.
-class ListeningFrame : public CMainFrame {
-public:
-  using CMainFrame::CMainFrame;
-  void Notify(int code, std::intptr_t value) override
-  {
-    heard.emplace_back(code == Notification::RepaintDesign ? "repaint"
-                       : code == Notification::RebuildTree ? "tree"
-                                                           : std::to_string(code));
-    CMainFrame::Notify(code, value);
-  }
-  void SetModifiedFlag(bool modified) override
-  {
-    heard.emplace_back(modified ? "modified" : "clean");
-    CMainFrame::SetModifiedFlag(modified);
-  }
-  std::vector<std::string> heard;
-};
-
-class Commands : public test::AppFixture {
-protected:
-  Commands()
-  {
-    listening.document = &document;
-    listening.view = &view;
-    listening.hasWindow = true;
-  }
-
-  CShapePolyline& AddLine(std::int32_t side, const CShapeVertex& vertex)
-  {
-    auto line = std::make_unique<CShapePolyline>();
-    line->AddVertex(vertex.x, vertex.y, vertex.z);
-    CShapePolyline& added = *line;
-    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
-    return added;
-  }
-
-  CShapePoint& AddPoint(std::int32_t side, const CShapeVertex& position)
-  {
-    auto point = std::make_unique<CShapePoint>();
-    point->position = position;
-    CShapePoint& added = *point;
-    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(point));
-    return added;
-  }
-
-  void Run(int id, DialogScript script = {})
-  {
-    dialogs.script = std::move(script);
-    EXPECT_TRUE(listening.OnCommand(id)) << id;
-  }
-
-  ListeningFrame listening{app, widgets};
-};
+class Commands : public test::CommandFixture {};
 
 // ---------------------------------------------------------------------------------------------------
 // Which command tells what, accepted and cancelled, with and without a group
@@ -80,7 +26,7 @@ struct CommandCase {
   bool makesGroup;
 };
 
-const std::vector<std::string> all = {"repaint", "tree", "modified"};
+const std::vector<std::string>& all = test::toldAll;
 const std::vector<std::string> none = {};
 const std::vector<std::string> repaint = {"repaint"};
 
@@ -354,104 +300,6 @@ TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)
   Run(Command::ToggleSnap);
   EXPECT_TRUE(listening.QueryCommand(Command::ToggleSnap).checked);
   EXPECT_FALSE(document.IsModified());
-}
-
-// ---------------------------------------------------------------------------------------------------
-// Units
-
-class UnitsCommand : public Commands {
-protected:
-  UnitsCommand()
-  {
-    app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
-    std::filesystem::create_directories(dataFolder.Path() / "Sondaris" / "Database");
-    std::filesystem::copy(HULLWRIGHT_UNIT_DATABASE,
-                          dataFolder.Path() / "Sondaris" / "Database" / "geo.db");
-  }
-
-  /// Chooses the foot, which is second in the list.
-  void ToFeet() { Run(Command::Units, {.ok = true, .select = 1}); }
-};
-
-TEST_F(UnitsCommand, TheListStandsInTheOrderOfTheCodesWithTheUnitSelected)
-{
-  app.unitCode = 9003;
-  Run(Command::Units, {});
-  ASSERT_EQ(dialogs.list.size(), 24U);
-  EXPECT_EQ(dialogs.list[0].text, u"metre");
-  EXPECT_EQ(dialogs.list[2].data, 9003);
-  EXPECT_EQ(dialogs.startSelected, 2U);
-}
-
-TEST_F(UnitsCommand, AnUnknownUnitSelectsNothingAndOkAsksForAChoice)
-{
-  app.unitCode = 5;
-  Run(Command::Units, {.ok = true});
-  EXPECT_FALSE(dialogs.startSelected.has_value());
-  EXPECT_TRUE(dialogs.stayedOpen);
-  EXPECT_THAT(messages.shown, ElementsAre(u"Please select an unit from the list first !"));
-  EXPECT_TRUE(listening.heard.empty());
-  EXPECT_EQ(app.unitCode, 5);
-}
-
-TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
-{
-  const CShapePolyline& top = AddLine(ViewSide::Top, {0.3048, 0.0, 3.048});
-  const CShapePoint& point = AddPoint(ViewSide::Top, {3.048, 0.0, 0.0});
-  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {1.0, 1.0, 1.0});
-  app.anchors->items.push_back(app.anchors->NewAnchor());
-  app.anchors->items[0]->attachmentX = 5.0;
-  messages.answer = true;
-  ToFeet();
-  EXPECT_THAT(messages.asked,
-              ElementsAre(u"The unit setting has changed. Do you want to convert all coordinates "
-                          u"to the new units ?"));
-  EXPECT_TRUE(*top.vertices[0] == CShapeVertex(1.0, 0.0, 3.048 / 0.3048));
-  EXPECT_EQ(point.position.x, 3.048 / 0.3048);
-  EXPECT_EQ(app.offsetGps->x, 10.0 / 0.3048);
-  EXPECT_EQ(app.offsetTransducer->x, -10.0 / 0.3048);
-  EXPECT_EQ(app.offsetPivot->y, 10.0);
-  EXPECT_EQ(bottom.vertices[0]->x, 1.0);
-  EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
-  EXPECT_EQ(app.unitCode, 9002);
-  EXPECT_THAT(listening.heard, ElementsAreArray(all));
-  EXPECT_TRUE(settings.written.empty());
-}
-
-TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
-{
-  const CShapePolyline& top = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  ToFeet();
-  EXPECT_EQ(top.vertices[0]->x, 1.0);
-  EXPECT_EQ(app.offsetGps->x, 10.0);
-  EXPECT_EQ(app.unitCode, 9002);
-  EXPECT_TRUE(document.IsModified());
-}
-
-TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
-{
-  AddLine(ViewSide::Bottom, {1.0, 0.0, 0.0});
-  messages.answer = true;
-  ToFeet();
-  EXPECT_TRUE(messages.asked.empty());
-  EXPECT_EQ(app.offsetGps->x, 10.0);
-  EXPECT_EQ(app.unitCode, 9002);
-}
-
-TEST_F(UnitsCommand, TheSameUnitIsNotAskedAboutAndStillModifies)
-{
-  AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(Command::Units, {.ok = true});
-  EXPECT_TRUE(messages.asked.empty());
-  EXPECT_TRUE(document.IsModified());
-}
-
-TEST_F(UnitsCommand, AVertexAtTheOriginStaysThere)
-{
-  const CShapePolyline& top = AddLine(ViewSide::Top, {0.0, 0.0, 0.0});
-  messages.answer = true;
-  ToFeet();
-  EXPECT_TRUE(*top.vertices[0] == CShapeVertex());
 }
 
 }  // namespace

@@ -86,6 +86,14 @@ protected:
     return added;
   }
 
+  CAnchor& AddAnchor(double x, double y)
+  {
+    design.anchors->items.push_back(design.anchors->NewAnchor());
+    design.anchors->items.back()->attachmentX = x;
+    design.anchors->items.back()->attachmentY = y;
+    return *design.anchors->items.back();
+  }
+
   RecordingBackEnd backEnd;
   RecordingWindow window;
   FakeMessages messages;

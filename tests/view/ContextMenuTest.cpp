@@ -12,14 +12,6 @@ using testing::Pair;
 
 class ContextMenu : public test::ViewFixture {
 protected:
-  CAnchor& AddAnchor(double x, double y)
-  {
-    design.anchors->items.push_back(design.anchors->NewAnchor());
-    design.anchors->items.back()->attachmentX = x;
-    design.anchors->items.back()->attachmentY = y;
-    return *design.anchors->items.back();
-  }
-
   std::vector<int> Offered() const
   {
     std::vector<int> ids;

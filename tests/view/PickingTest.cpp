@@ -10,14 +10,6 @@ using testing::ElementsAre;
 
 class Picking : public test::ViewFixture {
 protected:
-  CAnchor& AddAnchor(double x, double y)
-  {
-    design.anchors->items.push_back(design.anchors->NewAnchor());
-    design.anchors->items.back()->attachmentX = x;
-    design.anchors->items.back()->attachmentY = y;
-    return *design.anchors->items.back();
-  }
-
   void Hover(std::int32_t x, std::int32_t y) { view.OnMouseMove(false, {x, y}); }
   void Drag(std::int32_t x, std::int32_t y) { view.OnMouseMove(true, {x, y}); }
 

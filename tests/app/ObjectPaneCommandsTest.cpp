@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+
+#include "resources/CommandIds.h"
+#include "support/ObjectPaneFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ObjectPaneCommands : public test::ObjectPaneFixture {};
+
+TEST_F(ObjectPaneCommands, AddPolylineAppendsAnEmptyOneToTheSideInView)
+{
+  app.activeView = ViewSide::Left;
+  Command(Command::AddPolyline, At({0, 0}));
+  EXPECT_TRUE(ToldAll());
+  ASSERT_EQ(app.shapeGroups.size(), 1U);
+  EXPECT_EQ(app.shapeGroups[0]->viewCode, ViewSide::Left);
+  EXPECT_EQ(app.shapeGroups[0]->shapes.at(0)->type, ShapeType::Polyline);
+  EXPECT_TRUE(app.shapeGroups[0]->shapes[0]->vertices.empty());
+}
+
+TEST_F(ObjectPaneCommands, RemoveAllClearsTheSideInViewWhicheverNodeWasClicked)
+{
+  AddLine(ViewSide::Top, {});
+  AddLine(ViewSide::Bottom, {});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::RemoveAllPolylines, At({0, 1}));
+  EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete all shapes ?"));
+  EXPECT_FALSE(ToldAll());
+  messages.answer = true;
+  Command(Command::RemoveAllPolylines, At({0, 1}));
+  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(FindViewGroup(app.shapeGroups, ViewSide::Top)->shapes.empty());
+  EXPECT_EQ(FindViewGroup(app.shapeGroups, ViewSide::Bottom)->shapes.size(), 1U);
+}
+
+TEST_F(ObjectPaneCommands, AddAnchorAppendsOneWithTheLowestNumber)
+{
+  Command(Command::AddAnchor, At({1}));
+  EXPECT_TRUE(ToldAll());
+  ASSERT_EQ(app.anchors->items.size(), 1U);
+  EXPECT_EQ(app.anchors->items[0]->id, 1U);
+}
+
+TEST_F(ObjectPaneCommands, RemoveAndModifyAnchorDoNothing)
+{
+  app.anchors->items.push_back(app.anchors->NewAnchor());
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::RemoveAnchor, At({1, 0}));
+  Command(Command::ModifyAnchor, At({1, 0}));
+  EXPECT_FALSE(ToldAll());
+  EXPECT_EQ(app.anchors->items.size(), 1U);
+}
+
+TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledTellsNobody)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::EditVertex, At({0, 0, 0, 0}), {.ok = false, .fields = {{1008, u"9"}}});
+  EXPECT_FALSE(ToldAll());
+  Command(Command::EditVertex, At({0, 0, 0, 0}), {.ok = true, .fields = {{1008, u"9"}}});
+  EXPECT_TRUE(ToldAll());
+  EXPECT_EQ(line.vertices[0]->x, 9.0);
+  EXPECT_THAT(Texts(At({0, 0, 0})), ElementsAre("+9.000,+2.000,+3.000"));
+}
+
+TEST_F(ObjectPaneCommands, PointCommandsOnNodesThatAreNoPointsDoNothing)
+{
+  AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  messages.answer = true;
+  for (const TreeItem& item : {TreeItem{}, At({0}), At({0, 0}), At({0, 0, 0}), At({1})}) {
+    Command(Command::EditVertex, item, {.ok = true});
+    Command(Command::RemoveVertex, item);
+  }
+  EXPECT_FALSE(ToldAll());
+  EXPECT_THAT(dialogs.shown, IsEmpty());
+  EXPECT_THAT(messages.asked, IsEmpty());
+}
+
+TEST_F(ObjectPaneCommands, RemovePointAsksAndTakesItOut)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}, {2.0, 0.0, 0.0}});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::RemoveVertex, At({0, 0, 0, 0}));
+  EXPECT_THAT(
+      messages.asked,
+      ElementsAre(u"Are you sure you want to delete the selected point from the polyline ?"));
+  EXPECT_FALSE(ToldAll());
+  messages.answer = true;
+  Command(Command::RemoveVertex, At({0, 0, 0, 0}));
+  EXPECT_TRUE(ToldAll());
+  ASSERT_EQ(line.vertices.size(), 1U);
+  EXPECT_EQ(line.vertices[0]->x, 2.0);
+}
+
+TEST_F(ObjectPaneCommands, AddPointAppendsAtTheEndOfTheSelectedPolyline)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Bottom, {{1.0, 0.0, 0.0}});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::AddVertex, At({0, 1, 0}), {.ok = false});
+  Command(Command::AddVertex, At({0, 1}), {.ok = true});
+  EXPECT_FALSE(ToldAll());
+  Command(Command::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{1009, u"4"}}});
+  EXPECT_TRUE(ToldAll());
+  EXPECT_EQ(dialogs.startTexts[1008], u"0.000");
+  ASSERT_EQ(line.vertices.size(), 2U);
+  EXPECT_TRUE(*line.vertices[1] == CShapeVertex(0.0, 4.0, 0.0));
+}
+
+TEST_F(ObjectPaneCommands, RemovePolylineAsksAndReleasesIt)
+{
+  AddLine(ViewSide::Top, {});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::RemovePolyline, At({0, 0, 0}));
+  EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete the selected shape ?"));
+  EXPECT_FALSE(ToldAll());
+  messages.answer = true;
+  Command(Command::RemovePolyline, At({0, 0, 0}));
+  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(app.shapeGroups[0]->shapes.empty());
+}
+
+TEST_F(ObjectPaneCommands, ZoomPolylineFramesItAndOnlyRepaints)
+{
+  AddLine(ViewSide::Bottom, {{10.0, 20.0, 0.0}, {50.0, 30.0, 0.0}});
+  pane.BuildTree();
+  control.rebuilds = 0;
+  Command(Command::ZoomPolyline, At({0, 1, 0}));
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_EQ(control.rebuilds, 0);
+  EXPECT_FALSE(document.IsModified());
+  EXPECT_NEAR((app.viewPort->left + app.viewPort->right) * 0.5, 30.0, 1e-9);
+}
+
+}  // namespace
+}  // namespace hullwright

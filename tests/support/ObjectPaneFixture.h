@@ -1,0 +1,113 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/ObjectView.h"
+#include "base/Text.h"
+#include "model/ShapePolyline.h"
+#include "support/AppFixture.h"
+
+namespace hullwright::test {
+
+/// Counts what the tree's control is told, and keeps the menus that are offered.
+class FakeTreeControl : public ITreeControl {
+public:
+  void BeforeRebuild() override { ++announced; }
+  void Rebuilt() override
+  {
+    ++rebuilds;
+    EXPECT_EQ(announced, 1);
+    announced = 0;
+  }
+  void ImagesChanged() override { ++imageChanges; }
+  void ShowMenu(std::span<const PopupEntry> entries) override
+  {
+    menu.clear();
+    for (const PopupEntry& entry : entries) menu.emplace_back(entry.id, entry.text);
+  }
+  int announced = 0;
+  int rebuilds = 0;
+  int imageChanges = 0;
+  std::vector<std::pair<int, std::u16string>> menu;
+};
+
+/// The application with its object pane.
+class ObjectPaneFixture : public AppFixture {
+protected:
+  ObjectPaneFixture()
+  {
+    frame.objectView = &pane;
+    pane.BuildTree();
+    control.rebuilds = 0;
+  }
+  ~ObjectPaneFixture() override { frame.objectView = nullptr; }
+
+  CShapePolyline& AddLine(std::int32_t side, std::initializer_list<CShapeVertex> vertices)
+  {
+    auto line = std::make_unique<CShapePolyline>();
+    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
+    CShapePolyline& added = *line;
+    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
+    return added;
+  }
+
+  /// The item at a path of child numbers from the top: 0 the design, 1 the anchors.
+  TreeItem At(std::initializer_list<std::size_t> path)
+  {
+    TreeItem item;
+    for (const std::size_t number : path) {
+      if (item) {
+        item = pane.Tree().Child(item, number);
+      } else {
+        item = number == 0 ? pane.Tree().Root() : pane.Tree().Anchors();
+      }
+    }
+    return item;
+  }
+
+  std::vector<std::string> Texts(const TreeItem& parent)
+  {
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < pane.Tree().ChildCount(parent); ++i) {
+      texts.push_back(Utf8FromWide(pane.Tree().Text(pane.Tree().Child(parent, i))));
+    }
+    return texts;
+  }
+
+  std::vector<int> Images(const TreeItem& parent)
+  {
+    std::vector<int> images;
+    for (std::size_t i = 0; i < pane.Tree().ChildCount(parent); ++i) {
+      images.push_back(pane.Tree().Image(pane.Tree().Child(parent, i)));
+    }
+    return images;
+  }
+
+  void Command(int id, const TreeItem& selected, DialogScript script = {})
+  {
+    pane.selectedItem = selected;
+    dialogs.script = std::move(script);
+    backEnd.log.clear();
+    pane.OnCommand(id);
+  }
+
+  /// Whether the last command told all three: a repaint, a rebuild and a modified document.
+  bool ToldAll()
+  {
+    const bool told = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
+    const bool silent = Frames() == 0 && control.rebuilds == 0 && !document.IsModified();
+    EXPECT_TRUE(told || silent);
+    control.rebuilds = 0;
+    document.SetModifiedFlag(false);
+    return told;
+  }
+
+  FakeTreeControl control;
+  CObjectView pane{app, control};
+};
+
+}  // namespace hullwright::test
