@@ -92,9 +92,20 @@ class Desk:
         found = [(y, row) for y, row in enumerate(rows) if row.count(ink) > 50]
         if not found:
             return None
-        lefts = [row.find(ink) // depth for _, row in found]
-        rights = [row.rfind(ink) // depth for _, row in found]
+        spans = [self._span(row, ink, depth) for _, row in found]
+        lefts, rights = [left for left, _ in spans], [right for _, right in spans]
         return (min(lefts), found[0][0], max(rights) - min(lefts) + 1, found[-1][0] - found[0][0] + 1)
+
+    @staticmethod
+    def _span(row, ink, depth):
+        """The first and the last pixel of a row in a colour; what only spans two pixels is none."""
+        first = row.find(ink)
+        while first % depth:
+            first = row.find(ink, first + 1)
+        last = row.rfind(ink)
+        while last % depth:
+            last = row.rfind(ink, 0, last + len(ink) - 1)
+        return first // depth, last // depth
 
     def keys(self, *names):
         """Presses keys one after the other."""
