@@ -20,7 +20,8 @@ void CopyCoordinates(const CShapeVertex& from, CShapeVertex& to)
 
 std::u16string CannotOpen(std::u16string_view path, int error)
 {
-  const std::string reason = error != 0 ? std::strerror(error) : "It is not a file";
+  // In the language of all other messages, whatever the locale.
+  const std::string reason = error != 0 ? strerrordesc_np(error) : "It is not a file";
   return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + WideFromUtf8(reason) +
          u".";
 }
