@@ -37,7 +37,6 @@ CHullwrightDoc::CHullwrightDoc(DesignState& design, IMainWindow& mainWindow,
 bool CHullwrightDoc::OnNewDocument()
 {
   DeleteContents();
-  SetModifiedFlag(false);
   return true;
 }
 
@@ -46,6 +45,7 @@ void CHullwrightDoc::DeleteContents()
   ClearGroups(design_.shapeGroups);
   design_.anchors->Clear();
   if (mainWindow_.HasWindow()) mainWindow_.NotifyDesignChanged();
+  SetModifiedFlag(false);
   if (onEmptied) onEmptied();
 }
 
@@ -57,7 +57,6 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
     return false;
   }
   DeleteContents();
-  SetModifiedFlag(false);
 
   CFileVessel file(messages_);
   ClearGroups(design_.shapeGroups);

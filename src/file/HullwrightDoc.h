@@ -11,7 +11,7 @@
 namespace hullwright {
 
 /// Moves the design between the design state and files. It owns no data of its own but the modified
-/// flag and the path that the shell keeps with a document.
+/// flag.
 class CHullwrightDoc {
 public:
   CHullwrightDoc(DesignState& design, IMainWindow& mainWindow, IMessageBoxes& messages);

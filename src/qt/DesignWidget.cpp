@@ -145,6 +145,7 @@ void DesignWidget::wheelEvent(QWheelEvent* event)
   // Fine-grained wheels and touchpads send fractions of a notch; those are gathered to a message. A
   // message is one step, however far the wheel was turned.
   const int turn = event->angleDelta().y();
+  if (turn == 0) return;
   wheelTurn_ = (turn < 0) == (wheelTurn_ < 0) ? wheelTurn_ + turn : turn;
   if (std::abs(wheelTurn_) < notch) return;
   view_->OnMouseWheel(std::exchange(wheelTurn_, 0), PixelOf(event->position()));

@@ -65,7 +65,8 @@ void ToolBars::Load(const QSettings& settings)
   for (const QString& text : settings.value(QLatin1String(storeKey)).toStringList()) {
     if (specs.size() <= mostUserToolBars) specs.append(FromText(text));
   }
-  if (specs.isEmpty() || specs.constFirst().commands.isEmpty()) specs = {StandardSpec()};
+  const bool usable = specs.size() > 1 || (!specs.isEmpty() && !specs.first().commands.isEmpty());
+  if (!usable) specs = {StandardSpec()};
   specs.first().title = StandardSpec().title;
   Build(specs);
 }

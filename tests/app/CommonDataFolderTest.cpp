@@ -59,10 +59,12 @@ TEST(DataFolderCandidates, ComeFromTheDesktopsRules)
   EXPECT_TRUE(found.besideProgram.ends_with("/share"));
   unsetenv("XDG_DATA_HOME");
   unsetenv("XDG_DATA_DIRS");
+  const std::string home = getenv("HOME") == nullptr ? "" : getenv("HOME");
   setenv("HOME", "/home/someone", 1);
   const DataFolderCandidates usual = FindDataFolderCandidates();
   EXPECT_EQ(usual.user, "/home/someone/.local/share");
   EXPECT_EQ(usual.system, (std::vector<std::string>{"/usr/local/share", "/usr/share"}));
+  setenv("HOME", home.c_str(), 1);
 }
 
 }  // namespace

@@ -168,6 +168,14 @@ TEST_F(XmlOutput, FlushWritesTheBlock)
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(XmlOutput, FlushOverALongerFileLeavesNothingOfIt)
+{
+  folder.Write("out.xml", std::string(10000, 'x'));
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.Flush(folder.File("out.xml")), 0);
+  EXPECT_EQ(folder.Read("out.xml"), "<a>\n");
+}
+
 TEST_F(XmlOutput, FlushOfNothingOrToNowhereFails)
 {
   EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);

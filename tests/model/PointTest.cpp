@@ -71,6 +71,15 @@ TEST(Point, MovesScalesAndTurns)
   EXPECT_TRUE(point.position == before);
 }
 
+TEST(Point, RotateByZeroLeavesEveryBit)
+{
+  CShapePoint point;
+  point.position = CShapeVertex(0.1, 0.7, 0.0);
+  point.Rotate(0.0);
+  EXPECT_EQ(point.position.x, 0.1);
+  EXPECT_EQ(point.position.y, 0.7);
+}
+
 TEST(Point, IsVisibleInsideTheClientArea)
 {
   CViewPort viewPort;

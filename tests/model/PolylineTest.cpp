@@ -48,23 +48,29 @@ TEST(Polyline, CloneDropsCarriedFieldsOfVertices)
   line.AddVertex(1.0, 2.0, 3.0);
   line.vertices[0]->flag = 1;
   line.vertices[0]->tagA = 2;
+  line.vertices[0]->tagB = 3;
   const auto copy = line.Clone();
   ASSERT_EQ(copy->vertices.size(), 1U);
   EXPECT_TRUE(*copy->vertices[0] == *line.vertices[0]);
   EXPECT_EQ(copy->vertices[0]->flag, 0);
   EXPECT_EQ(copy->vertices[0]->tagA, 0);
+  EXPECT_EQ(copy->vertices[0]->tagB, 0);
 }
 
 TEST(Polyline, AppendVerticesKeepsCarriedFields)
 {
   CShapePolyline source;
   source.AddVertex(1.0, 2.0, 3.0);
+  source.vertices[0]->flag = 2;
+  source.vertices[0]->tagA = 3;
   source.vertices[0]->tagB = 4;
   CShapePolyline line;
   line.AddVertex(0.0, 0.0, 0.0);
   line.AppendVertices(&source);
   line.AppendVertices(nullptr);
   ASSERT_EQ(line.vertices.size(), 2U);
+  EXPECT_EQ(line.vertices[1]->flag, 2);
+  EXPECT_EQ(line.vertices[1]->tagA, 3);
   EXPECT_EQ(line.vertices[1]->tagB, 4);
 }
 
@@ -90,7 +96,11 @@ TEST(Polyline, AppendingAPolylineToItselfDoublesItOnce)
 TEST(Polyline, ExtentsHaveNoMarginAndStayForAnEmptyOne)
 {
   CShapePolyline line;
-  EXPECT_EQ(ExtentsOf(line).minX, largest);
+  const Box untouched = ExtentsOf(line);
+  EXPECT_EQ(untouched.minX, largest);
+  EXPECT_EQ(untouched.minY, largest);
+  EXPECT_EQ(untouched.maxX, -largest);
+  EXPECT_EQ(untouched.maxY, -largest);
   line.AddVertex(-1.0, 5.0, 9.0);
   line.AddVertex(2.0, 3.0, 9.0);
   const Box box = ExtentsOf(line);
@@ -258,6 +268,8 @@ TEST_F(PolylineHit, ANullVertexSkipsItsPairs)
 
 TEST_F(PolylineHit, IsVisibleWithOneVertexInside)
 {
+  EXPECT_TRUE(line.IsVisible(viewPort));
+  line.AddVertex(1000.0, 0.0, 0.0);
   EXPECT_TRUE(line.IsVisible(viewPort));
   line.Translate(1000.0, 0.0, 0.0);
   EXPECT_FALSE(line.IsVisible(viewPort));

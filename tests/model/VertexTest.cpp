@@ -92,6 +92,16 @@ TEST(DistanceToSegment, APointBehindTheStartGetsNoDistance)
 
 TEST(DistanceToSegment, APointBeyondTheEndGetsTheNearerEnd) { EXPECT_EQ(Distance(13.0, 4.0), 5.0); }
 
+TEST(DistanceToSegment, TellsWhetherThereIsADistance)
+{
+  const CShapeVertex a(0.0, 0.0, 0.0);
+  const CShapeVertex b(10.0, 0.0, 0.0);
+  double distance = 0.0;
+  EXPECT_FALSE(DistanceToSegment(a, b, {-0.1, 0.0, 0.0}, distance));
+  EXPECT_TRUE(DistanceToSegment(a, b, {4.0, 3.0, 0.0}, distance));
+  EXPECT_TRUE(DistanceToSegment(a, b, {13.0, 4.0, 0.0}, distance));
+}
+
 TEST(DistanceToSegment, ASegmentWithoutLengthGetsNoDistance)
 {
   double distance = -1.0;

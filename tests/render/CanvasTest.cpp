@@ -54,8 +54,9 @@ TEST_F(CanvasTest, AnInvalidWindowFailsAlike)
 TEST_F(CanvasTest, AWindowWithoutAClientAreaFailsWithoutAWord)
 {
   window.size.reset();
+  canvas.errorText = "kept";
   EXPECT_FALSE(canvas.Initialize(&window));
-  EXPECT_EQ(canvas.errorText, "");
+  EXPECT_EQ(canvas.errorText, "kept");
   EXPECT_THAT(backEnd.log, ElementsAre("factory"));
 }
 
@@ -110,6 +111,15 @@ TEST_F(CanvasTest, AFailedSecondInitializeKeepsTheObjectsOfTheFirst)
   backEnd.failAt = FailAt::ImagingFactory;
   EXPECT_FALSE(canvas.Initialize(&window));
   EXPECT_EQ(canvas.renderTarget.get(), target);
+}
+
+TEST_F(CanvasTest, ASecondInitializeReplacesTheObjectsOfTheFirst)
+{
+  ASSERT_TRUE(canvas.Initialize(&window));
+  const IRenderTarget* const target = canvas.renderTarget.get();
+  ASSERT_TRUE(canvas.Initialize(&window));
+  EXPECT_NE(canvas.renderTarget.get(), target);
+  EXPECT_EQ(backEnd.log.size(), 8U);
 }
 
 TEST_F(CanvasTest, ReleaseResourcesKeepsWindowResolutionAndErrorText)

@@ -191,6 +191,15 @@ TEST_F(ViewPortTest, ZoomToExtentsOfATallBoxWidensUntilACornerIsInView)
   EXPECT_NEAR((viewPort.left + viewPort.right) * 0.5, 0.5, 1e-9);
 }
 
+TEST_F(ViewPortTest, ATallBoxTakesItsWidthFromTheInvertedShapeOfTheWindow)
+{
+  viewPort.screenWidth = 1000.0;
+  viewPort.screenHeight = 500.0;
+  viewPort.ZoomToExtents(0.0, 0.0, 1.0, 400.0);
+  // 200 wide and 100 high at first; five steps bring a corner in, two more follow.
+  EXPECT_NEAR(viewPort.width, 200.0 * std::pow(4.0 / 3.0, 7), 1e-6);
+}
+
 TEST_F(ViewPortTest, ZoomToExtentsGivesUpAfterThirtySteps)
 {
   viewPort.ZoomToExtents(5.0, 5.0, 5.0, 5.0);

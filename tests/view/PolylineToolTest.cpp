@@ -41,6 +41,18 @@ TEST_F(PolylineTool, TwoPressesAndARightPressGiveATwoVertexPolyline)
   EXPECT_EQ(view.cursorPoint, (ClientPoint{500, 260}));
 }
 
+TEST_F(PolylineTool, AFinishedPolylineIsDrawnFromThenOn)
+{
+  Begin();
+  Click(400, 300);
+  Click(500, 260);
+  view.OnRButtonDown({600, 100});
+  for (int frame = 0; frame < 2; ++frame) {
+    view.Repaint();
+    EXPECT_EQ(backEnd.Count("geometry"), 1);
+  }
+}
+
 TEST_F(PolylineTool, FinishingTellsRepaintAndTreeButDoesNotModify)
 {
   Begin();
