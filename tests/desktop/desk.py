@@ -68,13 +68,19 @@ class Desk:
             time.sleep(0.1)
 
     def settle(self):
-        """Waits until the screen no longer changes."""
-        before = None
-        now = self.screen()
+        """Waits until the screen has not changed for a while."""
+        seen = [self.screen()]
         deadline = time.monotonic() + PATIENCE
-        while before != now and time.monotonic() < deadline:
-            time.sleep(0.3)
-            before, now = now, self.screen()
+        while len(seen) < 3 and time.monotonic() < deadline:
+            time.sleep(0.25)
+            now = self.screen()
+            seen = seen + [now] if now == seen[-1] else [now]
+
+    def dialog(self, title):
+        """Waits for a dialog of exactly this title."""
+        found = self._xdotool("search", "--sync", "--onlyvisible", "--name", f"^{title}$").split()
+        self._xdotool("windowactivate", "--sync", found[-1])
+        self.settle()
 
     def screen(self):
         """The screen as (bytes a pixel, rows of pixels in the order blue, green, red)."""

@@ -119,8 +119,9 @@ class EditingTest(unittest.TestCase):
 
     def test_change_the_unit_with_and_without_conversion(self):
         self.choose(OPTIONS, "Units")
+        self.desk.dialog("Switch Units")
         self.desk.keys("Home", "Down", "Return")
-        self.desk.settle()
+        self.desk.dialog("Hullwright")
         self.desk.keys("alt+y")
         after = self.saved()
         self.assertEqual(after.unit, 9002)
@@ -128,8 +129,9 @@ class EditingTest(unittest.TestCase):
         self.assertAlmostEqual(after.offsets["gps"][0], self.before.offsets["gps"][0] / FOOT, delta=0.001)
         self.assertEqual(after.offsets["piv"], self.before.offsets["piv"])
         self.choose(OPTIONS, "Units")
+        self.desk.dialog("Switch Units")
         self.desk.keys("Home", "Return")
-        self.desk.settle()
+        self.desk.dialog("Hullwright")
         self.desk.keys("alt+n")
         kept = self.saved()
         self.assertEqual(kept.unit, 9001)
@@ -209,7 +211,7 @@ class EditingTest(unittest.TestCase):
             self.desk.keys("Home", "Down", "Menu")
             self.desk.settle()
             self.desk.keys("r")  # Remove All Polylines
-            self.desk.settle()
+            self.desk.dialog("Hullwright")
             self.desk.keys(answer)
             self.assertEqual(len(self.saved().sides[1]), left)
 
