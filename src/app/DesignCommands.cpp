@@ -73,7 +73,7 @@ bool CHullwrightApp::OnCommand(int id)
   return true;
 }
 
-void CHullwrightApp::Repaint()
+void CHullwrightApp::Repaint() const
 {
   if (mainFrame != nullptr) mainFrame->Notify(Notification::RepaintDesign, 0);
 }

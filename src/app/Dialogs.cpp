@@ -191,6 +191,7 @@ void CDialogUnits::OnStart(IDialogControls& controls)
 {
   const std::vector<UnitRecord> units = app_.ReadUnits();
   std::vector<DialogListItem> items;
+  items.reserve(units.size());
   for (const UnitRecord& unit : units) items.push_back({unit.strUnit, unit.numId});
   controls.FillList(items);
   for (std::size_t i = 0; i < items.size(); ++i) {

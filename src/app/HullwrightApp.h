@@ -74,7 +74,7 @@ public:
   std::vector<UnitRecord> ReadUnits();
 
   /// Repaints the design.
-  void Repaint();
+  void Repaint() const;
 
   /// Tells that a command has changed the design: repaint, tree, modified.
   void TellAll();
