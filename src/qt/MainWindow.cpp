@@ -75,11 +75,7 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
     UpdateTitle();
     UpdatePanes();
   };
-  connect(design_, &DesignWidget::ViewChanged, this, [this] {
-    UpdatePanes();
-    UpdateCommands();
-    UpdateTitle();
-  });
+  connect(design_, &DesignWidget::ViewChanged, this, [this] { UpdateAll(); });
   design_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
   design_->Attach(view_);
   UpdateCommands();
@@ -198,11 +194,7 @@ void MainWindow::BuildObjectPane()
   objectPane_->setWidget(tree_);
   addDockWidget(Qt::LeftDockWidgetArea, objectPane_);
   resizeDocks({objectPane_}, {startWidth}, Qt::Horizontal);
-  connect(tree_, &ObjectTreeWidget::Changed, this, [this] {
-    UpdateCommands();
-    UpdatePanes();
-    UpdateTitle();
-  });
+  connect(tree_, &ObjectTreeWidget::Changed, this, [this] { UpdateAll(); });
 }
 
 void MainWindow::GoToNextPane()
@@ -249,9 +241,7 @@ void MainWindow::RunCommand(int command)
 {
   if (!Query(command).enabled) return;
   if (!RunShellCommand(command)) frame_.OnCommand(command);
-  UpdateCommands();
-  UpdatePanes();
-  UpdateTitle();
+  UpdateAll();
 }
 
 bool MainWindow::RunShellCommand(int command)
@@ -286,6 +276,13 @@ CommandState MainWindow::Query(int command) const
     case Command::ViewStatusBar: return {true, !statusBar()->isHidden(), true};
     default: return frame_.QueryCommand(command);
   }
+}
+
+void MainWindow::UpdateAll()
+{
+  UpdateCommands();
+  UpdatePanes();
+  UpdateTitle();
 }
 
 void MainWindow::UpdateCommands()

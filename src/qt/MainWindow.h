@@ -57,6 +57,7 @@ private:
 
   bool RunShellCommand(int command);
   CommandState Query(int command) const;
+  void UpdateAll();
   void UpdateCommands();
   void UpdatePanes();
   void UpdateTitle();
