@@ -5,6 +5,7 @@
 #include "app/Dialogs.h"
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
+#include "dxf/FileDxf.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
@@ -21,6 +22,7 @@ struct CHullwrightApp::CommandRow {
 const CHullwrightApp::CommandRow* CHullwrightApp::FindCommandRow(int id)
 {
   static constexpr auto rows = std::to_array<CommandRow>({
+      {Command::ImportDxf, &CHullwrightApp::ImportDxf},
       {Command::MirrorVertically, &CHullwrightApp::MirrorVertically},
       {Command::MirrorHorizontally, &CHullwrightApp::MirrorHorizontally},
       {Command::Scale, &CHullwrightApp::ScaleDesign},
@@ -185,6 +187,28 @@ void CHullwrightApp::ToggleSnap()
   GridSettings grid = LoadGridSettings();
   grid.snap = grid.snap == 0 ? 1 : 0;
   SaveGridSettings(grid);
+}
+
+void CHullwrightApp::ImportDxf()
+{
+  const auto path = ports_.fileDialogs.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
+  if (path) ImportDrawing(*path);
+}
+
+int CHullwrightApp::ImportDrawing(std::u16string_view path)
+{
+  CLayer layer;
+  {
+    CFileDxf drawing(mainFrame, *this);
+    if (drawing.Import(path, &layer) != 0) return -1;
+  }
+  CShapes* group = FindViewGroup(shapeGroups, activeView);
+  if (group == nullptr) {
+    group = shapeGroups.emplace_back(std::make_unique<CShapes>(activeView)).get();
+  }
+  group->TakeShapes(*layer.shapes);
+  TellAll();
+  return 0;
 }
 
 void CHullwrightApp::ShowAbout()

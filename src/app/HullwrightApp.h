@@ -11,6 +11,7 @@
 #include "app/UnitTable.h"
 #include "model/DesignState.h"
 #include "platform/Dialogs.h"
+#include "platform/FileDialogs.h"
 #include "platform/Framework.h"
 #include "platform/LibraryLoader.h"
 #include "platform/MainWindow.h"
@@ -29,12 +30,13 @@ struct AppPorts {
   IMessageBoxes& messages;
   ILibraryLoader& libraries;
   IDialogRunner& dialogs;
+  IFileDialogs& fileDialogs;
   std::function<std::u16string()> commonDataFolder;  ///< of the survey package
 };
 
 /// The one application object: it holds the design itself, carries out the design-wide commands and
 /// answers what the view asks. It is made before frame, document and view, and must outlive them.
-class CHullwrightApp : public DesignState, public IViewHost {
+class CHullwrightApp : public DesignState, public IViewHost, public ITrace {
 public:
   explicit CHullwrightApp(AppPorts ports);
   ~CHullwrightApp() override;
@@ -73,6 +75,10 @@ public:
   /// The units of length that the database has now.
   std::vector<UnitRecord> ReadUnits();
 
+  /// Adds the shapes of a drawing to the side in view. 0 on success; -1, with the design untouched,
+  /// for a drawing that can't be read.
+  int ImportDrawing(std::u16string_view path);
+
   /// Repaints the design.
   void Repaint() const;
 
@@ -88,9 +94,8 @@ public:
   void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
   void SaveGridSettings(const GridSettings& grid);
 
-  /// Adds a record to the log of a category.
   void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
-             std::u16string_view text) const;
+             std::u16string_view text) const override;
 
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override;
   bool EditVertex(CShapeVertex& vertex) override;
@@ -129,6 +134,8 @@ private:
   void ToggleGrid();
   void ToggleSnap();
   void ShowAbout();
+  void ImportDxf();
+
   AppPorts ports_;
   CTraceLog traceLog_;
 };

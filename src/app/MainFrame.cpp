@@ -21,8 +21,21 @@ CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets)
 
 CMainFrame::~CMainFrame() { app_.mainFrame = nullptr; }
 
-void CMainFrame::Notify(int code, std::intptr_t)
+void CMainFrame::ShowImport(int code, std::intptr_t value)
 {
+  switch (code) {
+    case Notification::ImportStart:
+      widgets_.StartProgress(reinterpret_cast<const char*>(value));
+      break;
+    case Notification::ImportProgress: widgets_.ShowProgress(static_cast<int>(value)); break;
+    case Notification::ImportEnd: widgets_.EndProgress(); break;
+    default: break;
+  }
+}
+
+void CMainFrame::Notify(int code, std::intptr_t value)
+{
+  ShowImport(code, value);
   if (code == Notification::RebuildTree) {
     // Whatever was released from the design must not be reached through an old pick.
     if (view != nullptr) view->DropReleasedItems();

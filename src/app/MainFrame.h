@@ -31,6 +31,7 @@ public:
   bool HasWindow() const override { return hasWindow; }
 
   /// The switchboard: the tree's code stays here, any other goes on to the view, without its value.
+  /// The progress of an import is shown on the way.
   void Notify(int code, std::intptr_t value) override;
   void SetModifiedFlag(bool modified) override;
 
@@ -54,6 +55,8 @@ public:
   int viewButtonImage;  ///< command whose image the side drop-down bears
 
 private:
+  void ShowImport(int code, std::intptr_t value);
+
   CHullwrightApp& app_;
   IFrameWidgets& widgets_;
 };

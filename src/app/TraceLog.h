@@ -6,20 +6,15 @@
 #include <string_view>
 #include <utility>
 
-namespace hullwright {
+#include "platform/Trace.h"
 
-/// Levels of log records.
-namespace TraceLevel {
-inline constexpr std::int32_t Failure = 1;
-inline constexpr std::int32_t Progress = 4;
-inline constexpr std::int32_t Success = 32;
-}  // namespace TraceLevel
+namespace hullwright {
 
 /// The log files: one for each category, in the folder "Sondaris/Tracing" of the common data
 /// folder. A log is a line with the running count of all records ever written, then the last 200
 /// records, "number|seconds|level|text" each. The folder is never made, and a log that can't be
 /// written is silently left.
-class CTraceLog {
+class CTraceLog : public ITrace {
 public:
   /// `commonDataFolder` tells the folder at each record, since it may come to be during the run.
   explicit CTraceLog(std::function<std::u16string()> commonDataFolder)
@@ -30,7 +25,7 @@ public:
   /// Adds one record, rewriting the log whole. `text` is the formatted message, which ends at a
   /// NUL; its line breaks and tabs become "<CR>", "<LF>" and "<TAB>".
   void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
-             std::u16string_view text) const;
+             std::u16string_view text) const override;
 
   /// Path of a category's log.
   std::u16string PathOf(std::u16string_view category) const;

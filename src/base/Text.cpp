@@ -160,6 +160,16 @@ std::string AnsiFromWide(std::u16string_view text)
   return out;
 }
 
+void TrimSpace(std::u16string& text)
+{
+  // Unicode's white space in the Basic Multilingual Plane.
+  static constexpr std::u16string_view spaces =
+      u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008"
+      u"\u2009\u200A\u2028\u2029\u202F\u205F\u3000";
+  text.erase(text.find_last_not_of(spaces) + 1);
+  text.erase(0, text.find_first_not_of(spaces));
+}
+
 std::u16string WideFromAscii(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
 
 }  // namespace hullwright

@@ -24,6 +24,9 @@ std::u16string WideFromAnsi(std::string_view bytes);
 /// Converts 16-bit text to the ANSI code page; a unit without a place there becomes '?'.
 std::string AnsiFromWide(std::u16string_view text);
 
+/// Takes white space off both ends of a text.
+void TrimSpace(std::u16string& text);
+
 /// Widens text that is known to be ASCII, such as a formatted number.
 std::u16string WideFromAscii(std::string_view ascii);
 

@@ -24,6 +24,9 @@ struct HeadlessEditor::NoWidgets : IFrameWidgets {
   void SetViewButtonImage(int) override {}
   void InvalidateToolBar() override {}
   void ApplyLook(int) override {}
+  void StartProgress(std::string_view) override {}
+  void ShowProgress(int) override {}
+  void EndProgress() override {}
 };
 
 struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
@@ -32,15 +35,19 @@ struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
   void InvertLine(ClientPoint, ClientPoint) override {}
 };
 
-struct HeadlessEditor::NoDialogs : IDialogRunner {
+struct HeadlessEditor::NoDialogs : IDialogRunner, IFileDialogs {
   DialogEnd Run(IDialog&) override { return DialogEnd::Cancel; }
+  std::optional<std::u16string> AskOpen(std::u16string_view, std::u16string_view) override
+  {
+    return std::nullopt;
+  }
 };
 
 HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface)
     : widgets_(std::make_unique<NoWidgets>()),
       pointer_(std::make_unique<NoPointer>()),
       dialogs_(std::make_unique<NoDialogs>()),
-      app_({settings_, messages_, libraries_, *dialogs_, FindCommonDataFolder}),
+      app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
       frame_(app_, *widgets_),
       document_(app_, frame_, messages_),
       view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})

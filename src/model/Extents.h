@@ -21,4 +21,13 @@ inline void WidenExtents(const CShapeVertex& vertex, double& minX, double& minY,
   WidenExtents(vertex.x, vertex.y, vertex.x, vertex.y, minX, minY, maxX, maxY);
 }
 
+/// Widens the four bounds by a vertex with a margin of one world unit on each side, at any zoom.
+inline void WidenExtentsAround(const CShapeVertex& vertex, double& minX, double& minY, double& maxX,
+                               double& maxY)
+{
+  constexpr double margin = 1.0;
+  WidenExtents(vertex.x - margin, vertex.y - margin, vertex.x + margin, vertex.y + margin, minX,
+               minY, maxX, maxY);
+}
+
 }  // namespace hullwright

@@ -4,14 +4,16 @@ namespace hullwright {
 
 CShapeAttributes& CShapeAttributes::AppendFrom(const CShapeAttributes& source)
 {
-  // Only what stands in the source now is appended, also when it is this very list.
-  const std::size_t count = source.items.size();
-  std::size_t taken = 0;
-  for (const ShapeAttribute* pair = WalkFirst(source.cursor, source.items);
-       pair != nullptr && taken < count; pair = WalkNext(source.cursor, source.items), ++taken) {
-    items.push_back(std::make_unique<ShapeAttribute>(*pair));
-  }
+  WalkPresent(source.cursor, source.items, [this](const ShapeAttribute& pair) {
+    items.push_back(std::make_unique<ShapeAttribute>(pair));
+  });
   return *this;
+}
+
+void CShapeAttributes::Append(std::u16string_view name, std::u16string_view value)
+{
+  items.push_back(std::make_unique<ShapeAttribute>(
+      ShapeAttribute{std::u16string(name), std::u16string(value)}));
 }
 
 }  // namespace hullwright

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "model/Walk.h"
 
@@ -24,6 +25,9 @@ public:
   /// Appends a deep copy of every pair of `source` up to its first null entry, walking it with its
   /// own cursor; what is here stays.
   virtual CShapeAttributes& AppendFrom(const CShapeAttributes& source);
+
+  /// Appends one pair.
+  void Append(std::u16string_view name, std::u16string_view value);
 
   OwnedArray<ShapeAttribute> items;
   mutable std::uint32_t cursor = 0;

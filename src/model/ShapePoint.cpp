@@ -16,9 +16,7 @@ std::unique_ptr<CShape> CShapePoint::Clone() const
 
 void CShapePoint::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
 {
-  constexpr double margin = 1.0;
-  WidenExtents(position.x - margin, position.y - margin, position.x + margin, position.y + margin,
-               minX, minY, maxX, maxY);
+  WidenExtentsAround(position, minX, minY, maxX, maxY);
 }
 
 void CShapePoint::GetVertices(std::vector<CShapeVertex*>& list) { list.push_back(&position); }
@@ -28,12 +26,7 @@ void CShapePoint::Translate(double dx, double dy, double dz)
   position += CShapeVertex(dx, dy, dz);
 }
 
-void CShapePoint::Scale(double sx, double sy, double sz)
-{
-  position.x *= sx;
-  position.y *= sy;
-  position.z *= sz;
-}
+void CShapePoint::Scale(double sx, double sy, double sz) { ScaleVertex(position, sx, sy, sz); }
 
 void CShapePoint::Rotate(double angleDegrees)
 {

@@ -38,32 +38,6 @@ void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)
   if (found != vertices.end()) vertices.erase(found);
 }
 
-void CShapePolyline::GetVertices(std::vector<CShapeVertex*>& list)
-{
-  for (const auto& vertex : vertices) list.push_back(vertex.get());
-}
-
-void CShapePolyline::Translate(double dx, double dy, double dz)
-{
-  const CShapeVertex offset(dx, dy, dz);
-  ForEachEntry(vertices, [&](CShapeVertex& v) { v += offset; });
-}
-
-void CShapePolyline::Scale(double sx, double sy, double sz)
-{
-  ForEachEntry(vertices, [&](CShapeVertex& v) {
-    v.x *= sx;
-    v.y *= sy;
-    v.z *= sz;
-  });
-}
-
-void CShapePolyline::Rotate(double angleDegrees)
-{
-  if (angleDegrees == 0.0) return;
-  ForEachEntry(vertices, [&](CShapeVertex& v) { RotateVertex(v, angleDegrees); });
-}
-
 void CShapePolyline::AddVertex(double x, double y, double z)
 {
   vertices.push_back(std::make_unique<CShapeVertex>(x, y, z));
@@ -72,12 +46,9 @@ void CShapePolyline::AddVertex(double x, double y, double z)
 void CShapePolyline::AppendVertices(const CShapePolyline* source)
 {
   if (source == nullptr) return;
-  const std::size_t count = source->vertices.size();  // the source may be this polyline
-  std::size_t taken = 0;
-  for (const CShapeVertex* v = WalkFirst(source->cursor, source->vertices);
-       v != nullptr && taken < count; v = WalkNext(source->cursor, source->vertices), ++taken) {
-    vertices.push_back(std::make_unique<CShapeVertex>(*v));
-  }
+  WalkPresent(source->cursor, source->vertices, [this](const CShapeVertex& v) {
+    vertices.push_back(std::make_unique<CShapeVertex>(v));
+  });
 }
 
 void CShapePolyline::AddArc(double cx, double cy, double radius, double startDegrees,

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "model/Shape.h"
+#include "model/OutlineShape.h"
 
 namespace hullwright {
 
 /// An open line through its vertices: the shape that a surveyor draws and the only one that is
 /// saved.
-class CShapePolyline : public CShape {
+class CShapePolyline : public COutlineShape {
 public:
   CShapePolyline();
 
@@ -20,12 +20,6 @@ public:
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
   void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
   void RemoveVertex(const CShapeVertex* vertex) override;
-  void GetVertices(std::vector<CShapeVertex*>& list) override;
-  void Translate(double dx, double dy, double dz) override;
-  void Scale(double sx, double sy, double sz) override;
-
-  /// An angle of exactly 0.0 leaves every coordinate bit for bit.
-  void Rotate(double angleDegrees) override;
   bool IsVisible(const CViewPort& viewPort) const override;
 
   void AddVertex(double x, double y, double z);

@@ -3,9 +3,27 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/SlabPool.h"
 #include "model/Angle.h"
 
 namespace hullwright {
+
+#ifndef __SANITIZE_ADDRESS__
+namespace {
+
+/// Never destroyed, so that vertices of static objects find it whenever they go.
+SlabPool<sizeof(CShapeVertex)>& Pool()
+{
+  static auto* const pool = new SlabPool<sizeof(CShapeVertex)>;
+  return *pool;
+}
+
+}  // namespace
+
+void* CShapeVertex::operator new(std::size_t) { return Pool().Take(); }
+
+void CShapeVertex::operator delete(void* place) { Pool().GiveBack(place); }
+#endif
 
 CShapeVertex& CShapeVertex::operator=(const CShapeVertex& v)
 {
@@ -75,6 +93,13 @@ bool DistanceToSegment(const CShapeVertex& a, const CShapeVertex& b, const CShap
   distance = t > 1.0 ? std::min(distanceTo(a.x, a.y), distanceTo(b.x, b.y))
                      : distanceTo(a.x + t * dx, a.y + t * dy);
   return true;
+}
+
+void ScaleVertex(CShapeVertex& vertex, double sx, double sy, double sz)
+{
+  vertex.x *= sx;
+  vertex.y *= sy;
+  vertex.z *= sz;
 }
 
 void RotateVertex(CShapeVertex& vertex, double angleDegrees)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace hullwright {
@@ -11,6 +12,13 @@ public:
   CShapeVertex() = default;
   CShapeVertex(double wx, double wy, double wz) : x(wx), y(wy), z(wz) {}
   CShapeVertex(const CShapeVertex& v) = default;
+
+  // An imported drawing has millions of vertices, so they come from slabs. The address sanitizer
+  // watches single allocations and gets those.
+#ifndef __SANITIZE_ADDRESS__
+  static void* operator new(std::size_t size);
+  static void operator delete(void* place);
+#endif
 
   /// Copies all six fields.
   virtual CShapeVertex& operator=(const CShapeVertex& v);
@@ -51,6 +59,9 @@ public:
 /// nearer end.
 bool DistanceToSegment(const CShapeVertex& a, const CShapeVertex& b, const CShapeVertex& p,
                        double& distance);
+
+/// Multiplies each coordinate by its own factor.
+void ScaleVertex(CShapeVertex& vertex, double sx, double sy, double sz);
 
 /// Turns a vertex about the world origin in the x-y plane, through polar form; a positive angle
 /// turns from +x towards +y. `z` stays.

@@ -1,6 +1,7 @@
 #include "model/Shapes.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "model/ViewSide.h"
 
@@ -11,13 +12,14 @@ void CShapes::Clear() { shapes.clear(); }
 void CShapes::AppendClones(const CShapes* source)
 {
   if (source == nullptr) return;
-  const std::size_t count = source->shapes.size();  // the source may be this group
-  std::size_t taken = 0;
-  for (const CShape* shape = WalkFirst(source->cursor, source->shapes);
-       shape != nullptr && taken < count;
-       shape = WalkNext(source->cursor, source->shapes), ++taken) {
-    shapes.push_back(shape->Clone());
-  }
+  WalkPresent(source->cursor, source->shapes,
+              [this](const CShape& shape) { shapes.push_back(shape.Clone()); });
+}
+
+void CShapes::TakeShapes(CShapes& source)
+{
+  std::ranges::move(source.shapes, std::back_inserter(shapes));
+  source.shapes.clear();
 }
 
 bool CShapes::AnswersFor(std::int32_t side) const

@@ -23,6 +23,10 @@ public:
   /// cursor. Null does nothing.
   void AppendClones(const CShapes* source);
 
+  /// Takes over every shape of `source`, which is left empty: what `AppendClones` of a source that
+  /// goes at once would give, without the copies.
+  void TakeShapes(CShapes& source);
+
   /// Whether the group answers for a side: it bears the side's code, or the code of all sides.
   bool AnswersFor(std::int32_t side) const;
 

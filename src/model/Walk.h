@@ -36,6 +36,19 @@ void Walk(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
   }
 }
 
+/// As `Walk`, but only over what stands in the array at the start, so that `visit` may append to
+/// it.
+template <class T, class Visit>
+void WalkPresent(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
+{
+  const std::size_t count = items.size();
+  std::size_t visited = 0;
+  for (const T* item = WalkFirst(cursor, items); item != nullptr && visited < count;
+       item = WalkNext(cursor, items), ++visited) {
+    visit(*item);
+  }
+}
+
 /// Calls `visit` with each entry that is not null, without a cursor.
 template <class T, class Visit>
 void ForEachEntry(const OwnedArray<T>& items, Visit visit)

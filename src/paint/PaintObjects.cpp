@@ -181,7 +181,8 @@ void PaintTarget::DrawRectangle(const PixelRect& rect, const IBrush& brush, floa
 
 void PaintTarget::FillRectangle(const PixelRect& rect, const IBrush& brush)
 {
-  if (IsVisible(ToQt(rect), 0.0F)) painter_.fillRect(ToQt(rect), ColourOf(brush));
+  if (IsVisible(painter_.transform().mapRect(ToQt(rect)), 0.0F))
+    painter_.fillRect(ToQt(rect), ColourOf(brush));
 }
 
 void PaintTarget::DrawEllipse(PixelPoint centre, float radiusX, float radiusY, const IBrush& brush,

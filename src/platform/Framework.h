@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace hullwright {
 
 /// What start-up and exit need of the application framework, in the order of use. Steps that can
@@ -28,7 +30,7 @@ public:
   virtual void ReleaseLibraries() = 0;
 };
 
-/// The part of the main frame's look that commands change.
+/// The part of the main frame's look that commands and notifications change.
 class IFrameWidgets {
 public:
   virtual ~IFrameWidgets() = default;
@@ -41,6 +43,13 @@ public:
 
   /// Gives the program the look of a command and draws the frame anew.
   virtual void ApplyLook(int look) = 0;
+
+  /// Shows at once that something goes on which takes its time: a text and no progress yet.
+  virtual void StartProgress(std::string_view text) = 0;
+
+  /// Shows a percentage at once.
+  virtual void ShowProgress(int percent) = 0;
+  virtual void EndProgress() = 0;
 };
 
 }  // namespace hullwright

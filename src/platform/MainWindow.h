@@ -4,8 +4,11 @@
 
 namespace hullwright {
 
-/// Codes of the notifications that go to the main window, and the value of what they carry.
+/// Codes of the notifications that go to the main window. Only those of an import carry a value.
 namespace Notification {
+inline constexpr int ImportProgress = 1044;  ///< with the percentage
+inline constexpr int ImportEnd = 1045;
+inline constexpr int ImportStart = 1046;  ///< with a pointer to a text that outlives the import
 inline constexpr int RebuildTree = 1054;
 inline constexpr int RepaintDesign = 1124;
 }  // namespace Notification

@@ -171,9 +171,12 @@ void MainWindow::BuildStatusBar()
     statusBar()->addPermanentWidget(pane);
     return pane;
   };
-  auto* const prompt = new QLabel(ToQString(Strings::ready), this);
-  prompt->setMargin(2);
-  statusBar()->addWidget(prompt, 1);
+  prompt_ = new QLabel(ToQString(Strings::ready), this);
+  prompt_->setMargin(2);
+  statusBar()->addWidget(prompt_, 1);
+  progress_ = new ProgressPane(this);
+  statusBar()->addWidget(progress_, 1);
+  progress_->hide();  // adding has shown it
   constexpr auto widths = PaneWidths(0);
   coordinatesPane_ = dataPane(widths[1]);
   unitsPane_ = dataPane(widths[2]);
@@ -212,6 +215,20 @@ void MainWindow::ApplyLook(int look)
   QApplication::setOverrideCursor(Qt::WaitCursor);
   hullwright::ApplyLook(look);
   QApplication::restoreOverrideCursor();
+}
+
+void MainWindow::StartProgress(std::string_view text)
+{
+  prompt_->hide();
+  progress_->Start(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void MainWindow::ShowProgress(int percent) { progress_->SetPercent(percent); }
+
+void MainWindow::EndProgress()
+{
+  progress_->End();
+  prompt_->show();
 }
 
 void MainWindow::FillRecentFiles(QMenu& menu)

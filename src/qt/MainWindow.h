@@ -11,6 +11,7 @@
 #include "qt/DesignWidget.h"
 #include "qt/DocumentController.h"
 #include "qt/ObjectTreeWidget.h"
+#include "qt/ProgressPane.h"
 #include "qt/StatusPane.h"
 #include "qt/ToolBars.h"
 
@@ -37,6 +38,9 @@ public:
   void SetViewButtonImage(int command) override;
   void InvalidateToolBar() override;
   void ApplyLook(int look) override;
+  void StartProgress(std::string_view text) override;
+  void ShowProgress(int percent) override;
+  void EndProgress() override;
 
 protected:
   void closeEvent(QCloseEvent* event) override;
@@ -76,6 +80,8 @@ private:
   ToolBars* toolBars_ = nullptr;
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
+  QLabel* prompt_ = nullptr;
+  ProgressPane* progress_ = nullptr;  ///< takes the prompt's place
   StatusPane* coordinatesPane_ = nullptr;
   StatusPane* unitsPane_ = nullptr;
 };

@@ -13,7 +13,7 @@ namespace hullwright {
 
 Shell::Shell(QString file)
     : file_(std::move(file)),
-      app_({settings_, messages_, libraries_, dialogs_, FindCommonDataFolder})
+      app_({settings_, messages_, libraries_, dialogs_, fileDialogs_, FindCommonDataFolder})
 {
 }
 
@@ -36,6 +36,7 @@ bool Shell::CreateDocumentTemplate()
 {
   window_ = std::make_unique<MainWindow>(app_, settings_, messages_, recentFiles_);
   dialogs_.SetParent(window_.get());
+  fileDialogs_.SetParent(window_.get());
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/Framework.h"
 #include "qt/MainWindow.h"
 #include "qt/QtDialogRunner.h"
+#include "qt/QtFileDialogs.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtSettingsStore.h"
 
@@ -39,6 +40,7 @@ private:
   QtMessageBoxes messages_;
   SharedLibraries libraries_;
   QtDialogRunner dialogs_;
+  QtFileDialogs fileDialogs_{settings_};
   CHullwrightApp app_;
   std::unique_ptr<MainWindow> window_;
 };

@@ -13,6 +13,7 @@ struct ShapeStyle;
 
 namespace Colours {
 inline constexpr Colour black{0.0F, 0.0F, 0.0F, 1.0F};
+inline constexpr Colour white{1.0F, 1.0F, 1.0F, 1.0F};
 inline constexpr Colour highlight{1.0F, 1.0F, 0.0F, 1.0F};
 }  // namespace Colours
 

@@ -30,6 +30,10 @@ inline constexpr std::u16string_view deletePoint =
 inline constexpr std::u16string_view convertUnits =
     u"The unit setting has changed. Do you want to convert all coordinates to the new units ?";
 
+// The import of drawings.
+inline constexpr std::u16string_view drawingExtension = u"dxf";
+inline constexpr std::u16string_view drawingFilter = u"AutoCad DXF Files (*.dxf)|*.dxf||";
+
 // The document template.
 inline constexpr std::u16string_view fileFilter = u"Hullwright Files(*.xml)";
 inline constexpr std::u16string_view fileExtension = u".xml";

@@ -88,7 +88,9 @@ protected:
   test::FakeMessages messages;
   SharedLibraries libraries;
   test::ScriptedDialogs dialogs;
-  CHullwrightApp app{{settings, messages, libraries, dialogs, [] { return std::u16string(); }}};
+  test::FakeFileDialogs fileDialogs;
+  CHullwrightApp app{
+      {settings, messages, libraries, dialogs, fileDialogs, [] { return std::u16string(); }}};
 };
 
 TEST_F(Application, BeginsWithItsDefaults)

@@ -14,11 +14,12 @@ ROOMS = {
     "render": "base model platform",
     "resources": "model",
     "file": "base model platform",
+    "dxf": "base model platform file",
     "view": "base model platform render resources",
-    "app": "base model platform render resources file view",
+    "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
-    "qt": "base model platform render resources file view app paint",
-    "cli": "base model platform render resources file view app paint",
+    "qt": "base model platform render resources file dxf view app paint",
+    "cli": "base model platform render resources file dxf view app paint",
 }
 
 # rooms, and single files, that may include the toolkit's headers

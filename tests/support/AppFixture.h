@@ -26,7 +26,26 @@ public:
   }
   void InvalidateToolBar() override { calls.emplace_back("invalidate"); }
   void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
+  void StartProgress(std::string_view text) override
+  {
+    calls.push_back("start " + std::string(text));
+  }
+  void ShowProgress(int percent) override { calls.push_back(std::to_string(percent) + " %"); }
+  void EndProgress() override { calls.emplace_back("end"); }
   std::vector<std::string> calls;
+};
+
+/// Answers every question for a file with one path, or not at all.
+class FakeFileDialogs : public IFileDialogs {
+public:
+  std::optional<std::u16string> AskOpen(std::u16string_view extension,
+                                        std::u16string_view filter) override
+  {
+    asked.emplace_back(extension, filter);
+    return answer;
+  }
+  std::optional<std::u16string> answer;
+  std::vector<std::pair<std::u16string, std::u16string>> asked;
 };
 
 /// The whole application over recording ports, in a window of 800 by 600.
@@ -55,13 +74,14 @@ protected:
   FakeBand band;
   FakePopup popup;
   ScriptedDialogs dialogs;
+  FakeFileDialogs fileDialogs;
   FakeWidgets widgets;
   RecordingBackEnd backEnd;
   RecordingWindow window;
   SharedLibraries libraries;
   TempFolder dataFolder;  ///< the common data folder, empty
-  CHullwrightApp app{
-      {settings, messages, libraries, dialogs, [this] { return dataFolder.File(""); }}};
+  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
+                      [this] { return dataFolder.File(""); }}};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
   CHullwrightView view{app, app, {backEnd, messages, cursor, band, popup}};

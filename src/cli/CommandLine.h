@@ -1,0 +1,43 @@
+#pragma once
+
+#include <getopt.h>
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace hullwright {
+
+// Exit statuses of the command line.
+inline constexpr int exitFailed = 1;
+inline constexpr int exitUsage = 2;
+
+/// One thing that the program does.
+struct Verb {
+  const char* name;
+  const char* help;
+  int (*run)(int argc, char** argv);  ///< the first argument is the verb
+};
+
+extern const Verb importVerb;
+extern const Verb renderVerb;
+
+/// Tells what went wrong on standard error; the exit status for a failure.
+int Fail(const std::string& problem);
+
+/// Tells what is wrong with the arguments on standard error; the exit status for wrong usage.
+int UsageError(const std::string& problem);
+
+/// The arguments of a verb that are no options.
+struct Arguments {
+  std::vector<std::string> words;
+  bool wrong = false;  ///< an option is unknown, lacks its value, or was refused; that was told
+};
+
+/// Reads the options of a verb. `take` gets each with its letter and its value, which is null for
+/// one without, and tells what is wrong with it; empty for nothing.
+Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<const option> options,
+                        const std::function<std::string(int letter, const char* value)>& take);
+
+}  // namespace hullwright

@@ -1,0 +1,97 @@
+#include "cli/Json.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace hullwright {
+
+void JsonWriter::Flush()
+{
+  std::fwrite(out_.data(), 1, out_.size(), stream_);
+  out_.clear();
+}
+
+void JsonWriter::Separate()
+{
+  constexpr std::size_t enough = 1U << 16U;
+  if (!first_) out_.push_back(',');
+  first_ = false;
+  if (out_.size() > enough) Flush();
+}
+
+void JsonWriter::Open(char bracket)
+{
+  Separate();
+  out_.push_back(bracket);
+  first_ = true;
+}
+
+void JsonWriter::Close(char bracket)
+{
+  out_.push_back(bracket);
+  first_ = false;
+}
+
+void JsonWriter::Raw(std::string_view text)
+{
+  Separate();
+  out_ += text;
+}
+
+void JsonWriter::Key(std::string_view name)
+{
+  Ascii(name);
+  out_.push_back(':');
+  first_ = true;
+}
+
+void JsonWriter::Integer(std::int64_t value) { Raw(std::to_string(value)); }
+
+void JsonWriter::Double(double value)
+{
+  if (std::isnan(value)) return Ascii("nan");
+  if (std::isinf(value)) return Ascii(value > 0.0 ? "inf" : "-inf");
+  std::array<char, 32> text{};
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
+  const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+  // A reader must see that it is a double also where the fraction is zero, or minus zero is lost.
+  const bool whole = number.find_first_of(".e") == std::string_view::npos;
+  Raw(whole ? std::string(number) + ".0" : std::string(number));
+}
+
+void JsonWriter::Escape(char16_t unit) { out_ += "\\u" + FormatHex(unit, 4); }
+
+void JsonWriter::Text(std::u16string_view text)
+{
+  Separate();
+  out_.push_back('"');
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char16_t unit = text[i];
+    const bool high = unit >= 0xD800 && unit < 0xDC00;
+    const bool pair = high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000;
+    if (pair) {
+      out_ += Utf8FromWide(text.substr(i++, 2));
+    } else if (unit < 0x20 || (unit >= 0xD800 && unit < 0xE000)) {
+      Escape(unit);
+    } else {
+      if (unit == u'"' || unit == u'\\') out_.push_back('\\');
+      out_ += Utf8FromWide(text.substr(i, 1));
+    }
+  }
+  out_.push_back('"');
+}
+
+void JsonWriter::Ascii(std::string_view text) { Text(WideFromAscii(text)); }
+
+void JsonWriter::EndLine()
+{
+  out_.push_back('\n');
+  Flush();
+  first_ = true;
+}
+
+}  // namespace hullwright

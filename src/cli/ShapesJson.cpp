@@ -1,0 +1,143 @@
+#include "cli/ShapesJson.h"
+
+#include "model/ShapePoint.h"
+#include "model/ShapePolygon.h"
+#include "model/ShapeText.h"
+
+namespace hullwright {
+namespace {
+
+void WriteVertex(JsonWriter& json, const CShapeVertex& vertex)
+{
+  json.BeginArray();
+  for (const double coordinate : {vertex.x, vertex.y, vertex.z}) json.Double(coordinate);
+  json.EndArray();
+}
+
+void WriteVertices(JsonWriter& json, const OwnedArray<CShapeVertex>& vertices)
+{
+  json.BeginArray();
+  ForEachEntry(vertices, [&](const CShapeVertex& vertex) { WriteVertex(json, vertex); });
+  json.EndArray();
+}
+
+void WriteStyle(JsonWriter& json, const ShapeStyle* style)
+{
+  if (style == nullptr) return json.Null();
+  json.BeginObject();
+  json.Key("line");
+  json.Integer(style->lineColour);
+  json.Key("fill");
+  json.Integer(style->fillColour);
+  json.Key("width");
+  json.Double(style->lineWidth);
+  json.Key("styleCode");
+  json.Integer(style->styleCode);
+  json.EndObject();
+}
+
+void WriteAttributes(JsonWriter& json, const CShapeAttributes* attributes)
+{
+  json.BeginArray();
+  if (attributes != nullptr) {
+    ForEachEntry(attributes->items, [&](const ShapeAttribute& pair) {
+      json.BeginArray();
+      json.Text(pair.name);
+      json.Text(pair.value);
+      json.EndArray();
+    });
+  }
+  json.EndArray();
+}
+
+void WriteRings(JsonWriter& json, const CShapePolygon& polygon)
+{
+  json.Key("rings");
+  json.BeginArray();
+  ForEachEntry(polygon.rings,
+               [&](const CShapePolygonRing& ring) { WriteVertices(json, ring.vertices); });
+  json.EndArray();
+}
+
+void WriteLabel(JsonWriter& json, const CShapeText& label)
+{
+  json.Key("text");
+  json.Text(label.text);
+  json.Key("angle");
+  json.Double(label.angle);
+  json.Key("height");
+  json.Double(label.height);
+}
+
+void WriteShape(JsonWriter& json, const CShape& shape)
+{
+  json.BeginObject();
+  json.Key("type");
+  json.Integer(shape.type);
+  json.Key("tag");
+  json.Integer(shape.tag);
+  json.Key("style");
+  WriteStyle(json, shape.style.get());
+  json.Key("attrs");
+  WriteAttributes(json, shape.attributes.get());
+  json.Key("vertices");
+  if (shape.type == ShapeType::Point) {
+    json.BeginArray();
+    WriteVertex(json, static_cast<const CShapePoint&>(shape).position);
+    json.EndArray();
+  } else {
+    WriteVertices(json, shape.vertices);
+  }
+  if (shape.type == ShapeType::Polygon) WriteRings(json, static_cast<const CShapePolygon&>(shape));
+  if (shape.type == ShapeType::Text) WriteLabel(json, static_cast<const CShapeText&>(shape));
+  json.EndObject();
+}
+
+/// The messages have the path in brackets, one of them behind a blank.
+std::u16string WithoutPath(std::u16string text, std::u16string_view path)
+{
+  for (const std::u16string_view bracket : {u"[", u"[ "}) {
+    const std::u16string shown = std::u16string(bracket).append(path) + u"]";
+    const std::size_t at = text.find(shown);
+    if (at != std::u16string::npos) return text.replace(at + bracket.size(), path.size(), u"%ls");
+  }
+  return text;
+}
+
+}  // namespace
+
+void KeptTrace::Trace(double, std::int32_t level, std::u16string_view category,
+                      std::u16string_view text) const
+{
+  records.push_back({level, std::u16string(category), std::u16string(text)});
+}
+
+void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u16string_view path,
+                     const CLayer& layer)
+{
+  json.BeginObject();
+  json.Key("result");
+  json.Integer(result);
+  json.Key("log");
+  json.BeginArray();
+  for (const KeptTrace::Record& record : log.records) {
+    json.BeginArray();
+    json.Integer(record.level);
+    json.Text(record.category);
+    json.Text(WithoutPath(record.text, path));
+    json.EndArray();
+  }
+  json.EndArray();
+  json.Key("extents");
+  json.BeginArray();
+  for (const double bound : {layer.minX, layer.minY, layer.maxX, layer.maxY}) json.Double(bound);
+  json.EndArray();
+  json.Key("shapes");
+  json.BeginArray();
+  ForEachEntry(layer.shapes->shapes, [&](const CShape& shape) { WriteShape(json, shape); });
+  json.EndArray();
+  json.EndObject();
+  json.EndLine();
+}
+
+}  // namespace hullwright

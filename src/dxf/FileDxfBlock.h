@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "model/Shapes.h"
+
+namespace hullwright {
+
+/// A block of a drawing with its shapes, ready to be inserted. Its header is kept for whoever wants
+/// to know; the insertion uses none of it, not even the base point.
+class CFileDxfBlock : public CShapes {
+public:
+  std::string name;
+  std::string layerName;
+  std::string handle;
+  double baseX = 0.0;
+  double baseY = 0.0;
+  std::int32_t colour = 0;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,35 @@
+#include "model/OutlineShape.h"
+
+namespace hullwright {
+
+void COutlineShape::GetVertices(std::vector<CShapeVertex*>& list)
+{
+  for (const auto& vertex : vertices) list.push_back(vertex.get());
+}
+
+void COutlineShape::Translate(double dx, double dy, double dz)
+{
+  const CShapeVertex offset(dx, dy, dz);
+  ForEachEntry(vertices, [&](CShapeVertex& v) { v += offset; });
+}
+
+void COutlineShape::Scale(double sx, double sy, double sz)
+{
+  ForEachEntry(vertices, [&](CShapeVertex& v) { ScaleVertex(v, sx, sy, sz); });
+}
+
+void COutlineShape::Rotate(double angleDegrees)
+{
+  if (angleDegrees == 0.0) return;
+  ForEachEntry(vertices, [&](CShapeVertex& v) { RotateVertex(v, angleDegrees); });
+}
+
+void COutlineShape::CopyVertices(const COutlineShape& source)
+{
+  vertices.reserve(vertices.size() + source.vertices.size());
+  ForEachEntry(source.vertices, [this](const CShapeVertex& v) {
+    vertices.push_back(std::make_unique<CShapeVertex>(v));
+  });
+}
+
+}  // namespace hullwright

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+#include <QProgressBar>
+
+namespace hullwright {
+
+/// A text with a progress bar in the status bar, for work that keeps the program busy: what it is
+/// told is on the screen at once, without the event loop.
+class ProgressPane : public QWidget {
+public:
+  explicit ProgressPane(QWidget* parent);
+
+  void Start(const QString& text);
+  void SetPercent(int percent);
+  void End();
+
+private:
+  QLabel* text_;
+  QProgressBar* bar_;
+};
+
+}  // namespace hullwright

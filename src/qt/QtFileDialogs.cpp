@@ -1,0 +1,45 @@
+#include "qt/QtFileDialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "qt/QtText.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* folderKey = "Import/Folder";
+
+/// The texts of a filter of pairs; each bears its pattern in parentheses, as the toolkit wants it.
+QStringList NameFilters(std::u16string_view filter)
+{
+  QStringList names;
+  const QStringList parts = ToQString(filter).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+  for (qsizetype i = 0; i < parts.size(); i += 2) names.append(parts[i]);
+  names.append(QObject::tr("All Files (*)"));
+  return names;
+}
+
+}  // namespace
+
+std::optional<std::u16string> QtFileDialogs::AskOpen(std::u16string_view extension,
+                                                     std::u16string_view filter)
+{
+  QSettings* const store = settings_.File();
+  const QString folder =
+      store == nullptr ? QString() : store->value(QLatin1String(folderKey)).toString();
+  QFileDialog dialog(parent_, QObject::tr("Import DXF File"),
+                     folder.isEmpty() ? QDir::currentPath() : folder);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setNameFilters(NameFilters(filter));
+  dialog.setDefaultSuffix(ToQString(extension));
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const QString path = dialog.selectedFiles().constFirst();
+  if (store != nullptr) {
+    store->setValue(QLatin1String(folderKey), QFileInfo(path).absolutePath());
+  }
+  return ToWide(path);
+}
+
+}  // namespace hullwright

@@ -1,0 +1,213 @@
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+#include "model/ShapePolygon.h"
+#include "model/ShapeText.h"
+#include "support/SceneFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// A view of 800 by 600 pixels with four pixels to the unit and the origin in its middle.
+class ImportedShapeDrawing : public test::SceneFixture {
+protected:
+  ImportedShapeDrawing()
+  {
+    backEnd.log.clear();
+    label.vertices.push_back(std::make_unique<CShapeVertex>(0.0, 0.0, 0.0));
+    label.text = u"Crane";
+    label.height = 5.0;
+  }
+
+  void Square(double from, double to)
+  {
+    const std::size_t ring = polygon.rings.size();
+    for (const auto& [x, y] : {std::pair{from, from}, {to, from}, {to, to}}) {
+      polygon.AddVertex(std::make_unique<CShapeVertex>(x, y, 0.0), ring);
+    }
+  }
+
+  CShapePolygon polygon;
+  CShapeText label;
+};
+
+TEST_F(ImportedShapeDrawing, APolygonIsAWhiteOutlineWhateverItsStyle)
+{
+  Square(0.0, 10.0);
+  polygon.style = std::make_unique<ShapeStyle>();
+  polygon.style->lineColour = 0xFF;
+  polygon.style->lineWidth = 9.0F;
+  polygon.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
+                                       "width 1 colour 1 1 1 1"));
+}
+
+TEST_F(ImportedShapeDrawing, EveryRingIsAFigureOfOnePath)
+{
+  Square(0.0, 10.0);
+  Square(2.0, 4.0);
+  polygon.rings.push_back(nullptr);
+  polygon.rings.push_back(std::make_unique<CShapePolygonRing>());
+  polygon.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
+                                       "filled 408,292 : 408,292 416,292 416,284 closed "
+                                       "width 1 colour 1 1 1 1"));
+}
+
+TEST_F(ImportedShapeDrawing, ASelectedPolygonIsYellow)
+{
+  Square(0.0, 10.0);
+  polygon.selected = true;
+  polygon.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre(HasSubstr("colour 1 1 0 1")));
+}
+
+TEST_F(ImportedShapeDrawing, APolygonOutsideTheViewIsHandedOver)
+{
+  Square(1000.0, 2000.0);
+  polygon.Draw(&viewPort);
+  EXPECT_EQ(backEnd.log.size(), 1U);
+  EXPECT_TRUE(polygon.IsVisible(viewPort));
+}
+
+TEST_F(ImportedShapeDrawing, NothingIsDrawnWhereAStepFails)
+{
+  Square(0.0, 10.0);
+  for (const auto step :
+       {test::FailAt::Brush, test::FailAt::PathGeometry, test::FailAt::PathOpen}) {
+    backEnd.failAt = step;
+    polygon.Draw(&viewPort);
+  }
+  for (const auto step : {test::FailAt::Brush, test::FailAt::TextFormat}) {
+    backEnd.failAt = step;
+    label.Draw(&viewPort);
+  }
+  backEnd.failAt = test::FailAt::Nothing;
+  polygon.Draw(nullptr);
+  label.Draw(nullptr);
+  viewPort.canvas = nullptr;
+  polygon.Draw(&viewPort);
+  label.Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+TEST_F(ImportedShapeDrawing, ATextStandsOnItsAnchorInAMonospacedFace)
+{
+  label.Draw(&viewPort);
+  // Five units are 20 pixels; five letters measure 50 by 20.
+  EXPECT_THAT(backEnd.log, ElementsAre("rotate 0 400 300",
+                                       "text 'Crane' Consolas 20 in 400 280 450 300 colour 0 0 0 1",
+                                       "rotate 0 0 0"));
+}
+
+TEST_F(ImportedShapeDrawing, ATextTakesItsColourFromTheStyleAndIsNotWrapped)
+{
+  label.style = std::make_unique<ShapeStyle>();
+  label.style->lineColour = 0x0000FF;
+  label.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log.at(1), HasSubstr("colour 1 0 0 1"));
+  EXPECT_THAT(backEnd.log.at(1), testing::Not(HasSubstr("wrapped")));
+}
+
+TEST_F(ImportedShapeDrawing, ATextGrowsWithTheZoom)
+{
+  ShowWidth(100.0);
+  label.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log.at(1), HasSubstr("Consolas 40 in"));
+}
+
+TEST_F(ImportedShapeDrawing, ATextTurnsByItsAngleAndTheViews)
+{
+  label.angle = 30.0;
+  viewPort.SetRotation(15.0);
+  label.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("rotate 45 400 300", StartsWith("text"), "rotate 0 0 0"));
+}
+
+TEST_F(ImportedShapeDrawing, TheBoxOnTheScreenFollowsTheAngle)
+{
+  label.Draw(&viewPort);
+  const auto expectCorner = [&](std::size_t corner, float x, float y) {
+    EXPECT_NEAR(label.screenBox.at(corner).x, x, 1e-3) << corner;
+    EXPECT_NEAR(label.screenBox.at(corner).y, y, 1e-3) << corner;
+  };
+  expectCorner(0, 400.0F, 300.0F);
+  expectCorner(1, 450.0F, 300.0F);
+  expectCorner(2, 450.0F, 280.0F);
+  expectCorner(3, 400.0F, 280.0F);
+  label.angle = 90.0;  // clockwise: downward
+  label.Draw(&viewPort);
+  expectCorner(1, 400.0F, 350.0F);
+  expectCorner(2, 420.0F, 350.0F);
+  expectCorner(3, 420.0F, 300.0F);
+}
+
+TEST_F(ImportedShapeDrawing, TheAngleIsTurnedStepByStepAndBack)
+{
+  label.angle = 0.1;
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.angle, 0.1 - 90.0 - 90.0 + 180.0);
+  label.angle = 270.0;
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.angle, 270.0);
+}
+
+TEST_F(ImportedShapeDrawing, ASelectedTextLiesOnYellow)
+{
+  label.selected = true;
+  label.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log,
+              ElementsAre(StartsWith("rotate"), "fillrect 400 280 450 300 colour 1 1 0 1",
+                          testing::EndsWith("colour 0 0 0 1"), StartsWith("rotate")));
+}
+
+TEST_F(ImportedShapeDrawing, ATextVanishesWithItsAnchor)
+{
+  label.vertices[0]->x = -100.25;  // one pixel to the left of the view
+  label.Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+  label.vertices[0]->x = -100.0;
+  label.Draw(&viewPort);
+  EXPECT_EQ(backEnd.log.size(), 3U);
+}
+
+TEST_F(ImportedShapeDrawing, ATextIsTrimmedInPlace)
+{
+  label.text = u"\t Crane\u00A0\r\n";
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.text, u"Crane");
+  label.text = u"  \t ";
+  backEnd.log.clear();
+  label.Draw(&viewPort);
+  EXPECT_TRUE(label.text.empty());
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+TEST_F(ImportedShapeDrawing, ATextOutOfViewIsNotTrimmed)
+{
+  label.text = u" Crane ";
+  label.vertices[0]->x = 1e6;
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.text, u" Crane ");
+}
+
+TEST_F(ImportedShapeDrawing, ATextWithoutAVertexIsNotDrawn)
+{
+  label.vertices[0].reset();
+  label.Draw(&viewPort);
+  label.vertices.clear();
+  label.Draw(&viewPort);
+  label.vertices.push_back(
+      std::make_unique<CShapeVertex>(std::numeric_limits<double>::quiet_NaN(), 0.0, 0.0));
+  label.Draw(&viewPort);
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
+}  // namespace
+}  // namespace hullwright
