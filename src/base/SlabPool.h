@@ -1,56 +1,104 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
-#include <vector>
+#include <cstdint>
+#include <new>
 
 namespace hullwright {
 
-/// Room for many small objects of one size, taken from large slabs: a piece costs no more than its
-/// own bytes and next to no time. Pieces that are given back are used again; when the last one is
-/// back, the slabs go. For one thread, and for objects that live in the program's own containers.
+/// Room for many small objects of one size, taken from large slabs: a piece costs little more than
+/// its own bytes and next to no time. A slab whose pieces have all been given back goes, but for
+/// one that is kept for the next piece. For one thread.
 template <std::size_t PieceSize>
 class SlabPool {
 public:
+  SlabPool() = default;
+  SlabPool(const SlabPool&) = delete;
+  SlabPool& operator=(const SlabPool&) = delete;
+
+  /// What is still taken then is lost.
+  ~SlabPool()
+  {
+    while (open_ != nullptr) Release(open_);
+  }
+
   void* Take()
   {
-    if (free_ == nullptr) AddSlab();
-    Piece* const piece = free_;
-    free_ = piece->next;
-    ++taken_;
+    if (open_ == nullptr) AddSlab();
+    Slab* const slab = open_;
+    Piece* const piece = slab->free;
+    slab->free = piece->next;
+    ++slab->taken;
+    if (slab->free == nullptr) Unlink(slab);
     return piece;
   }
 
   void GiveBack(void* place)
   {
     if (place == nullptr) return;
-    free_ = new (place) Piece{free_};
-    if (--taken_ != 0) return;
-    free_ = nullptr;
-    slabs_.clear();
+    Slab* const slab = SlabOf(place);
+    if (slab->free == nullptr) Link(slab);
+    slab->free = new (place) Piece{slab->free};
+    const bool only = slab == open_ && slab->next == nullptr;
+    if (--slab->taken == 0 && !only) Release(slab);
   }
 
 private:
   struct Piece {
     Piece* next;
   };
+
+  /// Begins each slab. Slabs stand at multiples of their size, so that a piece knows its own.
+  struct alignas(std::max_align_t) Slab {
+    Slab* previous;
+    Slab* next;
+    Piece* free;  ///< null when every piece is taken
+    std::size_t taken;
+  };
+
+  static constexpr std::size_t slabSize = std::size_t{1} << 16U;
+  static constexpr std::size_t piecesInSlab = (slabSize - sizeof(Slab)) / PieceSize;
+  static constexpr auto alignment = static_cast<std::align_val_t>(slabSize);
   static_assert(PieceSize >= sizeof(Piece) && PieceSize % alignof(std::max_align_t) == 0);
 
-  static constexpr std::size_t piecesInSlab = 1024;
-  struct Slab {
-    alignas(std::max_align_t) std::byte bytes[piecesInSlab * PieceSize];
-  };
+  static Slab* SlabOf(void* place)
+  {
+    return reinterpret_cast<Slab*>(reinterpret_cast<std::uintptr_t>(place) & ~(slabSize - 1));
+  }
 
   void AddSlab()
   {
+    auto* const bytes = static_cast<std::byte*>(::operator new(slabSize, alignment));
+    Piece* free = nullptr;
     // In the order of their places, so that what is made together lies together.
-    std::byte* const bytes = slabs_.emplace_back(std::make_unique_for_overwrite<Slab>())->bytes;
-    for (std::size_t i = piecesInSlab; i-- > 0;) free_ = new (bytes + i * PieceSize) Piece{free_};
+    for (std::size_t i = piecesInSlab; i-- > 0;) {
+      free = new (bytes + sizeof(Slab) + i * PieceSize) Piece{free};
+    }
+    Link(new (bytes) Slab{nullptr, nullptr, free, 0});
   }
 
-  std::vector<std::unique_ptr<Slab>> slabs_;
-  Piece* free_ = nullptr;
-  std::size_t taken_ = 0;
+  void Release(Slab* slab)
+  {
+    Unlink(slab);
+    ::operator delete(slab, alignment);
+  }
+
+  void Link(Slab* slab)
+  {
+    slab->previous = nullptr;
+    slab->next = open_;
+    if (open_ != nullptr) open_->previous = slab;
+    open_ = slab;
+  }
+
+  void Unlink(Slab* slab)
+  {
+    if (slab->previous != nullptr) slab->previous->next = slab->next;
+    if (slab->next != nullptr) slab->next->previous = slab->previous;
+    if (open_ == slab) open_ = slab->next;
+  }
+
+  Slab* open_ = nullptr;  ///< the slabs with room
 };
 
 }  // namespace hullwright

@@ -8,7 +8,7 @@
 
 namespace hullwright {
 
-#ifndef __SANITIZE_ADDRESS__
+#ifndef HULLWRIGHT_SANITIZE
 namespace {
 
 /// Never destroyed, so that vertices of static objects find it whenever they go.

@@ -15,7 +15,7 @@ public:
 
   // An imported drawing has millions of vertices, so they come from slabs. The address sanitizer
   // watches single allocations and gets those.
-#ifndef __SANITIZE_ADDRESS__
+#ifndef HULLWRIGHT_SANITIZE
   static void* operator new(std::size_t size);
   static void operator delete(void* place);
 #endif

@@ -25,6 +25,15 @@ public:
   }
 };
 
+/// Size of a text that nobody reads, for nobody measures it either: letters of a monospaced face.
+PixelSize RoughSize(const PaintTextFormat& format, std::size_t units, float maxWidth)
+{
+  constexpr double advance = 0.6;
+  const double size = format.font.pixelSize() * format.scale;
+  const double width = std::min<double>(static_cast<double>(units) * advance * size, maxWidth);
+  return {static_cast<float>(width), static_cast<float>(size)};
+}
+
 class PaintWriteFactory : public IWriteFactory {
 public:
   Created<ITextFormat> CreateTextFormat(std::u16string_view family, float size) override
@@ -38,8 +47,8 @@ public:
                                        float maxWidth, float) override
   {
     const auto& textFormat = static_cast<const PaintTextFormat&>(format);
-    QTextLayout layout(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())),
-                       textFormat.font);
+    if (!textFormat.IsReadable()) return RoughSize(textFormat, text.size(), maxWidth);
+    QTextLayout layout(Drawable(text), textFormat.font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);

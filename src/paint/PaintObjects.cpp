@@ -10,8 +10,15 @@
 namespace hullwright {
 namespace {
 
-/// Fonts beyond this would cost the painter its time and memory; nobody could read them.
+/// Fonts beyond this would cost the painter its time and memory; larger texts are scaled up.
 constexpr float largestFont = 4000.0F;
+
+/// Beyond these sizes, in pixels, a letter covers any picture or nothing of it.
+constexpr double largestText = 65536.0;
+constexpr double smallestText = 0.5;
+
+/// Units of a text beyond this have no place in a picture at a size that can be read.
+constexpr std::size_t mostUnits = 10000;
 
 /// Strokes beyond this cover any picture.
 constexpr float widestStroke = 100000.0F;
@@ -41,11 +48,6 @@ QRectF ToQt(const PixelRect& rect)
   return {QPointF(rect.left, rect.top), QPointF(rect.right, rect.bottom)};
 }
 
-QString ToQt(std::u16string_view text)
-{
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// Receives the figures of a path.
 class PaintPathSink : public IPathSink {
 public:
@@ -66,20 +68,35 @@ private:
 
 }  // namespace
 
+QString Drawable(std::u16string_view text)
+{
+  const std::u16string_view cut = text.substr(0, mostUnits);
+  QString shown = QString::fromUtf16(cut.data(), static_cast<qsizetype>(cut.size()));
+  shown.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
+  // A tab would be measured as a stop and drawn as a blank; U+009C ends a text for the painter.
+  for (const char16_t unit : {u'\t', u'\x9C'}) shown.replace(QChar(unit), QLatin1Char(' '));
+  return shown;
+}
+
 PaintTextFormat::PaintTextFormat(std::u16string_view family, float size)
 {
   // The metric twins of the named fonts come first, so that a picture looks alike everywhere.
   const bool monospaced = family == u"Consolas";
   const QString twin =
       monospaced ? QStringLiteral("Liberation Mono") : QStringLiteral("Liberation Sans");
-  const float bounded = std::min(size, largestFont);
   // The toolkit's fonts have whole sizes; the painter makes up the rest.
-  const float whole = std::ceil(bounded);
-  scale = bounded / whole;
-  font.setFamilies({twin, ToQt(family)});
+  const float whole = std::ceil(std::min(size, largestFont));
+  scale = size / whole;
+  font.setFamilies({twin, Drawable(family)});
   font.setStyleHint(monospaced ? QFont::Monospace : QFont::SansSerif);
   font.setPixelSize(static_cast<int>(whole));
   font.setHintingPreference(QFont::PreferNoHinting);
+}
+
+bool PaintTextFormat::IsReadable() const
+{
+  const double size = font.pixelSize() * scale;
+  return size >= smallestText && size <= largestText;
 }
 
 Created<IPathSink> PaintPath::Open() { return {0, std::make_unique<PaintPathSink>(*this)}; }
@@ -216,13 +233,14 @@ void PaintTarget::DrawText(std::u16string_view text, const ITextFormat& format,
   const std::array<double, 4> bounds = {box.left(), box.top(), box.right(), box.bottom()};
   if (!painter_.isActive() || !std::ranges::all_of(bounds, isFinite)) return;
   const auto& textFormat = static_cast<const PaintTextFormat&>(format);
+  if (!textFormat.IsReadable()) return;
   const Qt::Alignment alignment =
       textFormat.centred ? Qt::Alignment(Qt::AlignCenter) : Qt::AlignLeft | Qt::AlignTop;
   const int wrapping = textFormat.wrapped ? Qt::TextWordWrap : 0;
   const int flags = static_cast<int>(alignment) | wrapping | static_cast<int>(Qt::TextDontClip);
   const double scale = textFormat.scale;
   const QRectF scaled(box.topLeft() / scale, box.size() / scale);
-  const QString shown = ToQt(text);
+  const QString shown = Drawable(text);
   // The text may reach out of its rectangle, so it counts for what is visible.
   const QRectF ink = QFontMetricsF(textFormat.font).boundingRect(scaled, flags, shown);
   const QRectF reach(ink.topLeft() * scale, ink.size() * scale);

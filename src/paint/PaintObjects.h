@@ -25,12 +25,20 @@ public:
   QColor colour;
 };
 
+/// A text as the toolkit lays it out the same when it is measured and when it is drawn, without
+/// what is too much for any picture.
+QString Drawable(std::u16string_view text);
+
 class PaintTextFormat : public ITextFormat {
 public:
   /// `size` is positive, in pixels.
   PaintTextFormat(std::u16string_view family, float size);
   void CentreText() override { centred = true; }
   void DisableWordWrapping() override { wrapped = false; }
+
+  /// Whether a text of this size can be read in any picture.
+  bool IsReadable() const;
+
   QFont font;
   double scale = 1.0;  ///< from the font's whole size to the size asked for
   bool centred = false;

@@ -143,7 +143,14 @@ void CHullwrightView::RemoveHit()
   if (group == nullptr) return;
   const auto* const vertex = std::get_if<CShapeVertex*>(&hitVertex);
   if (hitKind == HitKind::Vertex && vertex != nullptr) {
-    Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.RemoveVertex(*vertex); });
+    // Only the shape that holds it: rings release any vertex that they are told to remove.
+    const auto holds = [&](const auto& shape) {
+      return shape &&
+             std::ranges::find(shape->vertices, *vertex, &std::unique_ptr<CShapeVertex>::get) !=
+                 shape->vertices.end();
+    };
+    const auto holder = std::ranges::find_if(group->shapes, holds);
+    if (holder != group->shapes.end()) (*holder)->RemoveVertex(*vertex);
   }
   const auto* const anchor = std::get_if<CAnchor*>(&hitVertex);
   if (hitKind == HitKind::Anchor && anchor != nullptr) {

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <random>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace hullwright {
 namespace {
@@ -46,6 +49,27 @@ TEST(SlabPool, GivesOutPlacesInOrder)
   EXPECT_EQ(second - first, static_cast<std::ptrdiff_t>(size));
   pool.GiveBack(first);
   pool.GiveBack(second);
+}
+
+TEST(SlabPool, SurvivesTakingAndGivingBackInAnyOrder)
+{
+  SlabPool<size> pool;
+  std::vector<std::uint64_t*> held;
+  std::mt19937 random(7);
+  for (std::uint64_t round = 0; round < 200000; ++round) {
+    // Grows to many slabs, then shrinks to none, twice.
+    const bool grow = round / 50000 % 2 == 0;
+    if (held.empty() || (random() % 4 != 0) == grow) {
+      held.push_back(static_cast<std::uint64_t*>(pool.Take()));
+      *held.back() = reinterpret_cast<std::uintptr_t>(held.back());
+    } else {
+      std::swap(held[random() % held.size()], held.back());
+      ASSERT_EQ(*held.back(), reinterpret_cast<std::uintptr_t>(held.back()));
+      pool.GiveBack(held.back());
+      held.pop_back();
+    }
+  }
+  for (std::uint64_t* const place : held) pool.GiveBack(place);
 }
 
 TEST(SlabPool, NothingIsGivenBackForNull)

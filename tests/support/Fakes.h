@@ -76,11 +76,16 @@ public:
 class FakeMainWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return hasWindow; }
-  void Notify(int code, std::intptr_t) override { codes.push_back(code); }
+  void Notify(int code, std::intptr_t value) override
+  {
+    codes.push_back(code);
+    values.push_back(value);
+  }
   void SetModifiedFlag(bool modified) override { flags.push_back(modified); }
 
   bool hasWindow = true;
   std::vector<int> codes;
+  std::vector<std::intptr_t> values;
   std::vector<bool> flags;
 };
 

@@ -1,0 +1,397 @@
+#include <cmath>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+
+constexpr double turn = 0.017453292519943295;
+
+class PlainEntities : public DxfFixture {};
+
+// ---------------------------------------------------------------------------------------------------
+// What all entities have in common
+
+TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
+{
+  ImportEntities(Lines({{0, "LINE"},
+                        {5, "1F"},
+                        {8,
+                         "D\xE4"
+                         "ck"},
+                        {62, "1"},
+                        {39, "9"},
+                        {10, "1.5"},
+                        {20, "-2"},
+                        {30, "3"},
+                        {11, "4"},
+                        {21, "5"},
+                        {31, "6"}}));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(At(0).type, 2);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.5, -2.0, 3.0), ElementsAre(4.0, 5.0, 6.0)));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=D\xC3\xA4"
+                                           "ck",
+                                           "HANDLE=1F"));
+  EXPECT_EQ(At(0).tag, 0x1F);
+  EXPECT_EQ(At(0).style->lineColour, 0x0000FFU);
+  EXPECT_EQ(At(0).style->fillColour, 0x0000FFU);
+  EXPECT_EQ(At(0).style->lineWidth, 1.0F);
+  EXPECT_EQ(At(0).style->styleCode, 7);
+}
+
+TEST_F(PlainEntities, GroupsThatAreMissingAreZeroAndEmpty)
+{
+  ImportEntities(Lines({{0, "LINE"}}));
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(0.0, 0.0, 0.0), ElementsAre(0.0, 0.0, 0.0)));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=", "HANDLE="));
+  EXPECT_EQ(At(0).tag, 0);
+  EXPECT_EQ(ColourOf(0), 0U);
+}
+
+TEST_F(PlainEntities, AHandleIsReadAsHexadecimalAndSaturates)
+{
+  for (const auto& [handle, tag] : {std::pair<const char*, std::int32_t>{"FFFFFFFFF", 2147483647},
+                                    {"7fffffff", 2147483647},
+                                    {"xyz", 0},
+                                    {"12G", 0x12},
+                                    {"-1", -1},
+                                    {"", 0}}) {
+    ImportEntities(Lines({{0, "LINE"}, {5, handle}}));
+    EXPECT_EQ(At(0).tag, tag) << handle;
+  }
+}
+
+TEST_F(PlainEntities, OnlyAPaperSpaceMarkOfExactlyOneDrops)
+{
+  for (const auto& [mark, shapes] :
+       {std::pair{"1", 0U}, {"0", 1U}, {"2", 1U}, {"-1", 1U}, {" 1x", 0U}}) {
+    ImportEntities(Lines({{0, "LINE"}, {67, mark}}));
+    EXPECT_EQ(ShapeCount(), shapes) << mark;
+  }
+}
+
+TEST_F(PlainEntities, AGroupThatComesAgainReplacesItsValue)
+{
+  ImportEntities(Lines({{0, "LINE"}, {10, "1"}, {10, "2"}}));
+  EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
+}
+
+TEST_F(PlainEntities, KeywordsCountAsWholeLinesInTheirCase)
+{
+  ImportEntities("0\nLINE \n0\nline\n0\nXLINE\n" + Lines({{0, "RAY"}, {10, "1"}}));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(PlainEntities, AHatchGivesNothingOfItsBoundary)
+{
+  ImportEntities(Lines({{0, "HATCH"}, {8, "A"}, {2, "LINE"}, {10, "1"}}));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(PlainEntities, AnUnknownEntityIsWalkedLineByLine)
+{
+  ImportEntities(Lines({{0, "3DSOLID"}, {1, "LINE"}, {10, "5"}}));
+  EXPECT_EQ(ShapeCount(), 1U);
+  ImportEntities(Lines({{0, "3DSOLID"}, {1, "text ENDSEC"}, {0, "LINE"}}));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(PlainEntities, ANormalStraightDownTurnsEveryEntityOver)
+{
+  const Pairs where = {{10, "2"},  {20, "3"},  {30, "4"},  {40, "0"},
+                       {210, "0"}, {220, "0"}, {230, "-1"}};
+  for (const char* keyword : {"LINE", "ARC", "3DFACE"}) {
+    ImportEntities(Lines({{0, keyword}}) + Lines(where));
+    EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, -4.0)) << keyword;
+  }
+  ImportEntities(Lines({{0, "SOLID"}}) + Lines(where));
+  const CShapeVertex& corner = *At<CShapePolygon>(0).rings.at(0)->vertices.at(0);
+  EXPECT_TRUE(corner == CShapeVertex(-2.0, 3.0, -4.0));
+  ImportEntities(Lines({{0, "POINT"}}) + Lines(where));
+  EXPECT_TRUE(At<CShapePoint>(0).position == CShapeVertex(-2.0, 3.0, -4.0));
+  ImportEntities(Lines({{0, "CIRCLE"}}) + Lines(where));
+  EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, 0.0));
+  ImportEntities(Lines({{0, "TEXT"}}) + Lines(where));
+  EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, -4.0));
+}
+
+TEST_F(PlainEntities, TheExtrusionIsRoundedToSinglePrecision)
+{
+  DxfPoint point{1000000.0, 2000000.0, 0.0};
+  CFileDxf reader(&window, log);
+  reader.ApplyExtrusion(point, {0.6, 0.0, 0.8});
+  // The x axis is (0, 1, 0) and the y axis (-0.8, 0, 0.6), whose parts are rounded.
+  const double minusEightTenths = -0.8F;
+  const double sixTenths = 0.6F;
+  EXPECT_EQ(point.x, minusEightTenths * 2000000.0);
+  EXPECT_EQ(point.y, 1000000.0);
+  EXPECT_EQ(point.z, sixTenths * 2000000.0);
+}
+
+TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
+{
+  CFileDxf reader(&window, log);
+  DxfPoint slanted{1.0, 0.0, 0.0};
+  reader.ApplyExtrusion(slanted, {0.015625, 0.0, 1.0});
+  EXPECT_EQ(slanted.y, 1.0);
+  DxfPoint upright{1.0, 0.0, 0.0};
+  reader.ApplyExtrusion(upright, {0.015624, 0.0, 1.0});
+  EXPECT_NEAR(upright.x, 1.0, 1e-3);
+  // Neither the normal nor its length is mended.
+  DxfPoint high{0.0, 0.0, 1.0};
+  reader.ApplyExtrusion(high, {0.0, 0.0, 2.0});
+  EXPECT_EQ(high.z, 2.0);
+}
+
+TEST_F(PlainEntities, TheExtrusionCanBeSwitchedOff)
+{
+  CFileDxf reader(&window, log);
+  reader.ignoreExtrusion = true;
+  DxfPoint point{1.0, 2.0, 3.0};
+  reader.ApplyExtrusion(point, {0.0, 0.0, -1.0});
+  EXPECT_EQ(point.x, 1.0);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Colours
+
+TEST_F(PlainEntities, ColoursComeFromTheTableOrAreBlack)
+{
+  for (const auto& [index, colour] : {std::pair<const char*, std::uint32_t>{"3", 0x00FF00},
+                                      {"0", 0},
+                                      {"255", 0xFFFFFF},
+                                      {"-3", 0},
+                                      {"257", 0},
+                                      {"256", 0}}) {
+    ImportEntities(Lines({{0, "LINE"}, {62, index}}));
+    EXPECT_EQ(ColourOf(0), colour) << index;
+  }
+}
+
+TEST_F(PlainEntities, ALayersColourOutOfRangeIsBlack)
+{
+  Import(LayerTable(LayerRecord("A", 256, 0)) + Entities(Lines({{0, "LINE"}, {8, "A"}})));
+  EXPECT_EQ(ColourOf(0), 0U);
+}
+
+TEST_F(PlainEntities, CirclesAndEllipsesAreBlackInsteadOfByLayer)
+{
+  const std::string table = LayerTable(LayerRecord("A", 1, 0));
+  for (const auto& [keyword, colour] :
+       {std::pair<const char*, std::uint32_t>{"CIRCLE", 0}, {"ELLIPSE", 0}, {"ARC", 0xFF}}) {
+    Import(table + Entities(Lines({{0, keyword}, {8, "A"}})));
+    EXPECT_EQ(ColourOf(0), colour) << keyword;
+    Import(table + Entities(Lines({{0, keyword}, {8, "A"}, {62, "256"}})));
+    EXPECT_EQ(ColourOf(0), 0xFFU) << keyword;
+  }
+  ImportEntities(Lines({{0, "CIRCLE"}, {8, "A"}}));
+  EXPECT_EQ(file->layers.at("A")->colour, 0);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// The single entities
+
+TEST_F(PlainEntities, APointHasAPositionAndNoVertices)
+{
+  ImportEntities(Lines({{0, "POINT"}, {10, "1"}, {20, "2"}, {30, "3"}, {8, "A"}, {5, "B"}}));
+  EXPECT_EQ(At<CShapePoint>(0).type, 1);
+  EXPECT_TRUE(At<CShapePoint>(0).position == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=A", "HANDLE=B"));
+}
+
+TEST_F(PlainEntities, ASolidIsOneRingOfItsCornersInFileOrder)
+{
+  ImportEntities(Lines({{0, "SOLID"},
+                        {10, "0"},
+                        {20, "0"},
+                        {11, "1"},
+                        {21, "0"},
+                        {12, "0"},
+                        {22, "1"},
+                        {13, "1"},
+                        {23, "1"},
+                        {33, "7"},
+                        {62, "1"}}));
+  const auto& solid = At<CShapePolygon>(0);
+  EXPECT_EQ(solid.type, 3);
+  ASSERT_EQ(solid.rings.size(), 1U);
+  const auto& corners = solid.rings[0]->vertices;
+  ASSERT_EQ(corners.size(), 4U);
+  EXPECT_TRUE(*corners[2] == CShapeVertex(0.0, 1.0, 0.0));  // crosswise, as drawn: a bow-tie
+  EXPECT_TRUE(*corners[3] == CShapeVertex(1.0, 1.0, 7.0));
+  EXPECT_EQ(ColourOf(0), 0xFFU);
+}
+
+TEST_F(PlainEntities, ASolidOfThreeCornersHasItsFourthAtTheOrigin)
+{
+  ImportEntities(Lines({{0, "SOLID"}, {10, "5"}, {11, "6"}, {12, "7"}}));
+  EXPECT_TRUE(*At<CShapePolygon>(0).rings[0]->vertices.at(3) == CShapeVertex(0.0, 0.0, 0.0));
+}
+
+TEST_F(PlainEntities, AFaceIsAClosedLineWithItsMark)
+{
+  ImportEntities(Lines({{0, "3DFACE"},
+                        {10, "1"},
+                        {20, "1"},
+                        {30, "1"},
+                        {11, "2"},
+                        {12, "3"},
+                        {13, "4"},
+                        {70, "15"},
+                        {5, "A1"}}));
+  ASSERT_EQ(VerticesOf(0).size(), 5U);
+  EXPECT_EQ(VerticesOf(0).front(), VerticesOf(0).back());
+  EXPECT_THAT(AttributesOf(0), ElementsAre("ENTITY=3DFACE", "LAYER=", "HANDLE=A1"));
+}
+
+TEST_F(PlainEntities, ACircleRunsClockwiseFromTheWestAndIsFlat)
+{
+  ImportEntities(Lines({{0, "CIRCLE"}, {10, "10"}, {20, "20"}, {30, "5"}, {40, "2"}}));
+  const auto vertices = VerticesOf(0);
+  ASSERT_EQ(vertices.size(), 61U);
+  EXPECT_THAT(vertices[0], ElementsAre(8.0, 20.0, 0.0));
+  EXPECT_NEAR(vertices[15][0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices[15][1], 22.0, 1e-12);
+  EXPECT_NEAR(vertices[60][0], 8.0, 1e-12);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=CIRLCE", "LAYER=", "HANDLE="));
+}
+
+TEST_F(PlainEntities, ARadiusOfZeroOrLessIsTakenAsItIs)
+{
+  ImportEntities(Lines({{0, "CIRCLE"}, {10, "1"}, {40, "0"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 1.0);
+  ImportEntities(Lines({{0, "CIRCLE"}, {40, "-2"}}));
+  EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
+}
+
+TEST_F(PlainEntities, AnArcGoesCounterClockwiseInSteps)
+{
+  ImportEntities(
+      Lines({{0, "ARC"}, {10, "10"}, {20, "20"}, {30, "3"}, {40, "2"}, {50, "0"}, {51, "90"}}));
+  const auto vertices = VerticesOf(0);
+  EXPECT_GE(vertices.size(), 181U);
+  EXPECT_LE(vertices.size(), 182U);
+  EXPECT_THAT(vertices[0], ElementsAre(12.0, 20.0, 3.0));
+  EXPECT_NEAR(vertices[90][0], 10.0 + 2.0 * std::cos(45.0 * turn), 1e-12);
+  EXPECT_NEAR(vertices.back()[0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices.back()[1], 22.0, 1e-12);
+  // The last two coincide, nearly or exactly.
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], vertices.back()[0], 1e-9);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=ARC", "LAYER=", "HANDLE="));
+}
+
+TEST_F(PlainEntities, AWholeArcIsOneTurnOfTwoDegreeSteps)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "0"}, {51, "360"}}));
+  EXPECT_NEAR(VerticesOf(0)[1][0], std::cos(2.0 * turn), 1e-12);
+  EXPECT_NEAR(VerticesOf(0).back()[0], 1.0, 1e-12);
+}
+
+TEST_F(PlainEntities, AnArcThroughZeroAddsAFullTurn)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "350"}, {51, "10"}}));
+  const auto vertices = VerticesOf(0);
+  EXPECT_NEAR(vertices[90][0], 1.0, 1e-12);
+  EXPECT_NEAR(vertices.back()[1], std::sin(10.0 * turn), 1e-12);
+}
+
+TEST_F(PlainEntities, AnArcThatEndsWhereItStartsIsAFullTurn)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "90"}, {51, "90"}}));
+  EXPECT_NEAR(VerticesOf(0)[0][1], 1.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[90][1], -1.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0).back()[1], 1.0, 1e-12);
+}
+
+TEST_F(PlainEntities, AClockwiseArcMayOvershootByOneStepBeforeItReturns)
+{
+  CFileDxf reader(&window, log);
+  const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 90.0, 0.0, true);
+  ASSERT_GE(arc->vertices.size(), 182U);
+  const CShapeVertex& last = *arc->vertices.back();
+  const CShapeVertex& beforeLast = *arc->vertices[arc->vertices.size() - 2];
+  EXPECT_EQ(last.x, 1.0);
+  EXPECT_EQ(last.y, 0.0);
+  EXPECT_NEAR(beforeLast.y, -std::sin(0.5 * turn), 1e-9);
+}
+
+TEST_F(PlainEntities, AnArcAlwaysEnds)
+{
+  CFileDxf reader(&window, log);
+  for (const bool clockwise : {false, true}) {
+    for (const double start :
+         {0.0, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+      for (const double end :
+           {0.0, 1e18, -1e18, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+        const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, clockwise);
+        EXPECT_GE(arc->vertices.size(), 1U);
+        EXPECT_LE(arc->vertices.size(), 400U) << start << " " << end;
+      }
+    }
+  }
+}
+
+TEST_F(PlainEntities, AWholeEllipseAlongTheAxesIsExact)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"},
+                        {10, "10"},
+                        {20, "20"},
+                        {30, "3"},
+                        {11, "4"},
+                        {40, "0.5"},
+                        {41, "0"},
+                        {42, "6.283185307179586"}}));
+  const auto vertices = VerticesOf(0);
+  ASSERT_EQ(vertices.size(), 61U);
+  EXPECT_THAT(vertices[0], ElementsAre(14.0, 20.0, 3.0));
+  EXPECT_NEAR(vertices[15][0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices[15][1], 22.0, 1e-12);
+  EXPECT_NEAR(vertices[30][0], 6.0, 1e-12);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=ELLIPSE", "LAYER=", "HANDLE="));
+}
+
+TEST_F(PlainEntities, APartOfAnEllipseRunsTheOtherWayFromItsStartTakenAsRadians)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "1"}, {42, "2"}}));
+  const double start = 57.29577951308232;
+  EXPECT_NEAR(VerticesOf(0)[0][0], std::cos(start), 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start - 1.0), 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[60][1], -std::sin(start - 1.0), 1e-12);
+}
+
+TEST_F(PlainEntities, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "2"}, {42, "1"}}));
+  const double start = 2.0 * 57.29577951308232;
+  const double step = (start - (57.29577951308232 + 360.0)) * turn;
+  EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start + step), 1e-9);
+}
+
+TEST_F(PlainEntities, ASlantedEllipseCollapsesIntoALine)
+{
+  ImportEntities(
+      Lines({{0, "ELLIPSE"}, {11, "3"}, {21, "3"}, {40, "1"}, {42, "6.283185307179586"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_NEAR(v[0], v[1], 1e-9);
+}
+
+TEST_F(PlainEntities, AnEllipseWithoutAnAxisLiesInItsCentre)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {10, "5"}, {31, "0"}, {40, "1"}, {42, "6"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 5.0);
+}
+
+TEST_F(PlainEntities, TheCentreOfAnEllipseIsExtrudedTwice)
+{
+  ImportEntities(Lines(
+      {{0, "ELLIPSE"}, {10, "5"}, {11, "1"}, {40, "1"}, {42, "6.283185307179586"}, {230, "-1"}}));
+  double sum = 0.0;
+  for (std::size_t i = 0; i < 60; ++i) sum += VerticesOf(0)[i][0];
+  EXPECT_NEAR(sum / 60.0, 5.0, 1e-9);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,200 @@
+#include <algorithm>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const std::string unitLine = Lines(
+    {{0, "LINE"}, {5, "A1"}, {8, "part"}, {62, "1"}, {10, "1"}, {20, "0"}, {30, "2"}, {11, "2"}});
+
+std::string Insert(const std::string& name, const std::string& more = {})
+{
+  return Lines({{0, "INSERT"}, {2, name}}) + more;
+}
+
+class Inserts : public DxfFixture {};
+
+TEST_F(Inserts, CopyEveryShapeWithTheNamesOfBoth)
+{
+  Import(Blocks(Block("B", unitLine + unitLine)) +
+         Entities(Insert("B", Lines({{5, "C3"}, {8, "deck"}, {62, "3"}, {66, "1"}}))));
+  ASSERT_EQ(ShapeCount(), 2U);
+  for (const std::size_t i : {0U, 1U}) {
+    EXPECT_THAT(AttributesOf(i), ElementsAre("LAYER=part", "HANDLE=A1", "LAYER=deck", "HANDLE=C3"));
+    EXPECT_EQ(layer->shapes->shapes[i]->tag, 0xC3);
+    EXPECT_EQ(ColourOf(i), 0xFFU);  // as it was resolved in the block
+  }
+  EXPECT_THAT(log.records, Contains(HasSubstr("added 2 map features")));
+  EXPECT_EQ(file->blocks.at("B")->shapes[0]->tag, 0xA1);
+}
+
+TEST_F(Inserts, ScaleThenTurnThenMove)
+{
+  Import(Blocks(Block("B", unitLine)) + Entities(Insert("B", Lines({{50, "90"}, {10, "10"}}))));
+  EXPECT_NEAR(VerticesOf(0)[0][0], 10.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[0][1], 1.0, 1e-12);
+  Import(Blocks(Block("B", unitLine)) +
+         Entities(Insert(
+             "B", Lines({{41, "3"}, {42, "5"}, {43, "7"}, {50, "90"}, {20, "1"}, {30, "100"}}))));
+  EXPECT_NEAR(VerticesOf(0)[0][1], 4.0, 1e-12);
+  EXPECT_EQ(VerticesOf(0)[0][2], 114.0);
+}
+
+TEST_F(Inserts, AScaleOfMinusOneMirrorsAndOfZeroCollapses)
+{
+  Import(Blocks(Block("B", unitLine)) +
+         Entities(Insert("B", Lines({{41, "-1"}})) + Insert("B", Lines({{41, "0"}}))));
+  EXPECT_EQ(VerticesOf(0)[0][0], -1.0);
+  EXPECT_EQ(VerticesOf(1)[1][0], 0.0);
+}
+
+TEST_F(Inserts, AnArrayGivesOneCopyAndTheNormalPlaysNoPart)
+{
+  Import(Blocks(Block("B", unitLine)) +
+         Entities(Insert("B", Lines({{70, "3"}, {71, "4"}, {44, "5"}, {45, "5"}, {230, "-1"}}))));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(VerticesOf(0)[0][0], 1.0);
+}
+
+TEST_F(Inserts, TheBasePointOfTheBlockPlaysNoPart)
+{
+  Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}, {10, "100"}, {20, "100"}}) + unitLine +
+                Lines({{0, "ENDBLK"}})) +
+         Entities(Insert("B")));
+  EXPECT_EQ(VerticesOf(0)[0][0], 1.0);
+}
+
+TEST_F(Inserts, AnInsertedTextKeepsItsHeightAndItsAngle)
+{
+  Import(Blocks(Block("B", Lines({{0, "TEXT"}, {1, "Crane"}, {10, "1"}, {40, "2"}, {50, "30"}}))) +
+         Entities(Insert("B", Lines({{41, "3"}, {42, "3"}, {50, "90"}}))));
+  const auto& label = At<CShapeText>(0);
+  EXPECT_EQ(label.height, 2.0);
+  EXPECT_EQ(label.angle, 330.0);
+  EXPECT_NEAR(label.vertices[0]->y, 3.0, 1e-12);
+}
+
+TEST_F(Inserts, OfUnknownLaterOrDifferentlySpelledBlocksAddNothing)
+{
+  Import(Entities(Insert("B")) + Blocks(Block("B", unitLine)) +
+         Entities(Insert("b") + Insert("B ") + Insert("")));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(Inserts, OnAHiddenLayerOrInPaperSpaceAddNothing)
+{
+  Import(LayerTable(LayerRecord("off", -1, 0)) + Blocks(Block("B", unitLine)) +
+         Entities(Insert("B", Lines({{8, "off"}})) + Insert("B", Lines({{67, "1"}})) +
+                  Insert("B", Lines({{67, "2"}}))));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Inserts, OfABlockWhoseHeaderIsOnAFrozenLayerAreMade)
+{
+  Import(
+      LayerTable(LayerRecord("frozen", 1, 1)) +
+      Blocks(Lines({{0, "BLOCK"}, {8, "frozen"}, {2, "B"}}) + unitLine + Lines({{0, "ENDBLK"}})) +
+      Entities(Insert("B")));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Inserts, MakeNoLayer)
+{
+  Import(Blocks(Block("B", "")) + Entities(Insert("B", Lines({{8, "deck"}}))));
+  EXPECT_TRUE(file->layers.empty());
+}
+
+TEST_F(Inserts, NestAndComposeTheirTransforms)
+{
+  Import(Blocks(Block("inner", unitLine) +
+                Block("outer", Insert("inner", Lines({{10, "10"}, {8, "x"}, {5, "1"}})))) +
+         Entities(Insert("outer", Lines({{41, "2"}, {8, "y"}, {5, "2"}}))));
+  EXPECT_EQ(VerticesOf(0)[0][0], 22.0);
+  EXPECT_THAT(AttributesOf(0),
+              ElementsAre("LAYER=part", "HANDLE=A1", "LAYER=x", "HANDLE=1", "LAYER=y", "HANDLE=2"));
+}
+
+TEST_F(Inserts, OfThemselvesAndOfLaterBlocksFindNothing)
+{
+  Import(Blocks(Block("A", unitLine + Insert("A") + Insert("B")) + Block("B", unitLine)) +
+         Entities(Insert("A")));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Inserts, AttributesThatFollowAreTextsOfTheirOwn)
+{
+  Import(Blocks(Block("B", unitLine)) +
+         Entities(Insert("B", Lines({{66, "1"}, {10, "5"}})) +
+                  Lines({{0, "ATTRIB"}, {1, "No. 7"}, {10, "1"}, {0, "SEQEND"}}) + unitLine));
+  ASSERT_EQ(ShapeCount(), 3U);
+  EXPECT_EQ(At<CShapeText>(1).text, u"No. 7");
+  EXPECT_EQ(VerticesOf(1)[0][0], 1.0);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Blocks that multiply
+
+/// Each of these blocks inserts the one before it ten times.
+std::string Multiplying(int levels)
+{
+  std::string blocks = Block("b0", unitLine);
+  for (int level = 1; level <= levels; ++level) {
+    std::string inserts;
+    for (int i = 0; i < 10; ++i) inserts += Insert("b" + std::to_string(level - 1));
+    blocks += Block("b" + std::to_string(level), inserts);
+  }
+  return Blocks(blocks);
+}
+
+std::ptrdiff_t FailuresIn(const FakeTrace& log)
+{
+  return std::ranges::count_if(
+      log.records, [](const std::string& record) { return record.starts_with("1 General: "); });
+}
+
+TEST_F(Inserts, StopCopyingAtABudgetAndTellSoOnce)
+{
+  layer = std::make_unique<CLayer>();
+  file = std::make_unique<CFileDxf>(&window, log);
+  file->copyBudget = 1000000;
+  const auto path = folder.Write(
+      "many.dxf", Multiplying(30) + Entities(unitLine + Insert("b30") + Insert("b0") + unitLine));
+  EXPECT_EQ(file->Import(path, layer.get()), 0);
+  EXPECT_EQ(ShapeCount(), 2U);  // the lines; blocks and copies made before stay
+  EXPECT_EQ(FailuresIn(log), 1);
+  EXPECT_THAT(log.records, Contains(StartsWith("1 General: [DXF] The inserted blocks")));
+  EXPECT_EQ(file->blocks.at("b2")->shapes.size(), 100U);
+}
+
+TEST_F(Inserts, OfAnOrdinaryDrawingStayFarBelowTheBudget)
+{
+  Import(Multiplying(4) + Entities(Insert("b4")));
+  EXPECT_EQ(ShapeCount(), 10000U);
+  EXPECT_EQ(FailuresIn(log), 0);
+  EXPECT_GT(file->copyBudget, (std::int64_t{1} << 30) * 9 / 10);
+}
+
+TEST_F(Inserts, PayForVerticesRingsTextsAndAttributes)
+{
+  const std::string lwpolyline =
+      Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "9"}, {20, "0"}});
+  for (const auto& [entity, least] : {std::pair<std::string, std::int64_t>{lwpolyline, 180 * 56},
+                                      {Lines({{0, "SOLID"}}), 4 * 56},
+                                      {Lines({{0, "TEXT"}, {1, std::string(500, 'x')}}), 1000},
+                                      {Lines({{0, "POINT"}, {8, std::string(500, 'x')}}), 1000}}) {
+    Import(Blocks(Block("B", entity)) + Entities(Insert("B")));
+    const std::int64_t paid = (std::int64_t{1} << 30) - file->copyBudget;
+    EXPECT_GE(paid, least + 400);
+    EXPECT_LE(paid, least + 2000);
+  }
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,329 @@
+#include <cmath>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::string Header(const std::string& more = {}) { return Lines({{0, "POLYLINE"}}) + more; }
+
+std::string Vertex(double x, double y, const std::string& more = {})
+{
+  return Lines({{0, "VERTEX"}, {8, "frozen"}, {10, std::to_string(x)}, {20, std::to_string(y)}}) +
+         more;
+}
+
+const std::string seqEnd = Lines({{0, "SEQEND"}, {8, "0"}});
+const std::string triangle = Vertex(0, 0) + Vertex(4, 0) + Vertex(4, 3);
+
+class Polylines : public DxfFixture {
+protected:
+  std::size_t CountOf(std::size_t index) const
+  {
+    return layer->shapes->shapes.at(index)->vertices.size();
+  }
+};
+
+// ---------------------------------------------------------------------------------------------------
+// POLYLINE, VERTEX, SEQEND
+
+TEST_F(Polylines, AnOpenOneHasItsVerticesAndItsMark)
+{
+  ImportEntities(Header(Lines({{5, "2B"}, {8, "Hull"}, {62, "1"}, {66, "1"}, {30, "99"}})) +
+                 Vertex(1, 2, Lines({{30, "3"}})) + Vertex(4, 5) + seqEnd);
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 2.0, 3.0), ElementsAre(4.0, 5.0, 0.0)));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("FEATURE=POLYLINE", "LAYER=Hull", "HANDLE=2B"));
+  EXPECT_EQ(At(0).tag, 0x2B);
+  EXPECT_EQ(ColourOf(0), 0xFFU);
+  EXPECT_EQ(At(0).style->lineWidth, 1.0F);
+}
+
+TEST_F(Polylines, OnlyFlagsOfExactlyOneClose)
+{
+  for (const auto& [flags, vertices] : {std::pair{"1", 4U}, {"0", 3U}, {"9", 3U}, {"129", 3U}}) {
+    ImportEntities(Header(Lines({{70, flags}})) + triangle + seqEnd);
+    EXPECT_EQ(CountOf(0), vertices) << flags;
+  }
+  ImportEntities(Header(Lines({{70, "1"}})) + triangle + seqEnd);
+  EXPECT_EQ(VerticesOf(0).back(), VerticesOf(0).front());
+}
+
+TEST_F(Polylines, FlagsPassOnToTheNextOneWithoutAny)
+{
+  ImportEntities(Header(Lines({{70, "1"}})) + triangle + seqEnd + Header() + triangle + seqEnd +
+                 Header(Lines({{70, "0"}})) + triangle + seqEnd + Header() + triangle + seqEnd);
+  EXPECT_EQ(CountOf(0), 4U);
+  EXPECT_EQ(CountOf(1), 4U);
+  EXPECT_EQ(CountOf(2), 3U);
+  EXPECT_EQ(CountOf(3), 3U);
+}
+
+TEST_F(Polylines, TheCurveTypeIsKeptAndNotUsed)
+{
+  ImportEntities(Header(Lines({{75, "6"}})) + triangle + seqEnd);
+  EXPECT_EQ(file->polylineCurveType, 6);
+  EXPECT_EQ(CountOf(0), 3U);
+}
+
+TEST_F(Polylines, AWidthIsDoubledAndZeroIsAWidth)
+{
+  for (const auto& [width, line] : {std::pair{"2.5", 5.0F}, {"0", 0.0F}, {"-1", -2.0F}}) {
+    ImportEntities(Header(Lines({{40, width}, {41, "7"}})) + triangle + seqEnd);
+    EXPECT_EQ(At(0).style->lineWidth, line);
+  }
+}
+
+TEST_F(Polylines, OfThePaperSpaceAreImported)
+{
+  ImportEntities(Header(Lines({{67, "1"}})) + triangle + seqEnd);
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Polylines, OnAFrozenLayerLeaveNothingBehind)
+{
+  Import(LayerTable(LayerRecord("frozen", 1, 1)) +
+         Entities(Header(Lines({{8, "frozen"}})) + triangle + seqEnd + Header() + Vertex(9, 9) +
+                  seqEnd));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(9.0, 9.0, 0.0)));
+}
+
+TEST_F(Polylines, ControlPointsOfSplinesAreDroppedByFlagsOfExactlySixteen)
+{
+  ImportEntities(Header() + Vertex(1, 1, Lines({{70, "16"}})) + Vertex(2, 2, Lines({{70, "17"}})) +
+                 Vertex(3, 3, Lines({{70, "8"}})) + seqEnd);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(2.0, 2.0, 0.0), ElementsAre(3.0, 3.0, 0.0)));
+}
+
+TEST_F(Polylines, AVertexIsPairsOnlyEvenWithApplicationData)
+{
+  // The brace does not hide the group behind it.
+  ImportEntities(Header() + Lines({{0, "VERTEX"}, {102, "{A"}, {10, "5"}, {102, "}"}}) + seqEnd);
+  EXPECT_EQ(VerticesOf(0)[0][0], 5.0);
+}
+
+TEST_F(Polylines, WithoutAnEndAreLost)
+{
+  ImportEntities(Header() + triangle);
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(Polylines, TheVerticesOfAnUnfinishedOnePassIntoTheNext)
+{
+  ImportEntities(Header() + Vertex(1, 1) + Header() + Vertex(2, 2) + seqEnd);
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(CountOf(0), 2U);
+}
+
+TEST_F(Polylines, AStrayVertexJoinsTheNextOneThatEnds)
+{
+  ImportEntities(Vertex(7, 7) + Header() + Vertex(1, 1) + seqEnd);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(7.0, 7.0, 0.0), ElementsAre(1.0, 1.0, 0.0)));
+}
+
+TEST_F(Polylines, AnEndWithoutABeginningThrowsStrayVerticesAway)
+{
+  ImportEntities(Vertex(7, 7) + seqEnd + Header() + Vertex(1, 1) + seqEnd);
+  EXPECT_EQ(CountOf(0), 1U);
+}
+
+TEST_F(Polylines, WithoutVerticesAreEmptyShapes)
+{
+  ImportEntities(Header(Lines({{70, "1"}})) + seqEnd + Lines({{0, "LWPOLYLINE"}, {70, "1"}}));
+  ASSERT_EQ(ShapeCount(), 2U);
+  EXPECT_EQ(CountOf(0), 0U);
+  EXPECT_EQ(CountOf(1), 0U);
+}
+
+TEST_F(Polylines, AnOpenOneCrossesBlocksAndSections)
+{
+  Import(
+      Blocks(Block("A", Header(Lines({{8, "Hull"}})) + Vertex(1, 1)) + Block("B", Vertex(2, 2))) +
+      Entities(Vertex(3, 3) + seqEnd));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(CountOf(0), 3U);
+  EXPECT_THAT(file->blocks.at("A")->shapes, IsEmpty());
+}
+
+TEST_F(Polylines, OfABlockGoToTheBlockThatSeesTheirEnd)
+{
+  Import(Blocks(Block("A", Header() + Vertex(1, 1)) + Block("B", seqEnd)));
+  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+}
+
+TEST_F(Polylines, AnExtrusionTurnsTheVertices)
+{
+  ImportEntities(Header(Lines({{230, "-1"}})) + Vertex(2, 3, Lines({{30, "4"}})) + seqEnd);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(-2.0, 3.0, -4.0)));
+}
+
+TEST_F(Polylines, ALightweightOneInBetweenResetsTheExtrusion)
+{
+  ImportEntities(Header(Lines({{230, "-1"}})) + Vertex(2, 3) +
+                 Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}}) + seqEnd);
+  EXPECT_THAT(VerticesOf(1), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
+}
+
+// ---------------------------------------------------------------------------------------------------
+// LWPOLYLINE
+
+TEST_F(Polylines, ALightweightRectangleIsClosedByItsFirstVertex)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"},
+                        {5, "C"},
+                        {8, "A"},
+                        {90, "4"},
+                        {70, "1"},
+                        {38, "7"},
+                        {10, "0"},
+                        {20, "0"},
+                        {10, "4"},
+                        {20, "0"},
+                        {10, "4"},
+                        {20, "3"},
+                        {10, "0"},
+                        {20, "3"},
+                        {230, "-1"},
+                        {67, "1"}}));
+  ASSERT_EQ(CountOf(0), 5U);
+  EXPECT_EQ(VerticesOf(0).front(), VerticesOf(0).back());
+  EXPECT_THAT(VerticesOf(0)[2], ElementsAre(4.0, 3.0, 0.0));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=A", "HANDLE=C"));
+}
+
+TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
+{
+  for (const auto& [flags, vertices] : {std::pair{"129", 2U}, {"128", 1U}, {"3", 2U}}) {
+    ImportEntities(Lines({{0, "LWPOLYLINE"}, {70, flags}, {10, "1"}, {20, "2"}}));
+    EXPECT_EQ(CountOf(0), vertices) << flags;
+  }
+}
+
+TEST_F(Polylines, TheWidthOfALightweightOneIsDoubledUnlessZero)
+{
+  for (const auto& [width, line] : {std::pair{"2.5", 5.0F}, {"0", 1.0F}}) {
+    ImportEntities(Lines({{0, "LWPOLYLINE"}, {43, width}, {10, "1"}, {20, "2"}}));
+    EXPECT_EQ(At(0).style->lineWidth, line);
+  }
+}
+
+TEST_F(Polylines, CoordinatesOfALightweightOnePairUpInAnyOrder)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {20, "1"}, {10, "2"}, {20, "3"}, {10, "4"}}));
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(2.0, 1.0, 0.0), ElementsAre(4.0, 3.0, 0.0)));
+  // A coordinate that comes twice replaces the first; one that is missing makes no vertex.
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {10, "2"}, {20, "3"}, {10, "9"}}));
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
+}
+
+TEST_F(Polylines, ValuesOfALightweightOneHaveTheShortLimit)
+{
+  const std::string head = Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}});
+  ImportEntities(head + "999\n" + std::string(255, 'x') + "\n" + Lines({{10, "2"}, {20, "2"}}));
+  EXPECT_EQ(CountOf(0), 2U);
+  ImportEntities(head + "999\n" + std::string(256, 'x') + "\n" + Lines({{10, "2"}, {20, "2"}}));
+  EXPECT_EQ(CountOf(0), 1U);
+}
+
+TEST_F(Polylines, ALightweightOneOnAHiddenLayerIsDropped)
+{
+  Import(LayerTable(LayerRecord("A", -1, 0)) +
+         Entities(Lines({{0, "LWPOLYLINE"}, {8, "A"}, {10, "1"}, {20, "2"}})));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Bulges
+
+std::string TwoVertices(const std::string& bulge)
+{
+  return Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, bulge}, {10, "2"}, {20, "0"}});
+}
+
+TEST_F(Polylines, ABulgeOfOneIsAHalfCircleCounterClockwise)
+{
+  ImportEntities(TwoVertices("1"));
+  const auto vertices = VerticesOf(0);
+  EXPECT_GE(vertices.size(), 182U);
+  EXPECT_LE(vertices.size(), 184U);
+  EXPECT_NEAR(vertices[0][0], 0.0, 1e-9);
+  EXPECT_NEAR(vertices[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(vertices[90][1], -1.0, 1e-9);
+  EXPECT_THAT(vertices.back(), ElementsAre(2.0, 0.0, 0.0));  // the second vertex itself
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], 2.0, 1e-9);  // behind the end of the arc
+}
+
+TEST_F(Polylines, ABulgeOfMinusOneIsItsMirrorImage)
+{
+  ImportEntities(TwoVertices("-1"));
+  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[90][1], 1.0, 1e-9);
+}
+
+TEST_F(Polylines, ABulgeAboveOneHasItsCentreOnTheFarSide)
+{
+  ImportEntities(TwoVertices("2"));
+  // tan(theta/4) = 2: the sagitta is twice the half chord.
+  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
+  ImportEntities(TwoVertices("0.5"));
+  EXPECT_NEAR(VerticesOf(0)[90][1], -0.5, 1e-9);
+}
+
+TEST_F(Polylines, TheLastVertexIsLostWithABulge)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}}));
+  EXPECT_EQ(CountOf(0), 1U);
+  // So is the closing copy of a first vertex with a bulge.
+  ImportEntities(
+      Lines({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
+}
+
+TEST_F(Polylines, ABulgeBelongsToTheVertexBeforeIt)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"},
+                        {10, "0"},
+                        {20, "0"},
+                        {10, "2"},
+                        {20, "0"},
+                        {42, "1"},
+                        {10, "4"},
+                        {20, "0"}}));
+  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(0.0, 0.0, 0.0));
+  EXPECT_NEAR(VerticesOf(0)[1][0], 2.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[91][1], -1.0, 1e-9);
+}
+
+TEST_F(Polylines, TheArcLiesAtTheMeanHeightOfItsEnds)
+{
+  ImportEntities(Header() + Vertex(0, 0, Lines({{30, "1"}, {42, "1"}})) +
+                 Vertex(2, 0, Lines({{30, "3"}})) + seqEnd);
+  EXPECT_EQ(VerticesOf(0)[50][2], 2.0);
+}
+
+TEST_F(Polylines, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}, {42, "1"}, {10, "1"}, {20, "1"}}));
+  EXPECT_TRUE(std::isnan(VerticesOf(0)[0][0]));
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(1.0, 1.0, 0.0));
+}
+
+TEST_F(Polylines, FlatteningEmptiesTheList)
+{
+  CFileDxf reader(&window, log);
+  std::vector<CFileDxfVertex> list;
+  EXPECT_EQ(reader.FlattenVertices(list), nullptr);
+  list.push_back({1.0, 2.0, 3.0, 0.0, 0});
+  reader.polylineExtrusion = {0.0, 0.0, 1.0};
+  EXPECT_EQ(reader.FlattenVertices(list)->vertices.size(), 1U);
+  EXPECT_THAT(list, IsEmpty());
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,151 @@
+#include <cmath>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+
+class Texts : public DxfFixture {
+protected:
+  /// The label that a text entity of these groups gives.
+  const CShapeText& Label(const char* keyword, Pairs pairs)
+  {
+    ImportEntities(Lines({{0, keyword}}) + Lines(pairs));
+    return At<CShapeText>(0);
+  }
+};
+
+TEST_F(Texts, ATextHasPlaceHeightAndNames)
+{
+  const CShapeText& label = Label("TEXT", {{5, "1A"},
+                                           {8, "names"},
+                                           {62, "1"},
+                                           {10, "1"},
+                                           {20, "2"},
+                                           {30, "3"},
+                                           {40, "2.5"},
+                                           {1, "Winch"},
+                                           {7, "STYLE"},
+                                           {41, "0.8"},
+                                           {51, "15"},
+                                           {72, "4"},
+                                           {73, "2"}});
+  EXPECT_EQ(label.type, 8);
+  EXPECT_EQ(label.text, u"Winch");
+  EXPECT_EQ(label.height, 2.5);
+  EXPECT_EQ(label.angle, 0.0);
+  EXPECT_EQ(label.tag, 0x1A);
+  EXPECT_EQ(ColourOf(0), 0xFFU);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 2.0, 3.0)));
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=names", "HANDLE=1A"));
+}
+
+TEST_F(Texts, ARotationIsTurnedTheOtherWay)
+{
+  for (const char* keyword : {"TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
+    EXPECT_EQ(Label(keyword, {{50, "90"}, {1, "x"}}).angle, 270.0) << keyword;
+    EXPECT_EQ(Label(keyword, {{50, "0"}, {21, "1"}}).angle, 360.0) << keyword;
+    EXPECT_EQ(Label(keyword, {{50, "400"}, {1, "x"}}).angle, -40.0) << keyword;
+  }
+}
+
+TEST_F(Texts, WithoutARotationTheDirectionCountsAsItIs)
+{
+  EXPECT_EQ(Label("MTEXT", {{11, "0"}, {21, "1"}}).angle, std::atan2(1.0, 0.0) * 57.29577951308232);
+  EXPECT_EQ(Label("TEXT", {{11, "5"}, {21, "5"}}).angle, std::atan2(5.0, 5.0) * 57.29577951308232);
+  EXPECT_EQ(Label("TEXT", {{50, "360"}, {11, "0"}, {21, "1"}}).angle,
+            std::atan2(1.0, 0.0) * 57.29577951308232);
+  EXPECT_EQ(Label("ATTRIB", {{11, "-1"}}).angle, std::atan2(0.0, -1.0) * 57.29577951308232);
+  EXPECT_EQ(Label("TEXT", {{1, "x"}}).angle, 0.0);
+}
+
+TEST_F(Texts, OnlyParagraphTextsHaveChunks)
+{
+  const Pairs pairs = {{3, "first "}, {3, "second "}, {1, "last"}};
+  EXPECT_EQ(Label("MTEXT", pairs).text, u"first second last");
+  EXPECT_EQ(Label("TEXT", pairs).text, u"last");
+  EXPECT_EQ(Label("ATTDEF", pairs).text, u"last");
+  EXPECT_EQ(Label("TEXT", {{1, "a"}, {1, "b"}}).text, u"ab");
+}
+
+TEST_F(Texts, AnAttributeIsDroppedByTheLowestBitOfItsFlags)
+{
+  for (const char* keyword : {"ATTRIB", "ATTDEF"}) {
+    for (const auto& [flags, shapes] : {std::pair{"1", 0U}, {"8", 1U}, {"9", 0U}, {"0", 1U}}) {
+      ImportEntities(Lines({{0, keyword}, {1, "x"}, {70, flags}}));
+      EXPECT_EQ(ShapeCount(), shapes) << keyword << flags;
+    }
+  }
+  ImportEntities(Lines({{0, "TEXT"}, {1, "x"}, {70, "1"}}));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Texts, TagAndPromptOfADefinitionAreNotRead)
+{
+  EXPECT_EQ(Label("ATTDEF", {{3, "Number?"}, {2, "NUMBER"}, {1, "7"}}).text, u"7");
+}
+
+TEST_F(Texts, OnAHiddenLayerOrInPaperSpaceAreLeftOut)
+{
+  Import(LayerTable(LayerRecord("off", -1, 0)) +
+         Entities(
+             Lines({{0, "TEXT"}, {8, "off"}, {0, "MTEXT"}, {67, "1"}, {0, "ATTRIB"}, {8, "off"}})));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(Texts, AreReadAsUtf8WithReplacements)
+{
+  EXPECT_EQ(Label("TEXT", {{1, "Kr\xC3\xA4n \xF0\x9F\x9A\xA2"}}).text, u"Kr\u00E4n \U0001F6A2");
+  EXPECT_EQ(Label("TEXT", {{1, "Kr\xE4n"}}).text, u"Kr\uFFFDn");
+}
+
+TEST_F(Texts, WithoutTextAreEmptyShapes)
+{
+  ImportEntities(Lines({{0, "TEXT"}, {8, "A"}, {0, "MTEXT"}, {1, "\\L"}}));
+  EXPECT_EQ(ShapeCount(), 2U);
+  EXPECT_TRUE(At<CShapeText>(1).text.empty());
+}
+
+TEST_F(Texts, AColourIndexInTheTextColoursTheShape)
+{
+  EXPECT_EQ(Label("MTEXT", {{62, "3"}, {1, "\\C1;Red"}}).text, u"Red");
+  EXPECT_EQ(ColourOf(0), 0x0000FFU);
+  EXPECT_EQ(At<CShapeText>(0).style->fillColour, 0x0000FFU);
+}
+
+TEST_F(Texts, TheFirstColourIndexCountsAndAllCodesGo)
+{
+  EXPECT_EQ(Label("TEXT", {{1, "\\C3;a\\C1;b"}}).text, u"ab");
+  EXPECT_EQ(ColourOf(0), 0x00FF00U);
+}
+
+TEST_F(Texts, ATrueColourCountsLastAndIsTakenToTheNearestIndex)
+{
+  EXPECT_EQ(Label("TEXT", {{1, "\\c16711680;X\\C1;Y"}}).text, u"XY");
+  EXPECT_EQ(ColourOf(0), 0xFF0000U);
+  Label("TEXT", {{1, "\\c250;X"}});  // nearly red
+  EXPECT_EQ(ColourOf(0), 0x0000FFU);
+}
+
+TEST_F(Texts, IndexByLayerInATextLooksForTheLayerWithoutAName)
+{
+  Import(Entities(Lines({{0, "LINE"}, {62, "3"}}) +
+                  Lines({{0, "TEXT"}, {8, "A"}, {62, "1"}, {1, "\\C256;X"}})));
+  EXPECT_EQ(ColourOf(1), 0x00FF00U);
+  Label("TEXT", {{8, "A"}, {62, "1"}, {1, "\\C256;X"}});
+  EXPECT_EQ(ColourOf(0), 0U);
+  Label("TEXT", {{62, "1"}, {1, "\\C99999999999;X"}});
+  EXPECT_EQ(ColourOf(0), 0U);
+}
+
+TEST_F(Texts, TheLayerOfATextGetsTheColourOfTheEntityNotOfTheCode)
+{
+  Label("TEXT", {{8, "A"}, {62, "3"}, {1, "\\C1;X"}});
+  EXPECT_EQ(file->layers.at("A")->colour, 3);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <initializer_list>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/Text.h"
+#include "dxf/FileDxf.h"
+#include "model/ShapePoint.h"
+#include "model/ShapePolygon.h"
+#include "model/ShapeText.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+namespace hullwright::test {
+
+/// Keeps the records of the log as "level category: text".
+class FakeTrace : public ITrace {
+public:
+  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+             std::u16string_view text) const override
+  {
+    EXPECT_EQ(elapsedSeconds * 1000.0, std::round(elapsedSeconds * 1000.0));
+    records.push_back(std::to_string(level) + " " + Utf8FromWide(category) + ": " +
+                      Utf8FromWide(text));
+  }
+  mutable std::vector<std::string> records;
+};
+
+using Pairs = std::initializer_list<std::pair<int, std::string>>;
+
+/// The lines of group codes and values.
+inline std::string Lines(Pairs pairs)
+{
+  std::string text;
+  for (const auto& [code, value] : pairs) text += std::to_string(code) + "\n" + value + "\n";
+  return text;
+}
+
+/// A section around its records, each of which begins with a group 0.
+inline std::string Section(const std::string& name, const std::string& records)
+{
+  return "0\nSECTION\n2\n" + name + "\n" + records + "0\nENDSEC\n";
+}
+
+inline std::string Entities(const std::string& records) { return Section("ENTITIES", records); }
+
+/// One layer of the table.
+inline std::string LayerRecord(const std::string& name, int colour, int flags)
+{
+  return Lines(
+      {{0, "LAYER"}, {2, name}, {70, std::to_string(flags)}, {62, std::to_string(colour)}});
+}
+
+inline std::string LayerTable(const std::string& records)
+{
+  return Section("TABLES",
+                 Lines({{0, "TABLE"}, {2, "LAYER"}, {70, "3"}}) + records + Lines({{0, "ENDTAB"}}));
+}
+
+inline std::string Block(const std::string& name, const std::string& records)
+{
+  return Lines({{0, "BLOCK"}, {8, "0"}, {2, name}}) + records + Lines({{0, "ENDBLK"}, {8, "0"}});
+}
+
+inline std::string Blocks(const std::string& blocks) { return Section("BLOCKS", blocks); }
+
+inline constexpr const char* endOfFile = "0\nEOF\n";
+
+/// Imports drawings that a test writes, and looks at what they give.
+class DxfFixture : public testing::Test {
+protected:
+  int Import(const std::string& text)
+  {
+    layer = std::make_unique<CLayer>();
+    file = std::make_unique<CFileDxf>(&window, log);
+    return file->Import(folder.Write("drawing.dxf", text), layer.get());
+  }
+
+  /// Imports the records as the only section.
+  void ImportEntities(const std::string& records) { ASSERT_EQ(Import(Entities(records)), 0); }
+
+  std::size_t ShapeCount() const { return layer->shapes->shapes.size(); }
+
+  template <class Shape = CShapePolyline>
+  const Shape& At(std::size_t index) const
+  {
+    return dynamic_cast<const Shape&>(*layer->shapes->shapes.at(index));
+  }
+
+  /// The vertices of a shape as (x, y, z).
+  std::vector<std::vector<double>> VerticesOf(std::size_t index) const
+  {
+    std::vector<std::vector<double>> list;
+    for (const auto& v : layer->shapes->shapes.at(index)->vertices)
+      list.push_back({v->x, v->y, v->z});
+    return list;
+  }
+
+  /// The attributes of a shape as "name=value".
+  std::vector<std::string> AttributesOf(std::size_t index) const
+  {
+    std::vector<std::string> list;
+    for (const auto& pair : layer->shapes->shapes.at(index)->attributes->items) {
+      list.push_back(Utf8FromWide(pair->name) + "=" + Utf8FromWide(pair->value));
+    }
+    return list;
+  }
+
+  std::uint32_t ColourOf(std::size_t index) const
+  {
+    return layer->shapes->shapes.at(index)->style->lineColour;
+  }
+
+  TempFolder folder;
+  FakeMainWindow window;
+  FakeTrace log;
+  std::unique_ptr<CLayer> layer;
+  std::unique_ptr<CFileDxf> file;
+};
+
+}  // namespace hullwright::test
