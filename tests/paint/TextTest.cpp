@@ -27,6 +27,7 @@ protected:
   {
     const auto format = writing.object->CreateTextFormat(u"Consolas", size);
     format.object->DisableWordWrapping();
+    target.object->Resize(200, 100);
     target.object->BeginDraw();
     target.object->Clear({1.0F, 1.0F, 1.0F, 1.0F});
     const auto brush = target.object->CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "model/ShapePolygon.h"
 #include "resources/CommandIds.h"
 #include "support/ViewFixture.h"
 
@@ -146,6 +147,22 @@ TEST_F(ContextMenu, AMarkedShapeThatIsNoPolylineTakesNoVertex)
   view.OnRButtonDown({1, 1});
   view.OnMenuCommand(Command::AddVertex);
   EXPECT_THAT(host.events, IsEmpty());
+}
+
+TEST_F(ContextMenu, ARemovedVertexIsReleasedOnceAlsoAmongPolygons)
+{
+  const auto addPolygon = [this] {
+    auto polygon = std::make_unique<CShapePolygon>();
+    polygon->AddVertex(std::make_unique<CShapeVertex>(50.0, 50.0, 0.0), 0);
+    GetShapes(design.shapeGroups, ViewSide::Top)->shapes.push_back(std::move(polygon));
+  };
+  addPolygon();
+  const CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}, {9.0, 9.0, 0.0}});
+  addPolygon();
+  view.OnRButtonDown({400, 300});
+  view.OnMenuCommand(Command::RemoveVertex);
+  ASSERT_EQ(line.vertices.size(), 1U);
+  EXPECT_EQ(line.vertices[0]->x, 9.0);
 }
 
 TEST_F(ContextMenu, WithoutAnAnchorListNothingIsAddedOrRemoved)
