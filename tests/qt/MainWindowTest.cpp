@@ -255,5 +255,26 @@ TEST_F(Desk, AWindowWithoutRoomForTheViewDoesNoHarm)
   EXPECT_GT(shell->App().viewPort->width, 0.0);
 }
 
+TEST_F(Desk, ShowsTheProgressOfAnImportInPlaceOfThePrompt)
+{
+  auto* const pane = Window().findChild<ProgressPane*>();
+  ASSERT_NE(pane, nullptr);
+  EXPECT_FALSE(pane->isVisible());
+  Window().StartProgress("Loading");
+  Window().ShowProgress(40);
+  EXPECT_TRUE(pane->isVisible());
+  EXPECT_EQ(pane->findChild<QLabel*>()->text(), QStringLiteral("Loading"));
+  EXPECT_EQ(pane->findChild<QProgressBar*>()->value(), 40);
+  EXPECT_GT(pane->width(), 200);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  Window().EndProgress();
+  EXPECT_FALSE(pane->isVisible());
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  // The next one starts anew.
+  Window().StartProgress("Again");
+  EXPECT_EQ(pane->findChild<QProgressBar*>()->value(), 0);
+  Window().EndProgress();
+}
+
 }  // namespace
 }  // namespace hullwright

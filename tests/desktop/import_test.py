@@ -1,0 +1,87 @@
+#!/usr/bin/env python3
+"""Imports a drawing in the real program through its dialog, saves the design and opens it again."""
+
+import pathlib
+import re
+import shutil
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent))
+from desk import Desk  # noqa: E402
+
+PROGRAM = sys.argv.pop(1)
+SAMPLES = pathlib.Path(sys.argv.pop(1))
+
+# Colours of the drawing's layers as (red, green, blue). Some of the devices' symbols have them too.
+HULL = (0, 0, 255)
+DECKHOUSE = (255, 0, 0)
+
+
+class ImportTest(unittest.TestCase):
+    """From an empty design to the saved outline."""
+
+    def setUp(self):
+        self.desk = Desk()
+        self.addCleanup(self.desk.close)
+        self.drawing = self.desk.folder / "Plan \u00e4.dxf"
+        shutil.copy(SAMPLES / "dxf" / "workboat-r2018.dxf", self.drawing)
+        self.design = self.desk.folder / "boat.xml"
+
+    def ink(self, colour):
+        """Number of the view's pixels near a colour; thin slanting lines have no pure ones."""
+        left, top, width, height = self.desk.paper()
+        depth, rows = self.desk.screen()
+        rows = [row[left * depth:(left + width) * depth] for row in rows[top:top + height]]
+        channels = [(range(max(0, value - 96), min(256, value + 97)), offset)
+                    for value, offset in zip(colour, (2, 1, 0))]
+        return sum(all(row[i + offset] in near for near, offset in channels)
+                   for row in rows for i in range(0, len(row), depth))
+
+    def import_drawing(self):
+        """Runs "Import DXF File...", the fifth entry of the first menu, and names the drawing."""
+        self.desk.keys("alt+f", *["Down"] * 4, "Return")
+        self.desk.dialog("Import DXF File")
+        self.desk.type(str(self.drawing))
+        self.desk.keys("Return")
+        self.desk.settle()
+
+    def test_an_imported_outline_is_seen_saved_and_opened_again(self):
+        self.desk.start(PROGRAM)
+        before = self.ink(HULL), self.ink(DECKHOUSE)
+        self.import_drawing()
+        after = self.ink(HULL), self.ink(DECKHOUSE)
+        self.assertGreater(after[0], before[0] + 100)
+        self.assertGreater(after[1], before[1] + 50)
+
+        self.desk.keys("ctrl+s")
+        self.desk.dialog("Save Design As")
+        self.desk.keys("ctrl+a")
+        self.desk.type(str(self.design))
+        self.desk.keys("Return")
+        self.desk.wait_until(self.design.exists)
+        self.desk.settle()
+        self.desk.keys("alt+f", "x")
+        self.assertEqual(self.desk.wait_for_end(), 0)
+
+        # Polylines alone are saved: 56 of the drawing's 70 shapes, black when they come back.
+        text = self.design.read_text()
+        self.assertEqual(text.count("<polyline>"), 56)
+        self.assertEqual(re.findall(r'<shapes view="(..)"', text), ["01"])
+        self.desk.start(PROGRAM, self.design)
+        self.assertLess(self.ink(HULL), before[0] + 50)  # black lines over a symbol darken it
+        self.assertLess(self.ink(DECKHOUSE), before[1] + 25)
+        self.assertGreater(self.ink((0, 0, 0)), 200)
+
+    def test_giving_up_the_dialog_leaves_the_design_unmodified(self):
+        self.desk.start(PROGRAM)
+        self.desk.keys("alt+f", *["Down"] * 4, "Return")
+        self.desk.dialog("Import DXF File")
+        self.desk.keys("Escape")
+        self.desk.settle()
+        self.desk.keys("alt+f", "x")  # no question
+        self.assertEqual(self.desk.wait_for_end(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
