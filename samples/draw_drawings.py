@@ -269,7 +269,9 @@ class Drawing:
         self.entity("POLYLINE", layer, None)
         self.put((66, 1))
         self.place(0.0, 0.0)
-        self.put((70, int(closed)), (40, width), (41, width))
+        self.put((70, int(closed)))
+        if width:
+            self.put((40, width), (41, width))
         for x, y, bulge in vertices:
             self.entity("VERTEX", layer, None)
             self.place(x, y)

@@ -20,7 +20,9 @@ struct Verb {
   int (*run)(int argc, char** argv);  ///< the first argument is the verb
 };
 
+extern const Verb checkVerb;
 extern const Verb importVerb;
+extern const Verb infoVerb;
 extern const Verb renderVerb;
 
 /// Tells what went wrong on standard error; the exit status for a failure.

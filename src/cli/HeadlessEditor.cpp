@@ -1,7 +1,9 @@
 #include "cli/HeadlessEditor.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <utility>
 
 #include "app/CommonDataFolder.h"
 
@@ -20,13 +22,14 @@ void MemorySettings::WriteInteger(std::string_view section, std::string_view key
   values_[std::string(section).append("/").append(key)] = value;
 }
 
-struct HeadlessEditor::NoWidgets : IFrameWidgets {
-  void SetViewButtonImage(int) override {}
-  void InvalidateToolBar() override {}
-  void ApplyLook(int) override {}
-  void StartProgress(std::string_view) override {}
-  void ShowProgress(int) override {}
-  void EndProgress() override {}
+/// Has neither a window nor anything that could draw.
+struct HeadlessEditor::NoDrawing : IDrawingBackEnd, IDrawingWindow {
+  Created<IDrawFactory> CreateDrawFactory() override { return {-1, nullptr}; }
+  Created<IWriteFactory> CreateWriteFactory() override { return {-1, nullptr}; }
+  Created<IImagingFactory> CreateImagingFactory() override { return {-1, nullptr}; }
+  std::optional<std::string> SystemMessage(ResultCode) const override { return std::nullopt; }
+  bool IsWindow() const override { return false; }
+  std::optional<PixelSize> ClientSize() const override { return std::nullopt; }
 };
 
 struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
@@ -43,18 +46,30 @@ struct HeadlessEditor::NoDialogs : IDialogRunner, IFileDialogs {
   }
 };
 
-HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface)
-    : widgets_(std::make_unique<NoWidgets>()),
-      pointer_(std::make_unique<NoPointer>()),
+HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets)
+    : HeadlessEditor(std::make_unique<NoDrawing>(), widgets)
+{
+}
+
+HeadlessEditor::HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets)
+    : HeadlessEditor(*nothing, *nothing, widgets)
+{
+  noDrawing_ = std::move(nothing);
+}
+
+HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
+                               IFrameWidgets* widgets)
+    : pointer_(std::make_unique<NoPointer>()),
       dialogs_(std::make_unique<NoDialogs>()),
       app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
-      frame_(app_, *widgets_),
+      frame_(app_, widgets == nullptr ? noWidgets_ : *widgets),
       document_(app_, frame_, messages_),
       view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})
 {
   frame_.document = &document_;
   frame_.view = &view_;
   view_.OnCreate(&surface);
+  frame_.hasWindow = true;
 }
 
 HeadlessEditor::~HeadlessEditor()
@@ -71,45 +86,74 @@ bool HeadlessEditor::Open(std::u16string_view path)
   return false;
 }
 
+bool HeadlessEditor::Import(std::u16string_view path)
+{
+  if (app_.ImportDrawing(path) == 0) return true;
+  problem_ = u"the drawing can't be read, or it is empty";
+  return false;
+}
+
+bool HeadlessEditor::Save(std::u16string_view path)
+{
+  document_.OnSaveDocument(path);
+  if (document_.SavedWhole()) return true;
+  problem_ = u"the design can't be written";
+  return false;
+}
+
+WorldBox HeadlessEditor::SideBox() const
+{
+  constexpr double largest = std::numeric_limits<double>::max();
+  WorldBox box = {largest, largest, -largest, -largest};
+  if (const CShapes* const group = FindViewGroup(app_.shapeGroups, app_.activeView)) {
+    ForEachEntry(group->shapes, [&](const CShape& shape) {
+      shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
+    });
+  }
+  if (app_.activeView != ViewSide::Top) return box;
+  const auto widen = [&box](double x, double y) {
+    box = {std::min(box.minX, x), std::min(box.minY, y), std::max(box.maxX, x),
+           std::max(box.maxY, y)};
+  };
+  for (const CShapeVertex* offset :
+       {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
+    widen(offset->x, offset->y);
+  }
+  ForEachEntry(app_.anchors->items,
+               [&](const CAnchor& anchor) { widen(anchor.attachmentX, anchor.attachmentY); });
+  return box;
+}
+
 void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
+{
+  constexpr double margin = 1.0 / 6.0;
+  app_.activeView = side;
+  view_.OnSize(width, height);
+  Frame(SideBox(), margin);
+}
+
+void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch)
 {
   app_.activeView = side;
   view_.OnSize(width, height);
-  FitSide();
-  view_.Repaint();
+  Frame(stretch, 0.0);
 }
 
-void HeadlessEditor::FitSide()
+void HeadlessEditor::Frame(const WorldBox& box, double marginPart)
 {
-  constexpr double largest = std::numeric_limits<double>::max();
+  if (!(box.minX <= box.maxX && box.minY <= box.maxY)) return;
   CViewPort& viewPort = *view_.viewPort;
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
-  const auto widen = [&](double x, double y) {
-    minX = std::min(minX, x);
-    minY = std::min(minY, y);
-    maxX = std::max(maxX, x);
-    maxY = std::max(maxY, y);
-  };
-  if (const CShapes* const group = FindViewGroup(app_.shapeGroups, app_.activeView)) {
-    ForEachEntry(group->shapes,
-                 [&](const CShape& shape) { shape.GetExtents(minX, minY, maxX, maxY); });
-  }
-  if (app_.activeView == ViewSide::Top) {
-    for (const CShapeVertex* offset :
-         {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
-      widen(offset->x, offset->y);
-    }
-    ForEachEntry(app_.anchors->items,
-                 [&](const CAnchor& anchor) { widen(anchor.attachmentX, anchor.attachmentY); });
-  }
-  if (minX > maxX || minY > maxY) return;
-  // The width rules in a fit, so a tall box is given the width that its height needs.
-  const double wanted = (maxY - minY) * viewPort.screenWidth / viewPort.screenHeight;
-  const double missing = std::max(wanted - (maxX - minX), 0.0) * 0.5;
-  viewPort.FitExtents(minX - missing, minY, maxX + missing, maxY);
+  // The width rules, so a tall box is given the width that its height needs.
+  const double boxWidth = box.maxX - box.minX;
+  const double needed = (box.maxY - box.minY) * viewPort.screenWidth / viewPort.screenHeight;
+  const double half = std::max(boxWidth, needed) * (0.5 + marginPart);
+  if (half <= 0.0 || !std::isfinite(half)) return;
+  const double cx = (box.minX + box.maxX) * 0.5;
+  viewPort.left = cx - half;
+  viewPort.right = cx + half;
+  viewPort.bottom = box.minY;
+  viewPort.top = box.maxY;
+  viewPort.KeepAspect();
 }
 
 }  // namespace hullwright

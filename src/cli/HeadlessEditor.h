@@ -32,31 +32,71 @@ public:
   std::u16string last;
 };
 
+/// A stretch of the world; nothing when a lower bound is above its upper one.
+struct WorldBox {
+  double minX;
+  double minY;
+  double maxX;
+  double maxY;
+};
+
+/// Hears of the frame's look and shows nothing; a base for what shows a part of it.
+class NoWidgets : public IFrameWidgets {
+public:
+  void SetViewButtonImage(int) override {}
+  void InvalidateToolBar() override {}
+  void ApplyLook(int) override {}
+  void StartProgress(std::string_view) override {}
+  void ShowProgress(int) override {}
+  void EndProgress() override {}
+};
+
 /// The editor without a window: application, document and view as the window has them, on a drawing
-/// surface of the caller's.
+/// surface of the caller's, or without a picture.
 class HeadlessEditor {
 public:
-  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface);
+  /// Without a picture. `widgets` shows the progress of imports; null for nobody.
+  explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
+  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
+                 IFrameWidgets* widgets = nullptr);
   ~HeadlessEditor();
+
+  CHullwrightApp& App() { return app_; }
+  CHullwrightView& View() { return view_; }
 
   /// Opens a design; false with `Problem` telling why.
   bool Open(std::u16string_view path);
   const std::u16string& Problem() const { return problem_; }
 
-  /// Repaints a side with all its shapes, and on the top side its devices and anchors, in view.
+  /// Adds a drawing to the side in view; false with `Problem` telling why.
+  bool Import(std::u16string_view path);
+
+  /// Writes the design; false with `Problem` telling why.
+  bool Save(std::u16string_view path);
+
+  /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
+  /// and anchors, or with at least a stretch of the world.
   void ShowSide(std::int32_t side, int width, int height);
+  void ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch);
+
+  /// Draws the side in view as one frame.
+  void Draw() { view_.Repaint(); }
 
 private:
-  struct NoWidgets;
+  struct NoDrawing;
   struct NoPointer;
   struct NoDialogs;
 
-  void FitSide();
+  HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
+
+  WorldBox SideBox() const;
+  void Frame(const WorldBox& box, double marginPart);
 
   MemorySettings settings_;
   KeptMessages messages_;
   SharedLibraries libraries_;
-  std::unique_ptr<NoWidgets> widgets_;
+  NoWidgets noWidgets_;
+  std::unique_ptr<NoDrawing> noDrawing_;
   std::unique_ptr<NoPointer> pointer_;
   std::unique_ptr<NoDialogs> dialogs_;
   CHullwrightApp app_;

@@ -1,55 +1,157 @@
+#include <unistd.h>
+
+#include <algorithm>
 #include <array>
+#include <cstdio>
 
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/Files.h"
+#include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
 #include "dxf/FileDxf.h"
+#include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
 
 constexpr const char* help =
-    "Usage: hullwright-cli import DRAWING.dxf --json\n"
-    "Reads an AutoCAD drawing and prints what it gives as one JSON document: the\n"
-    "result (0 or -1), the records of the log, the extents and the shapes.\n"
+    "Usage: hullwright-cli import DRAWING.dxf... [OPTION...] -o OUT.xml\n"
+    "       hullwright-cli import DRAWING.dxf... --json\n"
+    "Imports AutoCAD drawings into one side of a vessel design and saves it: the\n"
+    "outlines, that is, for a design file holds polylines only. '-' stands for standard\n"
+    "input and output.\n"
     "\n"
-    "  -j, --json  print the document\n";
+    "  -i, --into=DESIGN.xml  the design to add to; without it a new one\n"
+    "  -s, --side=SIDE        top, bottom, right, left, front or rear (top)\n"
+    "  -o, --output=OUT.xml   the design to write\n"
+    "  -j, --json             print what each import gives instead, one JSON document\n"
+    "                         a line: result, log, extents and shapes\n";
 
-/// Stands where the import expects the window that it tells its progress.
-class SilentWindow : public IMainWindow {
-public:
-  bool HasWindow() const override { return true; }
-  void Notify(int, std::intptr_t) override {}
-  void SetModifiedFlag(bool) override {}
+struct Options {
+  std::vector<std::string> drawings;
+  std::string into;
+  std::string output;
+  std::int32_t side = ViewSide::Top;
+  bool json = false;
 };
 
-int PrintJson(const std::string& drawing)
+/// Shows the progress of an import on a terminal; in a pipe it is silent.
+class TerminalProgress : public NoWidgets {
+public:
+  void StartProgress(std::string_view) override { Show(0); }
+  void ShowProgress(int percent) override { Show(percent); }
+  void EndProgress() override
+  {
+    if (isTerminal_) std::fputs("\r\033[K", stderr);
+  }
+
+private:
+  void Show(int percent) const
+  {
+    constexpr int width = 40;
+    if (!isTerminal_) return;
+    const int done = std::clamp(percent, 0, 100) * width / 100;
+    const std::string bar = std::string(static_cast<std::size_t>(done), '#') +
+                            std::string(static_cast<std::size_t>(width - done), '.');
+    std::fprintf(stderr, "\rimporting [%s] %3d %%", bar.c_str(), percent);
+  }
+
+  bool isTerminal_ = isatty(STDERR_FILENO) != 0;
+};
+
+/// Stands where the import expects the window that it tells its progress.
+class ImportWindow : public IMainWindow {
+public:
+  bool HasWindow() const override { return true; }
+  void Notify(int code, std::intptr_t value) override
+  {
+    if (code == Notification::ImportProgress) progress_.ShowProgress(static_cast<int>(value));
+    if (code == Notification::ImportEnd) progress_.EndProgress();
+  }
+  void SetModifiedFlag(bool) override {}
+
+private:
+  TerminalProgress progress_;
+};
+
+int PrintJson(const Options& options)
 {
-  const std::u16string path = WideFromUtf8(drawing);
-  SilentWindow window;
-  const KeptTrace log;
-  CLayer layer;
-  CFileDxf reader(&window, log);
-  const int result = reader.Import(path, &layer);
   JsonWriter json(stdout);
-  WriteImportJson(json, result, log, path, layer);
+  for (const std::string& drawing : options.drawings) {
+    const InputFile input(drawing);
+    const std::u16string path = WideFromUtf8(input.Path());
+    ImportWindow window;
+    const KeptTrace log;
+    CLayer layer;
+    CFileDxf reader(&window, log);
+    const int result = reader.Import(path, &layer);
+    WriteImportJson(json, result, log, path, layer);
+  }
   return 0;
+}
+
+int ImportAll(const Options& options)
+{
+  TerminalProgress progress;
+  HeadlessEditor editor(&progress);
+  if (!options.into.empty()) {
+    const InputFile design(options.into);
+    if (std::string problem = design.Problem(); !problem.empty()) return Fail(problem);
+    if (!editor.Open(WideFromUtf8(design.Path()))) {
+      return Fail(design.Name() + ": " + Utf8FromWide(editor.Problem()));
+    }
+  }
+  editor.App().activeView = options.side;
+  for (const std::string& drawing : options.drawings) {
+    const InputFile input(drawing);
+    if (std::string problem = input.Problem(); !problem.empty()) return Fail(problem);
+    if (!editor.Import(WideFromUtf8(input.Path()))) {
+      return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
+    }
+  }
+  OutputFile output(options.output);
+  if (output.Path().empty()) return Fail(output.Problem());
+  if (!editor.Save(WideFromUtf8(output.Path()))) {
+    return Fail(options.output + ": " + Utf8FromWide(editor.Problem()));
+  }
+  return output.Commit() ? 0 : Fail(output.Problem());
+}
+
+std::string TakeOption(int letter, const std::string& value, Options& options)
+{
+  switch (letter) {
+    case 'i': options.into = value; return {};
+    case 'o': options.output = value; return {};
+    case 'j': options.json = true; return {};
+    default: break;
+  }
+  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
+  if (side == viewSides.end()) return "unknown side '" + value + "'";
+  options.side = side->code;
+  return {};
 }
 
 int Run(int argc, char** argv)
 {
-  static constexpr std::array<option, 2> longOptions = {
-      {{"json", no_argument, nullptr, 'j'}, {nullptr, 0, nullptr, 0}}};
-  bool asJson = false;
+  static constexpr auto longOptions = std::to_array<option>({
+      {"into", required_argument, nullptr, 'i'},
+      {"side", required_argument, nullptr, 's'},
+      {"output", required_argument, nullptr, 'o'},
+      {"json", no_argument, nullptr, 'j'},
+      {nullptr, 0, nullptr, 0},
+  });
+  Options options;
   const Arguments arguments =
-      ReadArguments(argc, argv, "j", longOptions, [&](int, const char*) -> std::string {
-        asJson = true;
-        return {};
+      ReadArguments(argc, argv, "i:s:o:j", longOptions, [&](int letter, const char* value) {
+        return TakeOption(letter, value == nullptr ? "" : value, options);
       });
   if (arguments.wrong) return exitUsage;
-  if (arguments.words.size() != 1) return UsageError("import takes one drawing");
-  if (!asJson) return UsageError("import needs --json");
-  return PrintJson(arguments.words[0]);
+  options.drawings = arguments.words;
+  if (options.drawings.empty()) return UsageError("import takes a drawing or several");
+  if (options.json) return PrintJson(options);
+  if (options.output.empty()) return UsageError("import needs -o OUT.xml, or --json");
+  return ImportAll(options);
 }
 
 }  // namespace

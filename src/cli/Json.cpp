@@ -42,9 +42,9 @@ void JsonWriter::Raw(std::string_view text)
   out_ += text;
 }
 
-void JsonWriter::Key(std::string_view name)
+void JsonWriter::WideKey(std::u16string_view name)
 {
-  Ascii(name);
+  Text(name);
   out_.push_back(':');
   first_ = true;
 }

@@ -22,7 +22,8 @@ public:
   void EndArray() { Close(']'); }
 
   /// Name of the member whose value comes next.
-  void Key(std::string_view name);
+  void Key(std::string_view name) { WideKey(std::u16string(name.begin(), name.end())); }
+  void WideKey(std::u16string_view name);
 
   void Null() { Raw("null"); }
   void Boolean(bool value) { Raw(value ? "true" : "false"); }

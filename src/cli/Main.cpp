@@ -14,15 +14,17 @@ constexpr const char* help =
     "Usage: hullwright-cli VERB [ARGUMENT...]\n"
     "Works on vessel designs and drawings without a window.\n"
     "\n"
-    "  import   read a drawing and tell what it gives\n"
-    "  render   draw sides of a design as pictures\n"
+    "  check    tell what saving a design would lose\n"
+    "  import   import drawings into a design\n"
+    "  info     tell what designs and drawings hold\n"
+    "  render   draw sides of a design or drawing as pictures\n"
     "\n"
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
     "Exit status: 0 success, 1 failure, 2 wrong usage.\n";
 
-const std::array<const Verb*, 2> verbs = {&importVerb, &renderVerb};
+const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
 
 bool IsHelp(std::string_view argument) { return argument == "-h" || argument == "--help"; }
 

@@ -1,15 +1,23 @@
 #include "cli/Picture.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
-#include <QSaveFile>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPicture>
+#include <QSvgGenerator>
+#include <filesystem>
 
 #include "base/Text.h"
-#include "cli/HeadlessEditor.h"
+#include "cli/Files.h"
 #include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
 
 namespace hullwright {
 namespace {
+
+namespace fs = std::filesystem;
 
 /// Fonts need the toolkit, but no display.
 void StartToolkit()
@@ -25,22 +33,168 @@ void StartToolkit()
   static const QGuiApplication toolkit(count, arguments);
 }
 
+std::string EndingOf(const std::string& path)
+{
+  return path == "-" ? ".png" : fs::path(path).extension().string();
+}
+
+/// Sides of a design, drawn on whatever is wanted.
+class SidePainter {
+public:
+  explicit SidePainter(const PictureRequest& request)
+      : request_(request), surface_(request.width, request.height), editor_(drawing_, surface_)
+  {
+  }
+
+  bool HasRoom() { return !surface_.Picture().isNull(); }
+
+  /// Opens the design, or imports the drawing into each side that is asked for.
+  std::string Open(const InputFile& input)
+  {
+    if (std::string problem = input.Problem(); !problem.empty()) return problem;
+    const std::u16string path = WideFromUtf8(input.Path());
+    bool opened = true;
+    if (!input.IsDrawing()) opened = editor_.Open(path);
+    for (const ViewSideEntry& side : request_.sides) {
+      editor_.App().activeView = side.code;
+      if (opened && input.IsDrawing()) opened = editor_.Import(path);
+    }
+    if (request_.grid) {
+      GridSettings grid = editor_.App().LoadGridSettings();
+      grid.show = *request_.grid ? 1 : 0;
+      editor_.App().SaveGridSettings(grid);
+    }
+    return opened ? std::string() : input.Name() + ": " + Utf8FromWide(editor_.Problem());
+  }
+
+  /// Paints one side on a device of the picture's size.
+  void Paint(const ViewSideEntry& side, QPaintDevice& device)
+  {
+    if (request_.stretch) {
+      editor_.ShowSide(side.code, request_.width, request_.height, *request_.stretch);
+    } else {
+      editor_.ShowSide(side.code, request_.width, request_.height);
+    }
+    surface_.SetDevice(&device);
+    editor_.Draw();
+    surface_.SetDevice(nullptr);
+  }
+
+private:
+  const PictureRequest& request_;
+  PaintSurface surface_;
+  PaintBackEnd drawing_;
+  HeadlessEditor editor_;
+};
+
+/// The bytes of a picture file of a size in pixels that `paint` paints on. Empty where there is no
+/// memory for it.
+template <class Paint>
+QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
+{
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (ending == ".svg") {
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setTitle(QStringLiteral("Hullwright"));
+    svg.setSize(size);
+    svg.setViewBox(QRect(QPoint(0, 0), size));
+    svg.setResolution(96);
+    paint(svg);
+  } else if (ending == ".pdf") {
+    constexpr double pointsPerPixel = 72.0 / 96.0;
+    QPdfWriter pdf(&buffer);
+    pdf.setResolution(96);
+    pdf.setTitle(QStringLiteral("Hullwright"));
+    pdf.setPageMargins(QMarginsF());
+    pdf.setPageSize(QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, QString(),
+                              QPageSize::ExactMatch));
+    paint(pdf);
+  } else {
+    QImage picture(size, QImage::Format_RGB32);
+    if (picture.isNull()) return {};
+    picture.fill(Qt::white);
+    paint(picture);
+    picture.save(&buffer, "PNG");
+  }
+  return bytes;
+}
+
+/// Paints all sides with their names, two beside each other or three.
+QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
+{
+  constexpr int gap = 24;
+  constexpr int caption = 40;
+  const auto count = static_cast<int>(request.sides.size());
+  const int columns = count > 4 ? 3 : std::min(count, 2);
+  const int rows = (count + columns - 1) / columns;
+  const QSize cell(request.width + gap, request.height + caption + gap);
+  const QSize size(columns * cell.width() + gap, rows * cell.height() + gap);
+  return MakeFile(EndingOf(request.output), size, [&](QPaintDevice& device) {
+    QPainter sheet(&device);
+    sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(caption / 2);
+    sheet.setFont(font);
+    for (int i = 0; i < count; ++i) {
+      const ViewSideEntry& side = request.sides[static_cast<std::size_t>(i)];
+      const QPoint corner(gap + i % columns * cell.width(), gap + i / columns * cell.height());
+      const QRect area(corner, QSize(request.width, request.height));
+      QPicture picture;
+      painter.Paint(side, picture);
+      sheet.save();
+      sheet.setClipRect(area);
+      sheet.drawPicture(corner, picture);
+      sheet.restore();
+      sheet.setPen(Qt::black);
+      sheet.drawText(QRect(area.bottomLeft(), QSize(area.width(), caption)), Qt::AlignCenter,
+                     QString::fromUtf8(side.name.data(), static_cast<qsizetype>(side.name.size())));
+    }
+  });
+}
+
+std::string WriteFile(const std::string& path, const QByteArray& bytes)
+{
+  if (bytes.isEmpty()) return path + ": no memory for a picture of this size";
+  OutputFile file(path);
+  const bool written = file.Write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  return written ? std::string() : file.Problem();
+}
+
+std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
+{
+  if (!request.oneEach) return request.output;
+  const fs::path path(request.output);
+  std::string name = path.stem().string();
+  name.append("-").append(side.name).append(path.extension().string());
+  return (path.parent_path() / name).string();
+}
+
 }  // namespace
 
-std::string WritePicture(const PictureRequest& request)
+bool IsPictureName(const std::string& path)
+{
+  const std::string ending = EndingOf(path);
+  return ending == ".png" || ending == ".svg" || ending == ".pdf";
+}
+
+std::string WritePictures(const PictureRequest& request)
 {
   StartToolkit();
-  PaintSurface surface(request.width, request.height);
-  if (surface.Picture().isNull()) return "no memory for a picture of this size";
-  PaintBackEnd drawing;
-  HeadlessEditor editor(drawing, surface);
-  if (!editor.Open(WideFromUtf8(request.design))) {
-    return request.design + ": " + Utf8FromWide(editor.Problem());
-  }
-  editor.ShowSide(request.side, request.width, request.height);
-  QSaveFile file(QString::fromStdString(request.output));
-  if (!file.open(QIODevice::WriteOnly) || !surface.Picture().save(&file, "PNG") || !file.commit()) {
-    return request.output + ": " + file.errorString().toStdString();
+  SidePainter painter(request);
+  if (!painter.HasRoom()) return "no memory for a picture of this size";
+  const InputFile input(request.input);
+  if (std::string problem = painter.Open(input); !problem.empty()) return problem;
+  if (request.sheet) return WriteFile(request.output, MakeSheet(request, painter));
+  for (const ViewSideEntry& side : request.sides) {
+    const QByteArray bytes =
+        MakeFile(EndingOf(request.output), QSize(request.width, request.height),
+                 [&](QPaintDevice& device) { painter.Paint(side, device); });
+    if (std::string problem = WriteFile(NameFor(request, side), bytes); !problem.empty()) {
+      return problem;
+    }
   }
   return {};
 }

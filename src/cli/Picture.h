@@ -1,20 +1,32 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
+
+#include "cli/HeadlessEditor.h"
+#include "resources/ViewSides.h"
 
 namespace hullwright {
 
 struct PictureRequest {
-  std::string design;     ///< path of the design file
-  std::int32_t side = 0;  ///< code of the side in view
-  int width = 0;          ///< in pixels
-  int height = 0;
-  std::string output;  ///< path of the picture to write
+  std::string input;   ///< path of a design or a drawing; "-" for standard input
+  std::string output;  ///< path to write; its ending tells the format: .png, .svg or .pdf
+  std::vector<ViewSideEntry> sides;  ///< the sides to draw
+  bool oneEach = false;              ///< a file for each side, its name set before the ending
+  bool sheet = false;                ///< all sides on one sheet, with their names
+  int width = 1600;                  ///< size of a side's picture in pixels
+  int height = 1000;
+  std::optional<WorldBox> stretch;  ///< what to show at least; without it everything
+  std::optional<bool> grid;         ///< whether the grid is drawn; without it as by default
 };
 
-/// Draws one side of a design to a PNG file. Empty on success, else what went wrong. A file is
-/// written whole or not at all.
-std::string WritePicture(const PictureRequest& request);
+/// Draws sides of a design, or of a drawing imported into them, to picture files. Empty on success,
+/// else what went wrong. A file is written whole or not at all.
+std::string WritePictures(const PictureRequest& request);
+
+/// Whether the ending of a path is that of a picture format.
+bool IsPictureName(const std::string& path);
 
 }  // namespace hullwright

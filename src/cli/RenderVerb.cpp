@@ -1,31 +1,27 @@
+#include <algorithm>
 #include <array>
-#include <filesystem>
 #include <string_view>
 
 #include "base/Numbers.h"
 #include "cli/CommandLine.h"
 #include "cli/Picture.h"
-#include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
 
 constexpr const char* help =
-    "Usage: hullwright-cli render DESIGN.xml [OPTION...] -o OUT.png\n"
-    "Draws sides of a vessel design as pictures.\n"
+    "Usage: hullwright-cli render DESIGN.xml|DRAWING.dxf [OPTION...] -o OUT.png|OUT.svg|OUT.pdf\n"
+    "Draws sides of a vessel design, or of a drawing, as pictures. '-' stands for\n"
+    "standard input and, as a PNG, for standard output.\n"
     "\n"
-    "  -s, --side=SIDE       top, bottom, right, left, front, rear, or all (top)\n"
-    "  -z, --size=WxH        size of a picture in pixels (1600x1000)\n"
-    "  -o, --output=OUT.png  the picture to write; with --side=all one file for each\n"
-    "                        side, its name set between OUT and .png\n";
-
-struct Options {
-  std::string design;
-  std::string side = "top";
-  std::string output;
-  int width = 1600;
-  int height = 1000;
-};
+    "  -s, --side=SIDE     top, bottom, right, left, front, rear, or all (top)\n"
+    "  -z, --size=WxH      size of a side's picture in pixels (1600x1000)\n"
+    "  -f, --fit           show everything of the side (the default)\n"
+    "  -v, --view=L,B,R,T  show at least this stretch of the world instead\n"
+    "  -g, --grid=on|off   draw the grid or not (as the program begins: not)\n"
+    "  -c, --sheet         all sides on one sheet, with their names\n"
+    "  -o, --output=OUT    the file to write; its ending tells the format. With\n"
+    "                      --side=all one file a side, its name set before the ending\n";
 
 /// Reads a size from 1 to 20000, the whole text; 0 for anything else.
 int ParseLength(std::string_view text)
@@ -37,57 +33,92 @@ int ParseLength(std::string_view text)
 }
 
 /// Reads "1600x1000"; false for anything else and for sizes that no picture has.
-bool ParseSize(std::string_view text, Options& options)
+bool ParseSize(std::string_view text, PictureRequest& request)
 {
   const std::size_t cross = text.find('x');
   if (cross == std::string_view::npos) return false;
-  options.width = ParseLength(text.substr(0, cross));
-  options.height = ParseLength(text.substr(cross + 1));
-  return options.width > 0 && options.height > 0;
+  request.width = ParseLength(text.substr(0, cross));
+  request.height = ParseLength(text.substr(cross + 1));
+  return request.width > 0 && request.height > 0;
 }
 
-std::string OutputFor(const Options& options, const ViewSideEntry& side)
+/// Reads "-10,-5,10,5": left, bottom, right, top; false for anything else and an empty stretch.
+bool ParseStretch(std::string_view text, PictureRequest& request)
 {
-  if (options.side != "all") return options.output;
-  const std::filesystem::path path(options.output);
-  std::string name = path.stem().string();
-  name.append("-").append(side.name).append(path.extension().string());
-  return (path.parent_path() / name).string();
-}
-
-int Render(const Options& options)
-{
-  bool known = false;
-  for (const ViewSideEntry& side : viewSides) {
-    if (options.side != "all" && options.side != side.name) continue;
-    known = true;
-    const std::string problem = WritePicture(
-        {options.design, side.code, options.width, options.height, OutputFor(options, side)});
-    if (!problem.empty()) return Fail(problem);
+  std::array<double, 4> bounds{};
+  for (std::size_t i = 0; i < bounds.size(); ++i) {
+    const std::size_t comma = std::min(text.find(','), text.size());
+    const std::string_view number = text.substr(0, comma);
+    const bool last = i + 1 == bounds.size();
+    if (number.empty() || number.find_first_not_of("+-.0123456789eE") != std::string_view::npos ||
+        last != (comma == text.size())) {
+      return false;
+    }
+    bounds.at(i) = ParseDouble(number);
+    if (!last) text.remove_prefix(comma + 1);
   }
-  return known ? 0 : UsageError("unknown side '" + options.side + "'");
+  request.stretch = {bounds[0], bounds[1], bounds[2], bounds[3]};
+  return bounds[0] < bounds[2] && bounds[1] < bounds[3];
+}
+
+/// The side of a name, or all of them; nothing for another word.
+std::vector<ViewSideEntry> SidesOf(std::string_view name)
+{
+  std::vector<ViewSideEntry> sides;
+  std::ranges::copy_if(viewSides, std::back_inserter(sides), [name](const ViewSideEntry& side) {
+    return name == "all" || name == side.name;
+  });
+  return sides;
+}
+
+std::string TakeOption(int letter, const std::string& value, PictureRequest& request)
+{
+  switch (letter) {
+    case 's':
+      request.sides = SidesOf(value);
+      request.oneEach = value == "all";
+      return request.sides.empty() ? "unknown side '" + value + "'" : "";
+    case 'z': return ParseSize(value, request) ? "" : "not a size: '" + value + "'";
+    case 'v': return ParseStretch(value, request) ? "" : "not a stretch: '" + value + "'";
+    case 'g':
+      request.grid = value == "on";
+      return value == "on" || value == "off" ? "" : "the grid is on or off, not '" + value + "'";
+    case 'f': request.stretch.reset(); return {};
+    case 'c': request.sheet = true; return {};
+    default: request.output = value; return {};
+  }
 }
 
 int Run(int argc, char** argv)
 {
-  static constexpr std::array<option, 4> longOptions = {
-      {{"side", required_argument, nullptr, 's'},
-       {"size", required_argument, nullptr, 'z'},
-       {"output", required_argument, nullptr, 'o'},
-       {nullptr, 0, nullptr, 0}}};
-  Options options;
-  const Arguments arguments = ReadArguments(
-      argc, argv, "s:z:o:", longOptions, [&](int letter, const char* value) -> std::string {
-        if (letter == 's') options.side = value;
-        if (letter == 'o') options.output = value;
-        const bool sized = letter != 'z' || ParseSize(value, options);
-        return sized ? "" : "not a size: '" + std::string(value) + "'";
+  static constexpr auto longOptions = std::to_array<option>({
+      {"side", required_argument, nullptr, 's'},
+      {"size", required_argument, nullptr, 'z'},
+      {"fit", no_argument, nullptr, 'f'},
+      {"view", required_argument, nullptr, 'v'},
+      {"grid", required_argument, nullptr, 'g'},
+      {"sheet", no_argument, nullptr, 'c'},
+      {"output", required_argument, nullptr, 'o'},
+      {nullptr, 0, nullptr, 0},
+  });
+  PictureRequest request;
+  request.sides = SidesOf("top");
+  const Arguments arguments =
+      ReadArguments(argc, argv, "s:z:fv:g:co:", longOptions, [&](int letter, const char* value) {
+        return TakeOption(letter, value == nullptr ? "" : value, request);
       });
   if (arguments.wrong) return exitUsage;
-  if (arguments.words.size() != 1) return UsageError("render takes one design file");
-  if (options.output.empty()) return UsageError("render needs -o OUT.png");
-  options.design = arguments.words[0];
-  return Render(options);
+  if (arguments.words.size() != 1) return UsageError("render takes one design or drawing");
+  if (!IsPictureName(request.output))
+    return UsageError("render needs -o with a .png, .svg or .pdf");
+  if (request.sheet) {
+    request.sides = SidesOf("all");
+  } else if (request.oneEach && request.output == "-") {
+    return UsageError("standard output takes one picture only");
+  }
+  request.input = arguments.words[0];
+  const std::string problem = WritePictures(request);
+  return problem.empty() ? 0 : Fail(problem);
 }
 
 }  // namespace

@@ -18,6 +18,7 @@ namespace hullwright {
 struct CFileDxf::Keyword {
   std::string_view word;
   bool inBlocks;
+  bool skipped;
   void (*read)(CFileDxf& file, CShapes& target);
 };
 
@@ -25,36 +26,42 @@ const CFileDxf::Keyword* CFileDxf::FindKeyword(std::string_view line, bool inBlo
 {
   constexpr auto skip = [](CFileDxf& file, CShapes&) { file.SkipEntity(); };
   static constexpr auto keywords = std::to_array<Keyword>({
-      {"VERTEX", true, [](CFileDxf& file, CShapes&) { file.ReadVertex(); }},
-      {"SPLINE", false, skip},
-      {"LWPOLYLINE", true, [](CFileDxf& file, CShapes& to) { file.ReadLwPolyline(to); }},
-      {"POLYLINE", true, [](CFileDxf& file, CShapes&) { file.ReadPolyline(); }},
-      {"MTEXT", true, [](CFileDxf& file, CShapes& to) { file.ReadMText(to); }},
-      {"ELLIPSE", false, [](CFileDxf& file, CShapes& to) { file.ReadEllipse(to); }},
-      {"TEXT", true, [](CFileDxf& file, CShapes& to) { file.ReadText(to); }},
-      {"SOLID", true, [](CFileDxf& file, CShapes& to) { file.ReadSolid(to); }},
-      {"POINT", true, [](CFileDxf& file, CShapes& to) { file.ReadPoint(to); }},
-      {"LINE", true, [](CFileDxf& file, CShapes& to) { file.ReadLine(to); }},
-      {"ARC", true, [](CFileDxf& file, CShapes& to) { file.ReadArc(to); }},
-      {"CIRCLE", true, [](CFileDxf& file, CShapes& to) { file.ReadCircle(to); }},
-      {"SEQEND", true, [](CFileDxf& file, CShapes& to) { file.ReadSeqEnd(to); }},
-      {"HATCH", true, skip},
-      {"INSERT", true, [](CFileDxf& file, CShapes& to) { file.ReadInsert(to); }},
-      {"ATTRIB", true, [](CFileDxf& file, CShapes& to) { file.ReadAttribute(to); }},
-      {"ATTDEF", true, [](CFileDxf& file, CShapes& to) { file.ReadAttribute(to); }},
-      {"3DFACE", true, [](CFileDxf& file, CShapes& to) { file.Read3DFace(to); }},
-      {"VIEWPORT", true, skip},
-      {"LEADER", true, skip},
-      {"WIPEOUT", false, skip},
-      {"MULTILEADER", false, skip},
-      {"DIMENSION", true, skip},
-      {"ARC_DIMENSION", false, skip},
-      {"OLE2FRAME", false, skip},
-      {"IMAGE", false, skip},
+      {"VERTEX", true, false, [](CFileDxf& file, CShapes&) { file.ReadVertex(); }},
+      {"SPLINE", false, true, skip},
+      {"LWPOLYLINE", true, false, [](CFileDxf& file, CShapes& to) { file.ReadLwPolyline(to); }},
+      {"POLYLINE", true, false, [](CFileDxf& file, CShapes&) { file.ReadPolyline(); }},
+      {"MTEXT", true, false, [](CFileDxf& file, CShapes& to) { file.ReadMText(to); }},
+      {"ELLIPSE", false, false, [](CFileDxf& file, CShapes& to) { file.ReadEllipse(to); }},
+      {"TEXT", true, false, [](CFileDxf& file, CShapes& to) { file.ReadText(to); }},
+      {"SOLID", true, false, [](CFileDxf& file, CShapes& to) { file.ReadSolid(to); }},
+      {"POINT", true, false, [](CFileDxf& file, CShapes& to) { file.ReadPoint(to); }},
+      {"LINE", true, false, [](CFileDxf& file, CShapes& to) { file.ReadLine(to); }},
+      {"ARC", true, false, [](CFileDxf& file, CShapes& to) { file.ReadArc(to); }},
+      {"CIRCLE", true, false, [](CFileDxf& file, CShapes& to) { file.ReadCircle(to); }},
+      {"SEQEND", true, false, [](CFileDxf& file, CShapes& to) { file.ReadSeqEnd(to); }},
+      {"HATCH", true, true, skip},
+      {"INSERT", true, false, [](CFileDxf& file, CShapes& to) { file.ReadInsert(to); }},
+      {"ATTRIB", true, false, [](CFileDxf& file, CShapes& to) { file.ReadAttribute(to); }},
+      {"ATTDEF", true, false, [](CFileDxf& file, CShapes& to) { file.ReadAttribute(to); }},
+      {"3DFACE", true, false, [](CFileDxf& file, CShapes& to) { file.Read3DFace(to); }},
+      {"VIEWPORT", true, true, skip},
+      {"LEADER", true, true, skip},
+      {"WIPEOUT", false, true, skip},
+      {"MULTILEADER", false, true, skip},
+      {"DIMENSION", true, true, skip},
+      {"ARC_DIMENSION", false, true, skip},
+      {"OLE2FRAME", false, true, skip},
+      {"IMAGE", false, true, skip},
   });
   const auto* const found = std::ranges::find(keywords, line, &Keyword::word);
   if (found == keywords.end() || (inBlock && !found->inBlocks)) return nullptr;
   return found;
+}
+
+bool CFileDxf::IsImported(std::string_view keyword)
+{
+  const Keyword* const found = FindKeyword(keyword, false);
+  return found != nullptr && !found->skipped;
 }
 
 void CFileDxf::RunReader(const Keyword& keyword, CShapes& target)

@@ -111,6 +111,9 @@ public:
   /// Takes the formatting codes out of a shape's text; codes for colours colour it.
   void CleanTextCodes(CShapeText& shape) const;
 
+  /// Whether an entity of the entities section becomes a shape, or belongs to one.
+  static bool IsImported(std::string_view keyword);
+
   template <class Value>
   using NameMap = std::map<std::string, std::unique_ptr<Value>, std::less<>>;
 

@@ -105,14 +105,16 @@ void PaintTarget::Resize(int width, int height) { surface_.Allocate(width, heigh
 
 void PaintTarget::BeginDraw()
 {
-  if (surface_.Picture().isNull()) return;
-  painter_.begin(&surface_.Picture());
+  QPaintDevice* const device = surface_.Device();
+  if (device == nullptr) return;
+  painter_.begin(device);
   painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
 void PaintTarget::Clear(const Colour& colour)
 {
-  if (painter_.isActive()) surface_.Picture().fill(ToQt(colour));
+  if (!painter_.isActive()) return;
+  painter_.fillRect(QRectF(0.0, 0.0, surface_.Width(), surface_.Height()), ToQt(colour));
 }
 
 ResultCode PaintTarget::EndDraw()

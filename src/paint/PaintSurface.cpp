@@ -15,6 +15,12 @@ std::optional<PixelSize> PaintSurface::ClientSize() const
   return PixelSize{static_cast<float>(width_), static_cast<float>(height_)};
 }
 
+QPaintDevice* PaintSurface::Device()
+{
+  if (device_ != nullptr) return device_;
+  return picture_.isNull() ? nullptr : &picture_;
+}
+
 void PaintSurface::Allocate(int width, int height)
 {
   width_ = std::max(width, 0);

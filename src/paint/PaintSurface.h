@@ -20,6 +20,13 @@ public:
   /// leaves none.
   void Allocate(int width, int height);
 
+  /// Lets frames be painted on another device, such as a page, whose unit is the client pixel; null
+  /// for the picture again.
+  void SetDevice(QPaintDevice* device) { device_ = device; }
+
+  /// What frames are painted on; null when there is nothing.
+  QPaintDevice* Device();
+
   /// Pixels of the monitor for one client pixel; counts from the next `Allocate`.
   void SetRatio(double ratio) { ratio_ = ratio; }
   double Ratio() const { return ratio_; }
@@ -35,6 +42,7 @@ private:
   int height_ = 0;
   double ratio_;
   QImage picture_;
+  QPaintDevice* device_ = nullptr;
 };
 
 }  // namespace hullwright

@@ -1,0 +1,166 @@
+#include "cli/DesignInfo.h"
+
+#include <cinttypes>
+#include <cstdio>
+#include <limits>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+namespace {
+
+struct Offset {
+  const char* name;
+  const char* title;
+  const CShapeVertex& place;
+};
+
+std::vector<Offset> OffsetsOf(const CHullwrightApp& app)
+{
+  return {{"gps", "GNSS antenna", *app.offsetGps},
+          {"txd", "echo sounder", *app.offsetTransducer},
+          {"piv", "pivot", *app.offsetPivot}};
+}
+
+/// What stands in one group.
+struct GroupSummary {
+  std::string side;
+  std::size_t polylines = 0;
+  std::size_t vertices = 0;
+  WorldBox box{};
+};
+
+GroupSummary Summarise(const CShapes& group)
+{
+  constexpr double largest = std::numeric_limits<double>::max();
+  GroupSummary summary;
+  const ViewSideEntry* const side = FindViewSide(group.viewCode);
+  summary.side = side != nullptr ? std::string(side->name)
+                 : group.viewCode == ViewSide::All
+                     ? "all"
+                     : "view " + FormatHex(static_cast<std::uint32_t>(group.viewCode), 2);
+  WorldBox& box = summary.box;
+  box = {largest, largest, -largest, -largest};
+  ForEachEntry(group.shapes, [&](const CShape& shape) {
+    ++summary.polylines;
+    summary.vertices += shape.vertices.size();
+    shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
+  });
+  return summary;
+}
+
+bool HasBox(const GroupSummary& summary) { return summary.box.minX <= summary.box.maxX; }
+
+std::string Place(double x, double y) { return FormatFixed(x, 3) + ", " + FormatFixed(y, 3); }
+
+std::string UnitOf(HeadlessEditor& editor)
+{
+  const std::u16string name = editor.App().GetUnitName();
+  return name.empty() ? "unknown" : Utf8FromWide(name);
+}
+
+void WriteNumbers(JsonWriter& json, std::initializer_list<double> numbers)
+{
+  json.BeginArray();
+  for (const double number : numbers) json.Double(number);
+  json.EndArray();
+}
+
+void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
+{
+  json.BeginObject();
+  json.Key("id");
+  json.Integer(anchor.id);
+  json.Key("name");
+  json.Text(anchor.name);
+  json.Key("attachment");
+  WriteNumbers(json, {anchor.attachmentX, anchor.attachmentY});
+  json.EndObject();
+}
+
+void WriteGroup(JsonWriter& json, const CShapes& group)
+{
+  const GroupSummary summary = Summarise(group);
+  json.BeginObject();
+  json.Key("view");
+  json.Integer(group.viewCode);
+  json.Key("side");
+  json.Ascii(summary.side);
+  json.Key("polylines");
+  json.Integer(static_cast<std::int64_t>(summary.polylines));
+  json.Key("vertices");
+  json.Integer(static_cast<std::int64_t>(summary.vertices));
+  json.Key("extents");
+  if (HasBox(summary)) {
+    WriteNumbers(json, {summary.box.minX, summary.box.minY, summary.box.maxX, summary.box.maxY});
+  } else {
+    json.Null();
+  }
+  json.EndObject();
+}
+
+}  // namespace
+
+void PrintDesign(HeadlessEditor& editor, const std::string& name)
+{
+  const CHullwrightApp& app = editor.App();
+  std::printf("%s: design\n  unit          %s (EPSG %" PRId32 ")\n", name.c_str(),
+              UnitOf(editor).c_str(), app.unitCode);
+  for (const Offset& offset : OffsetsOf(app)) {
+    std::printf("  %-12s  %s, %s\n", offset.title, Place(offset.place.x, offset.place.y).c_str(),
+                FormatFixed(offset.place.z, 3).c_str());
+  }
+  ForEachEntry(app.anchors->items, [](const CAnchor& anchor) {
+    std::printf("  anchor %-6" PRIu32 " %s  %s\n", anchor.id,
+                Place(anchor.attachmentX, anchor.attachmentY).c_str(),
+                Utf8FromWide(anchor.name).c_str());
+  });
+  ForEachEntry(app.shapeGroups, [](const CShapes& group) {
+    const GroupSummary summary = Summarise(group);
+    std::printf("  %-12s  %zu polylines, %zu vertices", summary.side.c_str(), summary.polylines,
+                summary.vertices);
+    if (HasBox(summary)) {
+      std::printf(", from %s to %s", Place(summary.box.minX, summary.box.minY).c_str(),
+                  Place(summary.box.maxX, summary.box.maxY).c_str());
+    }
+    std::puts("");
+  });
+}
+
+void WriteDesignJson(JsonWriter& json, HeadlessEditor& editor, const std::string& name)
+{
+  const CHullwrightApp& app = editor.App();
+  json.BeginObject();
+  json.Key("file");
+  json.Text(WideFromUtf8(name));
+  json.Key("kind");
+  json.Ascii("design");
+  json.Key("unit");
+  json.BeginObject();
+  json.Key("code");
+  json.Integer(app.unitCode);
+  json.Key("name");
+  json.Text(WideFromUtf8(UnitOf(editor)));
+  json.EndObject();
+  json.Key("offsets");
+  json.BeginObject();
+  for (const Offset& offset : OffsetsOf(app)) {
+    json.Key(offset.name);
+    WriteNumbers(json, {offset.place.x, offset.place.y, offset.place.z});
+  }
+  json.EndObject();
+  json.Key("anchors");
+  json.BeginArray();
+  ForEachEntry(app.anchors->items, [&](const CAnchor& anchor) { WriteAnchor(json, anchor); });
+  json.EndArray();
+  json.Key("groups");
+  json.BeginArray();
+  ForEachEntry(app.shapeGroups, [&](const CShapes& group) { WriteGroup(json, group); });
+  json.EndArray();
+  json.EndObject();
+  json.EndLine();
+}
+
+}  // namespace hullwright

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "cli/Json.h"
+#include "dxf/FileDxf.h"
+
+namespace hullwright {
+
+/// What a drawing holds, as the import sees it.
+struct DrawingSummary {
+  struct LayerLook {
+    std::int32_t colour;
+    bool off;
+    bool frozen;
+  };
+  std::map<std::string, LayerLook> layers;
+  std::map<std::string, std::size_t> blocks;    ///< with the number of their shapes
+  std::map<std::string, std::size_t> entities;  ///< keywords of the entities section
+  std::map<std::string, std::size_t> ignored;   ///< those of them that nothing is made of
+  std::size_t shapes = 0;                       ///< what the import gives
+  double minX = 0.0;
+  double minY = 0.0;
+  double maxX = 0.0;
+  double maxY = 0.0;
+};
+
+/// Reads a drawing; false when that fails.
+bool SummariseDrawing(std::u16string_view path, DrawingSummary& summary);
+
+/// Prints a summary as text for people.
+void PrintDrawing(const DrawingSummary& summary, const std::string& name);
+
+/// The same as one JSON document.
+void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std::string& name);
+
+}  // namespace hullwright

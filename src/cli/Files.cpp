@@ -1,0 +1,168 @@
+#include "cli/Files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+
+namespace hullwright {
+namespace {
+
+constexpr std::string_view standardStream = "-";
+
+/// An open file; closes itself.
+class Descriptor {
+public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor()
+  {
+    if (number_ >= 0) close(number_);
+  }
+  int Number() const { return number_; }
+
+private:
+  int number_;
+};
+
+/// Makes an empty file with a name of its own in a folder; its path, empty where that fails.
+std::string MakeTemporary(const std::filesystem::path& folder)
+{
+  std::string path = (folder / ".hullwright-XXXXXX").string();
+  const Descriptor file(mkstemp(path.data()));
+  if (file.Number() < 0) return {};
+  // As a file made in the usual way would be, not for its owner alone.
+  const mode_t mask = umask(0);
+  umask(mask);
+  fchmod(file.Number(), 0666 & ~mask);
+  return path;
+}
+
+bool WriteAll(int file, std::string_view bytes)
+{
+  while (!bytes.empty()) {
+    const ssize_t written = write(file, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+bool Copy(int from, int to)
+{
+  std::array<char, 1U << 16U> block{};
+  for (;;) {
+    const ssize_t length = read(from, block.data(), block.size());
+    if (length < 0 && errno == EINTR) continue;
+    if (length <= 0) return length == 0;
+    if (!WriteAll(to, {block.data(), static_cast<std::size_t>(length)})) return false;
+  }
+}
+
+std::string Reason(int error) { return strerrordesc_np(error); }
+
+}  // namespace
+
+InputFile::InputFile(const std::string& name) : name_(name), path_(name)
+{
+  if (name != standardStream) return;
+  name_ = "standard input";
+  path_ = MakeTemporary(std::filesystem::temp_directory_path());
+  temporary_ = true;
+  const Descriptor copy(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
+  Copy(STDIN_FILENO, copy.Number());
+}
+
+InputFile::~InputFile()
+{
+  if (temporary_) unlink(path_.c_str());
+}
+
+std::string InputFile::Problem() const
+{
+  struct stat status {};
+  if (stat(path_.c_str(), &status) != 0) return name_ + ": " + Reason(errno);
+  if (S_ISDIR(status.st_mode)) return name_ + ": " + Reason(EISDIR);
+  if (!S_ISREG(status.st_mode)) return name_ + ": It is not a file";
+  const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+  return file.Number() < 0 ? name_ + ": " + Reason(errno) : std::string();
+}
+
+bool InputFile::IsDrawing() const
+{
+  if (!temporary_) {
+    const std::string extension = std::filesystem::path(path_).extension().string();
+    return strcasecmp(extension.c_str(), ".dxf") == 0;
+  }
+  const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+  std::array<char, 512> start{};
+  const ssize_t length = read(file.Number(), start.data(), start.size());
+  const std::string_view text(start.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+  const std::size_t first = text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
+  return first == std::string_view::npos || text[first] != '<';
+}
+
+OutputFile::OutputFile(const std::string& name) : name_(name)
+{
+  namespace fs = std::filesystem;
+  const bool toStandardOutput = name == standardStream;
+  std::error_code ignored;
+  // What a link points at is replaced, not the link.
+  const fs::path target = fs::exists(name, ignored) ? fs::canonical(name, ignored) : fs::path(name);
+  if (!toStandardOutput) name_ = target.string();
+  if (!toStandardOutput && fs::is_directory(target, ignored)) {
+    Fail(EISDIR);
+    return;
+  }
+  if (!toStandardOutput && fs::exists(target, ignored) && access(target.c_str(), W_OK) != 0) {
+    Fail(errno);
+    return;
+  }
+  const fs::path folder =
+      toStandardOutput ? fs::temp_directory_path() : fs::absolute(target).parent_path();
+  path_ = MakeTemporary(folder);
+  if (path_.empty()) Fail(errno);
+}
+
+OutputFile::~OutputFile()
+{
+  if (!path_.empty()) unlink(path_.c_str());
+}
+
+bool OutputFile::Fail(int error)
+{
+  problem_ = (name_ == standardStream ? "standard output" : name_) + ": " + Reason(error);
+  return false;
+}
+
+bool OutputFile::Commit()
+{
+  if (path_.empty()) return false;
+  if (name_ == standardStream) {
+    const Descriptor written(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+    return Copy(written.Number(), STDOUT_FILENO) || Fail(errno);
+  }
+  if (rename(path_.c_str(), name_.c_str()) != 0) return Fail(errno);
+  path_.clear();
+  return true;
+}
+
+bool OutputFile::Write(std::string_view bytes)
+{
+  if (path_.empty()) return false;
+  {
+    const Descriptor file(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!WriteAll(file.Number(), bytes)) return Fail(errno);
+  }
+  return Commit();
+}
+
+}  // namespace hullwright

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace hullwright {
+
+/// A file to read; "-" stands for what comes on standard input.
+class InputFile {
+public:
+  /// Reads standard input to its end where that is asked for.
+  explicit InputFile(const std::string& name);
+  InputFile(const InputFile&) = delete;
+  InputFile& operator=(const InputFile&) = delete;
+  ~InputFile();
+
+  /// Where the file lies.
+  const std::string& Path() const { return path_; }
+
+  /// What messages call it.
+  const std::string& Name() const { return name_; }
+
+  /// Why the file can't be read; empty when it can.
+  std::string Problem() const;
+
+  /// Whether it is an AutoCAD drawing: by its name, or, on standard input, when it doesn't begin as
+  /// XML does.
+  bool IsDrawing() const;
+
+private:
+  std::string name_;
+  std::string path_;
+  bool temporary_ = false;
+};
+
+/// A file that comes to be whole or not at all; "-" stands for standard output. What is there
+/// under the name stays until the new one is complete.
+class OutputFile {
+public:
+  explicit OutputFile(const std::string& name);
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+  ~OutputFile();
+
+  /// Where to write; empty when nothing can be written there.
+  const std::string& Path() const { return path_; }
+
+  /// Puts what was written in its place; false with `Problem` where that fails.
+  bool Commit();
+
+  /// Writes a whole file and commits it.
+  bool Write(std::string_view bytes);
+
+  /// What went wrong, with the file's name.
+  const std::string& Problem() const { return problem_; }
+
+private:
+  bool Fail(int error);
+
+  std::string name_;
+  std::string path_;
+  std::string problem_;
+};
+
+}  // namespace hullwright

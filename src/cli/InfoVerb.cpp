@@ -1,0 +1,79 @@
+#include <array>
+
+#include "base/Text.h"
+#include "cli/CommandLine.h"
+#include "cli/DesignInfo.h"
+#include "cli/DrawingInfo.h"
+#include "cli/Files.h"
+
+namespace hullwright {
+namespace {
+
+constexpr const char* help =
+    "Usage: hullwright-cli info DESIGN.xml|DRAWING.dxf... [--json]\n"
+    "Tells what designs hold: the unit, the offsets, the anchors, and of each side the\n"
+    "polylines, their vertices and extents; of drawings the layers, the blocks, the\n"
+    "entities, and what of them the import ignores. '-' stands for standard input.\n"
+    "\n"
+    "  -j, --json  as JSON, one document a line\n";
+
+int InfoOfDrawing(const InputFile& input, bool asJson)
+{
+  DrawingSummary summary;
+  if (!SummariseDrawing(WideFromUtf8(input.Path()), summary)) {
+    return Fail(input.Name() + ": the drawing can't be read, or it is empty");
+  }
+  if (!asJson) {
+    PrintDrawing(summary, input.Name());
+    return 0;
+  }
+  JsonWriter json(stdout);
+  WriteDrawingJson(json, summary, input.Name());
+  return 0;
+}
+
+int InfoOfDesign(const InputFile& input, bool asJson)
+{
+  HeadlessEditor editor;
+  if (!editor.Open(WideFromUtf8(input.Path()))) {
+    return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
+  }
+  if (!asJson) {
+    PrintDesign(editor, input.Name());
+    return 0;
+  }
+  JsonWriter json(stdout);
+  WriteDesignJson(json, editor, input.Name());
+  return 0;
+}
+
+int Run(int argc, char** argv)
+{
+  static constexpr std::array<option, 2> longOptions = {
+      {{"json", no_argument, nullptr, 'j'}, {nullptr, 0, nullptr, 0}}};
+  bool asJson = false;
+  const Arguments arguments =
+      ReadArguments(argc, argv, "j", longOptions, [&](int, const char*) -> std::string {
+        asJson = true;
+        return {};
+      });
+  if (arguments.wrong) return exitUsage;
+  if (arguments.words.empty()) return UsageError("info takes a design or a drawing, or several");
+  int status = 0;
+  for (const std::string& word : arguments.words) {
+    const InputFile input(word);
+    const std::string problem = input.Problem();
+    if (!problem.empty()) {
+      status = Fail(problem);
+    } else if (input.IsDrawing() ? InfoOfDrawing(input, asJson) : InfoOfDesign(input, asJson)) {
+      status = exitFailed;
+    }
+  }
+  return status;
+}
+
+}  // namespace
+
+const Verb infoVerb = {"info", help, Run};
+
+}  // namespace hullwright
