@@ -18,7 +18,7 @@ constexpr const char* help =
     "  -z, --size=WxH      size of a side's picture in pixels (1600x1000)\n"
     "  -f, --fit           show everything of the side (the default)\n"
     "  -v, --view=L,B,R,T  show at least this stretch of the world instead\n"
-    "  -g, --grid=on|off   draw the grid or not (as the program begins: not)\n"
+    "  -g, --grid=on|off   draw the grid or not (on)\n"
     "  -c, --sheet         all sides on one sheet, with their names\n"
     "  -o, --output=OUT    the file to write; its ending tells the format. With\n"
     "                      --side=all one file a side, its name set before the ending\n";

@@ -12,6 +12,7 @@ EXPECTED = (
     "share/Sondaris/Database/geo.db",
     "share/applications/hullwright.desktop",
     "share/icons/hicolor/scalable/apps/hullwright.svg",
+    "share/man/man1/hullwright-cli.1",
     "share/mime/packages/hullwright.xml",
 )
 

@@ -1,0 +1,147 @@
+#!/usr/bin/env python3
+"""hullwright-cli import"""
+
+import json
+import os
+import pty
+import re
+import subprocess
+import unittest
+
+from cli import PROGRAM, SAMPLES, CliTest
+
+
+class ImportTest(CliTest):
+    """Drawings into designs."""
+
+    def import_json(self, path):
+        """The document that an import prints."""
+        text = self.succeed("import", path, "--json").decode()
+        self.assertTrue(text.endswith("}\n"))
+        return json.loads(text)
+
+    def test_prints_every_kind_of_shape(self):
+        path = self.drawing(
+            "Zeichnung Ä.dxf",
+            "0", "LINE", "5", "1F", "8", "Hull", "62", "1", "10", "0.1", "20", "-0", "11", "1e300",
+            "0", "POINT", "10", "1", "20", "2", "30", "3",
+            "0", "SOLID", "10", "nan", "20", "inf", "30", "-inf",
+            "0", "TEXT", "1", 'a "b" \\\\ \\U+D83D\\U+DEA2 \\U+D83D ^I Ä', "40", "2.5", "50", "90")
+        result = self.import_json(path)
+        style = {"line": 0, "fill": 0, "width": 1.0, "styleCode": 7}
+        names = [["LAYER", ""], ["HANDLE", ""]]
+        line, point, solid, text = result["shapes"]
+        self.assertEqual(line, {"type": 2, "tag": 31, "style": {**style, "line": 255, "fill": 255},
+                                "attrs": [["LAYER", "Hull"], ["HANDLE", "1F"]],
+                                "vertices": [[0.1, 0.0, 0.0], [1e300, 0.0, 0.0]]})
+        self.assertEqual(point, {"type": 1, "tag": 0, "style": style, "attrs": names,
+                                 "vertices": [[1.0, 2.0, 3.0]]})
+        self.assertEqual(solid, {"type": 3, "tag": 0, "style": style, "attrs": names, "vertices": [],
+                                 "rings": [[["nan", "inf", "-inf"], [0.0] * 3, [0.0] * 3, [0.0] * 3]]})
+        self.assertEqual((text["type"], text["angle"], text["height"]), (8, 270.0, 2.5))
+        self.assertEqual(text["text"], 'a "b" \\\\ 🚢 \ud83d \t Ä')
+        self.assertIn("-0.0", self.succeed("import", path, "--json").decode())
+        self.assertEqual(result["result"], 0)
+        self.assertEqual(result["extents"][0], -1.0)
+
+    def test_prints_the_log_without_the_path(self):
+        result = self.import_json(self.drawing("a.dxf"))
+        self.assertEqual(result["log"][0], [32, "Processing", "[DXF] Successfully opened file: [%ls]."])
+        self.assertEqual(result["log"][-1][2], "Successfully loaded the selected AutoCAD DXF file: "
+                         "[ %ls]. Please see the 'Processing' tab for details.")
+
+    def test_a_failed_import_is_a_result_too(self):
+        result = self.import_json(self.folder / "missing.dxf")
+        self.assertEqual(result, {"result": -1, "extents": [0.0] * 4, "shapes": [], "log": [[
+            1, "General", "[DXF] Failed to open AutoCAD DXF file. Either the file does not exist, or it "
+            "is empty: [%ls]."]]})
+
+    def test_blocks_that_multiply_stop_at_the_budget(self):
+        blocks = ["0", "SECTION", "2", "BLOCKS", "0", "BLOCK", "2", "b0", "0", "POINT", "0", "ENDBLK"]
+        for level in range(1, 40):
+            blocks += ["0", "BLOCK", "2", f"b{level}", *["0", "INSERT", "2", f"b{level - 1}"] * 10,
+                       "0", "ENDBLK"]
+        path = self.folder / "many.dxf"
+        path.write_text("\n".join([*blocks, "0", "ENDSEC", "0", "SECTION", "2", "ENTITIES", "0", "INSERT",
+                                   "2", "b39", "0", "LINE", "0", "ENDSEC", ""]))
+        result = self.import_json(path)
+        self.assertEqual(len(result["shapes"]), 1)
+        self.assertEqual([entry[0] for entry in result["log"] if entry[1] == "General"], [1, 32])
+
+    # -- into a design
+
+    def polylines(self, path):
+        """Number of the polylines of each side of a design, by its view code."""
+        text = path.read_text()
+        return {view: body.count("<polyline>")
+                for view, body in re.findall(r'<shapes view="(..)" >(.*?)</shapes>', text, re.S)}
+
+    def test_several_drawings_make_a_new_design(self):
+        out = self.folder / "new boat.xml"
+        plan = SAMPLES / "dxf" / "workboat-r2018.dxf"
+        self.succeed("import", plan, self.drawing("a.dxf", "0", "LINE", "11", "5"), "--side", "left", "-o", out)
+        self.assertEqual(self.polylines(out), {"08": 57})
+
+    def test_adds_to_a_design(self):
+        out = self.folder / "boat.xml"
+        boat = SAMPLES / "workboat.xml"
+        self.succeed("import", self.drawing("a.dxf", "0", "LINE", "11", "5"), "--into", boat, "-s", "rear", "-o", out)
+        before, after = self.polylines(boat), self.polylines(out)
+        self.assertEqual(after.pop("20"), before.pop("20") + 1)
+        self.assertEqual(after, before)
+        self.assertIn('<vertex x="5.000" y="0.000" z="0.000" />', out.read_text())
+        self.assertIn("<name>Bow Port</name>", out.read_text())
+
+    def test_a_design_may_be_added_to_in_place(self):
+        boat = self.write("boat.xml", (SAMPLES / "catamaran.xml").read_text())
+        self.succeed("import", self.drawing("a.dxf", "0", "LINE"), "-i", boat, "-o", boat)
+        self.assertEqual(sum(self.polylines(boat).values()),
+                         sum(self.polylines(SAMPLES / "catamaran.xml").values()) + 1)
+
+    def test_standard_input_and_output(self):
+        data = self.drawing("a.dxf", "0", "LINE", "11", "7").read_bytes()
+        self.assertIn(b'<vertex x="7.000"', self.succeed("import", "-", "-o", "-", data=data))
+        self.assertEqual(json.loads(self.succeed("import", "-", "--json", data=data))["shapes"][0]["type"], 2)
+
+    def test_in_a_pipe_no_progress_is_shown(self):
+        lines = ["0", "LINE", "10", "1"] * 5000
+        self.succeed("import", self.drawing("a.dxf", *lines), "-o", self.folder / "out.xml")
+
+    def test_on_a_terminal_a_bar_grows(self):
+        master, terminal = pty.openpty()
+        lines = ["0", "LINE", "10", "1"] * 5000
+        path = self.drawing("a.dxf", *lines)
+        done = subprocess.run([PROGRAM, "import", path, "-o", self.folder / "out.xml"], stderr=terminal, check=True)
+        os.close(terminal)
+        shown = b""
+        while b"100 %" not in shown:
+            shown += os.read(master, 65536)
+        os.close(master)
+        self.assertEqual(done.returncode, 0)
+        self.assertIn(b"importing [########", shown)
+        self.assertIn(b" 50 %", shown)
+
+    def test_failures_are_told_and_leave_nothing(self):
+        out = self.folder / "out.xml"
+        good = self.drawing("good.dxf", "0", "LINE")
+        self.fail_with(1, ("missing.dxf", "No such file"), "import", good, self.folder / "missing.dxf", "-o", out)
+        self.fail_with(1, ("empty.dxf", "empty"), "import", self.write("empty.dxf", ""), "-o", out)
+        self.fail_with(1, ("missing.xml",), "import", good, "-i", self.folder / "missing.xml", "-o", out)
+        bad = self.write("bad.xml", "<vessel>")
+        self.fail_with(1, ("bad.xml", "not a well-formed"), "import", good, "-i", bad, "-o", out)
+        self.fail_with(1, ("out.xml",), "import", good, "-o", self.folder / "none" / "out.xml")
+        self.fail_with(1, ("out.xml",), "import", good, "-o", self.read_only_folder() / "out.xml")
+
+    def test_a_failure_keeps_the_file_of_before(self):
+        out = self.write("out.xml", "precious")
+        self.fail_with(1, ("missing.dxf",), "import", self.folder / "missing.dxf", "-o", out)
+        self.assertEqual(out.read_text(), "precious")
+
+    def test_wrong_usage(self):
+        path = self.drawing("a.dxf")
+        self.assert_usage_errors(("import",), ("import", path), ("import", path, "--xml"),
+                                 ("import", path, "-s", "all", "-o", "x.xml"), ("import", path, "-o"))
+
+
+if __name__ == "__main__":
+    unittest.main()

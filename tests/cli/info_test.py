@@ -1,0 +1,141 @@
+#!/usr/bin/env python3
+"""hullwright-cli info and check"""
+
+import json
+import os
+import unittest
+
+from cli import SAMPLES, CliTest, run
+
+HEAD = '<?xml version="1.0" encoding="UTF-8"?>\n<vessel>\n <units id="9001" />\n'
+TAIL = (' <gps x="1.000" y="2.000" z="3.000" />\n <txd x="0.000" y="0.000" z="0.000" />\n'
+        ' <piv x="0.000" y="0.000" z="0.000" />\n <anchors>\n </anchors>\n</vessel>\n')
+GROUP = ' <shapes view="01" >\n  <polyline>\n   <vertex x="1.000" y="2.000" z="0.000" />\n  </polyline>\n </shapes>\n'
+
+
+class InfoTest(CliTest):
+    """What files hold."""
+
+    def test_a_design(self):
+        text = self.succeed("info", SAMPLES / "workboat.xml").decode()
+        for line in ("unit          metre (EPSG 9001)", "GNSS antenna  1.200, 0.000, 0.000",
+                     "anchor 1      9.500, 2.126  Bow Port",
+                     "bottom        38 polylines, 421 vertices, from -12.750, -3.500 to 12.000, 3.500"):
+            self.assertIn(line, text)
+
+    def test_a_design_as_json(self):
+        design = self.write("b\u00f6t.xml", HEAD + GROUP + ' <shapes view="03" >\n </shapes>\n' + TAIL)
+        info = json.loads(self.succeed("info", design, "--json"))
+        self.assertEqual(info, {
+            "file": str(design), "kind": "design", "unit": {"code": 9001, "name": "metre"},
+            "offsets": {"gps": [1.0, 2.0, 3.0], "txd": [0.0] * 3, "piv": [0.0] * 3}, "anchors": [],
+            "groups": [
+                {"view": 1, "side": "top", "polylines": 1, "vertices": 1, "extents": [1.0, 2.0, 1.0, 2.0]},
+                {"view": 3, "side": "view 03", "polylines": 0, "vertices": 0, "extents": None}]})
+
+    def test_an_unknown_unit(self):
+        design = self.write("b.xml", HEAD.replace("9001", "4711") + TAIL)
+        self.assertIn("unknown (EPSG 4711)", self.succeed("info", design).decode())
+
+    def test_a_drawing(self):
+        text = self.succeed("info", SAMPLES / "dxf" / "workboat-r2000.dxf").decode()
+        for line in ("layer CONSTRUCTION: colour -2, off", "layer DIMENSIONS: colour 6, frozen",
+                     "blocks and their shapes: *Model_Space 0 *Paper_Space 0 BOLLARD 3", "LWPOLYLINE 4",
+                     "ignored: none", "imported: 70 shapes, from -11.600, -5.200 to 12.000, 4.100"):
+            self.assertIn(line, text)
+
+    def test_a_drawing_as_json_with_what_is_ignored(self):
+        drawing = self.drawing("a.dxf", "0", "LINE", "1", "HATCH", "0", "HATCH", "2", "SOLID", "0", "RAY",
+                               "0", "SPLINE", "0", "SPLINE")
+        info = json.loads(self.succeed("info", "-j", drawing))
+        self.assertEqual(info["entities"], {"HATCH": 1, "LINE": 1, "RAY": 1, "SPLINE": 2})
+        self.assertEqual(info["ignored"], {"HATCH": 1, "RAY": 1, "SPLINE": 2})
+        self.assertEqual((info["kind"], info["shapes"], info["layers"]),
+                         ("drawing", 1, {"": {"colour": 256, "off": False, "frozen": False}}))
+
+    def test_several_files_and_standard_input(self):
+        out = self.succeed("info", "--json", "-", SAMPLES / "dredger.xml", data=(HEAD + TAIL).encode())
+        self.assertEqual([json.loads(line)["file"] for line in out.splitlines()],
+                         ["standard input", str(SAMPLES / "dredger.xml")])
+
+    def test_a_failure_does_not_keep_the_others_back(self):
+        done = run("info", self.folder / "missing.xml", SAMPLES / "dredger.xml")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn(b"missing.xml: No such file or directory", done.stderr)
+        self.assertIn(b"dredger.xml: design", done.stdout)
+
+    def test_failures(self):
+        self.fail_with(1, ("bad.xml",), "info", self.write("bad.xml", "<vessel>"))
+        self.fail_with(1, ("empty.dxf",), "info", self.write("empty.dxf", ""))
+        pipe = self.folder / "pipe"
+        os.mkfifo(pipe)
+        self.fail_with(1, ("pipe",), "info", pipe)
+        self.assert_usage_errors(("info",), ("info", "--xml", "a"))
+
+
+class CheckTest(CliTest):
+    """What a save would lose."""
+
+    def findings(self, text):
+        """What is found in a design of this text."""
+        done = run("check", self.write("boat \u00fc.xml", text))
+        self.assertEqual(done.returncode, 1, done.stderr)
+        prefix = f"{self.folder / 'boat ü.xml'}: "
+        lines = done.stdout.decode().splitlines()
+        self.assertTrue(all(line.startswith(prefix) for line in lines))
+        return [line.removeprefix(prefix) for line in lines]
+
+    def test_samples_and_saved_designs_lose_nothing(self):
+        self.assertEqual(self.succeed("check", *sorted(SAMPLES.glob("*.xml"))), b"")
+        self.assertEqual(self.succeed("check", self.write("a.xml", HEAD + GROUP + TAIL)), b"")
+        self.assertEqual(self.succeed("check", "-", data=(HEAD + TAIL).encode()), b"")
+
+    def test_decimals(self):
+        self.assertEqual(self.findings(HEAD + GROUP.replace("1.000", "1.2345").replace("2.000", "0.0001") + TAIL),
+                         ['decimals past the third are lost (2): x of <vertex>="1.2345", saved as 1.234'])
+
+    def test_unknown_elements_and_attributes(self):
+        found = self.findings(HEAD + GROUP.replace("<vertex ", '<vertex colour="1" ').replace(
+            "</polyline>", "<arc r='1' /></polyline>") + ' <engine><power /></engine>\n' + TAIL)
+        self.assertEqual(found, ["unknown attributes are lost (1): colour=\"1\" of <vertex>",
+                                 "unknown elements are lost (3): <arc> in <polyline>"])
+
+    def test_groups(self):
+        found = self.findings(HEAD + GROUP + GROUP + GROUP.replace("01", "03") + GROUP.replace("01", "x") + TAIL)
+        self.assertEqual(found, [
+            'groups have a view code of no side, so they are never seen (1): view="03"',
+            'groups without a view code become the top side (1): view="x"',
+            'several groups have one view code; only the first is seen and edited (1): view="01"'])
+
+    def test_anchors(self):
+        anchor = ("<anchor><id>x7</id><name>Bow</name><vessel>2</vessel><attachmentX>1.23456</attachmentX>"
+                  "<attachmentY>2</attachmentY><easting>5</easting></anchor>")
+        found = self.findings(HEAD + TAIL.replace("<anchors>", "<anchors>" + anchor))
+        self.assertEqual(found, [
+            'decimals past the third are lost (1): <attachmentX>="1.23456", saved as 1.235',
+            "numbers of anchors change (1): <id> x7",
+            "the vessel of an anchor is read but not written (1): <vessel> in <anchor>",
+            "unknown elements are lost (1): <easting> in <anchor>"])
+
+    def test_what_is_missing_or_doubled_or_no_number(self):
+        found = self.findings('<vessel>a text<units id="0x9" /><gps x="1" y="one" /><gps x="1" y="2" z="3" /></vessel>')
+        self.assertEqual(found, [
+            'a unit of code 0 is not saved; it opens as 9001 (1): <units>',
+            'coordinates are missing or are no numbers (2): y of <gps>="one", saved as 0.000',
+            "elements that should come once come again; the last one counts (1): <gps>",
+            'text between elements is lost (1): "a text" in <vessel>',
+            'unit codes change (1): id="0x9"',
+            "there is no <txd>; a save writes one of its own",
+            "there is no <piv>; a save writes one of its own"])
+
+    def test_designs_that_cannot_be_read(self):
+        self.fail_with(2, ("bad.xml:2:", "hullwright-cli"), "check", self.write("bad.xml", "<vessel>\n</wessel>"))
+        self.fail_with(2, ("missing.xml", "No such file"), "check", self.folder / "missing.xml")
+        done = run("check", self.folder / "missing.xml", self.write("a.xml", HEAD + GROUP + GROUP + TAIL))
+        self.assertEqual(done.returncode, 2)
+        self.assertIn(b"several groups", done.stdout)
+        self.assert_usage_errors(("check",), ("check", "--fix", "a.xml"))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""hullwright-cli render"""
+
+import os
+import re
+import unittest
+
+from cli import SAMPLES, SIDES, CliTest, run, size_of
+
+BOAT = SAMPLES / "workboat.xml"
+PLAN = SAMPLES / "dxf" / "workboat-r2010.dxf"
+
+
+class RenderTest(CliTest):
+    """Pictures of designs and drawings."""
+
+    def test_one_side_at_the_size_asked_for(self):
+        out = self.folder / "right side.png"
+        self.assertEqual(self.succeed("render", BOAT, "--side", "right", "--size", "320x200", "-o", out), b"")
+        self.assertEqual(size_of(out.read_bytes()), (320, 200))
+
+    def test_all_sides_each_to_its_file(self):
+        self.succeed("render", SAMPLES / "dredger.xml", "--side=all", "-z", "160x100", "-o", self.folder / "b.png")
+        self.assertEqual(sorted(p.name for p in self.folder.iterdir()), sorted(f"b-{side}.png" for side in SIDES))
+        self.assertEqual(len({p.read_bytes() for p in self.folder.iterdir()}), len(SIDES))
+
+    def test_a_drawing_is_imported_into_the_side(self):
+        self.succeed("render", PLAN, "-s", "left", "-z", "300x200", "-o", self.folder / "plan.png")
+        self.succeed("render", self.drawing("none.dxf"), "-s", "left", "-z", "300x200", "-o", self.folder / "none.png")
+        self.assertNotEqual((self.folder / "plan.png").read_bytes(), (self.folder / "none.png").read_bytes())
+
+    def test_svg_has_vectors_and_texts(self):
+        out = self.folder / "plan.svg"
+        self.succeed("render", PLAN, "-z", "400x250", "-o", out)
+        text = out.read_text(encoding="utf-8")
+        self.assertRegex(text, r'viewBox="0 0 400 250"')
+        self.assertGreater(len(re.findall(r"<(?:path|polyline|line)\b", text)), 100)
+        self.assertIn("Schlepphaken", text)
+        self.assertNotIn("<image", text)
+
+    def test_pdf_is_one_page_of_the_size(self):
+        out = self.folder / "boat.pdf"
+        self.succeed("render", BOAT, "-z", "400x300", "-o", out)
+        data = out.read_bytes()
+        self.assertTrue(data.startswith(b"%PDF-") and data.rstrip().endswith(b"%%EOF"))
+        self.assertRegex(data, rb"/MediaBox \[0 0 300(\.0*)? 225(\.0*)?\]")
+        self.assertNotIn(b"/Subtype /Image", data)
+
+    def test_a_sheet_has_all_sides(self):
+        for ending in ("png", "svg", "pdf"):
+            out = self.folder / f"sheet.{ending}"
+            self.succeed("render", BOAT, "--sheet", "-z", "160x100", "-o", out)
+            self.assertEqual([p.name for p in self.folder.iterdir()], [out.name])
+            data = out.read_bytes()
+            if ending == "png":
+                self.assertEqual(size_of(data), (3 * (160 + 24) + 24, 2 * (100 + 64) + 24))
+            if ending == "svg":
+                for side in SIDES:
+                    self.assertIn(side.encode(), data)
+            out.unlink()
+
+    def test_the_stretch_of_the_world_and_the_grid(self):
+        pictures = set()
+        for i, options in enumerate(((), ("--view=-5,-5,5,5",), ("-v", "-5,-5,5,5", "--fit"), ("--grid=on",),
+                                     ("--grid", "off"))):
+            out = self.folder / f"{i}.png"
+            self.succeed("render", BOAT, "-z", "200x120", *options, "-o", out)
+            pictures.add(out.read_bytes())
+        self.assertEqual(len(pictures), 3)  # everything, the stretch, everything without the grid
+
+    def test_standard_input_and_output(self):
+        for path in (BOAT, PLAN):
+            data = self.succeed("render", "-", "-z", "64x40", "-o", "-", data=path.read_bytes())
+            self.assertEqual(size_of(data), (64, 40))
+
+    def test_an_existing_picture_is_replaced_and_a_link_followed(self):
+        out = self.write("old.png", "old")
+        link = self.folder / "link.png"
+        link.symlink_to(out)
+        self.succeed("render", BOAT, "-z", "64x40", "-o", link)
+        self.assertTrue(link.is_symlink())
+        self.assertEqual(size_of(out.read_bytes()), (64, 40))
+        mask = os.umask(0)
+        os.umask(mask)
+        self.assertEqual(out.stat().st_mode & 0o777, 0o666 & ~mask)
+
+    def test_failures_are_told_with_the_files_name(self):
+        out = self.folder / "out.png"
+        self.fail_with(1, ("missing.xml", "No such file"), "render", self.folder / "missing.xml", "-o", out)
+        self.fail_with(1, (self.folder.name, "directory"), "render", self.folder, "-o", out)
+        bad = self.write("bad.xml", "<vessel>")
+        self.fail_with(1, ("bad.xml", "not a well-formed design file"), "render", bad, "-o", out)
+        empty = self.write("empty.dxf", "")
+        self.fail_with(1, ("empty.dxf", "empty"), "render", empty, "-o", out)
+        self.fail_with(1, ("out.png", "No such file"), "render", BOAT, "-o", self.folder / "none" / "out.png")
+        locked = self.read_only_folder()
+        self.fail_with(1, ("out.png",), "render", BOAT, "-o", locked / "out.png")
+        folder = self.folder / "folder.png"
+        folder.mkdir()
+        self.fail_with(1, ("folder.png", "directory"), "render", BOAT, "-o", folder)
+
+    def test_a_pipe_is_no_design(self):
+        pipe = self.folder / "pipe.xml"
+        os.mkfifo(pipe)
+        self.fail_with(1, ("pipe.xml", "not a file"), "render", pipe, "-o", self.folder / "out.png")
+
+    def test_wrong_usage(self):
+        out = self.folder / "out.png"
+        self.assert_usage_errors(
+            ("render",), ("render", BOAT), ("render", BOAT, BOAT, "-o", out), ("render", BOAT, "-o", "out.gif"),
+            ("render", BOAT, "--side", "above", "-o", out), ("render", BOAT, "--size", "12", "-o", out),
+            ("render", BOAT, "--size", "0x5", "-o", out), ("render", BOAT, "--size", "5x99999", "-o", out),
+            ("render", BOAT, "--size", "5x5x5", "-o", out), ("render", BOAT, "--fast", "-o", out),
+            ("render", BOAT, "--view", "1,2,3", "-o", out), ("render", BOAT, "--view", "1,2,3,4,5", "-o", out),
+            ("render", BOAT, "--view", "5,0,1,4", "-o", out), ("render", BOAT, "--view", "a,0,1,4", "-o", out),
+            ("render", BOAT, "--grid", "maybe", "-o", out), ("render", BOAT, "-s", "all", "-o", "-"), ("render", BOAT, "-o"))
+
+    def test_help_and_version(self):
+        for verb in ("check", "import", "info", "render"):
+            self.assertIn(verb.encode(), self.succeed("--help"))
+            self.assertIn(f"Usage: hullwright-cli {verb}".encode(), self.succeed(verb, "--help"))
+        self.assertRegex(self.succeed("--version").decode(), r"^hullwright-cli \d+\.\d+\.\d+\n$")
+        self.assert_usage_errors((), ("draw",), ("--wrong",))
+        self.assertEqual(run("-h").returncode, 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
