@@ -132,6 +132,27 @@ TEST_F(PlainEntities, TheExtrusionIsRoundedToSinglePrecision)
   EXPECT_EQ(point.z, sixTenths * 2000000.0);
 }
 
+TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
+{
+  // Compilers have been seen to drop some of these roundings in an optimised build.
+  const DxfPoint normal = {0.3, 0.1, 0.9};
+  CFileDxf reader(&window, log);
+  for (const DxfPoint& unit :
+       {DxfPoint{1.0, 0.0, 0.0}, DxfPoint{0.0, 1.0, 0.0}, DxfPoint{0.0, 0.0, 1.0}}) {
+    DxfPoint point = unit;
+    reader.ApplyExtrusion(point, normal);
+    for (const double component : {point.x, point.y, point.z}) {
+      volatile float rounded = static_cast<float>(component);
+      EXPECT_EQ(component, static_cast<double>(rounded)) << component;
+    }
+  }
+  DxfPoint far = {1000000.0, 2000000.0, 0.0};
+  reader.ApplyExtrusion(far, normal);
+  EXPECT_EQ(far.x, -2106310.337781906);
+  EXPECT_EQ(far.y, 351989.15004730225);
+  EXPECT_EQ(far.z, 662993.5503005981);
+}
+
 TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
 {
   CFileDxf reader(&window, log);

@@ -1,0 +1,392 @@
+#include <algorithm>
+#include <array>
+
+#include "base/Text.h"
+#include "file/FileSax.h"
+#include "model/Layer.h"
+#include "model/ShapePolygon.h"
+#include "model/Units.h"
+#include "replay/driver/Player.h"
+#include "replay/driver/Script.h"
+#include "view/SnapToGrid.h"
+
+// Single operations that a script calls by their names.
+namespace hullwright::replay {
+namespace {
+
+/// The arguments of a call.
+class Args {
+public:
+  explicit Args(const QJsonArray& list) : list_(list) {}
+  QJsonValue At(int index) const { return list_.at(index); }
+  double Number(int index) const { return NumberOf(list_.at(index)); }
+  int Integer(int index) const { return static_cast<int>(list_.at(index).toInteger()); }
+  std::string Name(int index) const { return list_.at(index).toString().toStdString(); }
+  int Count() const { return static_cast<int>(list_.size()); }
+
+private:
+  QJsonArray list_;
+};
+
+CShapes& GroupOf(ReplayEditor& editor, int index)
+{
+  return *editor.app.shapeGroups.at(static_cast<std::size_t>(index));
+}
+
+CShape& ShapeOf(ReplayEditor& editor, const Args& args)
+{
+  return *GroupOf(editor, args.Integer(0)).shapes.at(static_cast<std::size_t>(args.Integer(1)));
+}
+
+Value SixFields(const CShapeVertex& v)
+{
+  return Row(v.x, v.y, v.z, static_cast<int>(v.flag), v.tagA, v.tagB);
+}
+
+Value VertexOp(ReplayEditor&, const Args& args)
+{
+  const std::string op = args.Name(0);
+  CShapeVertex a = VertexOf(args.At(1));
+  if (op == "muld") return SixFields(a * args.Number(2));
+  if (op == "divd") return SixFields(a / args.Number(2));
+  const CShapeVertex b = VertexOf(args.At(2));
+  if (op == "less") return a < b;
+  if (op == "equal") return a == b;
+  if (op == "add") return SixFields(a + b);
+  if (op == "sub") return SixFields(a - b);
+  if (op == "divv") return SixFields(a / b);
+  if (op == "assign") return SixFields(a = b);
+  if (op == "iadd") return SixFields(a += b);
+  if (op == "isub") return SixFields(a -= b);
+  return "skip";
+}
+
+Value ConvertUnits(ReplayEditor&, const Args& args)
+{
+  CShapeVertex vertex(args.Number(2), args.Number(3), args.Number(4));
+  const bool converted = vertex.ConvertUnits(args.Integer(0), args.Integer(1));
+  return Row(converted, vertex.x, vertex.y, vertex.z);
+}
+
+Value Snap(ReplayEditor& editor, const Args& args)
+{
+  double x = args.Number(0);
+  double y = args.Number(1);
+  SnapToGrid(editor.app.LoadGridSettings(), x, y);
+  return Row(x, y);
+}
+
+Value SegmentDistance(ReplayEditor&, const Args& args)
+{
+  double distance = 0.0;
+  const CShapeVertex a(args.Number(0), args.Number(1), 0.0);
+  const CShapeVertex b(args.Number(2), args.Number(3), 0.0);
+  const CShapeVertex p(args.Number(4), args.Number(5), 0.0);
+  const bool has = DistanceToSegment(a, b, p, distance);
+  return Row(has, has ? Value(distance) : Value());
+}
+
+Value GetExtents(ReplayEditor& editor, const Args& args)
+{
+  constexpr double largest = std::numeric_limits<double>::max();
+  std::array<double, 4> box = {largest, largest, -largest, -largest};
+  for (int i = 0; i < 4 && i + 2 < args.Count(); ++i) {
+    box.at(static_cast<std::size_t>(i)) = args.Number(i + 2);
+  }
+  ShapeOf(editor, args).GetExtents(box[0], box[1], box[2], box[3]);
+  return Row(box[0], box[1], box[2], box[3]);
+}
+
+Value Transform(ReplayEditor& editor, const Args& args)
+{
+  CShape& shape = ShapeOf(editor, args);
+  const std::string kind = args.Name(2);
+  if (kind == "Rotate") shape.Rotate(args.Number(3));
+  if (kind == "Scale") shape.Scale(args.Number(3), args.Number(4), args.Number(5));
+  if (kind == "Translate") shape.Translate(args.Number(3), args.Number(4), args.Number(5));
+  return {};
+}
+
+Value AddArc(ReplayEditor&, const Args& args)
+{
+  CShapePolyline line;
+  line.AddArc(args.Number(0), args.Number(1), args.Number(2), args.Number(3), args.Number(4));
+  Value::List list;
+  for (const auto& vertex : line.vertices) list.push_back(Of(*vertex));
+  return list;
+}
+
+Value FindGroup(ReplayEditor& editor, const Args& args)
+{
+  auto& groups = editor.app.shapeGroups;
+  const CShapes* const group = GetShapes(groups, args.Integer(0));
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    if (group != nullptr && groups[i].get() == group) return i;
+  }
+  return {};
+}
+
+Value UpdateExtents(ReplayEditor& editor, const Args& args)
+{
+  CLayer layer;
+  CShapes& group = GroupOf(editor, args.Integer(0));
+  layer.shapes->TakeShapes(group);
+  const std::array<double, 4> before = {args.Number(1), args.Number(2), args.Number(3),
+                                        args.Number(4)};
+  layer.minX = before[0];
+  layer.minY = before[1];
+  layer.maxX = before[2];
+  layer.maxY = before[3];
+  const bool again = std::ranges::any_of(before, [](double bound) { return bound == 0.0; });
+  layer.UpdateExtents();
+  group.TakeShapes(*layer.shapes);
+  return Row(again, layer.minX, layer.minY, layer.maxX, layer.maxY);
+}
+
+Value RemoveForeign(ReplayEditor& editor, const Args& args)
+{
+  CShape& shape = ShapeOf(editor, args);
+  auto foreign = std::make_unique<CShapeVertex>();
+  // Rings take over what they are told to remove; all others leave it to its owner.
+  const bool takesOver =
+      shape.type == ShapeType::Polygon && !static_cast<const CShapePolygon&>(shape).rings.empty();
+  shape.RemoveVertex(takesOver ? foreign.release() : foreign.get());
+  return {};
+}
+
+AttributeMap AttributesOf(const QJsonValue& value)
+{
+  AttributeMap attributes;
+  const QJsonObject object = value.toObject();
+  for (auto member = object.begin(); member != object.end(); ++member) {
+    attributes[member.key().toStdU16String()] = WideOf(member.value());
+  }
+  return attributes;
+}
+
+Value WriteXml(ReplayEditor& editor, const Args& args)
+{
+  CFileSax file(editor.messages);
+  file.ResetOutput();
+  for (const QJsonValue& call : args.At(0).toArray()) {
+    const QJsonArray parts = call.toArray();
+    const QString name = parts.at(0).toString();
+    const std::u16string element = WideOf(parts.at(1));
+    if (name == u"WriteDeclaration") file.WriteDeclaration();
+    if (name == u"OpenElement" && parts.size() < 3) file.OpenElement(element);
+    if (name == u"OpenElement" && parts.size() >= 3) {
+      file.OpenElement(element, AttributesOf(parts.at(2)));
+    }
+    if (name == u"CloseElement") file.CloseElement(element);
+    if (name == u"WriteTextElement") file.WriteTextElement(element, WideOf(parts.at(2)));
+    if (name == u"WriteEmptyElement") {
+      file.WriteEmptyElement(element, AttributesOf(parts.at(2)), WideOf(parts.at(3)));
+    }
+  }
+  return Row(file.Output(), file.indent, file.outLength, file.outCapacity);
+}
+
+Value SaveGrid(ReplayEditor& editor, const Args& args)
+{
+  GridSettings grid = editor.app.LoadGridSettings();
+  const QJsonObject changes = args.At(0).toObject();
+  grid.show = changes[u"show"].toInt(grid.show);
+  grid.snap = changes[u"snap"].toInt(grid.snap);
+  const auto spacing = [&](const char* name, double& field) {
+    const QJsonValue value = changes[QLatin1String(name)];
+    if (!value.isUndefined()) field = NumberOf(value);
+  };
+  spacing("spacingShowX", grid.spacingShowX);
+  spacing("spacingShowY", grid.spacingShowY);
+  spacing("spacingSnapX", grid.spacingSnapX);
+  spacing("spacingSnapY", grid.spacingSnapY);
+  editor.app.SaveGridSettings(grid);
+  return {};
+}
+
+Value InitialiseCanvas(ReplayEditor&, const Args& args)
+{
+  constexpr std::array<std::string_view, 4> steps = {"D2D1CreateFactory", "CreateHwndRenderTarget",
+                                                     "DWriteCreateFactory", "CoCreateInstance"};
+  FrameRecorder recorder;
+  NoWindow window;
+  const std::string failing = args.Name(0);
+  const auto* const step = std::ranges::find(steps, failing);
+  if (step != steps.end()) recorder.failingStep = static_cast<int>(step - steps.begin());
+  window.isWindow = failing != "IsWindow";
+  recorder.failCode = static_cast<ResultCode>(args.At(1).toInteger());
+  CCanvas canvas(recorder);
+  const bool success = canvas.Initialize(&window);
+  const int kept = (canvas.renderTarget ? 1 : 0) + (canvas.factory ? 1 : 0) +
+                   (canvas.writeFactory ? 1 : 0) + (canvas.imagingFactory ? 1 : 0);
+  return Row(success, std::string_view(canvas.errorText), kept);
+}
+
+Value StrokesOf(ReplayEditor&, const Args& args)
+{
+  FrameRecorder recorder;
+  NoWindow window;
+  CCanvas canvas(recorder);
+  canvas.Initialize(&window);
+  std::vector<PixelPoint> points;
+  for (const QJsonValue& point : args.At(0).toArray()) {
+    points.push_back({static_cast<float>(NumberOf(point.toArray().at(0))),
+                      static_cast<float>(NumberOf(point.toArray().at(1)))});
+  }
+  const auto brush = canvas.renderTarget->CreateSolidColourBrush({});
+  canvas.DrawPolyline(*brush, points, 1.0F);
+  return recorder.strokes;
+}
+
+Value Widths(ReplayEditor&, const Args& args)
+{
+  const auto widths = PaneWidths(args.Integer(0));
+  return Row(widths[0], widths[1], widths[2]);
+}
+
+Value UnitLabel(ReplayEditor& editor, const Args& args)
+{
+  std::u16string label = WideOf(args.At(0));
+  editor.app.GetUnitLabel(label);
+  return label;
+}
+
+Value OnViewPort(ReplayEditor& editor, const std::string& name, const Args& args)
+{
+  CViewPort& v = *editor.view.viewPort;
+  if (name == "Contains") return v.Contains(args.Number(0), args.Number(1));
+  if (name == "ScreenToWorld") {
+    const WorldPoint p = v.ScreenToWorld(args.Number(0), args.Number(1));
+    return Row(p.x, p.y);
+  }
+  if (name == "WorldToScreen" || name == "WorldToScreenFlat") {
+    const ScreenPoint p = name == "WorldToScreen"
+                              ? v.WorldToScreen(args.Number(0), args.Number(1))
+                              : v.WorldToScreenFlat(args.Number(0), args.Number(1));
+    return Row(p.x, p.y);
+  }
+  if (name == "KeepAspect") v.KeepAspect();
+  if (name == "FitExtents") {
+    v.FitExtents(args.Number(0), args.Number(1), args.Number(2), args.Number(3));
+  }
+  if (name == "ZoomToExtents") {
+    v.ZoomToExtents(args.Number(0), args.Number(1), args.Number(2), args.Number(3));
+  }
+  return {};
+}
+
+Value OnShape(ReplayEditor& editor, const std::string& name, const Args& args)
+{
+  CShape& shape = ShapeOf(editor, args);
+  CShapes& group = GroupOf(editor, args.Integer(0));
+  const CViewPort* const viewPort = editor.view.viewPort.get();
+  if (name == "HitTest") return shape.HitTest(viewPort, args.Number(2), args.Number(3));
+  if (name == "DistanceTo") return shape.DistanceTo(args.Number(2), args.Number(3));
+  if (name == "IsVisible") return shape.IsVisible(*viewPort);
+  if (name == "CloneShape") group.shapes.push_back(shape.Clone());
+  if (name == "Reset") shape.Reset();
+  if (name == "AppendVertices") {
+    const auto source = static_cast<std::size_t>(args.Integer(2));
+    dynamic_cast<CShapePolyline&>(shape).AppendVertices(
+        dynamic_cast<const CShapePolyline*>(group.shapes.at(source).get()));
+  }
+  if (name == "ContainsPoint") {
+    const auto& rings = dynamic_cast<const CShapePolygon&>(shape).rings;
+    return rings.at(static_cast<std::size_t>(args.Integer(2)))
+        ->ContainsPoint(args.Number(3), args.Number(4));
+  }
+  if (name == "PolygonAddVertex") {
+    dynamic_cast<CShapePolygon&>(shape).AddVertex(
+        std::make_unique<CShapeVertex>(args.Number(3), args.Number(4), args.Number(5)),
+        static_cast<std::size_t>(args.Integer(2)));
+  }
+  return {};
+}
+
+template <auto Operation>
+Value By(ReplayEditor& editor, const std::string&, const Args& args)
+{
+  return Operation(editor, args);
+}
+
+struct CallEntry {
+  std::string_view name;
+  Value (*call)(ReplayEditor&, const std::string&, const Args&);
+};
+
+constexpr auto calls = std::to_array<CallEntry>({
+    {"ToMetres",
+     [](ReplayEditor&, const std::string&, const Args& a) -> Value {
+       return ToMetres(a.Integer(0), a.Number(1));
+     }},
+    {"FromMetres",
+     [](ReplayEditor&, const std::string&, const Args& a) -> Value {
+       return FromMetres(a.Integer(0), a.Number(1));
+     }},
+    {"ConvertUnits", By<ConvertUnits>},
+    {"VertexOp", By<VertexOp>},
+    {"SnapToGrid", By<Snap>},
+    {"DistanceToSegment", By<SegmentDistance>},
+    {"WorldToScreen", OnViewPort},
+    {"WorldToScreenFlat", OnViewPort},
+    {"ScreenToWorld", OnViewPort},
+    {"Contains", OnViewPort},
+    {"KeepAspect", OnViewPort},
+    {"FitExtents", OnViewPort},
+    {"ZoomToExtents", OnViewPort},
+    {"HitTest", OnShape},
+    {"DistanceTo", OnShape},
+    {"IsVisible", OnShape},
+    {"GetExtents", By<GetExtents>},
+    {"ContainsPoint", OnShape},
+    {"PolygonAddVertex", OnShape},
+    {"CloneShape", OnShape},
+    {"AppendVertices", OnShape},
+    {"AppendClones",
+     [](ReplayEditor& e, const std::string&, const Args& a) -> Value {
+       GroupOf(e, a.Integer(0)).AppendClones(&GroupOf(e, a.Integer(1)));
+       return {};
+     }},
+    {"RemoveForeign", By<RemoveForeign>},
+    {"Reset", OnShape},
+    {"Transform", By<Transform>},
+    {"AddArc", By<AddArc>},
+    {"GetShapes", By<FindGroup>},
+    {"UpdateExtents", By<UpdateExtents>},
+    {"NewAnchor",
+     [](ReplayEditor& e, const std::string&, const Args&) -> Value {
+       return e.app.anchors->NewAnchor()->id;
+     }},
+    {"Escape",
+     [](ReplayEditor&, const std::string&, const Args& a) -> Value {
+       return Escape(WideOf(a.At(0)));
+     }},
+    {"Write", By<WriteXml>},
+    {"GetUnitLabel", By<UnitLabel>},
+    {"LoadGridSettings",
+     [](ReplayEditor& e, const std::string&, const Args&) -> Value {
+       return Of(e.app.LoadGridSettings());
+     }},
+    {"SaveGridSettings", By<SaveGrid>},
+    {"PaneWidths", By<Widths>},
+    {"CanvasInitialize", By<InitialiseCanvas>},
+    {"DrawPolylineCount", By<StrokesOf>},
+});
+
+}  // namespace
+
+std::optional<Value> CallOperation(ReplayEditor& editor, const std::string& name,
+                                   const QJsonArray& arguments)
+{
+  const auto* const found = std::ranges::find(calls, name, &CallEntry::name);
+  if (found == calls.end()) return std::nullopt;
+  try {
+    return found->call(editor, name, Args(arguments));
+  } catch (const std::out_of_range&) {
+    return "no such place";
+  } catch (const std::bad_cast&) {
+    return "no such shape";
+  }
+}
+
+}  // namespace hullwright::replay

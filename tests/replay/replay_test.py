@@ -1,0 +1,85 @@
+#!/usr/bin/env python3
+"""Plays every script below this folder and compares what it does with what stands in it.
+
+A script is a file of JSON lines, as hullwright-replay takes them. A line that begins with "#=" tells what the
+step before it must report: each member that it names, and whatever it leaves out is left open. Lists count as a
+whole, "*" stands for any value, and numbers may differ in their last digits. Other lines with "#" are remarks.
+"""
+
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+FEWEST = 150  # scripts; fewer, and somebody has lost some
+
+
+def difference(expected, found, place=""):
+    """Where the found value is not the expected one; None where it is."""
+    if expected == "*":
+        return None
+    if isinstance(expected, dict) and isinstance(found, dict):
+        for name, value in expected.items():
+            if name not in found:
+                return f"{place}/{name} is missing"
+            told = difference(value, found[name], f"{place}/{name}")
+            if told:
+                return told
+        return None
+    if isinstance(expected, list) and isinstance(found, list):
+        if len(expected) != len(found):
+            return f"{place} has {len(found)} entries instead of {len(expected)}: {json.dumps(found)[:400]}"
+        tolds = (difference(e, f, f"{place}/{i}") for i, (e, f) in enumerate(zip(expected, found)))
+        return next(filter(None, tolds), None)
+    numbers = all(isinstance(value, (int, float)) and not isinstance(value, bool) for value in (expected, found))
+    if numbers and abs(expected - found) <= 1e-9 * max(1.0, abs(expected), abs(found)):
+        return None
+    if type(expected) is type(found) and expected == found:
+        return None
+    return f"{place} is {json.dumps(found)[:400]} instead of {json.dumps(expected)[:400]}"
+
+
+def expectations(path):
+    """The lines of a script that tell what a step must report: (line, step, expected)."""
+    step = -1
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        line = line.strip()
+        if line.startswith("#="):
+            yield number, step, json.loads(line[2:])
+        elif line and not line.startswith("#") and "do" in json.loads(line):
+            step += 1
+
+
+def play(program, path):
+    """What is wrong with a script, a line each."""
+    with tempfile.TemporaryDirectory() as work:
+        done = subprocess.run([program, path, "--work", work, "--full"], capture_output=True, check=False,
+                              timeout=60)
+    if done.returncode or done.stderr:
+        return [f"{path}: {done.stderr.decode(errors='replace') or done.returncode}"]
+    reports = [json.loads(line) for line in done.stdout.decode("utf-8", "surrogatepass").splitlines()]
+    wrong, told = [], 0
+    for number, step, expected in expectations(path):
+        told += 1
+        problem = difference(expected, reports[step]) if 0 <= step < len(reports) else "no step before it"
+        if problem:
+            wrong.append(f"{path}:{number}: {problem}")
+    return wrong if told else [f"{path}: tells nothing that is expected"]
+
+
+def main():
+    """Plays the scripts of the folder, or those that are named."""
+    program, scripts = sys.argv[1], [pathlib.Path(name) for name in sys.argv[2:]]
+    everything = not scripts
+    if everything:
+        scripts = sorted(pathlib.Path(__file__).parent.glob("*/*.replay"))
+    wrong = [problem for path in scripts for problem in play(program, path)]
+    if everything and len(scripts) < FEWEST:
+        wrong.append(f"only {len(scripts)} scripts are here")
+    print("\n".join(wrong) or f"{len(scripts)} scripts do what they tell.")
+    sys.exit(1 if wrong else 0)
+
+
+if __name__ == "__main__":
+    main()
