@@ -63,7 +63,9 @@ private:
 
   static Slab* SlabOf(void* place)
   {
-    return reinterpret_cast<Slab*>(reinterpret_cast<std::uintptr_t>(place) & ~(slabSize - 1));
+    auto* const bytes = static_cast<std::byte*>(place);
+    const auto offset = reinterpret_cast<std::uintptr_t>(place) & (slabSize - 1);
+    return std::launder(reinterpret_cast<Slab*>(bytes - offset));
   }
 
   void AddSlab()

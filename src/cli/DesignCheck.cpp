@@ -91,8 +91,13 @@ void CDesignCheck::CheckAttributes(std::u16string_view name, const AttributeMap&
   for (const auto& [attribute, value] : attributes) {
     const std::string key = Utf8FromWide(attribute);
     if (!HasWord(known.attributes, key)) {
-      Add("unknown attributes are lost",
-          key + "=\"" + Utf8FromWide(value) + "\" of <" + element + ">");
+      std::string example = key;
+      example.append("=\"")
+          .append(Utf8FromWide(value))
+          .append("\" of <")
+          .append(element)
+          .append(">");
+      Add("unknown attributes are lost", example);
     }
   }
   if (HasWord(known.attributes, "x")) {

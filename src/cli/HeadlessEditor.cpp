@@ -139,7 +139,7 @@ void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const Wo
   Frame(stretch, 0.0);
 }
 
-void HeadlessEditor::Frame(const WorldBox& box, double marginPart)
+void HeadlessEditor::Frame(const WorldBox& box, double marginPart) const
 {
   if (!(box.minX <= box.maxX && box.minY <= box.maxY)) return;
   CViewPort& viewPort = *view_.viewPort;

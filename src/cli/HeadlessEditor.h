@@ -90,7 +90,7 @@ private:
   HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
 
   WorldBox SideBox() const;
-  void Frame(const WorldBox& box, double marginPart);
+  void Frame(const WorldBox& box, double marginPart) const;
 
   MemorySettings settings_;
   KeptMessages messages_;

@@ -54,7 +54,7 @@ void CFileDxf::ReadSeqEnd(CShapes& target)
   SkipEntity();
   if (pendingPolyline) {
     if (polylineFlags == closed && !polylineVertices.empty()) {
-      polylineVertices.push_back(CFileDxfVertex(polylineVertices.front()));
+      polylineVertices.emplace_back(polylineVertices.front());
     }
     AppendFlattened(*pendingPolyline, polylineVertices);
     target.shapes.push_back(std::move(pendingPolyline));
@@ -87,7 +87,7 @@ public:
   std::vector<CFileDxfVertex> Finish(bool closed)
   {
     PushComplete();
-    if (closed && !vertices_.empty()) vertices_.push_back(CFileDxfVertex(vertices_.front()));
+    if (closed && !vertices_.empty()) vertices_.emplace_back(vertices_.front());
     return std::move(vertices_);
   }
 
