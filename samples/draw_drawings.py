@@ -102,7 +102,7 @@ class Plan:
         dxf.line("CONSTRUCTION", (-13.0, 0.0), (13.0, 0.0))
         dxf.line("DIMENSIONS", (-11.0, -4.5), (11.4, -4.5))
         dxf.text("TEXT", -5.6, -4.2, 0.5, "WORKBOAT  L = 22.4 m  (deck plan)")
-        dxf.text("TEXT", -10.6, -0.9, 0.35, "Schlepphaken f\u00fcr 5 t, schwenkbar %%p30%%d", angle=90.0)
+        dxf.text("TEXT", -9.5, -2.55, 0.25, "Schlepphaken f\u00fcr 5 t, schwenkbar %%p30%%d", angle=90.0)
         dxf.paragraph("TEXT", 6.2, 1.0, 0.3, r"{\fArial|b0|i0|c0|p34;Wheel house}\P\C1;eye level 5.2 m")
 
 

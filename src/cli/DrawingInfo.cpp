@@ -10,14 +10,6 @@
 namespace hullwright {
 namespace {
 
-/// Stands where the import expects the window that it tells its progress.
-class SilentWindow : public IMainWindow {
-public:
-  bool HasWindow() const override { return true; }
-  void Notify(int, std::intptr_t) override {}
-  void SetModifiedFlag(bool) override {}
-};
-
 /// Counts the keywords of the entities section, pair by pair as the format has it: the import's own
 /// walk sees lines and would count values.
 void CountEntities(CFileDxf& reader, std::map<std::string, std::size_t>& counts)

@@ -60,16 +60,14 @@ private:
   bool isTerminal_ = isatty(STDERR_FILENO) != 0;
 };
 
-/// Stands where the import expects the window that it tells its progress.
-class ImportWindow : public IMainWindow {
+/// Hears of the progress where there is no frame.
+class ImportWindow : public SilentWindow {
 public:
-  bool HasWindow() const override { return true; }
   void Notify(int code, std::intptr_t value) override
   {
     if (code == Notification::ImportProgress) progress_.ShowProgress(static_cast<int>(value));
     if (code == Notification::ImportEnd) progress_.EndProgress();
   }
-  void SetModifiedFlag(bool) override {}
 
 private:
   TerminalProgress progress_;

@@ -6,6 +6,7 @@
 
 #include "cli/Json.h"
 #include "model/Layer.h"
+#include "platform/MainWindow.h"
 #include "platform/Trace.h"
 
 namespace hullwright {
@@ -23,6 +24,14 @@ public:
              std::u16string_view text) const override;
 
   mutable std::vector<Record> records;
+};
+
+/// Stands where an import expects the window that it tells its progress.
+class SilentWindow : public IMainWindow {
+public:
+  bool HasWindow() const override { return true; }
+  void Notify(int, std::intptr_t) override {}
+  void SetModifiedFlag(bool) override {}
 };
 
 /// Writes what an import gave as one JSON document: the result, the log with `path` replaced by

@@ -81,6 +81,12 @@ bool CFileDxf::IsLeftOut(const DxfEntity& entity) const
   return entity.paperSpace == 1 || IsLayerHidden(entity.layerName);
 }
 
+bool CFileDxf::ReadEntity(DxfEntity& entity)
+{
+  ReadGroups(entity);
+  return !IsLeftOut(entity);
+}
+
 void CFileDxf::Identify(CShape& shape, const DxfEntity& entity) const
 {
   constexpr int hexadecimal = 16;
@@ -133,8 +139,7 @@ constexpr std::array<int, 4> cornerGroups = {10, 11, 12, 13};
 void CFileDxf::ReadLine(CShapes& target)
 {
   DxfEntity entity;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   auto line = std::make_unique<CShapePolyline>();
   line->vertices.reserve(2);
   AddWorldVertex(*line, entity.Point(10), entity.Normal());
@@ -145,8 +150,7 @@ void CFileDxf::ReadLine(CShapes& target)
 void CFileDxf::ReadPoint(CShapes& target)
 {
   DxfEntity entity;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   DxfPoint place = entity.Point(10);
   ApplyExtrusion(place, entity.Normal());
   auto point = std::make_unique<CShapePoint>();
@@ -157,8 +161,7 @@ void CFileDxf::ReadPoint(CShapes& target)
 void CFileDxf::ReadArc(CShapes& target)
 {
   DxfEntity entity;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   auto arc = MakeArc(entity.Point(10), entity.Normal(), entity.Number(40), entity.Number(50),
                      entity.Number(51), false);
   Mark(*arc, u"TYPE", u"ARC");
@@ -170,8 +173,7 @@ void CFileDxf::ReadCircle(CShapes& target)
   constexpr double wholeTurn = 360.0;
   DxfEntity entity;
   entity.colour = 0;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   DxfPoint centre = entity.Point(10);
   ApplyExtrusion(centre, entity.Normal());
   auto circle = CShapePolyline::CreateArc(centre.x, centre.y, entity.Number(40), 0.0, wholeTurn);
@@ -184,8 +186,7 @@ void CFileDxf::ReadEllipse(CShapes& target)
   constexpr double wholeTurn = 360.0;
   DxfEntity entity;
   entity.colour = 0;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   const double start = entity.Number(41) * degreesPerRadian;
   double end = entity.Number(42) * degreesPerRadian;
   if (start > end) end += wholeTurn;
@@ -204,8 +205,7 @@ void CFileDxf::ReadEllipse(CShapes& target)
 void CFileDxf::ReadSolid(CShapes& target)
 {
   DxfEntity entity;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   auto solid = std::make_unique<CShapePolygon>();
   for (const int group : cornerGroups) {
     DxfPoint corner = entity.Point(group);
@@ -218,8 +218,7 @@ void CFileDxf::ReadSolid(CShapes& target)
 void CFileDxf::Read3DFace(CShapes& target)
 {
   DxfEntity entity;
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   auto face = std::make_unique<CShapePolyline>();
   for (const int group : cornerGroups) {
     AddWorldVertex(*face, entity.Point(group), entity.Normal());

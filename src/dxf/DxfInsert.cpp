@@ -48,8 +48,7 @@ void CFileDxf::ReadInsert(CShapes& target)
 {
   DxfEntity entity;
   for (const int scale : {41, 42, 43}) entity.SetDefault(scale, 1.0);
-  ReadGroups(entity);
-  if (IsLeftOut(entity)) return;
+  if (!ReadEntity(entity)) return;
   const auto block = blocks.find(entity.name);
   if (block == blocks.end()) return;
   const DxfPoint place = entity.Point(10);

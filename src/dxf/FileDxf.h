@@ -181,6 +181,9 @@ private:
   void SkipPast(std::string_view word);
   void RunReader(const Keyword& keyword, CShapes& target);
   bool IsLeftOut(const DxfEntity& entity) const;
+
+  /// Takes the groups of an entity in; false for one that is left out.
+  bool ReadEntity(DxfEntity& entity);
   void Identify(CShape& shape, const DxfEntity& entity) const;
   void Colour(CShape& shape, const DxfEntity& entity);
   void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, CShapes& target);

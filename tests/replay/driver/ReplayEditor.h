@@ -10,6 +10,7 @@
 #include "app/MainFrame.h"
 #include "app/ObjectView.h"
 #include "app/SharedLibraries.h"
+#include "cli/HeadlessEditor.h"
 #include "file/HullwrightDoc.h"
 #include "replay/driver/FrameRecorder.h"
 #include "replay/driver/Value.h"
@@ -126,15 +127,6 @@ private:
   Value::List& events_;
 };
 
-struct ReplayWidgets : IFrameWidgets {
-  void SetViewButtonImage(int) override {}
-  void InvalidateToolBar() override {}
-  void ApplyLook(int) override {}
-  void StartProgress(std::string_view) override {}
-  void ShowProgress(int) override {}
-  void EndProgress() override {}
-};
-
 /// The whole editor from start-up to its end, in a work folder, over ports that a script drives.
 class ReplayEditor : public IFramework {
 public:
@@ -171,7 +163,7 @@ public:
   ReplayMessages messages;
   ReplayDialogs dialogs;
   ReplayPointer pointer;
-  ReplayWidgets widgets;
+  NoWidgets widgets;
   SharedLibraries libraries;
   FrameRecorder recorder;
   NoWindow window;
