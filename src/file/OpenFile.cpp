@@ -12,6 +12,15 @@
 namespace hullwright {
 namespace {
 
+/// A stream over a descriptor, which it takes over; null where there is none.
+FilePointer StreamOf(int descriptor, const char* mode)
+{
+  if (descriptor < 0) return nullptr;
+  FilePointer stream(fdopen(descriptor, mode));
+  if (!stream) close(descriptor);
+  return stream;
+}
+
 bool IsRegular(int descriptor)
 {
   struct stat status {};
@@ -24,13 +33,12 @@ FilePointer OpenToRead(std::u16string_view path)
 {
   // Without blocking: a pipe that nobody writes to must not hold the program up.
   const int descriptor = open(Utf8FromWide(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (descriptor < 0) return nullptr;
-  if (!IsRegular(descriptor)) {
+  if (descriptor >= 0 && !IsRegular(descriptor)) {
     close(descriptor);
     errno = 0;
     return nullptr;
   }
-  return FilePointer(fdopen(descriptor, "rb"));
+  return StreamOf(descriptor, "rb");
 }
 
 FilePointer OpenToWrite(std::u16string_view path)
@@ -38,7 +46,7 @@ FilePointer OpenToWrite(std::u16string_view path)
   constexpr mode_t anybody = 0666;
   const int descriptor = open(Utf8FromWide(path).c_str(),
                               O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC, anybody);
-  return descriptor < 0 ? nullptr : FilePointer(fdopen(descriptor, "wb"));
+  return StreamOf(descriptor, "wb");
 }
 
 }  // namespace hullwright
