@@ -25,6 +25,7 @@ void CMainFrame::ShowImport(int code, std::intptr_t value)
 {
   switch (code) {
     case Notification::ImportStart:
+      if (value == 0) break;
       // NOLINTNEXTLINE(performance-no-int-to-ptr): the value of a notification is a number
       widgets_.StartProgress(reinterpret_cast<const char*>(value));
       break;

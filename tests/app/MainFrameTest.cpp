@@ -20,6 +20,16 @@ TEST_F(MainFrame, PassesEveryCodeButTheTreesOnToTheView)
   EXPECT_EQ(Frames(), 1);
 }
 
+TEST_F(MainFrame, ShowsTheProgressOfAnImport)
+{
+  frame.Notify(1046, reinterpret_cast<std::intptr_t>("Loading"));
+  frame.Notify(1044, 50);
+  frame.Notify(1045, 0);
+  EXPECT_THAT(widgets.calls, ElementsAre("start Loading", "50 %", "end"));
+  frame.Notify(1046, 0);  // without a text there is nothing to show
+  EXPECT_EQ(widgets.calls.size(), 3U);
+}
+
 TEST_F(MainFrame, WithoutAViewANotificationIsDropped)
 {
   frame.view = nullptr;

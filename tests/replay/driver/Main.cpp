@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <fstream>
@@ -59,7 +60,7 @@ void MakeUnits(const QJsonObject& header, const fs::path& work)
     fs::copy_file(HULLWRIGHT_UNIT_DATABASE, database, fs::copy_options::overwrite_existing);
     return;
   }
-  QString sql = QStringLiteral("CREATE TABLE other (nothing);\n");
+  QString sql = QStringLiteral("CREATE TABLE other (id);\n");
   if (header[u"units"].isArray()) {
     sql += QStringLiteral("CREATE TABLE tblUnits (numId, strUnit, strUnitShort, numDimension);\n");
   }
@@ -93,6 +94,24 @@ void PrepareWork(const QJsonObject& header, ReplayEditor& editor)
   }
 }
 
+/// Puts numbers that are minus zero in quotes: the toolkit's parser takes them for integers, which
+/// have no sign there, and a number may be a text as well.
+QByteArray KeepMinusZeros(const QByteArray& line)
+{
+  static const QRegularExpression tokens(
+      QStringLiteral(R"re("(?:[^"\\]|\\.)*"|(-0(?:\.0*)?)(?=\s*[,\]}]))re"));
+  const QString text = QString::fromUtf8(line);
+  QString out;
+  qsizetype copied = 0;
+  for (auto all = tokens.globalMatch(text); all.hasNext();) {
+    const QRegularExpressionMatch match = all.next();
+    if (match.captured(1).isEmpty()) continue;
+    out += text.mid(copied, match.capturedStart(1) - copied) + QStringLiteral("\"-0.0\"");
+    copied = match.capturedEnd(1);
+  }
+  return (out + text.mid(copied)).toUtf8();
+}
+
 /// The lines of a script; false with a word on standard error where one is no object.
 bool ReadScript(const QString& path, std::vector<QJsonObject>& lines)
 {
@@ -107,7 +126,7 @@ bool ReadScript(const QString& path, std::vector<QJsonObject>& lines)
     const QByteArray trimmed = line.trimmed();
     if (trimmed.isEmpty() || trimmed.startsWith('#')) continue;
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(trimmed, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(KeepMinusZeros(trimmed), &error);
     if (!document.isObject()) {
       std::fprintf(stderr, "hullwright-replay: %s:%d: %s\n", qPrintable(path), number,
                    qPrintable(error.errorString()));

@@ -195,6 +195,7 @@ void ReplayEditor::Start(std::optional<std::string> file)
 {
   file_ = std::move(file);
   app.LoadLook();
+  frame.OnApplicationLook(app.applicationLook);
   view.OnCreate(&window);
   pane.BuildTree();
   app.InitInstance(*this);
