@@ -66,6 +66,7 @@ TEST_P(Golden, ThePictureIsAsAccepted)
   HeadlessEditor editor(drawing, surface);
   ASSERT_TRUE(editor.Open(WideFromUtf8(HULLWRIGHT_SAMPLES "/" + GetParam().sample + ".xml")));
   editor.ShowSide(GetParam().side.code, width, height);
+  editor.Draw();
   const QImage picture = surface.Picture();
 
   const QString name = QString::fromStdString(NameOf(GetParam()));
