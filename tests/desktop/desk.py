@@ -82,6 +82,25 @@ class Desk:
         self._xdotool("windowactivate", "--sync", found[-1])
         self.settle()
 
+    def _is_open(self, title):
+        """Whether a window of exactly this title can be seen."""
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], check=False,
+                               env=self.environment, capture_output=True, timeout=PATIENCE)
+        return bool(found.stdout.split())
+
+    def answer(self, title, key):
+        """Waits for a dialog and presses the key that closes it; again where the key came too early."""
+        self.dialog(title)
+        for _ in range(PATIENCE // 3):
+            self.keys(key)
+            deadline = time.monotonic() + 3
+            while time.monotonic() < deadline:
+                if not self._is_open(title):
+                    self.settle()
+                    return
+                time.sleep(0.1)
+        raise AssertionError(f"the dialog {title!r} stays open")
+
     def screen(self):
         """The screen as (bytes a pixel, rows of pixels in the order blue, green, red)."""
         dump = subprocess.run(["xwd", "-root", "-silent"], env=self.environment, check=True,

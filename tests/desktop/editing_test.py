@@ -121,8 +121,7 @@ class EditingTest(unittest.TestCase):
         self.choose(OPTIONS, "Units")
         self.desk.dialog("Switch Units")
         self.desk.keys("Home", "Down", "Return")
-        self.desk.dialog("Hullwright")
-        self.desk.keys("alt+y")
+        self.desk.answer("Hullwright", "alt+y")
         after = self.saved()
         self.assertEqual(after.unit, 9002)
         self.assert_mapped(after, lambda x, y, z: (x / FOOT, y / FOOT, z / FOOT))
@@ -131,8 +130,7 @@ class EditingTest(unittest.TestCase):
         self.choose(OPTIONS, "Units")
         self.desk.dialog("Switch Units")
         self.desk.keys("Home", "Return")
-        self.desk.dialog("Hullwright")
-        self.desk.keys("alt+n")
+        self.desk.answer("Hullwright", "alt+n")
         kept = self.saved()
         self.assertEqual(kept.unit, 9001)
         self.assertEqual(kept.sides, after.sides)
@@ -211,8 +209,7 @@ class EditingTest(unittest.TestCase):
             self.desk.keys("Home", "Down", "Menu")
             self.desk.settle()
             self.desk.keys("r")  # Remove All Polylines
-            self.desk.dialog("Hullwright")
-            self.desk.keys(answer)
+            self.desk.answer("Hullwright", answer)
             self.assertEqual(len(self.saved().sides[1]), left)
 
 

@@ -33,10 +33,10 @@ class RoadTest(unittest.TestCase):
 
     def choose_side(self, name):
         """Chooses a side in the drop-down of the toolbar, which the tab key reaches from the view behind
-        the tree and the buttons new, open and save."""
+        the tree and the buttons new, open, save and import."""
         down = ("Top", "Bottom", "Front", "Rear", "Right", "Left").index(name) + 1
         self.desk.click(*self.pixel(-95, 0))
-        self.desk.keys("Tab", "Tab", "Tab", "Tab", "Tab", "space")
+        self.desk.keys(*["Tab"] * 6, "space")
         self.desk.settle()
         self.desk.keys(*["Down"] * down, "Return")
         self.desk.settle()
