@@ -51,9 +51,14 @@ class Desk:
         self.program = self._start([program, *map(str, arguments)])
         found = self._xdotool("search", "--sync", "--onlyvisible", "--name", "Hullwright")
         self.window = found.split()[-1]
-        self._xdotool("windowactivate", "--sync", self.window)
+        self.activate()
         self.wait_until(lambda: self.paper() is not None)
         self.settle()
+
+    def activate(self):
+        """Gives the program's window the keys: where two dialogs close at once, the window manager may leave
+        them with nobody."""
+        self._xdotool("windowactivate", "--sync", self.window)
 
     def _xdotool(self, *words):
         return subprocess.run(["xdotool", *map(str, words)], env=self.environment, check=True,
