@@ -49,6 +49,7 @@ int Run(int argc, char** argv)
       ReadArguments(argc, argv, "", longOptions, [](int, const char*) { return std::string(); });
   if (arguments.wrong) return exitUsage;
   if (arguments.words.empty()) return UsageError("check takes a design or several");
+  if (ReadsInputTwice(arguments.words)) return exitUsage;
   int status = 0;
   for (const std::string& word : arguments.words) status = std::max(status, Check(word));
   return status;

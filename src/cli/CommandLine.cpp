@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace hullwright {
@@ -14,6 +15,13 @@ int UsageError(const std::string& problem)
 {
   std::fprintf(stderr, "hullwright-cli: %s\nTry 'hullwright-cli --help'.\n", problem.c_str());
   return exitUsage;
+}
+
+bool ReadsInputTwice(const std::vector<std::string>& inputs)
+{
+  if (std::ranges::count(inputs, "-") < 2) return false;
+  UsageError("standard input can be read only once");
+  return true;
 }
 
 Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<const option> options,

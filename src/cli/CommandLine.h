@@ -31,6 +31,9 @@ int Fail(const std::string& problem);
 /// Tells what is wrong with the arguments on standard error; the exit status for wrong usage.
 int UsageError(const std::string& problem);
 
+/// Whether standard input is asked for more than once; that is told.
+bool ReadsInputTwice(const std::vector<std::string>& inputs);
+
 /// The arguments of a verb that are no options.
 struct Arguments {
   std::vector<std::string> words;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <regex>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -45,6 +46,19 @@ const KnownElement* FindElement(std::string_view name, std::string_view parent)
   return found == knownElements.end() ? nullptr : found;
 }
 
+bool IsKnownName(std::string_view name)
+{
+  return std::ranges::find(knownElements, name, &KnownElement::name) != knownElements.end();
+}
+
+/// Whether a text is a number from its first character to its last.
+bool IsNumber(std::u16string_view text)
+{
+  static const std::regex number(R"(\s*[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?|[+-]?(inf|nan))");
+  constexpr std::size_t longest = 400;  // what numbers are written with
+  return text.size() <= longest && std::regex_match(Utf8FromWide(text), number);
+}
+
 bool HasWord(std::string_view words, std::string_view word)
 {
   const std::string padded = " " + std::string(words) + " ";
@@ -66,8 +80,14 @@ void CDesignCheck::StartElement(std::u16string_view name, const AttributeMap& at
   path_.push_back(element);
   const KnownElement* const known = FindElement(element, parent);
   if (known == nullptr) {
-    Add("unknown elements are lost", "<" + element + "> in <" + parent + ">");
+    Add(IsKnownName(element) ? "elements stand where they are not expected"
+                             : "unknown elements are lost",
+        "<" + element + "> in <" + parent + ">");
     return;
+  }
+  if (element == "anchor") anchorFields_.clear();
+  if (parent == "anchor" && !anchorFields_.insert(element).second) {
+    Add("fields of an anchor come again; the last one counts", "<" + element + ">");
   }
   if (known->once && ++singles_[element] == 2) {
     Add("elements that should come once come again; the last one counts", "<" + element + ">");
@@ -78,8 +98,11 @@ void CDesignCheck::StartElement(std::u16string_view name, const AttributeMap& at
   CheckAttributes(name, attributes);
 }
 
-void CDesignCheck::EndElement(std::u16string_view)
+void CDesignCheck::EndElement(std::u16string_view name)
 {
+  if (name == u"anchor" && !anchorFields_.contains("id")) {
+    Add("anchors without a number get the number 0", "<anchor>");
+  }
   if (!path_.empty()) path_.pop_back();
 }
 
@@ -136,11 +159,9 @@ void CDesignCheck::CheckCoordinate(const std::string& what, std::u16string_view 
   const double value = ParseDouble(text);
   AppendFixed3(saved, value);
   const std::string example = what + "=\"" + Utf8FromWide(text) + "\", saved as " + saved;
-  if (text.empty() || text.find_first_not_of(u"+-.0123456789eExXaAbBcCdDfFiInNpPtTyY \t") !=
-                          std::u16string_view::npos) {
+  if (!IsNumber(text)) {
     Add("coordinates are missing or are no numbers", example);
-  } else if (ParseDouble(saved) != value &&
-             !(std::isnan(value) && saved.find("nan") != std::string::npos)) {
+  } else if (ParseDouble(saved) != value && !std::isnan(value)) {
     Add("decimals past the third are lost", example);
   }
 }

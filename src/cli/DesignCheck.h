@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,7 @@ private:
   std::map<std::string, Finding> findings_;
   std::map<std::int32_t, int> groups_;  ///< how often a view code came
   std::map<std::string, int> singles_;  ///< how often an element came that should come once
+  std::set<std::string> anchorFields_;  ///< of the anchor being read
   std::string problem_;
 };
 

@@ -69,16 +69,24 @@ bool Copy(int from, int to)
 
 std::string Reason(int error) { return strerrordesc_np(error); }
 
+/// Where files lie that are nobody's business.
+std::filesystem::path TemporaryFolder()
+{
+  std::error_code failed;
+  const std::filesystem::path folder = std::filesystem::temp_directory_path(failed);
+  return failed ? std::filesystem::path("/tmp") : folder;
+}
+
 }  // namespace
 
 InputFile::InputFile(const std::string& name) : name_(name), path_(name)
 {
   if (name != standardStream) return;
   name_ = "standard input";
-  path_ = MakeTemporary(std::filesystem::temp_directory_path());
-  temporary_ = true;
+  path_ = MakeTemporary(TemporaryFolder());
+  temporary_ = !path_.empty();
   const Descriptor copy(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
-  Copy(STDIN_FILENO, copy.Number());
+  if (copy.Number() < 0 || !Copy(STDIN_FILENO, copy.Number())) problem_ = Reason(errno);
 }
 
 InputFile::~InputFile()
@@ -88,6 +96,7 @@ InputFile::~InputFile()
 
 std::string InputFile::Problem() const
 {
+  if (!problem_.empty()) return name_ + ": " + problem_;
   struct stat status {};
   if (stat(path_.c_str(), &status) != 0) return name_ + ": " + Reason(errno);
   if (S_ISDIR(status.st_mode)) return name_ + ": " + Reason(EISDIR);
@@ -113,23 +122,28 @@ bool InputFile::IsDrawing() const
 OutputFile::OutputFile(const std::string& name) : name_(name)
 {
   namespace fs = std::filesystem;
-  const bool toStandardOutput = name == standardStream;
-  std::error_code ignored;
-  // What a link points at is replaced, not the link.
-  const fs::path target = fs::exists(name, ignored) ? fs::canonical(name, ignored) : fs::path(name);
-  if (!toStandardOutput) name_ = target.string();
-  if (!toStandardOutput && fs::is_directory(target, ignored)) {
+  std::error_code failed;
+  struct stat before {};
+  const bool exists = name != standardStream && stat(name.c_str(), &before) == 0;
+  // Into devices, pipes and the standard output the finished file is copied.
+  copied_ = name == standardStream || (exists && !S_ISREG(before.st_mode));
+  if (exists && S_ISDIR(before.st_mode)) {
     Fail(EISDIR);
     return;
   }
-  if (!toStandardOutput && fs::exists(target, ignored) && access(target.c_str(), W_OK) != 0) {
+  if (exists && access(name.c_str(), W_OK) != 0) {
     Fail(errno);
     return;
   }
-  const fs::path folder =
-      toStandardOutput ? fs::temp_directory_path() : fs::absolute(target).parent_path();
-  path_ = MakeTemporary(folder);
+  if (exists && !copied_) {
+    // What a link points at is replaced, not the link.
+    const fs::path target = fs::canonical(name, failed);
+    if (!failed) name_ = target.string();
+  }
+  const fs::path folder = fs::path(name_).parent_path();
+  path_ = MakeTemporary(copied_ ? TemporaryFolder() : folder.empty() ? fs::path(".") : folder);
   if (path_.empty()) Fail(errno);
+  if (exists && !copied_) chmod(path_.c_str(), before.st_mode & 07777);
 }
 
 OutputFile::~OutputFile()
@@ -146,13 +160,21 @@ bool OutputFile::Fail(int error)
 bool OutputFile::Commit()
 {
   if (path_.empty()) return false;
-  if (name_ == standardStream) {
-    const Descriptor written(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
-    return Copy(written.Number(), STDOUT_FILENO) || Fail(errno);
-  }
+  if (copied_) return CopyOut();
   if (rename(path_.c_str(), name_.c_str()) != 0) return Fail(errno);
   path_.clear();
   return true;
+}
+
+bool OutputFile::CopyOut()
+{
+  const Descriptor written(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+  // Its name goes first, so that nothing stays behind when the reader goes away.
+  unlink(path_.c_str());
+  path_.clear();
+  if (name_ == standardStream) return Copy(written.Number(), STDOUT_FILENO) || Fail(errno);
+  const Descriptor target(open(name_.c_str(), O_WRONLY | O_CLOEXEC));
+  return (target.Number() >= 0 && Copy(written.Number(), target.Number())) || Fail(errno);
 }
 
 bool OutputFile::Write(std::string_view bytes)

@@ -30,11 +30,12 @@ public:
 private:
   std::string name_;
   std::string path_;
+  std::string problem_;  ///< with standard input
   bool temporary_ = false;
 };
 
 /// A file that comes to be whole or not at all; "-" stands for standard output. What is there
-/// under the name stays until the new one is complete.
+/// under the name stays until the new one is complete; devices and pipes are written into.
 class OutputFile {
 public:
   explicit OutputFile(const std::string& name);
@@ -56,10 +57,12 @@ public:
 
 private:
   bool Fail(int error);
+  bool CopyOut();
 
   std::string name_;
-  std::string path_;
+  std::string path_;  ///< of the file that is being written
   std::string problem_;
+  bool copied_ = false;
 };
 
 }  // namespace hullwright

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "app/CommonDataFolder.h"
+#include "base/Text.h"
+#include "cli/DesignCheck.h"
 
 namespace hullwright {
 
@@ -82,7 +84,13 @@ bool HeadlessEditor::Open(std::u16string_view path)
 {
   messages_.last.clear();
   if (document_.OnOpenDocument(path)) return true;
-  problem_ = messages_.last.empty() ? u"not a well-formed design file" : messages_.last;
+  if (messages_.last.empty()) {
+    CDesignCheck check(messages_);
+    check.Read(path);
+    problem_ = u"not a well-formed design file (" + WideFromUtf8(check.Problem()) + u")";
+  } else {
+    problem_ = messages_.last;
+  }
   return false;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 #include "base/Text.h"
 #include "cli/CommandLine.h"
@@ -25,8 +26,8 @@ constexpr const char* help =
     "  -i, --into=DESIGN.xml  the design to add to; without it a new one\n"
     "  -s, --side=SIDE        top, bottom, right, left, front or rear (top)\n"
     "  -o, --output=OUT.xml   the design to write\n"
-    "  -j, --json             print what each import gives instead, one JSON document\n"
-    "                         a line: result, log, extents and shapes\n";
+    "  -j, --json             print what each import gives, one JSON document a line:\n"
+    "                         result, log, extents and shapes; -o may be left out then\n";
 
 struct Options {
   std::vector<std::string> drawings;
@@ -116,6 +117,14 @@ int ImportAll(const Options& options)
   return output.Commit() ? 0 : Fail(output.Problem());
 }
 
+bool WouldOverwrite(const Options& options)
+{
+  return std::ranges::any_of(options.drawings, [&](const std::string& drawing) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(drawing, options.output, ignored);
+  });
+}
+
 std::string TakeOption(int letter, const std::string& value, Options& options)
 {
   switch (letter) {
@@ -147,9 +156,18 @@ int Run(int argc, char** argv)
   if (arguments.wrong) return exitUsage;
   options.drawings = arguments.words;
   if (options.drawings.empty()) return UsageError("import takes a drawing or several");
-  if (options.json) return PrintJson(options);
-  if (options.output.empty()) return UsageError("import needs -o OUT.xml, or --json");
-  return ImportAll(options);
+  std::vector<std::string> inputs = options.drawings;
+  inputs.push_back(options.into);
+  if (ReadsInputTwice(inputs)) return exitUsage;
+  if (options.output.empty() && !options.json) {
+    return UsageError("import needs -o OUT.xml, or --json");
+  }
+  if (options.json && (options.output == "-" || inputs.front() == "-")) {
+    options.output.clear();  // one of the two takes the stream
+  }
+  if (WouldOverwrite(options)) return UsageError("the design would overwrite the drawing");
+  const int printed = options.json ? PrintJson(options) : 0;
+  return options.output.empty() ? printed : ImportAll(options);
 }
 
 }  // namespace

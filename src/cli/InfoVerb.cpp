@@ -59,6 +59,7 @@ int Run(int argc, char** argv)
       });
   if (arguments.wrong) return exitUsage;
   if (arguments.words.empty()) return UsageError("info takes a design or a drawing, or several");
+  if (ReadsInputTwice(arguments.words)) return exitUsage;
   int status = 0;
   for (const std::string& word : arguments.words) {
     const InputFile input(word);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Text.h"
+
 namespace hullwright {
 
 /// Writes one JSON document to a stream, piece by piece, so that a document of any size takes
@@ -22,7 +24,7 @@ public:
   void EndArray() { Close(']'); }
 
   /// Name of the member whose value comes next.
-  void Key(std::string_view name) { WideKey(std::u16string(name.begin(), name.end())); }
+  void Key(std::string_view name) { WideKey(WideFromUtf8(name)); }
   void WideKey(std::u16string_view name);
 
   void Null() { Raw("null"); }

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstdio>
+#include <exception>
 #include <string>
 #include <string_view>
 
@@ -26,11 +28,16 @@ constexpr const char* help =
 
 const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
 
+/// The status of a run whose output must have reached its reader.
+int WithOutput(int status)
+{
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+  return Fail("standard output: it can't be written");
+}
+
 bool IsHelp(std::string_view argument) { return argument == "-h" || argument == "--help"; }
 
-}  // namespace
-
-int main(int argc, char** argv)
+int RunVerb(int argc, char** argv)
 {
   if (argc < 2) return UsageError("nothing to do");
   const std::string_view word = argv[1];
@@ -50,4 +57,17 @@ int main(int argc, char** argv)
     return 0;
   }
   return (*verb)->run(argc - 1, argv + 1);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  // A file that grows too large is an error to be told, not the end.
+  std::signal(SIGXFSZ, SIG_IGN);
+  try {
+    return WithOutput(RunVerb(argc, argv));
+  } catch (const std::exception& problem) {
+    return Fail(problem.what());
+  }
 }

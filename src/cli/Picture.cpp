@@ -7,6 +7,7 @@
 #include <QPdfWriter>
 #include <QPicture>
 #include <QSvgGenerator>
+#include <algorithm>
 #include <filesystem>
 
 #include "base/Text.h"
@@ -35,7 +36,11 @@ void StartToolkit()
 
 std::string EndingOf(const std::string& path)
 {
-  return path == "-" ? ".png" : fs::path(path).extension().string();
+  std::string ending = path == "-" ? ".png" : fs::path(path).extension().string();
+  std::ranges::transform(ending, ending.begin(), [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+  });
+  return ending;
 }
 
 /// Sides of a design, drawn on whatever is wanted.
@@ -132,6 +137,8 @@ QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
   const int rows = (count + columns - 1) / columns;
   const QSize cell(request.width + gap, request.height + caption + gap);
   const QSize size(columns * cell.width() + gap, rows * cell.height() + gap);
+  constexpr int largest = 32767;  // of the toolkit's pictures
+  if (size.width() > largest || size.height() > largest) return {};
   return MakeFile(EndingOf(request.output), size, [&](QPaintDevice& device) {
     QPainter sheet(&device);
     sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);

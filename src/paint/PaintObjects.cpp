@@ -48,6 +48,14 @@ QRectF ToQt(const PixelRect& rect)
   return {QPointF(rect.left, rect.top), QPointF(rect.right, rect.bottom)};
 }
 
+/// The text with each line cut after a number of units.
+QString FirstColumns(const QString& text, qsizetype columns)
+{
+  QStringList lines = text.split(QChar(QChar::LineSeparator));
+  for (QString& line : lines) line.truncate(columns);
+  return lines.join(QChar(QChar::LineSeparator));
+}
+
 /// Receives the figures of a path.
 class PaintPathSink : public IPathSink {
 public:
@@ -72,9 +80,15 @@ QString Drawable(std::u16string_view text)
 {
   const std::u16string_view cut = text.substr(0, mostUnits);
   QString shown = QString::fromUtf16(cut.data(), static_cast<qsizetype>(cut.size()));
-  shown.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
-  // A tab would be measured as a stop and drawn as a blank; U+009C ends a text for the painter.
-  for (const char16_t unit : {u'\t', u'\x9C'}) shown.replace(QChar(unit), QLatin1Char(' '));
+  for (QChar& unit : shown) {
+    // A tab would be measured as a stop and drawn as a blank, U+009C ends a text for the painter,
+    // and files of vectors can't hold control characters at all.
+    if (unit == QLatin1Char('\n')) {
+      unit = QChar::LineSeparator;
+    } else if (unit.category() == QChar::Other_Control || unit.isNonCharacter()) {
+      unit = QLatin1Char(' ');
+    }
+  }
   return shown;
 }
 
@@ -242,7 +256,14 @@ void PaintTarget::DrawText(std::u16string_view text, const ITextFormat& format,
   const int flags = static_cast<int>(alignment) | wrapping | static_cast<int>(Qt::TextDontClip);
   const double scale = textFormat.scale;
   const QRectF scaled(box.topLeft() / scale, box.size() / scale);
-  const QString shown = Drawable(text);
+  QString shown = Drawable(text);
+  if (!textFormat.centred && !textFormat.wrapped) {
+    // From a start in the picture nothing reaches further than its diagonal; beyond some ten
+    // thousand pixels the toolkit loses the whole line.
+    const double size = textFormat.font.pixelSize() * scale;
+    const double diagonal = std::hypot(surface_.Width(), surface_.Height());
+    shown = FirstColumns(shown, static_cast<qsizetype>(4.0 * diagonal / size) + 2);
+  }
   // The text may reach out of its rectangle, so it counts for what is visible.
   const QRectF ink = QFontMetricsF(textFormat.font).boundingRect(scaled, flags, shown);
   const QRectF reach(ink.topLeft() * scale, ink.size() * scale);

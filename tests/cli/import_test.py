@@ -137,6 +137,17 @@ class ImportTest(CliTest):
         self.fail_with(1, ("missing.dxf",), "import", self.folder / "missing.dxf", "-o", out)
         self.assertEqual(out.read_text(), "precious")
 
+    def test_a_document_and_a_design_at_once(self):
+        out = self.folder / "out.xml"
+        text = self.succeed("import", self.drawing("a.dxf", "0", "LINE"), "--json", "-o", out).decode()
+        self.assertEqual(json.loads(text)["result"], 0)
+        self.assertEqual(self.polylines(out), {"01": 1})
+
+    def test_the_drawing_is_not_overwritten(self):
+        path = self.drawing("a.dxf", "0", "LINE")
+        self.assert_usage_errors(("import", path, "-o", path), ("import", "-", "-", "-o", "x.xml"),
+                                 ("import", "-", "-i", "-", "-o", "x.xml"))
+
     def test_wrong_usage(self):
         path = self.drawing("a.dxf")
         self.assert_usage_errors(("import",), ("import", path), ("import", path, "--xml"),

@@ -65,7 +65,7 @@ class InfoTest(CliTest):
         self.assertIn(b"dredger.xml: design", done.stdout)
 
     def test_failures(self):
-        self.fail_with(1, ("bad.xml",), "info", self.write("bad.xml", "<vessel>"))
+        self.fail_with(1, ("bad.xml", "(1:"), "info", self.write("bad.xml", "<vessel>"))
         self.fail_with(1, ("empty.dxf",), "info", self.write("empty.dxf", ""))
         pipe = self.folder / "pipe"
         os.mkfifo(pipe)
@@ -116,6 +116,16 @@ class CheckTest(CliTest):
             "numbers of anchors change (1): <id> x7",
             "the vessel of an anchor is read but not written (1): <vessel> in <anchor>",
             "unknown elements are lost (1): <easting> in <anchor>"])
+
+    def test_numbers_that_are_not_read_whole(self):
+        found = self.findings(HEAD + GROUP.replace("1.000", "1a").replace("2.000", "1..5") + TAIL)
+        self.assertEqual(found, ['coordinates are missing or are no numbers (2): x of <vertex>="1a", saved as 1.000'])
+
+    def test_fields_of_anchors_that_are_missing_or_doubled(self):
+        anchor = "<anchor><name>one</name><name>two</name></anchor>"
+        found = self.findings(HEAD + TAIL.replace("<anchors>", "<anchors>" + anchor))
+        self.assertEqual(found, ["anchors without a number get the number 0 (1): <anchor>",
+                                 "fields of an anchor come again; the last one counts (1): <name>"])
 
     def test_what_is_missing_or_doubled_or_no_number(self):
         found = self.findings('<vessel>a text<units id="0x9" /><gps x="1" y="one" /><gps x="1" y="2" z="3" /></vessel>')

@@ -3,9 +3,11 @@
 
 import os
 import re
+import subprocess
 import unittest
+import xml.dom.minidom
 
-from cli import SAMPLES, SIDES, CliTest, run, size_of
+from cli import PROGRAM, SAMPLES, SIDES, CliTest, run, size_of
 
 BOAT = SAMPLES / "workboat.xml"
 PLAN = SAMPLES / "dxf" / "workboat-r2010.dxf"
@@ -98,6 +100,40 @@ class RenderTest(CliTest):
         folder = self.folder / "folder.png"
         folder.mkdir()
         self.fail_with(1, ("folder.png", "directory"), "render", BOAT, "-o", folder)
+
+    def test_the_mode_of_a_file_stays(self):
+        out = self.write("private.png", "")
+        out.chmod(0o600)
+        self.succeed("render", BOAT, "-z", "64x40", "-o", out)
+        self.assertEqual(out.stat().st_mode & 0o777, 0o600)
+
+    def test_a_pipe_is_written_into(self):
+        pipe = self.folder / "pipe.png"
+        os.mkfifo(pipe)
+        reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
+        self.succeed("render", BOAT, "-z", "64x40", "-o", pipe)
+        self.assertEqual(size_of(os.read(reader, 65536)), (64, 40))
+        os.close(reader)
+        self.assertTrue(pipe.is_fifo())
+
+    def test_texts_with_control_characters_make_a_good_svg(self):
+        drawing = self.drawing("a.dxf", "0", "TEXT", "1", "a\\U+0001b\\U+D83Dc", "40", "5")
+        out = self.folder / "out.SVG"
+        self.succeed("render", drawing, "-z", "400x250", "-o", out)
+        xml.dom.minidom.parse(str(out))
+
+    def test_a_lost_standard_output_is_told(self):
+        for arguments in (("--help",), ("info", BOAT), ("render", BOAT, "-o", "-")):
+            with open("/dev/full", "wb") as full:
+                done = subprocess.run([PROGRAM, *arguments], stdout=full, stderr=subprocess.PIPE, check=False)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn(b"standard output", done.stderr)
+
+    def test_without_a_folder_for_temporary_files(self):
+        environment = dict(os.environ, TMPDIR="/nonexistent")
+        done = subprocess.run([PROGRAM, "render", BOAT, "-z", "64x40", "-o", "-"], capture_output=True,
+                              env=environment, check=True)
+        self.assertEqual(size_of(done.stdout), (64, 40))
 
     def test_a_pipe_is_no_design(self):
         pipe = self.folder / "pipe.xml"

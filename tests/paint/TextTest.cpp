@@ -106,6 +106,24 @@ TEST_F(PaintedText, OfAnyLengthAndSizeTakesNoTime)
   EXPECT_LT(taken.count(), 20.0);
 }
 
+TEST_F(PaintedText, OfAnyLengthIsSeen)
+{
+  Draw(std::u16string(60, u'W'), 20.0F);
+  const int line = ink;
+  for (const std::size_t length : {500U, 5000U, 9999U, 100000U}) {
+    Draw(std::u16string(length, u'W'), 20.0F);
+    EXPECT_EQ(ink, line) << length;
+  }
+}
+
+TEST_F(PaintedText, ControlCharactersAreBlanks)
+{
+  Draw(u"abc def", 20.0F);
+  const int blank = ink;
+  Draw(u"abc\u0001def", 20.0F);
+  EXPECT_EQ(ink, blank);
+}
+
 TEST_F(PaintedText, HasNoFormatWithoutASize)
 {
   for (const float size : {0.0F, -1.0F, std::numeric_limits<float>::infinity(),

@@ -99,7 +99,7 @@ void PrepareWork(const QJsonObject& header, ReplayEditor& editor)
 QByteArray KeepMinusZeros(const QByteArray& line)
 {
   static const QRegularExpression tokens(
-      QStringLiteral(R"re("(?:[^"\\]|\\.)*"|(-0(?:\.0*)?)(?=\s*[,\]}]))re"));
+      QStringLiteral(R"re("(?:[^"\\]++|\\.)*+"|(-0(?:\.0*)?(?:[eE][+-]?\d+)?)(?=\s*[,\]}]))re"));
   const QString text = QString::fromUtf8(line);
   QString out;
   qsizetype copied = 0;

@@ -2,7 +2,8 @@
 
 #include <bit>
 #include <cmath>
-#include <cstdio>
+
+#include "base/Text.h"
 
 namespace hullwright::replay {
 namespace {
@@ -76,7 +77,7 @@ void Value::AppendCanonical(std::string& out) const
                  [&](const Object& object) {
                    out.push_back('{');
                    for (const auto& [name, value] : object) {
-                     AppendText(out, std::u16string(name.begin(), name.end()));
+                     AppendText(out, WideFromUtf8(name));
                      value.AppendCanonical(out);
                    }
                    out.push_back('}');
