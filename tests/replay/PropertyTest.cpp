@@ -297,12 +297,12 @@ void PlayScript(unsigned seed)
   editor.Start({});
   Player player(editor);
   StepMaker maker(seed);
-  player.Play({{"do", "size"}, {"cx", 800}, {"cy", 600}}, false);
+  player.Play({{"do", "size"}, {"cx", 800}, {"cy", 600}}, Detail::Events);
   for (int step = 0; step < stepsOfScript; ++step) {
     const QJsonObject made = maker.Next();
     SCOPED_TRACE("script " + std::to_string(seed) + ", step " + std::to_string(step) + ": " +
                  QJsonDocument(made).toJson(QJsonDocument::Compact).toStdString());
-    player.Play(made, false);
+    player.Play(made, Detail::Events);
     ExpectOneEditingShapeAGroup(editor.app);
     ExpectNothingInTwoPlaces(editor.app);
     ExpectTreeListsTheDesign(editor);

@@ -1,6 +1,6 @@
 #include "replay/driver/FrameRecorder.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace hullwright::replay {
 namespace {
@@ -64,7 +64,7 @@ public:
   void Clear(const Colour& colour) override { Add(Row("clear", Of(colour))); }
   ResultCode EndDraw() override
   {
-    recorder_.frame = recorder_.operations;
+    recorder_.frame = std::exchange(recorder_.operations, {});
     return 0;
   }
   std::unique_ptr<IBrush> CreateSolidColourBrush(const Colour& colour) override

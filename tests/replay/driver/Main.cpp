@@ -149,7 +149,7 @@ void Play(const std::vector<QJsonObject>& lines, const fs::path& work, bool full
   Player player(editor);
   JsonWriter json(stdout);
   for (std::size_t i = hasHeader ? 1 : 0; i < lines.size(); ++i) {
-    player.Play(lines[i], full).Write(json);
+    player.Play(lines[i], full ? Detail::Full : Detail::Hash).Write(json);
     json.EndLine();
   }
 }

@@ -106,16 +106,12 @@ void Player::Prepare(const QJsonObject& step)
   written_.reset();
 }
 
-Value Player::Play(const QJsonObject& step, bool full)
+Value Player::Play(const QJsonObject& step, Detail detail)
 {
   const std::string name = NameOf(step[u"do"]);
   Prepare(step);
   const Handler handler = FindHandler(name);
   Value result = handler == nullptr ? Value("unknown step") : (this->*handler)(step);
-
-  const Value state = editor_.State();
-  std::string canonical;
-  state.AppendParts(canonical, {"design", "view", "shell", "tree", "frame"});
   Value::Object report = {{"step", number_++},
                           {"do", name},
                           {"result", std::move(result)},
@@ -124,14 +120,22 @@ Value Player::Play(const QJsonObject& step, bool full)
                           {"dialogs", editor_.dialogs.reports},
                           {"menu", editor_.pointer.menu},
                           {"band", editor_.pointer.band}};
+  if (detail != Detail::Events) ReportState(report, detail == Detail::Full);
+  return report;
+}
+
+void Player::ReportState(Value::Object& report, bool full)
+{
+  Value state = editor_.State();
+  std::string canonical;
+  state.AppendParts(canonical, {"design", "view", "shell", "tree", "frame"});
   if (written_) {
     const std::u16string bytes = ReplayEditor::BytesOf(*written_);
     for (const char16_t byte : bytes) canonical.push_back(static_cast<char>(byte));
     if (full) report["file"] = bytes;
   }
   report["hash"] = Crc32(canonical);
-  if (full) report["state"] = state;
-  return report;
+  if (full) report["state"] = std::move(state);
 }
 
 Value Player::Size(const QJsonObject& step)

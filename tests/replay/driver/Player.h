@@ -8,19 +8,23 @@
 
 namespace hullwright::replay {
 
+/// How much a step reports of the state that it leaves: nothing, its hash, or all of it as well.
+enum class Detail { Events, Hash, Full };
+
 /// Plays the steps of a script on an editor, one after the other.
 class Player {
 public:
   explicit Player(ReplayEditor& editor) : editor_(editor) {}
 
-  /// Carries one step out; what it reports, with the whole state where that is asked for.
-  Value Play(const QJsonObject& step, bool full);
+  /// Carries one step out; what it reports.
+  Value Play(const QJsonObject& step, Detail detail);
 
 private:
   using Handler = Value (Player::*)(const QJsonObject&);
   static Handler FindHandler(const std::string& name);
 
   void Prepare(const QJsonObject& step);
+  void ReportState(Value::Object& report, bool full);
   Value Size(const QJsonObject& step);
   Value Mouse(const QJsonObject& step);
   Value Wheel(const QJsonObject& step);
