@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <regex>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -54,9 +54,12 @@ bool IsKnownName(std::string_view name)
 /// Whether a text is a number from its first character to its last.
 bool IsNumber(std::u16string_view text)
 {
-  static const std::regex number(R"(\s*[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?|[+-]?(inf|nan))");
-  constexpr std::size_t longest = 400;  // what numbers are written with
-  return text.size() <= longest && std::regex_match(Utf8FromWide(text), number);
+  std::string number = Utf8FromWide(text);
+  number.erase(0, number.find_first_not_of(" \t\r\n"));
+  if (number.starts_with('+')) number.erase(0, 1);
+  double value = 0.0;
+  const char* const end = number.data() + number.size();
+  return std::from_chars(number.data(), end, value).ptr == end && !number.empty();
 }
 
 bool HasWord(std::string_view words, std::string_view word)
