@@ -1,0 +1,162 @@
+#include <cmath>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+
+constexpr double turn = 0.017453292519943295;  // of one degree, in radians
+
+/// Circles, arcs and ellipses, which become polylines.
+class Curves : public DxfFixture {};
+
+TEST_F(Curves, ACircleRunsClockwiseFromTheWestAndIsFlat)
+{
+  ImportEntities(Lines({{0, "CIRCLE"}, {10, "10"}, {20, "20"}, {30, "5"}, {40, "2"}}));
+  const auto vertices = VerticesOf(0);
+  ASSERT_EQ(vertices.size(), 61U);
+  EXPECT_THAT(vertices[0], ElementsAre(8.0, 20.0, 0.0));
+  EXPECT_NEAR(vertices[15][0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices[15][1], 22.0, 1e-12);
+  EXPECT_NEAR(vertices[60][0], 8.0, 1e-12);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=CIRLCE", "LAYER=", "HANDLE="));
+}
+
+TEST_F(Curves, ARadiusOfZeroOrLessIsTakenAsItIs)
+{
+  ImportEntities(Lines({{0, "CIRCLE"}, {10, "1"}, {40, "0"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 1.0);
+  ImportEntities(Lines({{0, "CIRCLE"}, {40, "-2"}}));
+  EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
+}
+
+TEST_F(Curves, AnArcGoesCounterClockwiseInSteps)
+{
+  ImportEntities(
+      Lines({{0, "ARC"}, {10, "10"}, {20, "20"}, {30, "3"}, {40, "2"}, {50, "0"}, {51, "90"}}));
+  const auto vertices = VerticesOf(0);
+  EXPECT_GE(vertices.size(), 181U);
+  EXPECT_LE(vertices.size(), 182U);
+  EXPECT_THAT(vertices[0], ElementsAre(12.0, 20.0, 3.0));
+  EXPECT_NEAR(vertices[90][0], 10.0 + 2.0 * std::cos(45.0 * turn), 1e-12);
+  EXPECT_NEAR(vertices.back()[0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices.back()[1], 22.0, 1e-12);
+  // The last two coincide, nearly or exactly.
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], vertices.back()[0], 1e-9);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=ARC", "LAYER=", "HANDLE="));
+}
+
+TEST_F(Curves, AWholeArcIsOneTurnOfTwoDegreeSteps)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "0"}, {51, "360"}}));
+  EXPECT_NEAR(VerticesOf(0)[1][0], std::cos(2.0 * turn), 1e-12);
+  EXPECT_NEAR(VerticesOf(0).back()[0], 1.0, 1e-12);
+}
+
+TEST_F(Curves, AnArcThroughZeroAddsAFullTurn)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "350"}, {51, "10"}}));
+  const auto vertices = VerticesOf(0);
+  EXPECT_NEAR(vertices[90][0], 1.0, 1e-12);
+  EXPECT_NEAR(vertices.back()[1], std::sin(10.0 * turn), 1e-12);
+}
+
+TEST_F(Curves, AnArcThatEndsWhereItStartsIsAFullTurn)
+{
+  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "90"}, {51, "90"}}));
+  EXPECT_NEAR(VerticesOf(0)[0][1], 1.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[90][1], -1.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0).back()[1], 1.0, 1e-12);
+}
+
+TEST_F(Curves, AClockwiseArcMayOvershootByOneStepBeforeItReturns)
+{
+  CFileDxf reader(&window, log);
+  const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 90.0, 0.0, true);
+  ASSERT_GE(arc->vertices.size(), 182U);
+  const CShapeVertex& last = *arc->vertices.back();
+  const CShapeVertex& beforeLast = *arc->vertices[arc->vertices.size() - 2];
+  EXPECT_EQ(last.x, 1.0);
+  EXPECT_EQ(last.y, 0.0);
+  EXPECT_NEAR(beforeLast.y, -std::sin(0.5 * turn), 1e-9);
+}
+
+TEST_F(Curves, AnArcAlwaysEnds)
+{
+  CFileDxf reader(&window, log);
+  for (const bool clockwise : {false, true}) {
+    for (const double start :
+         {0.0, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+      for (const double end :
+           {0.0, 1e18, -1e18, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+        const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, clockwise);
+        EXPECT_GE(arc->vertices.size(), 1U);
+        EXPECT_LE(arc->vertices.size(), 400U) << start << " " << end;
+      }
+    }
+  }
+}
+
+TEST_F(Curves, AWholeEllipseAlongTheAxesIsExact)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"},
+                        {10, "10"},
+                        {20, "20"},
+                        {30, "3"},
+                        {11, "4"},
+                        {40, "0.5"},
+                        {41, "0"},
+                        {42, "6.283185307179586"}}));
+  const auto vertices = VerticesOf(0);
+  ASSERT_EQ(vertices.size(), 61U);
+  EXPECT_THAT(vertices[0], ElementsAre(14.0, 20.0, 3.0));
+  EXPECT_NEAR(vertices[15][0], 10.0, 1e-12);
+  EXPECT_NEAR(vertices[15][1], 22.0, 1e-12);
+  EXPECT_NEAR(vertices[30][0], 6.0, 1e-12);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("TYPE=ELLIPSE", "LAYER=", "HANDLE="));
+}
+
+TEST_F(Curves, APartOfAnEllipseRunsTheOtherWayFromItsStartTakenAsRadians)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "1"}, {42, "2"}}));
+  const double start = 57.29577951308232;
+  EXPECT_NEAR(VerticesOf(0)[0][0], std::cos(start), 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start - 1.0), 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[60][1], -std::sin(start - 1.0), 1e-12);
+}
+
+TEST_F(Curves, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "2"}, {42, "1"}}));
+  const double start = 2.0 * 57.29577951308232;
+  const double step = (start - (57.29577951308232 + 360.0)) * turn;
+  EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start + step), 1e-9);
+}
+
+TEST_F(Curves, ASlantedEllipseCollapsesIntoALine)
+{
+  ImportEntities(
+      Lines({{0, "ELLIPSE"}, {11, "3"}, {21, "3"}, {40, "1"}, {42, "6.283185307179586"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_NEAR(v[0], v[1], 1e-9);
+}
+
+TEST_F(Curves, AnEllipseWithoutAnAxisLiesInItsCentre)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {10, "5"}, {31, "0"}, {40, "1"}, {42, "6"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 5.0);
+}
+
+TEST_F(Curves, TheCentreOfAnEllipseIsExtrudedTwice)
+{
+  ImportEntities(Lines(
+      {{0, "ELLIPSE"}, {10, "5"}, {11, "1"}, {40, "1"}, {42, "6.283185307179586"}, {230, "-1"}}));
+  double sum = 0.0;
+  for (std::size_t i = 0; i < 60; ++i) sum += VerticesOf(0)[i][0];
+  EXPECT_NEAR(sum / 60.0, 5.0, 1e-9);
+}
+
+}  // namespace
+}  // namespace hullwright
