@@ -61,13 +61,6 @@ std::string UnitOf(HeadlessEditor& editor)
   return name.empty() ? "unknown" : Utf8FromWide(name);
 }
 
-void WriteNumbers(JsonWriter& json, std::initializer_list<double> numbers)
-{
-  json.BeginArray();
-  for (const double number : numbers) json.Double(number);
-  json.EndArray();
-}
-
 void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
 {
   json.BeginObject();
@@ -76,7 +69,7 @@ void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
   json.Key("name");
   json.Text(anchor.name);
   json.Key("attachment");
-  WriteNumbers(json, {anchor.attachmentX, anchor.attachmentY});
+  json.Doubles({anchor.attachmentX, anchor.attachmentY});
   json.EndObject();
 }
 
@@ -94,7 +87,7 @@ void WriteGroup(JsonWriter& json, const CShapes& group)
   json.Integer(static_cast<std::int64_t>(summary.vertices));
   json.Key("extents");
   if (HasBox(summary)) {
-    WriteNumbers(json, {summary.box.minX, summary.box.minY, summary.box.maxX, summary.box.maxY});
+    json.Doubles({summary.box.minX, summary.box.minY, summary.box.maxX, summary.box.maxY});
   } else {
     json.Null();
   }
@@ -148,7 +141,7 @@ void WriteDesignJson(JsonWriter& json, HeadlessEditor& editor, const std::string
   json.BeginObject();
   for (const Offset& offset : OffsetsOf(app)) {
     json.Key(offset.name);
-    WriteNumbers(json, {offset.place.x, offset.place.y, offset.place.z});
+    json.Doubles({offset.place.x, offset.place.y, offset.place.z});
   }
   json.EndObject();
   json.Key("anchors");

@@ -120,11 +120,7 @@ void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std
   json.Key("shapes");
   json.Integer(static_cast<std::int64_t>(summary.shapes));
   json.Key("extents");
-  json.BeginArray();
-  for (const double bound : {summary.minX, summary.minY, summary.maxX, summary.maxY}) {
-    json.Double(bound);
-  }
-  json.EndArray();
+  json.Doubles({summary.minX, summary.minY, summary.maxX, summary.maxY});
   json.EndObject();
   json.EndLine();
 }

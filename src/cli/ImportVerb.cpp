@@ -162,8 +162,9 @@ int Run(int argc, char** argv)
   if (options.output.empty() && !options.json) {
     return UsageError("import needs -o OUT.xml, or --json");
   }
-  if (options.json && (options.output == "-" || inputs.front() == "-")) {
-    options.output.clear();  // one of the two takes the stream
+  const bool readsInput = std::ranges::find(inputs, "-") != inputs.end();
+  if (options.json && !options.output.empty() && (options.output == "-" || readsInput)) {
+    return UsageError("--json and -o can't share standard input or output");
   }
   if (WouldOverwrite(options)) return UsageError("the design would overwrite the drawing");
   const int printed = options.json ? PrintJson(options) : 0;

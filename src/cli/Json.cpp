@@ -63,6 +63,13 @@ void JsonWriter::Double(double value)
   Raw(whole ? std::string(number) + ".0" : std::string(number));
 }
 
+void JsonWriter::Doubles(std::initializer_list<double> values)
+{
+  BeginArray();
+  for (const double value : values) Double(value);
+  EndArray();
+}
+
 void JsonWriter::Escape(char16_t unit) { out_ += "\\u" + FormatHex(unit, 4); }
 
 void JsonWriter::Text(std::u16string_view text)

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,9 @@ public:
 
   /// The shortest number that reads back to the same double; "nan", "inf" and "-inf" as texts.
   void Double(double value);
+
+  /// A list of doubles.
+  void Doubles(std::initializer_list<double> values);
 
   /// A text of 16-bit units. Pairs of surrogates become one character, lone ones their escape.
   void Text(std::u16string_view text);

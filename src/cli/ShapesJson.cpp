@@ -9,9 +9,7 @@ namespace {
 
 void WriteVertex(JsonWriter& json, const CShapeVertex& vertex)
 {
-  json.BeginArray();
-  for (const double coordinate : {vertex.x, vertex.y, vertex.z}) json.Double(coordinate);
-  json.EndArray();
+  json.Doubles({vertex.x, vertex.y, vertex.z});
 }
 
 void WriteVertices(JsonWriter& json, const OwnedArray<CShapeVertex>& vertices)
@@ -129,9 +127,7 @@ void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u1
   }
   json.EndArray();
   json.Key("extents");
-  json.BeginArray();
-  for (const double bound : {layer.minX, layer.minY, layer.maxX, layer.maxY}) json.Double(bound);
-  json.EndArray();
+  json.Doubles({layer.minX, layer.minY, layer.maxX, layer.maxY});
   json.Key("shapes");
   json.BeginArray();
   ForEachEntry(layer.shapes->shapes, [&](const CShape& shape) { WriteShape(json, shape); });

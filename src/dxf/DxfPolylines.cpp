@@ -112,18 +112,12 @@ void CFileDxf::ReadLwPolyline(CShapes& target)
 {
   DxfEntity entity;
   VertexGatherer vertices;
-  ForEachPair(
-      [&](std::int32_t code, std::string_view value) {
-        if (code == 102) {
-          SkipGroupBlock();
-          return;
-        }
-        entity.Take(code, value);
-        if (code == 10) vertices.TakeX(entity.Number(code));
-        if (code == 20) vertices.TakeY(entity.Number(code));
-        if (code == 42) vertices.TakeBulge(entity.Number(code));
-      },
-      shortLine);
+  const auto gather = [&](std::int32_t code, std::string_view) {
+    if (code == 10) vertices.TakeX(entity.Number(code));
+    if (code == 20) vertices.TakeY(entity.Number(code));
+    if (code == 42) vertices.TakeBulge(entity.Number(code));
+  };
+  ReadGroups(entity, gather, shortLine);
   // Neither elevation nor normal nor paper space play a part.
   polylineExtrusion = {0.0, 0.0, 1.0};
   if (IsLayerHidden(entity.layerName)) return;

@@ -157,17 +157,18 @@ private:
 
   /// Takes the pairs of an entity in, then passes each on to `act`.
   template <class Act>
-  void ReadGroups(DxfEntity& entity, Act act)
+  void ReadGroups(DxfEntity& entity, Act act, std::size_t valueLimit = longLine)
   {
     constexpr std::int32_t applicationData = 102;
-    ForEachPair([&](std::int32_t code, std::string_view value) {
+    const auto take = [&](std::int32_t code, std::string_view value) {
       if (code == applicationData) {
         SkipGroupBlock();
       } else {
         entity.Take(code, value);
         act(code, value);
       }
-    });
+    };
+    ForEachPair(take, valueLimit);
   }
   void ReadGroups(DxfEntity& entity)
   {

@@ -146,7 +146,9 @@ class ImportTest(CliTest):
     def test_the_drawing_is_not_overwritten(self):
         path = self.drawing("a.dxf", "0", "LINE")
         self.assert_usage_errors(("import", path, "-o", path), ("import", "-", "-", "-o", "x.xml"),
-                                 ("import", "-", "-i", "-", "-o", "x.xml"))
+                                 ("import", "-", "-i", "-", "-o", "x.xml"),
+                                 ("import", path, "--json", "-o", "-"),
+                                 ("import", "-", "--json", "-o", "x.xml"))
 
     def test_wrong_usage(self):
         path = self.drawing("a.dxf")
