@@ -5,6 +5,7 @@ import pathlib
 import signal
 import struct
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -23,11 +24,13 @@ class Desk:
                                 XDG_CONFIG_HOME=str(self.folder / "config"),
                                 XDG_RUNTIME_DIR=str(self.folder))
         read, write = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
-                    pass_fds=[write])
+        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+                     "-noreset"], pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as answer:
             self.environment["DISPLAY"] = ":" + answer.readline().strip()
+        # A keyboard with umlauts: a key that has to be bound first reaches a busy program too late.
+        subprocess.run(["setxkbmap", "de"], env=self.environment, check=True, timeout=PATIENCE)
         self._start(["openbox", "--sm-disable"])
         self.window = None
         self.program = None
@@ -41,14 +44,15 @@ class Desk:
         self._folder.cleanup()
 
     def _start(self, command, **options):
-        process = subprocess.Popen(command, env=self.environment, stderr=subprocess.DEVNULL,
-                                   stdout=subprocess.DEVNULL, **options)
+        options.setdefault("stderr", subprocess.DEVNULL)
+        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.DEVNULL, **options)
         self._processes.append(process)
         return process
 
     def start(self, program, *arguments):
         """Starts the program and waits for its window."""
-        self.program = self._start([program, *map(str, arguments)])
+        with open(self.folder / "complaints", "wb") as complaints:
+            self.program = self._start([program, *map(str, arguments)], stderr=complaints)
         found = self._xdotool("search", "--sync", "--onlyvisible", "--name", "Hullwright")
         self.window = found.split()[-1]
         self.activate()
@@ -72,12 +76,38 @@ class Desk:
                 raise AssertionError("nothing happened in time")
             time.sleep(0.1)
 
+    def _activity(self):
+        """How often each thread on this desk has run so far; None while one of them runs or wants to."""
+        runs = {}
+        for process in self._processes:
+            for status in pathlib.Path(f"/proc/{process.pid}/task").glob("*/status"):
+                try:
+                    fields = dict(line.split(":\t", 1) for line in status.read_text().splitlines())
+                except (FileNotFoundError, ProcessLookupError):
+                    return None  # a thread that just ended
+                if fields["State"][0] in "RD":
+                    return None
+                runs[status] = [value for name, value in fields.items() if name.endswith("ctxt_switches")]
+        return runs
+
+    def _rest(self):
+        """Waits until what was sent has been dealt with: the display, the window manager and the program
+        all sleep. Unlike a pause this holds on a machine under load as well."""
+        time.sleep(0.05)
+        before, same, deadline = None, 0, time.monotonic() + PATIENCE
+        while same < 3 and time.monotonic() < deadline:
+            now = self._activity()
+            same = same + 1 if now is not None and now == before else 0
+            before = now
+            time.sleep(0.02)
+
     def settle(self):
         """Waits until the screen has not changed for a while."""
         seen = [self.screen()]
         deadline = time.monotonic() + PATIENCE
         while len(seen) < 3 and time.monotonic() < deadline:
-            time.sleep(0.25)
+            time.sleep(0.1)
+            self._rest()
             now = self.screen()
             seen = seen + [now] if now == seen[-1] else [now]
 
@@ -141,34 +171,37 @@ class Desk:
         """Presses keys one after the other."""
         for name in names:
             self._xdotool("key", "--clearmodifiers", name)
-            time.sleep(0.15)
+            self._rest()
 
     def move(self, x, y):
         """Moves the mouse to a position of the screen."""
         self._xdotool("mousemove", "--sync", x, y)
-        time.sleep(0.15)
+        self._rest()
 
     def click(self, x, y, button=1):
         """Moves there and clicks."""
         self.move(x, y)
         self._xdotool("click", button)
-        time.sleep(0.15)
+        self._rest()
 
     def type(self, text):
         """Types a text."""
         self._xdotool("type", "--clearmodifiers", "--delay", 40, "--", text)
-        time.sleep(0.15)
+        self._rest()
 
     def press(self):
         """Presses the left button."""
         self._xdotool("mousedown", 1)
-        time.sleep(0.15)
+        self._rest()
 
     def release(self):
         """Releases the left button."""
         self._xdotool("mouseup", 1)
-        time.sleep(0.15)
+        self._rest()
 
     def wait_for_end(self):
-        """Waits until the program has ended by itself; its exit status."""
-        return self.program.wait(PATIENCE)
+        """Waits until the program has ended by itself; its exit status. Tells what it complained of."""
+        status = self.program.wait(PATIENCE)
+        if status:
+            print((self.folder / "complaints").read_text(errors="replace"), file=sys.stderr)
+        return status

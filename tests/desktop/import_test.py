@@ -43,8 +43,7 @@ class ImportTest(unittest.TestCase):
         self.desk.keys("alt+f", *["Down"] * 4, "Return")
         self.desk.dialog("Import DXF File")
         self.desk.type(str(self.drawing))
-        self.desk.keys("Return")
-        self.desk.settle()
+        self.desk.answer("Import DXF File", "Return")
 
     def test_an_imported_outline_is_seen_saved_and_opened_again(self):
         self.desk.start(PROGRAM)
