@@ -68,6 +68,17 @@ bool HasWord(std::string_view words, std::string_view word)
   return padded.find(" " + std::string(word) + " ") != std::string::npos;
 }
 
+/// The beginning of a text on one line, in quotation marks.
+std::string Quoted(std::u16string_view text)
+{
+  constexpr std::size_t longest = 60;
+  std::u16string line(text.substr(text.find_first_not_of(u" \t\r\n")));
+  if (line.size() > longest) line = line.substr(0, longest) + u"\u2026";
+  std::ranges::replace_if(
+      line, [](char16_t c) { return c < u' '; }, u' ');
+  return '"' + Utf8FromWide(line) + '"';
+}
+
 }  // namespace
 
 void CDesignCheck::Add(const std::string& kind, const std::string& example)
@@ -176,8 +187,16 @@ void CDesignCheck::Characters(std::u16string_view text)
   if (parent == "anchor") {
     CheckAnchorField(path_.back(), text);
   } else if (text.find_first_not_of(u" \t\r\n") != std::u16string_view::npos) {
-    Add("text between elements is lost",
-        "\"" + Utf8FromWide(text) + "\" in <" + path_.back() + ">");
+    Add("text between elements is lost", Quoted(text) + " in <" + path_.back() + ">");
+  }
+}
+
+void CDesignCheck::PassOver(std::u16string_view markup)
+{
+  if (markup.starts_with(u"<!--") || markup.starts_with(u"<?")) {
+    Add("comments and processing instructions are lost", Quoted(markup));
+  } else if (markup.find_first_not_of(u" \t\r\n") != std::u16string_view::npos) {
+    Add("text that follows a line break is lost", Quoted(markup) + " in <" + path_.back() + ">");
   }
 }
 

@@ -20,6 +20,7 @@ public:
   void EndElement(std::u16string_view name) override;
   void Characters(std::u16string_view text) override;
   void Error(std::u16string_view message, int line, int column, int code) override;
+  void PassOver(std::u16string_view markup) override;
 
   /// What would be lost or changed, a line each; call it after the reading.
   std::vector<std::string> Findings() const;

@@ -48,6 +48,8 @@ void CFileSax::EndElement(std::u16string_view) {}
 
 void CFileSax::Characters(std::u16string_view) {}
 
+void CFileSax::PassOver(std::u16string_view) {}
+
 void CFileSax::Error(std::u16string_view, int, int, int) {}
 
 int CFileSax::Read(std::u16string_view path)

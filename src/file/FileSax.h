@@ -17,7 +17,7 @@ using AttributeMap = std::map<std::u16string, std::u16string, std::less<>>;
 /// Value of an attribute; empty where it is missing.
 const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name);
 
-/// Base of the XML files. Reading pushes the file's elements and texts through the four callbacks;
+/// Base of the XML files. Reading pushes the file's elements and texts through the callbacks;
 /// writing composes a document in a growing block that goes to the disk in one piece.
 class CFileSax {
 public:
@@ -32,6 +32,10 @@ public:
   virtual void EndElement(std::u16string_view name);
   virtual void Characters(std::u16string_view text);
   virtual void Error(std::u16string_view message, int line, int column, int code);
+
+  /// What no other callback gets to see: a comment or a processing instruction with its marks, or a
+  /// chunk of text that the handler drops.
+  virtual void PassOver(std::u16string_view markup);
 
   /// Parses a file; every callback runs inside. 0, or -1 for a file that can't be read or is not
   /// well-formed XML. A document type declaration counts as not well-formed: no entity expands and

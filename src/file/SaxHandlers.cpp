@@ -16,9 +16,17 @@ void CFileSaxContentHandler::EndElement(std::u16string_view localName)
 void CFileSaxContentHandler::Characters(std::u16string_view chunk)
 {
   if (owner_ == nullptr || chunk.empty()) return;
-  if (chunk.find_first_not_of(u' ') == std::u16string_view::npos) return;
-  if (chunk.front() == u'\n' || chunk.front() == u'\r') return;
-  owner_->Characters(chunk);
+  const bool blank = chunk.find_first_not_of(u' ') == std::u16string_view::npos;
+  if (blank || chunk.front() == u'\n' || chunk.front() == u'\r') {
+    owner_->PassOver(chunk);
+  } else {
+    owner_->Characters(chunk);
+  }
+}
+
+void CFileSaxContentHandler::PassOver(std::u16string_view markup)
+{
+  if (owner_ != nullptr) owner_->PassOver(markup);
 }
 
 void CFileSaxErrorHandler::Error(std::u16string_view message, int line, int column, int code)

@@ -19,6 +19,9 @@ public:
   /// follows there. Any other chunk is one call, nothing is gathered.
   void Characters(std::u16string_view chunk);
 
+  /// A comment or a processing instruction, with its marks.
+  void PassOver(std::u16string_view markup);
+
 private:
   CFileSax* owner_;
 };

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <initializer_list>
 #include <memory>
 #include <new>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 #include "base/Text.h"
@@ -44,12 +46,15 @@ public:
         d.Text({text, static_cast<std::size_t>(length)});
       });
     });
-    XML_SetCommentHandler(parser, [](void* self, const XML_Char*) {
-      static_cast<Driver*>(self)->Run([](Driver& d) { d.FlushText(); });
+    XML_SetCommentHandler(parser, [](void* self, const XML_Char* text) {
+      static_cast<Driver*>(self)->Run([&](Driver& d) { d.PassOver({"<!--", text, "-->"}); });
     });
-    XML_SetProcessingInstructionHandler(parser, [](void* self, const XML_Char*, const XML_Char*) {
-      static_cast<Driver*>(self)->Run([](Driver& d) { d.FlushText(); });
-    });
+    XML_SetProcessingInstructionHandler(
+        parser, [](void* self, const XML_Char* target, const XML_Char* data) {
+          static_cast<Driver*>(self)->Run([&](Driver& d) {
+            d.PassOver({"<?", target, " ", data, "?>"});
+          });
+        });
     XML_SetStartDoctypeDeclHandler(
         parser, [](void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
           XML_StopParser(static_cast<Driver*>(self)->parser_, XML_FALSE);
@@ -94,6 +99,14 @@ private:
     const bool lineBreak = text.starts_with('\n') || text.starts_with('\r');
     if (lineBreak && XML_GetCurrentByteCount(parser_) <= longestLineBreak) FlushText();
     chunk_ += text;
+  }
+
+  void PassOver(std::initializer_list<std::string_view> parts)
+  {
+    FlushText();
+    std::string markup;
+    for (const std::string_view part : parts) markup += part;
+    content_.PassOver(WideFromUtf8(markup));
   }
 
   void FlushText()

@@ -100,6 +100,15 @@ class CheckTest(CliTest):
         self.assertEqual(found, ["unknown attributes are lost (1): colour=\"1\" of <vertex>",
                                  "unknown elements are lost (3): <arc> in <polyline>"])
 
+    def test_comments_and_text_after_a_line_break(self):
+        design = HEAD + "<!-- after the refit\n of May -->\n<?mark x?>" + "\n lost " + GROUP + TAIL.replace(
+            "<anchors>", f"<anchors><anchor><id>1</id><name>Bow{chr(10)}{'a' * 70}</name></anchor>")
+        self.assertEqual(self.findings(design), [
+            'comments and processing instructions are lost (2): "<!-- after the refit  of May -->"',
+            'text that follows a line break is lost (2): "lost  " in <vessel>'])
+        self.assertEqual(self.findings(HEAD + f"<!--{'b' * 70}-->" + TAIL), [
+            f'comments and processing instructions are lost (1): "<!--{"b" * 56}\u2026"'])
+
     def test_groups(self):
         found = self.findings(HEAD + GROUP + GROUP + GROUP.replace("01", "03") + GROUP.replace("01", "x") + TAIL)
         self.assertEqual(found, [

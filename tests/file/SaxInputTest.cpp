@@ -38,7 +38,10 @@ public:
     errorColumn = column;
   }
 
+  void PassOver(std::u16string_view markup) override { passedOver.push_back(Utf8FromWide(markup)); }
+
   std::vector<std::string> events;
+  std::vector<std::string> passedOver;
   std::string error;
   int errorLine = -1;
   int errorColumn = -1;
@@ -164,6 +167,13 @@ TEST_F(SaxInput, DeepNestingIsRead)
   EXPECT_EQ(listener.events.size(), 2U * depth);
 }
 
+TEST_F(SaxInput, TellsWhatItPassesOver)
+{
+  EXPECT_EQ(Read("<?xml version='1.0'?><!-- log --><a>\nlost<?mark at=1?></a>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<a", ">a"));
+  EXPECT_THAT(listener.passedOver, ElementsAre("<!-- log -->", "\nlost", "<?mark at=1?>"));
+}
+
 class ContentHandler : public SaxInput {
 protected:
   CFileSaxContentHandler handler{&listener};
@@ -191,6 +201,7 @@ TEST_F(ContentHandler, WithoutAnOwnerNothingHappens)
   CFileSaxContentHandler orphan(nullptr);
   orphan.StartElement(u"a", {});
   orphan.Characters(u"text");
+  orphan.PassOver(u"<!-- -->");
   orphan.EndElement(u"a");
   CFileSaxErrorHandler(nullptr).Error(u"", 0, 0, 0);
   EXPECT_TRUE(listener.events.empty());
