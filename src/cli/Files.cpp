@@ -11,6 +11,8 @@
 #include <cstring>
 #include <filesystem>
 
+#include "base/Text.h"
+
 namespace hullwright {
 namespace {
 
@@ -79,19 +81,30 @@ std::filesystem::path TemporaryFolder()
 
 }  // namespace
 
-InputFile::InputFile(const std::string& name) : name_(name), path_(name)
+InputFile::InputFile(const std::string& name)
+    : isStream_(name == standardStream), name_(name), path_(name)
 {
-  if (name != standardStream) return;
-  name_ = "standard input";
-  path_ = MakeTemporary(TemporaryFolder());
-  temporary_ = !path_.empty();
-  const Descriptor copy(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
-  if (copy.Number() < 0 || !Copy(STDIN_FILENO, copy.Number())) problem_ = Reason(errno);
+  if (isStream_) {
+    name_ = "standard input";
+    CopyFrom(STDIN_FILENO);
+  } else if (!IsUtf8(name)) {
+    // The editor knows files by Unicode names only.
+    const Descriptor file(open(name.c_str(), O_RDONLY | O_CLOEXEC));
+    CopyFrom(file.Number());
+  }
 }
 
 InputFile::~InputFile()
 {
-  if (temporary_) unlink(path_.c_str());
+  if (!copy_.empty()) unlink(copy_.c_str());
+}
+
+void InputFile::CopyFrom(int file)
+{
+  if (file >= 0) copy_ = MakeTemporary(TemporaryFolder());
+  const Descriptor copy(copy_.empty() ? -1 : open(copy_.c_str(), O_WRONLY | O_CLOEXEC));
+  if (copy.Number() < 0 || !Copy(file, copy.Number())) problem_ = Reason(errno);
+  path_ = copy_;
 }
 
 std::string InputFile::Problem() const
@@ -107,8 +120,8 @@ std::string InputFile::Problem() const
 
 bool InputFile::IsDrawing() const
 {
-  if (!temporary_) {
-    const std::string extension = std::filesystem::path(path_).extension().string();
+  if (!isStream_) {
+    const std::string extension = std::filesystem::path(name_).extension().string();
     return strcasecmp(extension.c_str(), ".dxf") == 0;
   }
   const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
@@ -180,11 +193,8 @@ bool OutputFile::CopyOut()
 bool OutputFile::Write(std::string_view bytes)
 {
   if (path_.empty()) return false;
-  {
-    const Descriptor file(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
-    if (!WriteAll(file.Number(), bytes)) return Fail(errno);
-  }
-  return Commit();
+  const Descriptor file(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
+  return WriteAll(file.Number(), bytes) || Fail(errno);
 }
 
 }  // namespace hullwright

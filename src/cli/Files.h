@@ -5,7 +5,8 @@
 
 namespace hullwright {
 
-/// A file to read; "-" stands for what comes on standard input.
+/// A file to read; "-" stands for what comes on standard input. That, and a file whose name is not
+/// UTF-8, is read from a copy.
 class InputFile {
 public:
   /// Reads standard input to its end where that is asked for.
@@ -28,10 +29,13 @@ public:
   bool IsDrawing() const;
 
 private:
+  void CopyFrom(int file);
+
+  bool isStream_;
   std::string name_;
   std::string path_;
-  std::string problem_;  ///< with standard input
-  bool temporary_ = false;
+  std::string copy_;     ///< path of the copy, where there is one
+  std::string problem_;  ///< of the copying
 };
 
 /// A file that comes to be whole or not at all; "-" stands for standard output. What is there
@@ -46,10 +50,10 @@ public:
   /// Where to write; empty when nothing can be written there.
   const std::string& Path() const { return path_; }
 
-  /// Puts what was written in its place; false with `Problem` where that fails.
+  /// Puts what was written in its place, the last step; false with `Problem` where that fails.
   bool Commit();
 
-  /// Writes a whole file and commits it.
+  /// Writes the whole content.
   bool Write(std::string_view bytes);
 
   /// What went wrong, with the file's name.

@@ -8,6 +8,7 @@
 #include <QPicture>
 #include <QSvgGenerator>
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 
 #include "base/Text.h"
@@ -162,13 +163,30 @@ QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
   });
 }
 
-std::string WriteFile(const std::string& path, const QByteArray& bytes)
-{
-  if (bytes.isEmpty()) return path + ": no memory for a picture of this size";
-  OutputFile file(path);
-  const bool written = file.Write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-  return written ? std::string() : file.Problem();
-}
+/// Pictures that come to be all together, or none of them.
+class PictureFiles {
+public:
+  /// Writes a picture beside its place. Empty on success, else what went wrong.
+  std::string Add(const std::string& path, const QByteArray& bytes)
+  {
+    if (bytes.isEmpty()) return path + ": no memory for a picture of this size";
+    OutputFile& file = files_.emplace_back(path);
+    const bool written = file.Write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return written ? std::string() : file.Problem();
+  }
+
+  /// Puts the pictures in their places. Empty on success, else what went wrong.
+  std::string Commit()
+  {
+    for (OutputFile& file : files_) {
+      if (!file.Commit()) return file.Problem();
+    }
+    return {};
+  }
+
+private:
+  std::deque<OutputFile> files_;
+};
 
 std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 {
@@ -194,16 +212,20 @@ std::string WritePictures(const PictureRequest& request)
   if (!painter.HasRoom()) return "no memory for a picture of this size";
   const InputFile input(request.input);
   if (std::string problem = painter.Open(input); !problem.empty()) return problem;
-  if (request.sheet) return WriteFile(request.output, MakeSheet(request, painter));
-  for (const ViewSideEntry& side : request.sides) {
-    const QByteArray bytes =
-        MakeFile(EndingOf(request.output), QSize(request.width, request.height),
-                 [&](QPaintDevice& device) { painter.Paint(side, device); });
-    if (std::string problem = WriteFile(NameFor(request, side), bytes); !problem.empty()) {
-      return problem;
+  PictureFiles files;
+  std::string problem;
+  if (request.sheet) {
+    problem = files.Add(request.output, MakeSheet(request, painter));
+  } else {
+    const QSize size(request.width, request.height);
+    for (const ViewSideEntry& side : request.sides) {
+      problem = files.Add(NameFor(request, side),
+                          MakeFile(EndingOf(request.output), size,
+                                   [&](QPaintDevice& device) { painter.Paint(side, device); }));
+      if (!problem.empty()) break;
     }
   }
-  return {};
+  return problem.empty() ? files.Commit() : problem;
 }
 
 }  // namespace hullwright

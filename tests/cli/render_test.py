@@ -3,6 +3,7 @@
 
 import os
 import re
+import shutil
 import subprocess
 import unittest
 import xml.dom.minidom
@@ -100,6 +101,19 @@ class RenderTest(CliTest):
         folder = self.folder / "folder.png"
         folder.mkdir()
         self.fail_with(1, ("folder.png", "directory"), "render", BOAT, "-o", folder)
+
+    def test_of_all_sides_every_file_is_written_or_none(self):
+        (self.folder / "a-rear.png").mkdir()
+        self.fail_with(1, ("a-rear.png", "directory"), "render", BOAT, "-s", "all", "-o", self.folder / "a.png")
+
+    def test_a_name_that_is_not_unicode(self):
+        inside = os.fsencode(self.folder) + b"/b\xf6t.xml"
+        shutil.copyfile(BOAT, inside)
+        outside = os.fsencode(self.folder) + b"/b\xf6t.svg"
+        done = subprocess.run([PROGRAM, "render", inside, "-o", outside], capture_output=True, check=False)
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        with open(outside, "rb") as picture:
+            self.assertIn(b"<svg", picture.read())
 
     def test_the_mode_of_a_file_stays(self):
         out = self.write("private.png", "")
