@@ -68,6 +68,10 @@ bool HasWord(std::string_view words, std::string_view word)
   return padded.find(" " + std::string(word) + " ") != std::string::npos;
 }
 
+/// Whether a unit is half of a character beyond U+FFFF; a save writes two references for it, and no
+/// reader takes them.
+bool IsSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+
 /// The beginning of a text on one line, in quotation marks.
 std::string Quoted(std::u16string_view text)
 {
@@ -197,6 +201,8 @@ void CDesignCheck::PassOver(std::u16string_view markup)
     Add("comments and processing instructions are lost", Quoted(markup));
   } else if (markup.find_first_not_of(u" \t\r\n") != std::u16string_view::npos) {
     Add("text that follows a line break is lost", Quoted(markup) + " in <" + path_.back() + ">");
+  } else if (path_.back() == "name" && markup.front() == u' ') {
+    Add("names of blanks alone are lost", "<name>");
   }
 }
 
@@ -207,6 +213,9 @@ void CDesignCheck::CheckAnchorField(const std::string& element, std::u16string_v
   }
   if (element == "id" && WideFromAscii(std::to_string(ParseUInt32(text, 10))) != text) {
     Add("numbers of anchors change", "<id> " + Utf8FromWide(text));
+  }
+  if (element == "name" && std::ranges::any_of(text, IsSurrogate)) {
+    Add("characters beyond U+FFFF make the saved design unreadable", Quoted(text) + " in <name>");
   }
 }
 

@@ -85,7 +85,8 @@ void CFileVessel::WriteAnchors()
   Walk(anchors->cursor, anchors->items, [this](const CAnchor& anchor) {
     OpenElement(u"anchor");
     WriteTextElement(u"id", WideFromAscii(std::to_string(anchor.id)));
-    WriteTextElement(u"name", anchor.name);
+    // A name ends at a NUL, which no XML text can hold.
+    WriteTextElement(u"name", std::u16string_view(anchor.name.c_str()));
     WriteTextElement(u"attachmentX", Coordinate(anchor.attachmentX));
     WriteTextElement(u"attachmentY", Coordinate(anchor.attachmentY));
     CloseElement(u"anchor");

@@ -118,8 +118,9 @@ void DesignWidget::mousePressEvent(QMouseEvent* event)
 
 void DesignWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-  // Fast clicks are clicks: each one adds its vertex or takes its zoom step.
-  mousePressEvent(event);
+  // Fast clicks are clicks: each one adds its vertex or takes its zoom step. Not so on the right,
+  // where the first one has finished the polyline and the second would open a menu.
+  if (event->button() == Qt::LeftButton) mousePressEvent(event);
 }
 
 void DesignWidget::mouseReleaseEvent(QMouseEvent* event)

@@ -93,6 +93,18 @@ TEST_F(TraceLog, BlankLinesAreDroppedAndLongOnesKeptWhole)
   EXPECT_EQ(General(), "2\n" + longest + "\r\n2|0.000|1|new\r\n");
 }
 
+TEST_F(TraceLog, ARecordLongerThanItsBufferCountsAsSeveralLinesOfTheLimit)
+{
+  MakeFolder();
+  std::string old = "200\n" + std::string(5000, 'x') + "\r\n";
+  for (int i = 0; i < 198; ++i) old += "y\r\n";
+  folder.Write("Sondaris/Tracing/Trace_General.txt", old);
+  log.Trace(0.0, 1, u"General", u"new");  // three pieces and 198 lines
+  const std::string text = General();
+  EXPECT_TRUE(text.starts_with("201\n" + std::string(5000 - 2 * 2048, 'x') + "\r\ny"));
+  EXPECT_TRUE(text.ends_with("y\r\n201|0.000|1|new\r\n"));
+}
+
 TEST_F(TraceLog, TextEndsAtANul)
 {
   MakeFolder();

@@ -126,6 +126,13 @@ class CheckTest(CliTest):
             "the vessel of an anchor is read but not written (1): <vessel> in <anchor>",
             "unknown elements are lost (1): <easting> in <anchor>"])
 
+    def test_names_of_anchors_that_do_not_come_back(self):
+        anchors = "".join(f"<anchor><id>{i}</id><name>{name}</name></anchor>"
+                          for i, name in enumerate(("Bow \U0001f6a2", "  ", " Stern ", "", "B\u00fcg\n")))
+        self.assertEqual(self.findings(HEAD + TAIL.replace("<anchors>", "<anchors>" + anchors)), [
+            'characters beyond U+FFFF make the saved design unreadable (1): "Bow \U0001f6a2" in <name>',
+            "names of blanks alone are lost (1): <name>"])
+
     def test_numbers_that_are_not_read_whole(self):
         found = self.findings(HEAD + GROUP.replace("1.000", "1a").replace("2.000", "1..5") + TAIL)
         self.assertEqual(found, ['coordinates are missing or are no numbers (2): x of <vertex>="1a", saved as 1.000'])

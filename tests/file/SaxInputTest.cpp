@@ -74,6 +74,9 @@ TEST_F(SaxInput, OfAttributesWithTheSameLocalNameOneStands)
 {
   EXPECT_EQ(Read("<v xmlns:a='urn:a' x='1' a:x='2'/>"), 0);
   EXPECT_THAT(listener.events, ElementsAre("<v x=2", ">v"));
+  listener.events.clear();
+  EXPECT_EQ(Read("<v xmlns:a='urn:a' a:x='2' x='1'/>"), 0);
+  EXPECT_THAT(listener.events, ElementsAre("<v x=1", ">v"));
 }
 
 TEST_F(SaxInput, TextIsNotCutAtReferencesOrPiecesOfTheFile)

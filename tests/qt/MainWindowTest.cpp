@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -192,6 +193,36 @@ TEST_F(Desk, TheWheelGathersFractionsOfANotchAndTakesOneStepAMessage)
   EXPECT_DOUBLE_EQ(viewPort.width, 200.0);
   Wheel(480);
   EXPECT_DOUBLE_EQ(viewPort.width, 150.0);
+}
+
+TEST_F(Desk, TheMouseIsAHandOverAnItemAndACrossElsewhere)
+{
+  const double scale = View().width() / shell->App().viewPort->width;
+  const QPoint antenna(qRound(View().width() / 2.0 + shell->App().offsetGps->x * scale),
+                       View().height() / 2);
+  EXPECT_EQ(View().cursor().shape(), Qt::CrossCursor);
+  Move(antenna);
+  Move(antenna);  // the cursor goes by what the move before has found
+  EXPECT_EQ(View().cursor().shape(), Qt::PointingHandCursor);
+  Move({5, 5});
+  Move({5, 5});
+  EXPECT_EQ(View().cursor().shape(), Qt::CrossCursor);
+}
+
+TEST_F(Desk, ASecondRightClickBehindAPolylineOpensNoMenu)
+{
+  Action("Draw Polyline")->trigger();
+  Click({50, 50});
+  Mouse(QEvent::MouseButtonPress, {200, 200}, Qt::RightButton, Qt::RightButton);
+  bool opened = false;
+  QTimer::singleShot(0, [&opened] {
+    QWidget* const menu = QApplication::activePopupWidget();
+    opened = menu != nullptr;
+    if (opened) menu->close();
+  });
+  Mouse(QEvent::MouseButtonDblClick, {210, 210}, Qt::RightButton, Qt::RightButton);
+  QApplication::processEvents();
+  EXPECT_FALSE(opened);
 }
 
 TEST_F(Desk, APolylineIsDrawnClickByClick)

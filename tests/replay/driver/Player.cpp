@@ -239,7 +239,7 @@ Value Player::Save(const QJsonObject& step)
 {
   const std::u16string path = editor_.PathOf(NameOf(step[u"path"]));
   const bool done = editor_.document.OnSaveDocument(path);
-  if (std::filesystem::is_regular_file(Utf8FromWide(path))) written_ = path;
+  NoteWritten(path);
   return done;
 }
 
@@ -276,10 +276,14 @@ Value Player::Trace(const QJsonObject& step)
   const std::u16string category = WideOf(step[u"category"]);
   editor_.app.Trace(NumberOf(step[u"elapsed"]), step[u"level"].toInt(), category,
                     WideOf(step[u"text"]));
-  const std::u16string path =
-      editor_.PathOf("Sondaris/Tracing/Trace_" + Utf8FromWide(category) + ".txt");
-  if (std::filesystem::is_regular_file(Utf8FromWide(path))) written_ = path;
+  NoteWritten(editor_.PathOf("Sondaris/Tracing/Trace_" + Utf8FromWide(category) + ".txt"));
   return {};
+}
+
+void Player::NoteWritten(const std::u16string& path)
+{
+  std::error_code isNone;
+  if (std::filesystem::is_regular_file(Utf8FromWide(path), isNone)) written_ = path;
 }
 
 Value Player::PutGroup(const QJsonObject& step)

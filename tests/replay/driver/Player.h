@@ -43,6 +43,7 @@ private:
   Value AnchorList(const QJsonObject& step);
   Value Setting(const QJsonObject& step);
   Value Trace(const QJsonObject& step);
+  void NoteWritten(const std::u16string& path);  ///< if it is a file
   Value PutGroup(const QJsonObject& step);
   Value PutShape(const QJsonObject& step);
   Value PutAnchor(const QJsonObject& step);
