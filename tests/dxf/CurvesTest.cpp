@@ -72,6 +72,28 @@ TEST_F(Curves, AnArcThatEndsWhereItStartsIsAFullTurn)
   EXPECT_NEAR(VerticesOf(0).back()[1], 1.0, 1e-12);
 }
 
+TEST_F(Curves, AnArcWhoseStepsMeetItsEndHasThatVertexTwice)
+{
+  // The steps of most arcs end a rounding error below or above their end; these meet it.
+  for (const auto& [start, end] : {std::pair{80.0, 125.0}, {0.0, 205.0}, {55.0, 295.0}}) {
+    CFileDxf reader(&window, log);
+    const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, false);
+    ASSERT_EQ(arc->vertices.size(), 182U);
+    EXPECT_EQ(arc->vertices[180]->x, arc->vertices[181]->x);
+    EXPECT_EQ(arc->vertices[180]->y, arc->vertices[181]->y);
+  }
+}
+
+TEST_F(Curves, AnArcOfNextToNothingIsAFullTurn)
+{
+  CFileDxf reader(&window, log);
+  const auto halfWay = [&reader](double endDegrees) {
+    return reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, endDegrees, false)->vertices.at(90)->x;
+  };
+  EXPECT_NEAR(halfWay(0.9e-10 / turn), -1.0, 1e-9);
+  EXPECT_NEAR(halfWay(1.1e-10 / turn), 1.0, 1e-9);
+}
+
 TEST_F(Curves, AClockwiseArcMayOvershootByOneStepBeforeItReturns)
 {
   CFileDxf reader(&window, log);
@@ -134,6 +156,20 @@ TEST_F(Curves, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)
   const double start = 2.0 * 57.29577951308232;
   const double step = (start - (57.29577951308232 + 360.0)) * turn;
   EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start + step), 1e-9);
+}
+
+TEST_F(Curves, AnEllipseThatEndsWhereItStartsHasOneVertexManyTimes)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "1"}, {42, "1"}}));
+  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v, VerticesOf(0)[0]);
+}
+
+TEST_F(Curves, TheAxisOfAnEllipseIsMeasuredInSpaceAndExtruded)
+{
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "3"}, {31, "4"}, {40, "1"}, {42, "6"}}));
+  EXPECT_THAT(VerticesOf(0)[0], ElementsAre(5.0, 0.0, 0.0));
+  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "3"}, {40, "1"}, {42, "6"}, {230, "-1"}}));
+  EXPECT_NEAR(VerticesOf(0)[0][0], 3.0, 1e-12);  // turned by the extrusion, and turned back
 }
 
 TEST_F(Curves, ASlantedEllipseCollapsesIntoALine)

@@ -160,6 +160,12 @@ TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
   DxfPoint upright{1.0, 0.0, 0.0};
   reader.ApplyExtrusion(upright, {0.015624, 0.0, 1.0});
   EXPECT_NEAR(upright.x, 1.0, 1e-3);
+  DxfPoint sideways{1.0, 0.0, 0.0};
+  reader.ApplyExtrusion(sideways, {0.0, 0.015625, 1.0});
+  EXPECT_EQ(sideways.x, -1.0);
+  DxfPoint hardly{1.0, 0.0, 0.0};
+  reader.ApplyExtrusion(hardly, {0.0, 0.015624, 1.0});
+  EXPECT_EQ(hardly.x, 1.0);
   // Neither the normal nor its length is mended.
   DxfPoint high{0.0, 0.0, 1.0};
   reader.ApplyExtrusion(high, {0.0, 0.0, 2.0});

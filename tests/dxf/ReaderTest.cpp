@@ -194,6 +194,25 @@ TEST_F(Reader, OtherSectionsAreWalkedPast)
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
+TEST_F(Reader, AnyLineWithTheWordEndsASectionThatIsWalkedPast)
+{
+  Import("0\nSECTION\n2\nHEADER\n9\nxENDSECx\n" + Entities(aLine));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
+TEST_F(Reader, EachSectionOfEntitiesTellsAllTheShapesSoFar)
+{
+  Import(Entities(aLine) + Entities(aLine + aLine));
+  EXPECT_THAT(log.records, testing::Contains(HasSubstr("added 1 map features")));
+  EXPECT_THAT(log.records, testing::Contains(HasSubstr("added 3 map features")));
+}
+
+TEST_F(Reader, ARecordThatIsNotImportedHasItsApplicationDataReadAsPairs)
+{
+  ImportEntities(Lines({{0, "SPLINE"}, {102, "{A"}, {0, "LINE"}, {10, "1"}, {102, "}"}}));
+  EXPECT_EQ(ShapeCount(), 1U);
+}
+
 TEST_F(Reader, NamesOfSectionsAreFoundInsideALine)
 {
   Import("xSECTIONx\nany\n(ENTITIES)\n" + aLine + "0\nENDSEC\n");
@@ -345,6 +364,14 @@ TEST_F(Reader, PercentIsTruncatedAndToldOnce)
     reader.ReportProgress();
   }
   EXPECT_THAT(window.values, ElementsAre(1, 2, 49, 100));
+}
+
+TEST_F(Reader, PercentIsReckonedInSinglePrecision)
+{
+  CFileDxf& reader = Loaded(std::string(100, 'x'));
+  reader.position = 29;  // in double precision a hair below 29 per cent
+  reader.ReportProgress();
+  EXPECT_THAT(window.values, ElementsAre(29));
 }
 
 TEST_F(Reader, AnImportThatFailsShowsNoProgress)

@@ -170,7 +170,7 @@ TEST_F(BlockTable, TheFirstBlockOfANameStays)
 TEST_F(BlockTable, PaperSpaceIsNotKeptButModelSpaceAndTheNamelessAre)
 {
   Import(Blocks(Lines({{0, "BLOCK"}, {67, "1"}, {2, "*Paper_Space"}, {0, "ENDBLK"}}) +
-                Lines({{0, "BLOCK"}, {67, "2"}, {2, "*Model_Space"}, {0, "ENDBLK"}}) +
+                Lines({{0, "BLOCK"}, {67, "3"}, {2, "*Model_Space"}, {0, "ENDBLK"}}) +
                 Lines({{0, "BLOCK"}, {2, "*U1"}, {0, "ENDBLK"}}) +
                 Lines({{0, "BLOCK"}, {70, "1"}, {0, "ENDBLK"}})));
   EXPECT_EQ(file->blocks.size(), 3U);
@@ -236,6 +236,18 @@ TEST_F(BlockTable, AnyLineWithTheWordEndsABlock)
 {
   Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}}) + LineOn("A") + "0\nxENDBLKx\n" + LineOn("A")));
   EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+}
+
+TEST_F(BlockTable, TheEndOfASectionDoesNotEndABlock)
+{
+  Import(Blocks(Block("B", LineOn("A") + "0\nENDSEC\n" + LineOn("A"))));
+  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 2U);
+}
+
+TEST_F(BlockTable, ItsHeaderReadsApplicationDataAsPairs)
+{
+  Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}, {102, "{X"}, {2, "C"}, {102, "}"}, {0, "ENDBLK"}})));
+  EXPECT_TRUE(file->blocks.contains("C"));
 }
 
 TEST_F(BlockTable, AnyLineThatBeginsWithTheWordStartsABlock)
