@@ -163,10 +163,13 @@ bool PaintTarget::IsVisible(const QRectF& rect, float strokeWidth) const
 QPen PaintTarget::PenOf(const IBrush& brush, float width) const
 {
   // Up to one pixel of the picture the painter would switch to hairlines, which are too thin where
-  // they slant and lack their corners.
+  // they slant and lack their corners. A stroke that is thinner is a paler one of that width.
   const double thinnest = 1.0001 / surface_.Ratio();
-  const double stroke = std::max<double>(std::min(width, widestStroke), thinnest);
-  return {ColourOf(brush), stroke, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+  const double stroke = std::min(width, widestStroke);
+  QColor colour = ColourOf(brush);
+  const double cover = std::min(1.0, stroke * surface_.Ratio());
+  colour.setAlphaF(static_cast<float>(colour.alphaF() * cover));
+  return {colour, std::max(stroke, thinnest), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
 void PaintTarget::StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins)

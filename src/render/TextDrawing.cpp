@@ -40,12 +40,13 @@ std::array<CShapeText::Corner, 4> BoxOf(PixelPoint anchor, PixelSize size, doubl
 
 void CShapeText::Draw(const CViewPort* viewPort)
 {
-  CCanvas* const canvas = DrawableCanvas(viewPort);
-  if (canvas == nullptr || vertices.empty() || !vertices.front()) return;
+  if (viewPort == nullptr || viewPort->canvas == nullptr) return;
+  if (vertices.empty() || !vertices.front()) return;
   const CShapeVertex& anchor = *vertices.front();
   if (!viewPort->Contains(anchor.x, anchor.y)) return;
-  TrimSpace(text);
-  if (text.empty()) return;
+  TrimSpace(text);  // also where nothing can be drawn at the moment
+  CCanvas* const canvas = DrawableCanvas(viewPort);
+  if (canvas == nullptr || text.empty()) return;
 
   IRenderTarget& target = *canvas->renderTarget;
   const auto size = static_cast<float>(height / (viewPort->height / viewPort->screenHeight));

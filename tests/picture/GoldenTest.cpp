@@ -123,6 +123,18 @@ TEST_F(Stroke, AOnePixelLineOnPixelCentresCoversThemWhole)
   EXPECT_GE(qGray(picture.pixel(30, 21)), 254);
 }
 
+TEST_F(Stroke, ALineThinnerThanAPixelCoversAsMuchOfIt)
+{
+  target->DrawLine({10.0F, 10.5F}, {50.0F, 10.5F}, *black, 0.5F);
+  target->DrawLine({10.0F, 30.0F}, {50.0F, 30.0F}, *black, 0.25F);
+  target->DrawEllipse({30.0F, 20.5F}, 20.0F, 5.0F, *black, 0.25F);
+  const QImage& picture = Finish();
+  EXPECT_NEAR(qGray(picture.pixel(15, 10)), 127, 2);
+  const int rows = qGray(picture.pixel(15, 29)) + qGray(picture.pixel(15, 30));
+  EXPECT_NEAR(2 * 255 - rows, 64, 3);
+  EXPECT_NEAR(qGray(picture.pixel(30, 25)), 191, 3);
+}
+
 TEST_F(Stroke, ASmallRectangleHasItsCorners)
 {
   target->DrawRectangle({20.5F, 20.5F, 22.5F, 22.5F}, *black, 1.0F);

@@ -214,6 +214,7 @@ Value InitialiseCanvas(ReplayEditor&, const Args& args)
   const auto* const step = std::ranges::find(steps, failing);
   if (step != steps.end()) recorder.failingStep = static_cast<int>(step - steps.begin());
   window.isWindow = failing != "IsWindow";
+  if (failing == "GetClientRect") window.size.reset();
   recorder.failCode = static_cast<ResultCode>(args.At(1).toInteger());
   CCanvas canvas(recorder);
   const bool success = canvas.Initialize(&window);

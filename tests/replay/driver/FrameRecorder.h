@@ -31,8 +31,9 @@ public:
 class NoWindow : public IDrawingWindow {
 public:
   bool IsWindow() const override { return isWindow; }
-  std::optional<PixelSize> ClientSize() const override { return PixelSize{}; }
+  std::optional<PixelSize> ClientSize() const override { return size; }
   bool isWindow = true;
+  std::optional<PixelSize> size = PixelSize{};  ///< none where the window can't tell it
 };
 
 }  // namespace hullwright::replay
