@@ -203,6 +203,13 @@ TEST_F(CanvasTest, AFailedFrameKeepsItsTextAndItsTarget)
   EXPECT_EQ(canvas.renderTarget.get(), target);
 }
 
+TEST_F(CanvasTest, AFrameIsAFailureWithAnyCodeButZero)
+{
+  ASSERT_TRUE(canvas.Initialize(&window));
+  canvas.EndFrame(1);
+  EXPECT_THAT(canvas.errorText, testing::StartsWith("Error 0x00000001 ("));
+}
+
 TEST_F(CanvasTest, CodesWithoutATextGetOneOfTheGeneralForms)
 {
   const auto text = [this](std::uint32_t code) {

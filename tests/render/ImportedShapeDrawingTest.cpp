@@ -48,6 +48,25 @@ TEST_F(ImportedShapeDrawing, APolygonIsAWhiteOutlineWhateverItsStyle)
                                        "width 1 colour 1 1 1 1"));
 }
 
+TEST_F(ImportedShapeDrawing, APolygonTurnsWithTheView)
+{
+  viewPort.left = 0.0;
+  viewPort.right = 200.0;
+  viewPort.SetRotation(90.0);
+  for (const auto& [x, y] : {std::pair{100.0, 0.0}, {150.0, 0.0}, {100.0, 25.0}}) {
+    polygon.AddVertex(std::make_unique<CShapeVertex>(x, y, 0.0), 0);
+  }
+  polygon.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 400,500 500,300 closed "
+                                       "width 1 colour 1 1 1 1"));
+}
+
+TEST_F(ImportedShapeDrawing, APolygonWithoutRingsStrokesAnEmptyPath)
+{
+  polygon.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("geometry width 1 colour 1 1 1 1"));
+}
+
 TEST_F(ImportedShapeDrawing, EveryRingIsAFigureOfOnePath)
 {
   Square(0.0, 10.0);
@@ -187,6 +206,25 @@ TEST_F(ImportedShapeDrawing, ATextIsTrimmedInPlace)
   label.Draw(&viewPort);
   EXPECT_TRUE(label.text.empty());
   EXPECT_TRUE(backEnd.log.empty());
+}
+
+TEST_F(ImportedShapeDrawing, ATextIsTrimmedAlsoWhereTheTargetIsLost)
+{
+  label.text = u" Crane ";
+  canvas.ReleaseResources();
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.text, u"Crane");
+  viewPort.canvas = nullptr;
+  label.text = u" Crane ";
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.text, u" Crane ");
+}
+
+TEST_F(ImportedShapeDrawing, OfATextsVerticesTheFirstIsItsAnchor)
+{
+  label.vertices.push_back(std::make_unique<CShapeVertex>(50.0, 25.0, 0.0));
+  label.Draw(&viewPort);
+  EXPECT_EQ(backEnd.log.front(), "rotate 0 400 300");
 }
 
 TEST_F(ImportedShapeDrawing, ATextOutOfViewIsNotTrimmed)

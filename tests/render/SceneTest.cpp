@@ -230,6 +230,34 @@ TEST_F(Grid, PointsRunFromBelowTheEdgesToAboveThem)
   EXPECT_EQ(frame[8], std::string("rect 79 779 81 781 width 1 ") + grey);
 }
 
+TEST_F(Grid, TheCrossDoesNotTurnWithTheView)
+{
+  viewPort.left = 0.0;
+  viewPort.right = 200.0;
+  viewPort.SetRotation(90.0);
+  Draw();
+  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line -10 300 10 300 width 1 ") + grey));
+  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line 0 290 0 310 width 1 ") + grey));
+}
+
+TEST_F(Grid, ColumnsAreFoundByAddingTheSpacing)
+{
+  viewPort.screenWidth = viewPort.screenHeight = 800.0;
+  grid.spacingShowX = 0.1;
+  grid.spacingShowY = 1.0;
+  viewPort.left = -1.0;
+  viewPort.right = 1.0;
+  viewPort.KeepAspect();
+  Draw();
+  EXPECT_EQ(backEnd.Count("rect"), 21 * 3);
+  // The sum of rounding errors takes the last column past the edge.
+  viewPort.left = -2.0;
+  viewPort.right = 2.0;
+  viewPort.KeepAspect();
+  Draw();
+  EXPECT_EQ(backEnd.Count("rect"), 40 * 5);
+}
+
 TEST_F(Grid, FortyIntervalsAreAllowedAndMoreShowTheCrossAlone)
 {
   ShowWidth(100.0);

@@ -35,6 +35,19 @@ TEST_F(ShapeDrawing, APolylineTakesColourAndWidthFromItsStyle)
                           "colour 0 0.5019608 1 1"));
 }
 
+TEST_F(ShapeDrawing, AWidthOfNothingOrLessIsHandedOverAsItIs)
+{
+  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
+  line.style = std::make_unique<ShapeStyle>();
+  for (const float lineWidth : {0.0F, -2.0F}) {
+    line.style->lineWidth = lineWidth;
+    line.Draw(&viewPort);
+  }
+  ASSERT_EQ(backEnd.log.size(), 2U);
+  EXPECT_THAT(backEnd.log[0], testing::HasSubstr("width 0 colour"));
+  EXPECT_THAT(backEnd.log[1], testing::HasSubstr("width -2 colour"));
+}
+
 TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
 {
   CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
@@ -92,6 +105,17 @@ TEST_F(ShapeDrawing, APointIsABlackSquareOfFivePixelsAtAnyZoom)
   point.Draw(&viewPort);
   EXPECT_THAT(backEnd.log, ElementsAre("fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1",
                                        "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
+}
+
+TEST_F(ShapeDrawing, APointTurnsWithTheView)
+{
+  viewPort.left = 0.0;
+  viewPort.right = 200.0;
+  viewPort.SetRotation(90.0);
+  CShapePoint point;
+  point.position.x = 150.0;
+  point.Draw(&viewPort);
+  EXPECT_THAT(backEnd.log, ElementsAre("fillrect 397.5 497.5 402.5 502.5 colour 0 0 0 1"));
 }
 
 TEST_F(ShapeDrawing, ASelectedPointHasAYellowFrame)

@@ -107,6 +107,17 @@ TEST_F(ViewPortTest, CenterOnKeepsTheScale)
   ExpectEdges(-50.0, -75.0, 150.0, 75.0);
 }
 
+TEST_F(ViewPortTest, TheMappingsAreExactToTheLastBit)
+{
+  // A zoom step out gives a scale of many digits, at which other forms of the same formulas end
+  // elsewhere: pixels are cut, and coordinates are stored as they are.
+  viewPort.ZoomOut(400.0, 300.0);
+  EXPECT_EQ(viewPort.WorldToScreenFlat(-65.0, 0.0).x, 205.0);
+  EXPECT_EQ(viewPort.ScreenToWorld(26.0, 300.0).x, -124.66666666666664);
+  viewPort.CenterOn(7.0, 0.0);
+  EXPECT_EQ(viewPort.right, 2.3333333333333712);
+}
+
 TEST_F(ViewPortTest, RotationIsNormalised)
 {
   viewPort.SetRotation(-30.0);
@@ -198,6 +209,15 @@ TEST_F(ViewPortTest, ATallBoxTakesItsWidthFromTheInvertedShapeOfTheWindow)
   viewPort.ZoomToExtents(0.0, 0.0, 1.0, 400.0);
   // 200 wide and 100 high at first; five steps bring a corner in, two more follow.
   EXPECT_NEAR(viewPort.width, 200.0 * std::pow(4.0 / 3.0, 7), 1e-6);
+}
+
+TEST_F(ViewPortTest, ZoomToExtentsIsContentWithOneCornerInView)
+{
+  viewPort.ZoomToExtents(1.3, 4.7, 7.0, 10.7);  // the upper corner comes into view first
+  EXPECT_EQ(viewPort.width, 14.222222222222223);
+  viewPort.screenWidth = 600.0;
+  viewPort.ZoomToExtents(2.2, 4.7, 3.0, 7.9);  // the lower one is in view at once
+  EXPECT_EQ(viewPort.width, 5.688888888888889);
 }
 
 TEST_F(ViewPortTest, ZoomToExtentsGivesUpAfterThirtySteps)
