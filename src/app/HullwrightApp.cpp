@@ -7,6 +7,7 @@
 #include "app/Dialogs.h"
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
+#include "app/ObjectView.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
@@ -142,6 +143,12 @@ bool CHullwrightApp::EditOffsets(std::int32_t focus)
 {
   CDialogOffsets dialog(*this, focus);
   return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;
+}
+
+void CHullwrightApp::BeforeChange(const CShapeVertex& vertex)
+{
+  if (mainFrame == nullptr || mainFrame->objectView == nullptr) return;
+  mainFrame->objectView->Tree().KeepText(vertex);
 }
 
 void CHullwrightApp::NotifyDesignChanged()

@@ -103,6 +103,7 @@ public:
   GridSettings LoadGridSettings() const override;
   std::int32_t GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override;
+  void BeforeChange(const CShapeVertex& vertex) override;
   void NotifyDesignChanged() override;
   void SetModifiedFlag(bool modified) override;
 

@@ -30,6 +30,7 @@ std::u16string PointText(const CShapeVertex& v)
 void CObjectTree::Rebuild()
 {
   ++build_;
+  keptTexts_.clear();
   for (std::size_t side = 0; side < sideCount; ++side) {
     sides_[side].clear();
     const CShapes* const group = FindViewGroup(design_.shapeGroups, sideNodes[side].code);
@@ -108,7 +109,14 @@ std::u16string CObjectTree::Text(const TreeItem& item) const
     return u"Anchor #" + WideFromAscii(std::to_string(anchor->id));
   }
   const CShapeVertex* const vertex = Vertex(item);
-  return vertex == nullptr ? std::u16string() : PointText(*vertex);
+  if (vertex == nullptr) return {};
+  const auto kept = keptTexts_.find(vertex);
+  return kept == keptTexts_.end() ? PointText(*vertex) : kept->second;
+}
+
+void CObjectTree::KeepText(const CShapeVertex& vertex)
+{
+  if (!keptTexts_.contains(&vertex)) keptTexts_[&vertex] = PointText(vertex);
 }
 
 int CObjectTree::Image(const TreeItem& item) const

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -37,9 +38,10 @@ inline constexpr int AnchorMarked = 9;
 }  // namespace TreeImage
 
 /// The design as a tree: sides with their polylines and points, and the anchors. It refers to the
-/// design and copies nothing of it but what is needed to stay in shape until the next rebuild: a
+/// design and copies nothing of it but what is needed to stay as it is until the next rebuild: a
 /// rebuild costs a polyline, never a point, and texts are made when they are asked for. Whoever
-/// frees or adds shapes must ask for a rebuild before the tree is looked at again.
+/// frees or adds shapes must ask for a rebuild before the tree is looked at again; whoever changes
+/// a vertex without one must have its text kept.
 class CObjectTree {
 public:
   explicit CObjectTree(DesignState& design) : design_(design) {}
@@ -53,6 +55,10 @@ public:
   TreeItem Child(const TreeItem& item, std::size_t index) const;
 
   std::u16string Text(const TreeItem& item) const;
+
+  /// Keeps the text that a vertex has now, whatever becomes of it, until the next rebuild.
+  void KeepText(const CShapeVertex& vertex);
+
   int Image(const TreeItem& item) const;
 
   // What an item stands for; null for an item of another level, or of before a rebuild.
@@ -88,6 +94,7 @@ private:
   std::array<std::vector<PolylineNode>, sideCount> sides_;
   std::vector<CAnchor*> anchors_;
   bool hasAnchors_ = false;
+  std::map<const CShapeVertex*, std::u16string> keptTexts_;
 };
 
 }  // namespace hullwright

@@ -314,8 +314,7 @@ void MainWindow::UpdateCommands()
 
 void MainWindow::UpdatePanes()
 {
-  // Until the mouse has been over the view there is no position to show.
-  if (!view_.statusText.empty()) coordinatesPane_->Show(ToQString(view_.statusText));
+  coordinatesPane_->Show(ToQString(view_.statusText));
   unitsPane_->Show(ToQString(view_.UnitsPaneText()));
 }
 

@@ -94,7 +94,10 @@ void CHullwrightView::EditItem(ClientPoint point)
     CShapeVertex* const vertex = std::get<CShapeVertex*>(pick.item);
     CShapeVertex copy(*vertex);
     accepted = host_.EditVertex(copy);
-    if (accepted && IsInDesign(design_, pick.item)) *vertex = copy;
+    if (accepted && IsInDesign(design_, pick.item)) {
+      host_.BeforeChange(*vertex);
+      *vertex = copy;
+    }
   } else {
     accepted = host_.EditOffsets(pick.kind);
   }

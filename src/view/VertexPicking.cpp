@@ -26,6 +26,9 @@ void CHullwrightView::DragTo(ClientPoint point)
 {
   if (hitKind == HitKind::None || dragVertex.index() == 0) return;
   const WorldPoint world = SnappedWorld(point);
+  if (const auto* const vertex = std::get_if<CShapeVertex*>(&dragVertex)) {
+    host_.BeforeChange(**vertex);
+  }
   MoveItem(dragVertex, world.x, world.y);
   Repaint();
 }

@@ -36,6 +36,7 @@ public:
     events.push_back("edit offsets " + std::to_string(focus));
     return accept;
   }
+  void BeforeChange(const CShapeVertex& vertex) override { before.push_back(vertex.x); }
   void NotifyDesignChanged() override { events.emplace_back("changed"); }
   void SetModifiedFlag(bool modified) override
   {
@@ -47,6 +48,7 @@ public:
   std::int32_t cursorTool = CursorTool::None;
   std::u16string unitName;
   std::vector<std::string> events;
+  std::vector<double> before;          ///< x of each vertex that was about to change
   CShapeVertex edited;                 ///< what the dialog showed
   CShapeVertex typed;                  ///< what is typed into it
   bool accept = false;                 ///< how it ends

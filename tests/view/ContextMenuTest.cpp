@@ -101,6 +101,7 @@ TEST_F(ContextMenu, EditingAVertexRepaintsAndTellsNobody)
   view.OnMenuCommand(Command::EditVertex);
   EXPECT_EQ(host.edited.z, 5.0);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_THAT(host.before, ElementsAre(0.0));
   EXPECT_THAT(host.events, ElementsAre("edit vertex"));
   EXPECT_EQ(Frames(), 1);
 }

@@ -108,6 +108,7 @@ TEST_F(Picking, ADragMovesTheVertexAndKeepsItsZ)
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(20.0, -10.0, 7.0));
   EXPECT_EQ(Frames(), 1);
   EXPECT_TRUE(host.events.empty());
+  EXPECT_THAT(host.before, ElementsAre(0.0));
   view.OnLButtonUp({500, 300});
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(25.0, 0.0, 7.0));
   EXPECT_THAT(host.events, ElementsAre("changed", "modified"));
