@@ -39,16 +39,22 @@ TEST(Layer, ABoxWithoutAZeroCountsAsComputed)
 
 TEST(Layer, ABoxThatTouchesZeroIsComputedAgainEachTime)
 {
-  CLayer layer;
-  AddLine(layer, 0.0, 2.0, 3.0, 4.0);
-  layer.UpdateExtents();
-  EXPECT_EQ(layer.minX, 0.0);
-  EXPECT_EQ(layer.maxX, 3.0);
-  layer.UpdateExtents();
-  EXPECT_EQ(layer.maxX, 3.0);
-  AddLine(layer, 50.0, 50.0, 60.0, 60.0);
-  layer.UpdateExtents();
-  EXPECT_EQ(layer.maxX, 60.0);
+  const auto grows = [](double x1, double y1, double x2, double y2) {
+    CLayer layer;
+    AddLine(layer, x1, y1, x2, y2);
+    layer.UpdateExtents();
+    EXPECT_EQ(layer.minX, x1);
+    EXPECT_EQ(layer.maxX, x2);
+    layer.UpdateExtents();
+    EXPECT_EQ(layer.maxX, x2);
+    AddLine(layer, 50.0, 50.0, 60.0, 60.0);
+    layer.UpdateExtents();
+    return layer.maxX == 60.0;
+  };
+  EXPECT_TRUE(grows(0.0, 2.0, 3.0, 4.0));
+  EXPECT_TRUE(grows(1.0, 0.0, 3.0, 4.0));
+  EXPECT_TRUE(grows(-1.0, 2.0, 0.0, 4.0));
+  EXPECT_TRUE(grows(1.0, -2.0, 3.0, 0.0));
 }
 
 TEST(Layer, WithoutShapesTheBoxIsInsideOut)

@@ -54,10 +54,20 @@ TEST(Point, HitRegionIsAnOpenSquare)
   EXPECT_FALSE(point.HitTest(nullptr, 0.0, 0.0));
 }
 
+TEST(Point, TheReachIsAPixelInUnitsTimesTen)
+{
+  CViewPort viewPort;
+  viewPort.screenWidth = 113.0;
+  viewPort.screenHeight = 113.0;
+  // 200 / 113 * 10; ten times 200 divided by 113 is a bit less.
+  EXPECT_TRUE(CShapePoint().HitTest(&viewPort, 17.699115044247787, 0.0));
+}
+
 TEST(Point, MovesScalesAndTurns)
 {
   CShapePoint point;
   point.position = CShapeVertex(1.0, 0.0, 2.0);
+  point.position.flag = 7;
   point.Translate(1.0, 0.0, 1.0);
   point.Scale(2.0, 2.0, 2.0);
   EXPECT_TRUE(point.position == CShapeVertex(4.0, 0.0, 6.0));
@@ -66,6 +76,7 @@ TEST(Point, MovesScalesAndTurns)
   point.Rotate(180.0);
   EXPECT_NEAR(point.position.x, -4.0, 1e-12);
   EXPECT_EQ(point.position.z, 6.0);
+  EXPECT_EQ(point.position.flag, 7);
   const CShapeVertex before = point.position;
   point.RemoveVertex(&point.position);
   EXPECT_TRUE(point.position == before);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "render/ViewPort.h"
 
 namespace hullwright {
@@ -87,6 +89,17 @@ TEST(Ring, EdgesAtANullEntryDoNotCount)
   EXPECT_EQ(ring->DistanceTo(50.0, 50.0), 0.0);
 }
 
+TEST(Ring, ANullEntryTakesItsTwoEdgesAndNoOther)
+{
+  const auto ring = Ring({{0.0, 0.0, 0.0}, {10.0, 0.0, 0.0}, {10.0, 10.0, 0.0}, {0.0, 10.0, 0.0}});
+  ring->vertices.insert(ring->vertices.begin() + 1, nullptr);
+  EXPECT_TRUE(ring->ContainsPoint(5.0, 5.0));  // the edges behind the entry still count
+  const auto open = Ring({{0.0, 0.0, 0.0}, {0.0, 10.0, 0.0}, {20.0, 10.0, 0.0}});
+  open->vertices.insert(open->vertices.begin() + 2, nullptr);
+  // To the closing edge; an edge over the gap would be 2 away.
+  EXPECT_NEAR(open->DistanceTo(10.0, 12.0), 14.0 / std::sqrt(5.0), 1e-12);
+}
+
 TEST(Ring, DistanceIsZeroInsideAndToTheNearestEdgeOutside)
 {
   const auto ring = Square(0.0, 10.0);
@@ -110,6 +123,7 @@ TEST(Ring, RemoveVertexTakesOutEveryEntryAndReleasesTheVertexOnce)
 {
   auto ring = Square(0.0, 10.0);
   auto* const vertex = ring->vertices[1].get();
+  ring->vertices.emplace_back(vertex);  // the same one a second time
   ring->RemoveVertex(vertex);
   EXPECT_EQ(ring->vertices.size(), 3U);
   // A vertex of no ring is handed over all the same; the leak check would show one kept.
@@ -157,10 +171,16 @@ TEST_F(RingInView, IsVisibleAroundTheWholeView)
 
 TEST_F(RingInView, IsVisibleAroundOneCorner)
 {
-  const auto overCorner = Ring(
-      {{-150.0, -300.0, 0.0}, {-50.0, -150.0, 0.0}, {-150.0, -50.0, 0.0}, {-300.0, -150.0, 0.0}});
-  EXPECT_TRUE(overCorner->ContainsPoint(-100.0, -100.0));
-  EXPECT_TRUE(overCorner->IsVisible(viewPort));
+  for (const double x : {-1.0, 1.0}) {
+    for (const double y : {-1.0, 1.0}) {
+      const auto overCorner = Ring({{x * 150.0, y * 300.0, 0.0},
+                                    {x * 50.0, y * 150.0, 0.0},
+                                    {x * 150.0, y * 50.0, 0.0},
+                                    {x * 300.0, y * 150.0, 0.0}});
+      EXPECT_TRUE(overCorner->ContainsPoint(x * 100.0, y * 100.0));
+      EXPECT_TRUE(overCorner->IsVisible(viewPort)) << x << " " << y;
+    }
+  }
 }
 
 TEST_F(RingInView, IsNotVisibleWhereOnlyAnEdgeCrosses)

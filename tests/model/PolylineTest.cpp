@@ -158,6 +158,21 @@ TEST(Polyline, TranslateAndScaleTouchAllThreeCoordinates)
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(22.0, -22.0, 16.5));
 }
 
+TEST(Polyline, MovesScalesAndTurnsKeepCarriedFields)
+{
+  CShapePolyline line;
+  line.AddVertex(1.0, 2.0, 3.0);
+  line.vertices[0]->flag = 7;
+  line.vertices[0]->tagA = -8;
+  line.vertices[0]->tagB = 9;
+  line.Translate(1.0, 1.0, 1.0);
+  line.Scale(2.0, 2.0, 2.0);
+  line.Rotate(45.0);
+  EXPECT_EQ(line.vertices[0]->flag, 7);
+  EXPECT_EQ(line.vertices[0]->tagA, -8);
+  EXPECT_EQ(line.vertices[0]->tagB, 9);
+}
+
 TEST(Polyline, RotateByZeroLeavesEveryBit)
 {
   CShapePolyline line;
@@ -177,6 +192,12 @@ TEST(Polyline, RotateGoesThroughPolarFormAndLeavesZ)
   EXPECT_EQ(line.vertices[0]->x, std::cos(a) * r);
   EXPECT_EQ(line.vertices[0]->y, std::sin(a) * r);
   EXPECT_EQ(line.vertices[0]->z, 9.0);
+  // Angles are added in degrees; in radians the last bits would be others.
+  CShapePolyline other;
+  other.AddVertex(1.0, 2.0, 0.0);
+  other.Rotate(90.0);
+  EXPECT_EQ(other.vertices[0]->x, -2.0000000000000004);
+  EXPECT_EQ(other.vertices[0]->y, 0.9999999999999996);
 }
 
 TEST(Polyline, APositiveAngleTurnsFromXTowardsY)
@@ -208,14 +229,16 @@ TEST(Polyline, AnArcHas61VerticesWhateverItsSizeAndStartsLeftOfTheCentre)
 
 TEST(Polyline, TheAnglesOfAnArcAreAccumulated)
 {
-  CShapePolyline arc;
-  arc.AddArc(0.0, 0.0, 1.0, 10.0, 47.0);
-  double degrees = 10.0;
-  for (int i = 0; i <= 60; ++i) {
-    const double a = degrees * 0.017453292519943295;
-    ASSERT_EQ(arc.vertices[static_cast<std::size_t>(i)]->x, 0.0 - std::cos(a) * 1.0);
-    ASSERT_EQ(arc.vertices[static_cast<std::size_t>(i)]->y, 0.0 + std::sin(a) * 1.0);
-    degrees += 47.0 / 60.0;
+  for (const double sweep : {47.0, 23.0}) {
+    CShapePolyline arc;
+    arc.AddArc(0.0, 0.0, 1.0, 10.0, sweep);
+    double degrees = 10.0;
+    for (int i = 0; i <= 60; ++i) {
+      const double a = degrees * 0.017453292519943295;
+      ASSERT_EQ(arc.vertices[static_cast<std::size_t>(i)]->x, 0.0 - std::cos(a) * 1.0);
+      ASSERT_EQ(arc.vertices[static_cast<std::size_t>(i)]->y, 0.0 + std::sin(a) * 1.0);
+      degrees += sweep / 60.0;
+    }
   }
 }
 
@@ -248,6 +271,35 @@ TEST_F(PolylineHit, ThereIsNoReachBehindTheEarlierVertex)
 {
   // The projection from the later vertex is longer than the segment there.
   EXPECT_FALSE(line.HitTest(&viewPort, -0.5, 0.0));
+}
+
+TEST_F(PolylineHit, ItsReachIsOpenOnAllFourSides)
+{
+  const auto hits = [this](CShapeVertex from, CShapeVertex to, double x, double y) {
+    CShapePolyline segment;
+    segment.AddVertex(from.x, from.y, 0.0);
+    segment.AddVertex(to.x, to.y, 0.0);
+    return segment.HitTest(&viewPort, x, y);
+  };
+  const CShapeVertex origin;
+  EXPECT_TRUE(hits({40.0, 0.0, 0.0}, origin, -9.9, 0.0));
+  EXPECT_FALSE(hits({40.0, 0.0, 0.0}, origin, -10.0, 0.0));
+  EXPECT_TRUE(hits({0.0, 40.0, 0.0}, origin, 0.0, -9.9));
+  EXPECT_FALSE(hits({0.0, 40.0, 0.0}, origin, 0.0, -10.0));
+  EXPECT_TRUE(hits(origin, {0.0, 40.0, 0.0}, 0.0, 49.9));
+  EXPECT_FALSE(hits(origin, {0.0, 40.0, 0.0}, 0.0, 50.0));
+  // Beside a slanting line the distance itself is exactly ten, and out of reach.
+  EXPECT_TRUE(hits(origin, {60.0, 80.0, 0.0}, 22.1, 46.0));
+  EXPECT_FALSE(hits(origin, {60.0, 80.0, 0.0}, 22.0, 46.0));
+}
+
+TEST_F(PolylineHit, PastTheLaterVertexItReachesNoFurtherThanTheLineIsLong)
+{
+  CShapePolyline shortLine;
+  shortLine.AddVertex(0.0, 0.0, 0.0);
+  shortLine.AddVertex(4.0, 0.0, 0.0);
+  EXPECT_TRUE(shortLine.HitTest(&viewPort, 8.0, 0.0));
+  EXPECT_FALSE(shortLine.HitTest(&viewPort, 8.5, 0.0));
 }
 
 TEST_F(PolylineHit, NoViewPortOneVertexAndNoLengthNeverHit)

@@ -90,6 +90,27 @@ TEST(Shape, CopyBaseToCopiesStyleAndAttributesWhereThereAreAny)
   EXPECT_EQ(target.attributes->items.at(0)->name, u"LAYER");
 }
 
+TEST(Shape, CopyBaseToReplacesAttributesAlsoByNone)
+{
+  CShapePolyline source;
+  source.Reset();
+  source.attributes = std::make_unique<CShapeAttributes>();
+  CShapePolyline target;
+  target.attributes = std::make_unique<CShapeAttributes>();
+  target.attributes->items.push_back(Pair(u"LAYER", u"0"));
+  source.CopyBaseTo(&target);
+  ASSERT_NE(target.attributes, nullptr);
+  EXPECT_TRUE(target.attributes->items.empty());
+  EXPECT_EQ(target.type, 0);
+  source.attributes->items.push_back(Pair(u"TYPE", u"LINE"));
+  source.CopyBaseTo(&target);
+  source.CopyBaseTo(&target);
+  EXPECT_EQ(target.attributes->items.size(), 1U);
+  CShapePolyline bare;
+  source.CopyBaseTo(&bare);
+  EXPECT_EQ(bare.attributes->items.size(), 1U);
+}
+
 TEST(Shape, CopyBaseToLeavesWhatTheSourceLacks)
 {
   const CShapePolyline source;

@@ -55,6 +55,7 @@ TEST(Vertex, ResultsByValueDropCarriedFields)
   EXPECT_TRUE(v / 2.0 == CShapeVertex(1.0, 2.0, 4.0));
   EXPECT_TRUE(v / CShapeVertex(2.0, 1.0, 4.0) == CShapeVertex(1.0, 4.0, 2.0));
   EXPECT_TRUE(v * 0.5 == CShapeVertex(1.0, 2.0, 4.0));
+  EXPECT_EQ((CShapeVertex(5.0, 0.0, 0.0) / 3.0).x, 5.0 / 3.0);  // not times a third
 }
 
 TEST(Vertex, DivisionByZeroIsNotGuarded)
