@@ -87,11 +87,13 @@ TEST_F(Curves, AnArcWhoseStepsMeetItsEndHasThatVertexTwice)
 TEST_F(Curves, AnArcOfNextToNothingIsAFullTurn)
 {
   CFileDxf reader(&window, log);
-  const auto halfWay = [&reader](double endDegrees) {
-    return reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, endDegrees, false)->vertices.at(90)->x;
+  const auto halfWay = [&reader](double endDegrees, bool clockwise) {
+    return reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, endDegrees, clockwise)->vertices.at(90)->x;
   };
-  EXPECT_NEAR(halfWay(0.9e-10 / turn), -1.0, 1e-9);
-  EXPECT_NEAR(halfWay(1.1e-10 / turn), 1.0, 1e-9);
+  EXPECT_NEAR(halfWay(0.9e-10 / turn, false), -1.0, 1e-9);
+  EXPECT_NEAR(halfWay(1.1e-10 / turn, false), 1.0, 1e-9);
+  EXPECT_NEAR(halfWay(-0.9e-10 / turn, true), -1.0, 1e-9);
+  EXPECT_NEAR(halfWay(-1.1e-10 / turn, true), 1.0, 1e-9);
 }
 
 TEST_F(Curves, AClockwiseArcMayOvershootByOneStepBeforeItReturns)

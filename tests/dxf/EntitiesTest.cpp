@@ -151,6 +151,14 @@ TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
   EXPECT_EQ(far.z, 662993.5503005981);
 }
 
+TEST_F(PlainEntities, AnAxisOfTheExtrusionIsRoundedAfterTheNextOneWasMade)
+{
+  DxfPoint point{0.0, 1.0, 0.0};
+  CFileDxf reader(&window, log);
+  reader.ApplyExtrusion(point, {0.1, 0.9, 0.5});
+  EXPECT_EQ(static_cast<float>(point.x), -0.05337909236550331F);
+}
+
 TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
 {
   CFileDxf reader(&window, log);

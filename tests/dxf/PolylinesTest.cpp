@@ -40,6 +40,7 @@ TEST_F(Polylines, AnOpenOneHasItsVerticesAndItsMark)
   EXPECT_THAT(AttributesOf(0), ElementsAre("FEATURE=POLYLINE", "LAYER=Hull", "HANDLE=2B"));
   EXPECT_EQ(At(0).tag, 0x2B);
   EXPECT_EQ(ColourOf(0), 0xFFU);
+  EXPECT_EQ(At(0).style->fillColour, 0xFFU);
   EXPECT_EQ(At(0).style->lineWidth, 1.0F);
 }
 
@@ -91,6 +92,19 @@ TEST_F(Polylines, OnAFrozenLayerLeaveNothingBehind)
                   seqEnd));
   ASSERT_EQ(ShapeCount(), 1U);
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(9.0, 9.0, 0.0)));
+}
+
+TEST_F(Polylines, OnAFrozenLayerEndTheOneBefore)
+{
+  Import(LayerTable(LayerRecord("frozen", 1, 1)) +
+         Entities(Header() + Vertex(1, 1) + Header(Lines({{8, "frozen"}})) + seqEnd));
+  EXPECT_EQ(ShapeCount(), 0U);
+}
+
+TEST_F(Polylines, TheirEndHasApplicationDataReadAsPairs)
+{
+  ImportEntities(Header() + triangle + Lines({{0, "SEQEND"}, {102, "{A"}, {0, "LINE"}, {10, "1"}}));
+  EXPECT_EQ(ShapeCount(), 2U);
 }
 
 TEST_F(Polylines, ControlPointsOfSplinesAreDroppedByFlagsOfExactlySixteen)
@@ -164,9 +178,12 @@ TEST_F(Polylines, AnExtrusionTurnsTheVertices)
 
 TEST_F(Polylines, ALightweightOneInBetweenResetsTheExtrusion)
 {
-  ImportEntities(Header(Lines({{230, "-1"}})) + Vertex(2, 3) +
-                 Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}}) + seqEnd);
-  EXPECT_THAT(VerticesOf(1), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
+  for (const char* name : {"seen", "frozen"}) {
+    Import(LayerTable(LayerRecord("frozen", 1, 1)) +
+           Entities(Header(Lines({{230, "-1"}})) + Vertex(2, 3) +
+                    Lines({{0, "LWPOLYLINE"}, {8, name}, {10, "1"}, {20, "1"}}) + seqEnd));
+    EXPECT_THAT(VerticesOf(ShapeCount() - 1), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -206,7 +223,7 @@ TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
 
 TEST_F(Polylines, TheWidthOfALightweightOneIsDoubledUnlessZero)
 {
-  for (const auto& [width, line] : {std::pair{"2.5", 5.0F}, {"0", 1.0F}}) {
+  for (const auto& [width, line] : {std::pair{"2.5", 5.0F}, {"0", 1.0F}, {"-1", -2.0F}}) {
     ImportEntities(Lines({{0, "LWPOLYLINE"}, {43, width}, {10, "1"}, {20, "2"}}));
     EXPECT_EQ(At(0).style->lineWidth, line);
   }
@@ -271,8 +288,10 @@ TEST_F(Polylines, ABulgeAboveOneHasItsCentreOnTheFarSide)
   // tan(theta/4) = 2: the sagitta is twice the half chord.
   EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
   EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
-  ImportEntities(TwoVertices("0.5"));
-  EXPECT_NEAR(VerticesOf(0)[90][1], -0.5, 1e-9);
+  for (const double bulge : {0.5, 0.95}) {
+    ImportEntities(TwoVertices(std::to_string(bulge)));
+    EXPECT_NEAR(VerticesOf(0)[90][1], -bulge, 1e-9);
+  }
 }
 
 TEST_F(Polylines, TheLastVertexIsLostWithABulge)
@@ -282,6 +301,9 @@ TEST_F(Polylines, TheLastVertexIsLostWithABulge)
   // So is the closing copy of a first vertex with a bulge.
   ImportEntities(
       Lines({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
+  ImportEntities(Header(Lines({{70, "1"}})) + Vertex(0, 0, Lines({{42, "1"}})) + Vertex(2, 0) +
+                 seqEnd);
   EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
 }
 
@@ -305,6 +327,15 @@ TEST_F(Polylines, TheArcLiesAtTheMeanHeightOfItsEnds)
   ImportEntities(Header() + Vertex(0, 0, Lines({{30, "1"}, {42, "1"}})) +
                  Vertex(2, 0, Lines({{30, "3"}})) + seqEnd);
   EXPECT_EQ(VerticesOf(0)[50][2], 2.0);
+}
+
+TEST_F(Polylines, TheRadiusOfABulgeIsMeasuredInSpace)
+{
+  // The ends are 2 apart in the plane and 4 in space.
+  ImportEntities(Header() + Vertex(0, 0, Lines({{42, "1"}})) +
+                 Vertex(2, 0, Lines({{30, "3.4641016151377544"}})) + seqEnd);
+  const auto vertex = VerticesOf(0)[50];
+  EXPECT_NEAR(std::hypot(vertex[0] - 1.0, vertex[1]), 2.0, 1e-6);
 }
 
 TEST_F(Polylines, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)

@@ -52,6 +52,7 @@ TEST(TextCodes, BecomeWhatALabelCanShow)
       {u"\\U+00B0\\u+00b0\\U+00G0", u"\u00B0\u00B0\\U+00G0"},
       {u"\\U+005CU+0041", u"A"},
       {u"\\U+00\\U+0030B0", u"\v0"},
+      {u"\\U+004\\U+0031", u"A"},
       {u"\\L%%\\U+0064", u"\u00B0"},
       {u"\\U+D83D\\U+DEA2", u"\U0001F6A2"},
       {u"\\O \\o \\K \\k \\T1; \\Q1; \\W1; \\S1/2; \\~ \\\\",

@@ -52,6 +52,16 @@ TEST_F(Texts, ARotationIsTurnedTheOtherWay)
   }
 }
 
+TEST_F(Texts, OfSeveralRotationsTheLastOneCounts)
+{
+  EXPECT_EQ(Label("TEXT", {{50, "90"}, {50, "45"}}).angle, 315.0);
+}
+
+TEST_F(Texts, ARotationOfNearlyNothingIsOne)
+{
+  EXPECT_EQ(Label("TEXT", {{50, "359.9999999999999"}, {21, "1"}}).angle, 360.0 - 359.9999999999999);
+}
+
 TEST_F(Texts, WithoutARotationTheDirectionCountsAsItIs)
 {
   EXPECT_EQ(Label("MTEXT", {{11, "0"}, {21, "1"}}).angle, std::atan2(1.0, 0.0) * 57.29577951308232);
