@@ -288,9 +288,9 @@ TEST_F(Polylines, ABulgeAboveOneHasItsCentreOnTheFarSide)
   // tan(theta/4) = 2: the sagitta is twice the half chord.
   EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
   EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
-  for (const double bulge : {0.5, 0.95}) {
-    ImportEntities(TwoVertices(std::to_string(bulge)));
-    EXPECT_NEAR(VerticesOf(0)[90][1], -bulge, 1e-9);
+  for (const auto& [bulge, sagitta] : {std::pair{"0.5", 0.5}, {"0.95", 0.95}}) {
+    ImportEntities(TwoVertices(bulge));
+    EXPECT_NEAR(VerticesOf(0).at(90).at(1), -sagitta, 1e-9);
   }
 }
 
