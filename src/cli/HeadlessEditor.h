@@ -46,6 +46,7 @@ public:
   void SetViewButtonImage(int) override {}
   void InvalidateToolBar() override {}
   void ApplyLook(int) override {}
+  void ShowNote(std::u16string_view) override {}
   void StartProgress(std::string_view) override {}
   void ShowProgress(int) override {}
   void EndProgress() override {}

@@ -1,6 +1,7 @@
 #include "file/FileSax.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <initializer_list>
 #include <limits>
@@ -56,7 +57,17 @@ int CFileSax::Read(std::u16string_view path)
 {
   CFileSaxContentHandler content(this);
   CFileSaxErrorHandler errors(this);
-  return ParseXmlFile(path, content, errors) ? 0 : -1;
+  const bool whole = ParseXmlFile(path, content, errors);
+  readError_ = errors.Last();
+  return whole ? 0 : -1;
+}
+
+std::u16string Describe(const ReadError& error)
+{
+  if (error.line == 0) return error.message;
+  return WideFromAscii("line " + std::to_string(error.line) + ", column " +
+                       std::to_string(error.column) + ": ") +
+         error.message;
 }
 
 void CFileSax::ResetOutput()
@@ -65,6 +76,7 @@ void CFileSax::ResetOutput()
   outLength = 0;
   outCapacity = 0;
   outBuffer_.reset();
+  lostBlock_ = false;
 }
 
 void CFileSax::WriteDeclaration()
@@ -149,7 +161,10 @@ bool CFileSax::Grow(std::size_t margin)
   const bool fresh = !outBuffer_;
   // A failed resize loses the block; the next one starts anew at the same length.
   outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), request)));
-  if (!outBuffer_) return false;
+  if (!outBuffer_) {
+    lostBlock_ = true;
+    return false;
+  }
   outCapacity = static_cast<std::uint32_t>(request);
   if (fresh) std::memset(outBuffer_.get(), 0, outLength);
   return true;
@@ -174,13 +189,19 @@ void CFileSax::Append(std::string_view text)
 
 int CFileSax::Flush(std::u16string_view path)
 {
+  writeError_ = 0;
   if (path.empty() || !outBuffer_ || outLength == 0 || outCapacity == 0) return -1;
   FilePointer file = OpenToWrite(path);
-  if (!file) return -1;
+  if (!file) {
+    writeError_ = errno;
+    return -1;
+  }
+  errno = 0;
   const bool written = std::fwrite(outBuffer_.get(), outLength, 1, file.get()) == 1;
   // What is still in the stream's buffer reaches the disk only here.
   const bool closed = std::fclose(file.release()) == 0;
   if (written && closed) return 0;
+  writeError_ = errno;
   messages_.ShowMessage(u"Error writing config file!!!");
   return -1;
 }

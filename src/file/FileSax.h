@@ -17,6 +17,16 @@ using AttributeMap = std::map<std::u16string, std::u16string, std::less<>>;
 /// Value of an attribute; empty where it is missing.
 const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name);
 
+/// Why and where a file could not be read.
+struct ReadError {
+  std::u16string message;  ///< empty while no file has failed
+  int line = 0;            ///< from 1; 0 where the place is not known
+  int column = 0;          ///< from 1; 0 where the place is not known
+};
+
+/// The place and the reason as "line 3, column 7: mismatched tag".
+std::u16string Describe(const ReadError& error);
+
 /// Base of the XML files. Reading pushes the file's elements and texts through the callbacks;
 /// writing composes a document in a growing block that goes to the disk in one piece.
 class CFileSax {
@@ -42,6 +52,9 @@ public:
   /// nothing outside the file is read.
   int Read(std::u16string_view path);
 
+  /// What was wrong with the file that `Read` failed on.
+  const ReadError& LastReadError() const { return readError_; }
+
   /// Starts a document with an empty block.
   void ResetOutput();
 
@@ -59,8 +72,15 @@ public:
   /// nothing to write or the file won't open, and with a message when the writing fails.
   int Flush(std::u16string_view path);
 
+  /// The `errno` of the last `Flush` that failed; 0 for one that had nothing to write.
+  int WriteError() const { return writeError_; }
+
   /// Text so far.
   std::string_view Output() const;
+
+  /// Whether memory ended once since the document was started: its text has a hole then, and must
+  /// not replace a file.
+  bool LostBlock() const { return lostBlock_; }
 
   std::int32_t indent = 0;        ///< current nesting level
   std::uint32_t outLength = 0;    ///< bytes written
@@ -85,6 +105,9 @@ private:
 
   IMessageBoxes& messages_;
   std::unique_ptr<char, FreeBlock> outBuffer_;
+  bool lostBlock_ = false;
+  int writeError_ = 0;
+  ReadError readError_;
 };
 
 /// Replaces the five markup characters by their entities, and every unit outside 0x20 to 0x7F by a

@@ -31,6 +31,12 @@ CFileVessel::~CFileVessel() = default;
 
 int CFileVessel::Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups)
 {
+  Compose(shapeGroups);
+  return Flush(path);
+}
+
+void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups)
+{
   ResetOutput();
   WriteDeclaration();
   OpenElement(u"vessel");
@@ -46,7 +52,6 @@ int CFileVessel::Save(std::u16string_view path, const OwnedArray<CShapes>& shape
   if (piv) WriteCoordinates("piv", *piv);
   if (anchors) WriteAnchors();
   CloseElement(u"vessel");
-  return Flush(path);
 }
 
 void CFileVessel::WriteGroup(const CShapes& group)

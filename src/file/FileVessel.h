@@ -20,6 +20,9 @@ public:
   explicit CFileVessel(IMessageBoxes& messages);
   ~CFileVessel() override;
 
+  /// Composes the document in the block, anew.
+  void Compose(const OwnedArray<CShapes>& shapeGroups);
+
   /// Composes the document and writes it. 0 on success, -1 as `Flush`.
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
 

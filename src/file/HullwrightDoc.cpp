@@ -18,12 +18,16 @@ void CopyCoordinates(const CShapeVertex& from, CShapeVertex& to)
   to.z = from.z;
 }
 
-std::u16string CannotOpen(std::u16string_view path, int error)
+/// The system's text for an `errno`, in the language of all other messages, whatever the locale;
+/// `unknown` for 0.
+std::u16string ErrorText(int error, const char* unknown)
 {
-  // In the language of all other messages, whatever the locale.
-  const std::string reason = error != 0 ? strerrordesc_np(error) : "It is not a file";
-  return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + WideFromUtf8(reason) +
-         u".";
+  return WideFromUtf8(error != 0 ? strerrordesc_np(error) : unknown);
+}
+
+std::u16string CannotOpen(std::u16string_view path, const std::u16string& reason)
+{
+  return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + reason + u".";
 }
 
 }  // namespace
@@ -53,16 +57,21 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
   errno = 0;
   if (!OpenToRead(path)) {
-    messages_.ShowMessage(CannotOpen(path, errno));
+    openProblem_ = ErrorText(errno, "It is not a file");
+    messages_.ShowMessage(CannotOpen(path, openProblem_));
     return false;
   }
+  openProblem_.clear();
   DeleteContents();
 
   CFileVessel file(messages_);
   ClearGroups(design_.shapeGroups);
   file.anchors->Clear();
   file.groups = &design_.shapeGroups;
-  if (file.Read(path) != 0) return false;
+  if (file.Read(path) != 0) {
+    openProblem_ = Describe(file.LastReadError());
+    return false;
+  }
   CopyCoordinates(*file.gps, *design_.offsetGps);
   CopyCoordinates(*file.txd, *design_.offsetTransducer);
   CopyCoordinates(*file.piv, *design_.offsetPivot);
@@ -72,17 +81,37 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
   return true;
 }
 
-bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
+void CHullwrightDoc::FillFile(CFileVessel& file) const
 {
-  CFileVessel file(messages_);
   file.unitCode = design_.unitCode;
   file.anchors->AppendClones(*design_.anchors);
   CopyCoordinates(*design_.offsetGps, *file.gps);
   CopyCoordinates(*design_.offsetTransducer, *file.txd);
   CopyCoordinates(*design_.offsetPivot, *file.piv);
-  savedWhole_ = file.Save(path, design_.shapeGroups) == 0;
+}
+
+bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
+{
+  CFileVessel file(messages_);
+  FillFile(file);
+  file.Compose(design_.shapeGroups);
+  saveProblem_.clear();
+  if (file.LostBlock()) {
+    saveProblem_ = ErrorText(ENOMEM, "");
+  } else if (file.Flush(path) != 0) {
+    saveProblem_ = ErrorText(file.WriteError(), "There is nothing to write");
+  }
   mainWindow_.SetModifiedFlag(false);
   return true;
+}
+
+std::optional<std::size_t> CHullwrightDoc::Fingerprint() const
+{
+  CFileVessel file(messages_);
+  FillFile(file);
+  file.Compose(design_.shapeGroups);
+  if (file.LostBlock()) return std::nullopt;
+  return std::hash<std::string_view>()(file.Output());
 }
 
 }  // namespace hullwright

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,6 +11,8 @@
 #include "platform/MessageBoxes.h"
 
 namespace hullwright {
+
+class CFileVessel;
 
 /// Moves the design between the design state and files. It owns no data of its own but the modified
 /// flag.
@@ -29,8 +33,20 @@ public:
   /// writing failed; `CFileVessel` tells what the user gets to see.
   bool OnSaveDocument(std::u16string_view path);
 
-  /// Whether the last save reached the disk, for a shell that wants to lose nothing.
-  bool SavedWhole() const { return savedWhole_; }
+  /// Whether the last save reached the disk whole. A design for whose text memory ended is not
+  /// written at all.
+  bool SavedWhole() const { return saveProblem_.empty(); }
+
+  /// Why the last save failed; empty when it did not.
+  const std::u16string& SaveProblem() const { return saveProblem_; }
+
+  /// Why the last open failed, with line and column in a file that is not well-formed; empty when
+  /// it did not.
+  const std::u16string& OpenProblem() const { return openProblem_; }
+
+  /// Stands for the bytes that a save would write now: equal texts have equal fingerprints. Nothing
+  /// where there is no memory to compose them.
+  std::optional<std::size_t> Fingerprint() const;
 
   /// Called when the design has been emptied, by new or by open: what is there then is no longer
   /// what the file of before holds, also if the open fails later.
@@ -41,12 +57,14 @@ public:
 
 private:
   void DeleteContents();
+  void FillFile(CFileVessel& file) const;
 
   DesignState& design_;
   IMainWindow& mainWindow_;
   IMessageBoxes& messages_;
   bool modified_ = false;
-  bool savedWhole_ = true;
+  std::u16string saveProblem_;
+  std::u16string openProblem_;
 };
 
 }  // namespace hullwright

@@ -31,6 +31,7 @@ void CFileSaxContentHandler::PassOver(std::u16string_view markup)
 
 void CFileSaxErrorHandler::Error(std::u16string_view message, int line, int column, int code)
 {
+  last_ = {std::u16string(message), line, column};
   if (owner_ != nullptr) owner_->Error(message, line, column, code);
 }
 

@@ -34,8 +34,12 @@ public:
   /// Line and column count from 1; 0 where they are not known.
   void Error(std::u16string_view message, int line, int column, int code);
 
+  /// The last error that was passed on.
+  const ReadError& Last() const { return last_; }
+
 private:
   CFileSax* owner_;
+  ReadError last_;
 };
 
 }  // namespace hullwright

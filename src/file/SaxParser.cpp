@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <initializer_list>
 #include <memory>
 #include <new>
@@ -20,6 +22,8 @@ namespace {
 
 /// Joins a namespace and a local name; no XML text can hold it.
 constexpr char nameSeparator = '\x01';
+
+constexpr const char* outOfMemory = "out of memory";
 
 std::u16string LocalName(const XML_Char* name)
 {
@@ -57,12 +61,21 @@ public:
         });
     XML_SetStartDoctypeDeclHandler(
         parser, [](void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
-          XML_StopParser(static_cast<Driver*>(self)->parser_, XML_FALSE);
+          static_cast<Driver*>(self)->Stop("a document type is declared");
         });
     XML_SetUnknownEncodingHandler(parser, &Driver::DescribeEncoding, nullptr);
   }
 
+  /// Why the parse was stopped from here; null when it was not.
+  const char* StopReason() const { return stopReason_; }
+
 private:
+  void Stop(const char* reason)
+  {
+    stopReason_ = reason;
+    XML_StopParser(parser_, XML_FALSE);
+  }
+
   /// Runs a callback's work. The parser is C and no exception may cross it, so that memory running
   /// out ends the parse as an error.
   template <class Work>
@@ -71,7 +84,7 @@ private:
     try {
       work(*this);
     } catch (const std::bad_alloc&) {
-      XML_StopParser(parser_, XML_FALSE);
+      Stop(outOfMemory);
     }
   }
 
@@ -134,6 +147,7 @@ private:
   XML_Parser parser_;
   CFileSaxContentHandler& content_;
   std::string chunk_;
+  const char* stopReason_ = nullptr;
 };
 
 struct FreeParser {
@@ -159,6 +173,15 @@ bool Feed(std::FILE* file, XML_Parser parser)
   return true;
 }
 
+/// Why a parse that has just failed did so. Asks `errno`, so nothing may come in between.
+const char* FailureReason(const Driver& driver, std::FILE* file, XML_Parser parser)
+{
+  if (std::ferror(file) != 0) return strerrordesc_np(errno);
+  if (driver.StopReason() != nullptr) return driver.StopReason();
+  const XML_LChar* const text = XML_ErrorString(XML_GetErrorCode(parser));
+  return text == nullptr ? outOfMemory : text;
+}
+
 }  // namespace
 
 bool XmlLibraryFits()
@@ -179,10 +202,9 @@ bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
   if (!parser) return false;
   Driver driver(parser.get(), content);
   if (Feed(file.get(), parser.get())) return true;
+  const char* const reason = FailureReason(driver, file.get(), parser.get());
   const XML_Error code = XML_GetErrorCode(parser.get());
-  const XML_LChar* const text = XML_ErrorString(code);
-  errors.Error(WideFromUtf8(text == nullptr ? "" : text),
-               static_cast<int>(XML_GetCurrentLineNumber(parser.get())),
+  errors.Error(WideFromUtf8(reason), static_cast<int>(XML_GetCurrentLineNumber(parser.get())),
                static_cast<int>(XML_GetCurrentColumnNumber(parser.get())) + 1, code);
   return false;
 }

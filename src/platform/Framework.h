@@ -44,6 +44,9 @@ public:
   /// Gives the program the look of a command and draws the frame anew.
   virtual void ApplyLook(int look) = 0;
 
+  /// Shows what came of a command, until the next one.
+  virtual void ShowNote(std::u16string_view text) = 0;
+
   /// Shows at once that something goes on which takes its time: a text and no progress yet.
   virtual void StartProgress(std::string_view text) = 0;
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QLabel>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -29,13 +29,25 @@ constexpr const char* geometryKey = "Workspace/Geometry";
 constexpr const char* layoutKey = "Workspace/Layout";
 constexpr const char* statusBarKey = "Workspace/StatusBar";
 
-/// The first file on this machine among what is dropped; empty if there is none.
-QString DroppedFile(const QMimeData& data)
+/// The files on this machine among what is dropped.
+QStringList DroppedFiles(const QMimeData& data)
 {
+  QStringList files;
   for (const QUrl& url : data.urls()) {
-    if (url.isLocalFile()) return url.toLocalFile();
+    if (url.isLocalFile()) files.append(url.toLocalFile());
   }
-  return {};
+  return files;
+}
+
+/// Names files that were not opened because another one was.
+QString NotOpened(const QStringList& paths)
+{
+  QStringList names;
+  for (const QString& path : paths) {
+    names.append(QLatin1Char('"') + QFileInfo(path).fileName() + QLatin1Char('"'));
+  }
+  return QObject::tr("One design is open at a time; not opened: %1")
+      .arg(names.join(QStringLiteral(", ")));
 }
 
 /// Takes a drop as a copy, whatever was proposed, so that nobody removes the file afterwards.
@@ -48,14 +60,16 @@ void AcceptCopy(QDropEvent& event)
 }  // namespace
 
 MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-                       int recentFiles)
+                       std::size_t recentFiles)
     : settings_(settings),
       app_(app),
       frame_(app, *this),
       document_(app, frame_, messages),
       design_(new DesignWidget(this)),
       view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
-      documents_(this, document_, settings, messages, recentFiles),
+      recentFiles_(settings),
+      documents_(document_, app, {documentDialogs_, recentFiles_, formerVersions_, *this},
+                 recentFiles),
       tree_(new ObjectTreeWidget(this)),
       objects_(app, *tree_),
       actions_(new Actions(this, [this](int command) { RunCommand(command); }))
@@ -171,8 +185,7 @@ void MainWindow::BuildStatusBar()
     statusBar()->addPermanentWidget(pane);
     return pane;
   };
-  prompt_ = new QLabel(ToQString(Strings::ready), this);
-  prompt_->setMargin(2);
+  prompt_ = new PromptPane(ToQString(Strings::ready), this);
   statusBar()->addWidget(prompt_, 1);
   progress_ = new ProgressPane(this);
   statusBar()->addWidget(progress_, 1);
@@ -217,6 +230,12 @@ void MainWindow::ApplyLook(int look)
   QApplication::restoreOverrideCursor();
 }
 
+void MainWindow::ShowNote(std::u16string_view text)
+{
+  note_ = ToQString(text);
+  UpdatePanes();
+}
+
 void MainWindow::StartProgress(std::string_view text)
 {
   prompt_->hide();
@@ -235,12 +254,24 @@ void MainWindow::FillRecentFiles(QMenu& menu)
 {
   menu.clear();
   int number = 0;
-  for (const QString& path : documents_.RecentFiles()) {
+  for (const std::u16string& file : documents_.RecentFiles()) {
+    const QString path = ToQString(file);
     QString shown = path;
     shown.replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction* const entry = menu.addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown));
-    connect(entry, &QAction::triggered, this, [this, path] { documents_.Open(path); });
+    connect(entry, &QAction::triggered, this, [this, path] { OpenFromOutside({path}); });
   }
+}
+
+void MainWindow::OpenFromOutside(const QStringList& paths)
+{
+  note_.clear();
+  documents_.Open(ToWide(paths.first()));
+  if (paths.size() > 1) {
+    const QString others = NotOpened(paths.mid(1));
+    ShowNote(ToWide(note_.isEmpty() ? others : note_ + QLatin1Char(' ') + others));
+  }
+  UpdateAll();
 }
 
 void MainWindow::SetViewButtonImage(int command)
@@ -257,6 +288,7 @@ void MainWindow::InvalidateToolBar()
 void MainWindow::RunCommand(int command)
 {
   if (!Query(command).enabled) return;
+  note_.clear();
   if (!RunShellCommand(command)) frame_.OnCommand(command);
   UpdateAll();
 }
@@ -289,7 +321,7 @@ CommandState MainWindow::Query(int command) const
     case Command::NextPane:
     case Command::PreviousPane:
     case Command::ViewToolbars: return {true};
-    case Command::RecentFile: return {!documents_.RecentFiles().isEmpty()};
+    case Command::RecentFile: return {!documents_.RecentFiles().empty()};
     case Command::ViewStatusBar: return {true, !statusBar()->isHidden(), true};
     default: return frame_.QueryCommand(command);
   }
@@ -316,12 +348,23 @@ void MainWindow::UpdatePanes()
 {
   coordinatesPane_->Show(ToQString(view_.statusText));
   unitsPane_->Show(ToQString(view_.UnitsPaneText()));
+  prompt_->Show(Prompt());
+}
+
+QString MainWindow::Prompt() const
+{
+  if (view_.drawing) {
+    return tr("Left click adds a vertex, right click ends the polyline: %n so far", nullptr,
+              static_cast<int>(view_.newShape->vertices.size()));
+  }
+  return note_.isEmpty() ? ToQString(Strings::ready) : note_;
 }
 
 void MainWindow::UpdateTitle()
 {
   // Doubled, the mark for a modified document is shown as it stands in a file's name.
-  const QString name = documents_.Name().replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+  const QString name =
+      ToQString(documents_.Name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
   setWindowTitle(name + QStringLiteral("[*] - ") + QString::fromLatin1(Strings::program));
   setWindowModified(document_.IsModified());
 }
@@ -342,18 +385,18 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-  if (!DroppedFile(*event->mimeData()).isEmpty()) AcceptCopy(*event);
+  if (!DroppedFiles(*event->mimeData()).isEmpty()) AcceptCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-  const QString path = DroppedFile(*event->mimeData());
-  if (path.isEmpty()) return;
+  const QStringList paths = DroppedFiles(*event->mimeData());
+  if (paths.isEmpty()) return;
   AcceptCopy(*event);
   // Opening may ask a question; the one who dropped must not wait for its answer.
   // A dialog that has opened meanwhile works on the design as it is; it goes first.
-  QTimer::singleShot(0, this, [this, path] {
-    if (QApplication::activeModalWidget() == nullptr) documents_.Open(path);
+  QTimer::singleShot(0, this, [this, paths] {
+    if (QApplication::activeModalWidget() == nullptr) OpenFromOutside(paths);
   });
 }
 

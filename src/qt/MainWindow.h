@@ -3,17 +3,22 @@
 #include <QDockWidget>
 #include <QMainWindow>
 
+#include "app/DocumentLife.h"
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
 #include "file/HullwrightDoc.h"
 #include "platform/Framework.h"
 #include "qt/Actions.h"
 #include "qt/DesignWidget.h"
-#include "qt/DocumentController.h"
 #include "qt/ObjectTreeWidget.h"
 #include "qt/ProgressPane.h"
+#include "qt/PromptPane.h"
+#include "qt/QtDocumentDialogs.h"
+#include "qt/QtMessageBoxes.h"
+#include "qt/QtRecentFiles.h"
 #include "qt/StatusPane.h"
 #include "qt/ToolBars.h"
+#include "system/FormerVersions.h"
 
 namespace hullwright {
 
@@ -24,10 +29,13 @@ class MainWindow : public QMainWindow, public IFrameWidgets {
 
 public:
   MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-             int recentFiles);
+             std::size_t recentFiles);
   ~MainWindow() override;
 
-  DocumentController& Document() { return documents_; }
+  DocumentLife& Document() { return documents_; }
+
+  /// Why the last open failed.
+  const std::u16string& OpenProblem() const { return document_.OpenProblem(); }
 
   /// Carries out a command of menu, toolbar or key, if it is enabled.
   void RunCommand(int command);
@@ -38,6 +46,7 @@ public:
   void SetViewButtonImage(int command) override;
   void InvalidateToolBar() override;
   void ApplyLook(int look) override;
+  void ShowNote(std::u16string_view text) override;
   void StartProgress(std::string_view text) override;
   void ShowProgress(int percent) override;
   void EndProgress() override;
@@ -58,12 +67,14 @@ private:
   void BuildObjectPane();
   void GoToNextPane();
   void FillRecentFiles(QMenu& menu);
+  void OpenFromOutside(const QStringList& paths);
 
   bool RunShellCommand(int command);
   CommandState Query(int command) const;
   void UpdateAll();
   void UpdateCommands();
   void UpdatePanes();
+  QString Prompt() const;
   void UpdateTitle();
 
   QtSettingsStore& settings_;
@@ -72,7 +83,10 @@ private:
   CHullwrightDoc document_;
   DesignWidget* design_;
   CHullwrightView view_;
-  DocumentController documents_;
+  QtDocumentDialogs documentDialogs_{this};
+  QtRecentFiles recentFiles_;
+  FormerVersions formerVersions_{StateFolder()};
+  DocumentLife documents_;
   ObjectTreeWidget* tree_;
   CObjectView objects_;
   QDockWidget* objectPane_ = nullptr;
@@ -80,7 +94,8 @@ private:
   ToolBars* toolBars_ = nullptr;
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
-  QLabel* prompt_ = nullptr;
+  QString note_;  ///< what came of the last command; empty for nothing to tell
+  PromptPane* prompt_ = nullptr;
   ProgressPane* progress_ = nullptr;  ///< takes the prompt's place
   StatusPane* coordinatesPane_ = nullptr;
   StatusPane* unitsPane_ = nullptr;

@@ -5,8 +5,10 @@
 #include <utility>
 
 #include "app/CommonDataFolder.h"
+#include "base/Text.h"
 #include "file/SaxParser.h"
 #include "qt/Icons.h"
+#include "qt/QtText.h"
 #include "resources/Strings.h"
 
 namespace hullwright {
@@ -29,7 +31,7 @@ bool Shell::InitialiseLibraries() { return XmlLibraryFits(); }
 void Shell::OpenUserStore(const char* maker, int recentFiles)
 {
   settings_.Open(QString::fromLatin1(maker), QString::fromLatin1(Strings::program));
-  recentFiles_ = recentFiles;
+  recentFiles_ = static_cast<std::size_t>(recentFiles);
 }
 
 bool Shell::CreateDocumentTemplate()
@@ -46,10 +48,10 @@ bool Shell::ProcessCommandLine()
     window_->Document().New();
     return true;
   }
-  if (window_->Document().Open(file_)) return true;
+  if (window_->Document().Open(ToWide(file_))) return true;
   // The process ends without a window; a terminal at least gets a word.
-  std::fprintf(stderr, "hullwright: cannot open the design '%s'\n",
-               file_.toLocal8Bit().constData());
+  std::fprintf(stderr, "hullwright: cannot open the design '%s': %s\n",
+               file_.toLocal8Bit().constData(), Utf8FromWide(window_->OpenProblem()).c_str());
   return false;
 }
 

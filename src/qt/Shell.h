@@ -35,7 +35,7 @@ public:
 
 private:
   QString file_;
-  int recentFiles_ = 0;  ///< length of the list of recent files
+  std::size_t recentFiles_ = 0;  ///< length of the list of recent files
   QtSettingsStore settings_;
   QtMessageBoxes messages_;
   SharedLibraries libraries_;

@@ -10,6 +10,7 @@ import sys
 ROOMS = {
     "base": "",
     "platform": "",
+    "system": "base platform",
     "model": "base",
     "render": "base model platform",
     "resources": "model",
@@ -18,7 +19,7 @@ ROOMS = {
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
-    "qt": "base model platform render resources file dxf view app paint",
+    "qt": "base model platform system render resources file dxf view app paint",
     "cli": "base model platform render resources file dxf view app paint",
 }
 

@@ -1,17 +1,25 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QMimeData>
 #include <QStandardPaths>
+#include <QTest>
 #include <QUrl>
+#include <set>
 
+#include "qt/QtText.h"
 #include "qt/Shell.h"
 #include "resources/CommandIds.h"
 #include "support/ShellFixture.h"
 
 namespace hullwright {
 namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
 
 constexpr const char* oneLine =
     "<vessel><shapes view='01'><polyline><vertex x='1'/><vertex "
@@ -39,7 +47,39 @@ protected:
   }
 
   MainWindow& Window() { return *shell->Window(); }
-  DocumentController& Documents() { return Window().Document(); }
+  DocumentLife& Documents() { return Window().Document(); }
+  bool Open(const QString& path) { return Documents().Open(ToWide(path)); }
+  QString Prompt() { return Window().findChild<PromptPane*>()->Text(); }
+
+  /// Drops files on the window, which are offered to be moved; the action that was taken.
+  Qt::DropAction Drop(const QList<QUrl>& urls)
+  {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                          Qt::ShiftModifier);
+    QApplication::sendEvent(&Window(), &enter);
+    QDropEvent drop(QPointF(100, 100), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                    Qt::ShiftModifier);
+    QApplication::sendEvent(&Window(), &drop);
+    QApplication::processEvents();
+    return drop.dropAction();
+  }
+
+  /// The former versions that are kept, the oldest first, as their bytes.
+  std::vector<std::string> FormerVersions() const
+  {
+    std::set<std::string> names;
+    const auto state = folder.Path() / "state" / "hullwright";
+    if (std::filesystem::exists(state)) {
+      for (const auto& copy : std::filesystem::directory_iterator(state)) {
+        names.insert("state/hullwright/" + copy.path().filename().string());
+      }
+    }
+    std::vector<std::string> texts;
+    for (const std::string& name : names) texts.push_back(folder.Read(name));
+    return texts;
+  }
   void Modify() { shell->App().SetModifiedFlag(true); }
   std::size_t Groups() { return shell->App().shapeGroups.size(); }
 
@@ -93,7 +133,7 @@ TEST_F(DocumentFlow, NewAsksForAModifiedDesignAndCancelKeepsIt)
   Answer(QMessageBox::No);
   Documents().New();
   EXPECT_EQ(Groups(), 0U);
-  EXPECT_EQ(Documents().Name(), QStringLiteral("Untitled"));
+  EXPECT_EQ(Documents().Name(), u"Untitled");
   EXPECT_EQ(dialogs, 2);
 }
 
@@ -131,19 +171,19 @@ TEST_F(DocumentFlow, AFileThatCannotBeOpenedKeepsTheDesignAndItsName)
   ASSERT_TRUE(Start(Design("boat.xml")));
   for (const char* name : {"missing.xml", ""}) {
     Answer(QMessageBox::Ok);
-    EXPECT_FALSE(Documents().Open(Path(name)));
+    EXPECT_FALSE(Open(Path(name)));
   }
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(Groups(), 1U);
-  EXPECT_EQ(Documents().Name(), QStringLiteral("boat.xml"));
+  EXPECT_EQ(Documents().Name(), u"boat.xml");
 }
 
 TEST_F(DocumentFlow, WhatAMalformedFileLeavesIsNotSavedOverTheOldFile)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
-  EXPECT_FALSE(Documents().Open(Design("bad.xml", "<vessel>")));
+  EXPECT_FALSE(Open(Design("bad.xml", "<vessel>")));
   EXPECT_EQ(dialogs, 0);
-  EXPECT_EQ(Documents().Name(), QStringLiteral("Untitled"));
+  EXPECT_EQ(Documents().Name(), u"Untitled");
   WhenAsked<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
   EXPECT_FALSE(Documents().Save());
   EXPECT_EQ(folder.Read("boat.xml"), oneLine);
@@ -160,80 +200,120 @@ TEST_F(DocumentFlow, SavingAnUntitledDesignAsksForANameAndAddsTheSuffix)
   EXPECT_TRUE(Documents().Save());
   EXPECT_TRUE(
       folder.Read("new boat.xml").starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>"));
-  EXPECT_EQ(Documents().Name(), QStringLiteral("new boat.xml"));
+  EXPECT_EQ(Documents().Name(), u"new boat.xml");
   EXPECT_FALSE(Window().isWindowModified());
 }
 
-TEST_F(DocumentFlow, ATargetThatCannotBeWrittenIsToldAndNothingIsLost)
+TEST_F(DocumentFlow, ATargetThatIsGoneIsReportedInTheStatusBarAndStillAskedFor)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
   Modify();
   std::filesystem::remove(folder.Path() / "boat.xml");
   std::filesystem::create_directory(folder.Path() / "boat.xml");
-  WhenAsked<QMessageBox>([this](QMessageBox& box) {
-    lastQuestion = box.text();
-    WhenAsked<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-    box.accept();
-  });
-  EXPECT_FALSE(Documents().Save());
-  EXPECT_EQ(lastQuestion, QStringLiteral("Error writing config file!!!"));
-  EXPECT_EQ(dialogs, 2);
-  Documents().onChange();
-  EXPECT_TRUE(Window().isWindowModified());
-  EXPECT_EQ(Groups(), 1U);
+  Window().RunCommand(Command::FileSave);
+  EXPECT_EQ(dialogs, 0);
+  EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved: Is a directory."));
+  // The flag is the document's, which counts a failed save as one; the changes are asked for all
+  // the same.
+  EXPECT_FALSE(Window().isWindowModified());
+  Answer(QMessageBox::No);
+  EXPECT_TRUE(Window().close());
+  EXPECT_EQ(lastQuestion, QStringLiteral("Save changes to boat.xml?"));
 }
 
-TEST_F(DocumentFlow, AFullDiskIsToldAndTheDesignStaysModified)
+TEST_F(DocumentFlow, AFullDiskIsToldOnceAndTheSaveThatWasAskedForKeepsTheWindowOpen)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
   Modify();
   std::filesystem::remove(folder.Path() / "boat.xml");
   std::filesystem::create_symlink("/dev/full", folder.Path() / "boat.xml");
-  Answer(QMessageBox::Ok);
-  EXPECT_FALSE(Documents().Save());
+  WhenAsked<QMessageBox>([this](QMessageBox& question) {
+    Answer(QMessageBox::Ok);
+    question.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_FALSE(Window().close());
   EXPECT_EQ(lastQuestion, QStringLiteral("Error writing config file!!!"));
-  Documents().onChange();
-  EXPECT_TRUE(Window().isWindowModified());
+  EXPECT_EQ(dialogs, 2);
+  EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved: No space left on device."));
+  EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_F(DocumentFlow, ASaveKeepsWhatTheFileHeldBefore)
+{
+  ASSERT_TRUE(Start(Design("boat.xml")));
+  Window().RunCommand(Command::FileSave);
+  EXPECT_THAT(FormerVersions(), ElementsAre(oneLine));
+  EXPECT_NE(folder.Read("boat.xml"), oneLine);
+}
+
+TEST_F(DocumentFlow, AnOutlineThatWasDrawnIsAskedForThoughTheDesignIsNotModified)
+{
+  ASSERT_TRUE(Start());
+  Window().RunCommand(Command::DrawPolyline);
+  EXPECT_EQ(Prompt(),
+            QStringLiteral("Left click adds a vertex, right click ends the polyline: 0 so far"));
+  auto* const design = Window().findChild<DesignWidget*>();
+  QTest::mouseMove(design, QPoint(100, 100));
+  QTest::mouseClick(design, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+  EXPECT_TRUE(Prompt().endsWith(QStringLiteral("1 so far")));
+  QTest::mouseClick(design, Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
+  EXPECT_EQ(Prompt(), QStringLiteral("Ready"));
+  EXPECT_FALSE(Window().isWindowModified());
+  Answer(QMessageBox::Cancel);
+  EXPECT_FALSE(Window().close());
+  EXPECT_EQ(lastQuestion, QStringLiteral("Save changes to Untitled?"));
+}
+
+TEST_F(DocumentFlow, AFileThatIsNoDesignIsReportedWithLineAndColumn)
+{
+  ASSERT_TRUE(Start());
+  EXPECT_FALSE(Open(Design("bad.xml", "<vessel>\n<shapes>\n</vessel>")));
+  EXPECT_EQ(dialogs, 0);
+  EXPECT_EQ(Prompt(),
+            QStringLiteral("\"bad.xml\" was not opened: line 3, column 3: mismatched tag"));
 }
 
 TEST_F(DocumentFlow, KeepsTheFourFilesOpenedLast)
 {
   ASSERT_TRUE(Start());
   for (const char* name : {"a.xml", "b.xml", "c.xml", "d.xml", "e.xml", "c.xml"}) {
-    Documents().Open(Design(name));
+    Open(Design(name));
   }
-  const QStringList wanted = {Path("c.xml"), Path("e.xml"), Path("d.xml"), Path("b.xml")};
-  EXPECT_EQ(Documents().RecentFiles(), wanted);
+  EXPECT_THAT(Documents().RecentFiles(), ElementsAre(folder.File("c.xml"), folder.File("e.xml"),
+                                                     folder.File("d.xml"), folder.File("b.xml")));
   std::filesystem::remove(folder.Path() / "e.xml");
   Answer(QMessageBox::Ok);
-  Documents().Open(Path("e.xml"));
-  EXPECT_FALSE(Documents().RecentFiles().contains(Path("e.xml")));
+  Open(Path("e.xml"));
+  EXPECT_THAT(Documents().RecentFiles(), Not(Contains(folder.File("e.xml"))));
 }
 
 TEST_F(DocumentFlow, TheListOfFilesSurvivesARestart)
 {
   ASSERT_TRUE(Start());
-  Documents().Open(Design("a.xml"));
+  Open(Design("a.xml"));
   Window().close();
   ASSERT_TRUE(Start());
-  EXPECT_EQ(Documents().RecentFiles(), QStringList{Path("a.xml")});
+  EXPECT_THAT(Documents().RecentFiles(), ElementsAre(folder.File("a.xml")));
 }
 
 TEST_F(DocumentFlow, ADroppedFileOpens)
 {
   ASSERT_TRUE(Start());
-  QMimeData data;
-  data.setUrls(
-      {QUrl(QStringLiteral("https://example.org/x.xml")), QUrl::fromLocalFile(Design("a.xml"))});
-  QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
-                        Qt::ShiftModifier);
-  QApplication::sendEvent(&Window(), &enter);
-  QDropEvent drop(QPointF(100, 100), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
-                  Qt::ShiftModifier);
-  QApplication::sendEvent(&Window(), &drop);
-  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
-  QApplication::processEvents();
+  EXPECT_EQ(Drop({QUrl(QStringLiteral("https://example.org/x.xml")),
+                  QUrl::fromLocalFile(Design("a.xml"))}),
+            Qt::CopyAction);
   EXPECT_EQ(Groups(), 1U);
+  EXPECT_EQ(Prompt(), QStringLiteral("Ready"));
+}
+
+TEST_F(DocumentFlow, OfSeveralDroppedFilesTheFirstOpensAndTheOthersAreNamed)
+{
+  ASSERT_TRUE(Start());
+  Drop({QUrl::fromLocalFile(Design("a.xml")), QUrl::fromLocalFile(Design("b.xml")),
+        QUrl::fromLocalFile(Design("c.xml"))});
+  EXPECT_EQ(Documents().Name(), u"a.xml");
+  EXPECT_EQ(Prompt(),
+            QStringLiteral("One design is open at a time; not opened: \"b.xml\", \"c.xml\""));
 }
 
 TEST_F(DocumentFlow, ADropWithoutAFileIsRefused)

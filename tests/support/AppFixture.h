@@ -26,6 +26,7 @@ public:
   }
   void InvalidateToolBar() override { calls.emplace_back("invalidate"); }
   void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
+  void ShowNote(std::u16string_view text) override { notes.emplace_back(text); }
   void StartProgress(std::string_view text) override
   {
     calls.push_back("start " + std::string(text));
@@ -33,6 +34,7 @@ public:
   void ShowProgress(int percent) override { calls.push_back(std::to_string(percent) + " %"); }
   void EndProgress() override { calls.emplace_back("end"); }
   std::vector<std::string> calls;
+  std::vector<std::u16string> notes;
 };
 
 /// Answers every question for a file with one path, or not at all.

@@ -14,13 +14,14 @@
 
 namespace hullwright::test {
 
-/// A shell whose settings lie in the test's own folder.
+/// A shell whose settings and former versions lie in the test's own folder.
 class ShellFixture : public testing::Test {
 protected:
   ShellFixture()
   {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                        QString::fromStdString((folder.Path() / "config").string()));
+    qputenv("XDG_STATE_HOME", (folder.Path() / "state").c_str());
   }
 
   /// Calls `act` with the next modal dialog as soon as it is open. `dialogs` counts them.

@@ -1,0 +1,183 @@
+#include "app/DocumentLife.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "app/FiniteNumbers.h"
+#include "base/Text.h"
+#include "resources/Strings.h"
+
+namespace hullwright {
+namespace {
+
+std::u16string FolderOf(std::u16string_view path)
+{
+  const std::size_t slash = path.rfind(u'/');
+  if (slash == std::u16string_view::npos) return {};
+  return std::u16string(path.substr(0, std::max<std::size_t>(slash, 1)));
+}
+
+std::u16string NameOf(std::u16string_view path)
+{
+  return std::u16string(path.substr(path.rfind(u'/') + 1));
+}
+
+std::u16string Absolute(const std::u16string& path)
+{
+  std::error_code failed;
+  const auto absolute = std::filesystem::absolute(Utf8FromWide(path), failed);
+  return failed ? path : WideFromUtf8(absolute.lexically_normal().string());
+}
+
+std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }
+
+}  // namespace
+
+DocumentLife::DocumentLife(CHullwrightDoc& document, const DesignState& design,
+                           const DocumentPorts& ports, std::size_t mostRecentFiles)
+    : document_(document), design_(design), ports_(ports), mostRecentFiles_(mostRecentFiles)
+{
+  // What a failed open leaves must not be saved over the file that was open before.
+  document_.onEmptied = [this] {
+    emptied_ = true;
+    SetPath({});
+  };
+  Settle();
+}
+
+void DocumentLife::New()
+{
+  if (!MayLeave()) return;
+  document_.OnNewDocument();
+  Settle();
+}
+
+bool DocumentLife::Open(std::u16string path)
+{
+  if (path.empty()) {
+    const auto answer = ports_.dialogs.AskDesignToOpen(Folder());
+    if (!answer) return false;
+    path = *answer;
+  }
+  path = Absolute(path);
+  if (!MayLeave()) return false;
+  emptied_ = false;
+  if (document_.OnOpenDocument(path)) {
+    Remember(path);
+    SetPath(path);
+    Settle();
+    return true;
+  }
+  // What a file that is not well-formed has left in the design stands in that file.
+  if (emptied_) Settle();
+  Forget(path);
+  ports_.widgets.ShowNote(Quoted(NameOf(path)) + u" was not opened: " + document_.OpenProblem());
+  return false;
+}
+
+bool DocumentLife::Save() { return path_.empty() ? SaveAs() : SaveTo(path_); }
+
+bool DocumentLife::SaveAs()
+{
+  const std::u16string name =
+      path_.empty() ? Name() + std::u16string(Strings::fileExtension) : NameOf(path_);
+  const auto path = ports_.dialogs.AskDesignToSave(Folder(), name);
+  return path && SaveTo(Absolute(*path));
+}
+
+bool DocumentLife::SaveTo(const std::u16string& path)
+{
+  const std::u16string formerVersion = ports_.formerVersions.Keep(path);
+  document_.OnSaveDocument(path);
+  const bool whole = document_.SavedWhole();
+  if (whole) {
+    Remember(path);
+    Settle();
+    NoteSaved(path);
+  } else {
+    settled_.reset();
+    NoteNotSaved(formerVersion);
+  }
+  // The next save goes where this one was meant to go, not over the file of before.
+  SetPath(path);
+  return whole;
+}
+
+void DocumentLife::NoteSaved(const std::u16string& path) const
+{
+  const NonFiniteNumbers numbers = FindNonFiniteNumbers(design_);
+  if (numbers.count == 0) return;
+  ports_.widgets.ShowNote(Quoted(NameOf(path)) +
+                          u" was saved, but it holds numbers that are not finite (" +
+                          WideFromAscii(std::to_string(numbers.count)) + u"): " + numbers.first);
+}
+
+void DocumentLife::NoteNotSaved(const std::u16string& formerVersion) const
+{
+  std::u16string note = u"Nothing was saved: " + document_.SaveProblem() + u".";
+  const bool inPlace = ports_.formerVersions.PutBack();
+  if (inPlace) note += u" The file is as it was before.";
+  if (!formerVersion.empty()) note += u" A copy of the former file is " + formerVersion;
+  ports_.widgets.ShowNote(note);
+}
+
+bool DocumentLife::HasChanges() const
+{
+  if (document_.IsModified()) return true;
+  return !settled_ || document_.Fingerprint() != settled_;
+}
+
+bool DocumentLife::MayLeave()
+{
+  if (!HasChanges()) return true;
+  switch (ports_.dialogs.AskToLeave(Name())) {
+    case LeaveAnswer::Save: return Save();
+    case LeaveAnswer::Discard: return true;
+    case LeaveAnswer::Stay: return false;
+  }
+  return false;
+}
+
+std::u16string DocumentLife::Name() const
+{
+  return path_.empty() ? std::u16string(Strings::untitled) : NameOf(path_);
+}
+
+std::u16string DocumentLife::Folder() const
+{
+  if (!path_.empty()) return FolderOf(path_);
+  const std::vector<std::u16string> recent = RecentFiles();
+  return recent.empty() ? std::u16string() : FolderOf(recent.front());
+}
+
+void DocumentLife::SetPath(const std::u16string& path)
+{
+  path_ = path;
+  if (onChange) onChange();
+}
+
+std::vector<std::u16string> DocumentLife::RecentFiles() const
+{
+  std::vector<std::u16string> files = ports_.recentFiles.Read();
+  if (files.size() > mostRecentFiles_) files.resize(mostRecentFiles_);
+  return files;
+}
+
+void DocumentLife::Remember(const std::u16string& path)
+{
+  std::vector<std::u16string> files = RecentFiles();
+  std::erase(files, path);
+  files.insert(files.begin(), path);
+  if (files.size() > mostRecentFiles_) files.resize(mostRecentFiles_);
+  ports_.recentFiles.Write(files);
+}
+
+void DocumentLife::Forget(const std::u16string& path)
+{
+  std::vector<std::u16string> files = RecentFiles();
+  if (std::erase(files, path) == 0) return;
+  ports_.recentFiles.Write(files);
+  if (onChange) onChange();
+}
+
+}  // namespace hullwright

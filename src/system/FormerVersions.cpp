@@ -1,0 +1,168 @@
+#include "system/FormerVersions.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <iterator>
+#include <new>
+#include <string_view>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace hullwright {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t mostCopies = 5;
+
+/// A file's name may have 255 bytes; what is left for the stem beside hash, time and ending.
+constexpr std::size_t longestStem = 180;
+
+/// The bytes of a regular file; nothing for anything else, and where it can't be read whole.
+std::optional<std::string> ReadWhole(const fs::path& path)
+{
+  std::error_code failed;
+  if (!fs::is_regular_file(path, failed)) return std::nullopt;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  try {
+    std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    return file.bad() ? std::nullopt : std::optional(std::move(bytes));
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
+}
+
+bool WriteWhole(const fs::path& path, std::string_view bytes)
+{
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  return file.good();
+}
+
+/// The 64-bit FNV-1a hash, the same on every machine.
+std::uint64_t HashOf(std::string_view text)
+{
+  std::uint64_t hash = 0xCBF29CE484222325U;
+  for (const char c : text) {
+    hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+  }
+  return hash;
+}
+
+std::string Hex(std::uint64_t value)
+{
+  constexpr unsigned half = 32U;
+  return FormatHex(static_cast<std::uint32_t>(value >> half), 8) +
+         FormatHex(static_cast<std::uint32_t>(value), 8);
+}
+
+/// What the names of all copies of a path begin with.
+std::string PrefixOf(const fs::path& path)
+{
+  std::string stem = path.stem().string();
+  if (stem.size() > longestStem) {
+    std::size_t end = longestStem;
+    const auto continues = [&](std::size_t at) {
+      return (static_cast<unsigned char>(stem[at]) & 0xC0U) == 0x80U;
+    };
+    while (end > 0 && continues(end)) --end;
+    stem.resize(end);
+  }
+  return stem + '.' + Hex(HashOf(path.string())) + '.';
+}
+
+std::string TimeStamp(std::chrono::system_clock::time_point now)
+{
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
+  const auto part = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch());
+  constexpr int thousand = 1000;
+  std::tm utc{};
+  gmtime_r(&seconds, &utc);
+  char text[32];
+  const std::size_t length = std::strftime(text, sizeof text, "%Y-%m-%dT%H-%M-%S.", &utc);
+  const std::string milliseconds = std::to_string(thousand + part.count() % thousand);
+  return std::string(text, length) + milliseconds.substr(1) + 'Z';
+}
+
+/// The copies with a prefix, the oldest first.
+std::vector<fs::path> CopiesOf(const fs::path& folder, const std::string& prefix)
+{
+  std::vector<fs::path> copies;
+  std::error_code failed;
+  for (const auto& entry : fs::directory_iterator(folder, failed)) {
+    if (entry.path().filename().string().starts_with(prefix)) copies.push_back(entry.path());
+  }
+  std::ranges::sort(copies);
+  return copies;
+}
+
+/// A name that no copy has yet: two saves within a millisecond get different times.
+fs::path FreeName(const fs::path& folder, const std::string& prefix, const std::string& ending)
+{
+  std::error_code failed;
+  auto now = std::chrono::system_clock::now();
+  fs::path path;
+  do {
+    path = folder / (prefix + TimeStamp(now) + ending);
+    now += std::chrono::milliseconds(1);
+  } while (fs::exists(path, failed));
+  return path;
+}
+
+}  // namespace
+
+std::u16string FormerVersions::Keep(std::u16string_view path)
+{
+  std::error_code failed;
+  file_ = fs::path(Utf8FromWide(path));
+  const fs::path real = fs::canonical(file_, failed);
+  if (!failed) file_ = real;
+  bytes_ = ReadWhole(file_);
+  return bytes_ && !folder_.empty() ? WideFromUtf8(WriteCopy().string()) : std::u16string();
+}
+
+fs::path FormerVersions::WriteCopy() const
+{
+  std::error_code failed;
+  fs::create_directories(folder_, failed);
+  fs::permissions(folder_, fs::perms::owner_all, failed);
+  const std::string prefix = PrefixOf(file_);
+  std::vector<fs::path> copies = CopiesOf(folder_, prefix);
+  // Saving again without a change must not push the older versions out.
+  if (!copies.empty() && ReadWhole(copies.back()) == bytes_) return copies.back();
+
+  const fs::path copy = FreeName(folder_, prefix, file_.extension().string());
+  if (!WriteWhole(copy, *bytes_)) {
+    fs::remove(copy, failed);
+    return {};
+  }
+  copies.push_back(copy);
+  for (std::size_t i = 0; i + mostCopies < copies.size(); ++i) fs::remove(copies[i], failed);
+  return copy;
+}
+
+bool FormerVersions::PutBack()
+{
+  if (!bytes_) return false;
+  return ReadWhole(file_) == bytes_ || WriteWhole(file_, *bytes_);
+}
+
+fs::path StateFolder()
+{
+  constexpr const char* program = "hullwright";
+  const char* const state = std::getenv("XDG_STATE_HOME");
+  if (state != nullptr && fs::path(state).is_absolute()) return fs::path(state) / program;
+  const char* const home = std::getenv("HOME");
+  if (home == nullptr || !fs::path(home).is_absolute()) return {};
+  return fs::path(home) / ".local" / "state" / program;
+}
+
+}  // namespace hullwright

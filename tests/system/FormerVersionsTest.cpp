@@ -1,0 +1,164 @@
+#include "system/FormerVersions.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <regex>
+#include <vector>
+
+#include "base/Text.h"
+#include "support/TempFolder.h"
+
+namespace hullwright {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Former : public testing::Test {
+protected:
+  /// Saves a text over a file, as the program does.
+  std::u16string SaveOver(const std::string& name, const std::string& text)
+  {
+    const std::u16string copy = versions.Keep(folder.File(name));
+    folder.Write(name, text);
+    return copy;
+  }
+
+  /// What the copies hold, by name.
+  std::vector<std::string> Copies() const
+  {
+    std::vector<fs::path> paths;
+    if (fs::exists(state)) {
+      for (const auto& entry : fs::directory_iterator(state)) paths.push_back(entry.path());
+    }
+    std::ranges::sort(paths);
+    std::vector<std::string> texts;
+    for (const fs::path& path : paths) {
+      texts.push_back(folder.Read(fs::relative(path, folder.Path()).string()));
+    }
+    return texts;
+  }
+
+  test::TempFolder folder;
+  fs::path state = folder.Path() / "state" / "hullwright";
+  FormerVersions versions{state};
+};
+
+TEST_F(Former, ANewFileHasNone)
+{
+  EXPECT_EQ(SaveOver("boat.xml", "first"), u"");
+  EXPECT_FALSE(fs::exists(state));
+}
+
+TEST_F(Former, TheCopyBearsTheNameOfTheFileAndTheTime)
+{
+  SaveOver("boat.xml", "first");
+  const fs::path copy = Utf8FromWide(SaveOver("boat.xml", "second"));
+  EXPECT_EQ(copy.parent_path(), state);
+  EXPECT_TRUE(std::regex_match(
+      copy.filename().string(),
+      std::regex(R"(boat\.[0-9A-F]{16}\.\d{4}-\d\d-\d\dT\d\d-\d\d-\d\d\.\d{3}Z\.xml)")))
+      << copy;
+  EXPECT_THAT(Copies(), ElementsAre("first"));
+}
+
+TEST_F(Former, TheLastFiveOfAPathAreKept)
+{
+  for (const char* text : {"1", "2", "3", "4", "5", "6", "7", "8"}) SaveOver("boat.xml", text);
+  EXPECT_THAT(Copies(), ElementsAre("3", "4", "5", "6", "7"));
+}
+
+TEST_F(Former, PathsDoNotPushEachOthersVersionsOut)
+{
+  fs::create_directory(folder.Path() / "other");
+  SaveOver("boat.xml", "mine");
+  for (const char* text : {"1", "2", "3", "4", "5", "6", "7"}) SaveOver("other/boat.xml", text);
+  SaveOver("boat.xml", "new");
+  EXPECT_EQ(Copies().size(), 6U);
+  EXPECT_THAT(Copies(), testing::Contains("mine"));
+}
+
+TEST_F(Former, SavingAgainWithoutAChangeAddsNoCopy)
+{
+  SaveOver("boat.xml", "same");
+  const std::u16string first = SaveOver("boat.xml", "same");
+  EXPECT_EQ(SaveOver("boat.xml", "same"), first);
+  EXPECT_THAT(Copies(), ElementsAre("same"));
+}
+
+TEST_F(Former, AFileReachedThroughALinkIsTheFileThatTheLinkNames)
+{
+  SaveOver("boat.xml", "1");
+  fs::create_symlink(folder.Path() / "boat.xml", folder.Path() / "link.xml");
+  for (const char* text : {"2", "3", "4", "5", "6", "7"}) SaveOver("link.xml", text);
+  EXPECT_THAT(Copies(), ElementsAre("2", "3", "4", "5", "6"));
+}
+
+TEST_F(Former, AFileThatLostItsBytesGetsThemBack)
+{
+  SaveOver("boat.xml", "good");
+  versions.Keep(folder.File("boat.xml"));
+  folder.Write("boat.xml", "");
+  EXPECT_TRUE(versions.PutBack());
+  EXPECT_EQ(folder.Read("boat.xml"), "good");
+  EXPECT_TRUE(versions.PutBack());
+}
+
+TEST_F(Former, NothingIsPutBackForAFileThatWasNotThere)
+{
+  versions.Keep(folder.File("boat.xml"));
+  folder.Write("boat.xml", "half");
+  EXPECT_FALSE(versions.PutBack());
+  EXPECT_EQ(folder.Read("boat.xml"), "half");
+}
+
+TEST_F(Former, WithoutAFolderToCopyToTheBytesCanStillBePutBack)
+{
+  folder.Write("state", "a file where the folder should be");
+  SaveOver("boat.xml", "good");
+  EXPECT_EQ(versions.Keep(folder.File("boat.xml")), u"");
+  folder.Write("boat.xml", "half");
+  EXPECT_TRUE(versions.PutBack());
+  EXPECT_EQ(folder.Read("boat.xml"), "good");
+}
+
+TEST_F(Former, FoldersAndDevicesAreNoFilesToKeep)
+{
+  EXPECT_EQ(versions.Keep(folder.File("")), u"");
+  EXPECT_EQ(versions.Keep(u"/dev/full"), u"");
+  EXPECT_THAT(Copies(), IsEmpty());
+}
+
+TEST_F(Former, LongNamesAreCutBetweenCharacters)
+{
+  std::string name;
+  for (int i = 0; i < 61; ++i) name += "\xE6\xB8\xAF";  // 183 bytes, and 180 is the limit
+  folder.Write(name + ".xml", "long");
+  const fs::path copy = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
+  EXPECT_TRUE(copy.filename().string().starts_with(name.substr(0, 180) + "."));
+  name.insert(0, "a");
+  folder.Write(name + ".xml", "long");
+  const fs::path odd = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
+  EXPECT_TRUE(odd.filename().string().starts_with(name.substr(0, 178) + "."));
+}
+
+TEST(UserState, FollowsTheRulesForBaseFolders)
+{
+  setenv("XDG_STATE_HOME", "/home/me/state", 1);
+  EXPECT_EQ(StateFolder(), "/home/me/state/hullwright");
+  setenv("XDG_STATE_HOME", "relative", 1);
+  setenv("HOME", "/home/me", 1);
+  EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
+  unsetenv("XDG_STATE_HOME");
+  EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
+  unsetenv("HOME");
+  EXPECT_EQ(StateFolder(), "");
+}
+
+}  // namespace
+}  // namespace hullwright
