@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "app/Dialogs.h"
 #include "app/HullwrightApp.h"
@@ -192,15 +193,18 @@ void CHullwrightApp::ToggleSnap()
 void CHullwrightApp::ImportDxf()
 {
   const auto path = ports_.fileDialogs.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
-  if (path) ImportDrawing(*path);
+  ImportTally tally;
+  if (path) ImportDrawing(*path, tally);
 }
 
-int CHullwrightApp::ImportDrawing(std::u16string_view path)
+int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
 {
   CLayer layer;
   {
     CFileDxf drawing(mainFrame, *this);
-    if (drawing.Import(path, &layer) != 0) return -1;
+    const int result = drawing.Import(path, &layer);
+    tally = std::move(drawing.tally);
+    if (result != 0) return -1;
   }
   CShapes* group = FindViewGroup(shapeGroups, activeView);
   if (group == nullptr) {

@@ -9,6 +9,7 @@
 
 #include "app/TraceLog.h"
 #include "app/UnitTable.h"
+#include "dxf/ImportTally.h"
 #include "model/DesignState.h"
 #include "platform/Dialogs.h"
 #include "platform/FileDialogs.h"
@@ -76,8 +77,8 @@ public:
   std::vector<UnitRecord> ReadUnits();
 
   /// Adds the shapes of a drawing to the side in view. 0 on success; -1, with the design untouched,
-  /// for a drawing that can't be read.
-  int ImportDrawing(std::u16string_view path);
+  /// for a drawing that can't be read. `tally` is set to what the import took in and passed over.
+  int ImportDrawing(std::u16string_view path, ImportTally& tally);
 
   /// Repaints the design.
   void Repaint() const;

@@ -96,7 +96,7 @@ bool HeadlessEditor::Open(std::u16string_view path)
 
 bool HeadlessEditor::Import(std::u16string_view path)
 {
-  if (app_.ImportDrawing(path) == 0) return true;
+  if (app_.ImportDrawing(path, tally_) == 0) return true;
   problem_ = u"the drawing can't be read, or it is empty";
   return false;
 }

@@ -105,6 +105,7 @@ private:
   CHullwrightDoc document_;
   CHullwrightView view_;
   std::u16string problem_;
+  ImportTally tally_;
 };
 
 }  // namespace hullwright

@@ -64,10 +64,15 @@ bool CFileDxf::IsImported(std::string_view keyword)
   return found != nullptr && !found->skipped;
 }
 
-void CFileDxf::RunReader(const Keyword& keyword, CShapes& target)
+void CFileDxf::TakeEntityLine(const DxfLine& line, bool inBlock, CShapes& target)
 {
+  const bool isKeyword = afterGroupZero_;
+  afterGroupZero_ = line.IsGroupZero();
+  const Keyword* const keyword = FindKeyword(line.Text(), inBlock);
+  const bool isRead = keyword != nullptr && !keyword->skipped;
   try {
-    keyword.read(*this, target);
+    if (isKeyword && !isRead) tally.CountIgnored(line.Trimmed());
+    if (keyword != nullptr) keyword->read(*this, target);
   } catch (const std::bad_alloc&) {
     // There is no memory for this entity; the next one may be smaller.
   }
@@ -76,9 +81,18 @@ void CFileDxf::RunReader(const Keyword& keyword, CShapes& target)
 // ---------------------------------------------------------------------------------------------------
 // What every entity goes through
 
-bool CFileDxf::IsLeftOut(const DxfEntity& entity) const
+bool CFileDxf::IsLeftOut(const DxfEntity& entity)
 {
-  return entity.paperSpace == 1 || IsLayerHidden(entity.layerName);
+  if (entity.paperSpace != 1) return IsOnHiddenLayer(entity);
+  ++tally.inPaperSpace;
+  return true;
+}
+
+bool CFileDxf::IsOnHiddenLayer(const DxfEntity& entity)
+{
+  if (!IsLayerHidden(entity.layerName)) return false;
+  ++tally.onHiddenLayers;
+  return true;
 }
 
 bool CFileDxf::ReadEntity(DxfEntity& entity)

@@ -50,10 +50,16 @@ void CFileDxf::ReadInsert(CShapes& target)
   for (const int scale : {41, 42, 43}) entity.SetDefault(scale, 1.0);
   if (!ReadEntity(entity)) return;
   const auto block = blocks.find(entity.name);
-  if (block == blocks.end()) return;
+  if (block == blocks.end()) {
+    ++tally.unknownBlocks;
+    return;
+  }
   const DxfPoint place = entity.Point(10);
   for (const auto& shape : block->second->shapes) {
-    if (!TakeCopyBudget(*shape)) return;
+    if (!TakeCopyBudget(*shape)) {
+      ++tally.cutInserts;
+      return;
+    }
     auto copy = shape->Clone();
     copy->Scale(entity.Number(41), entity.Number(42), entity.Number(43));
     copy->Rotate(entity.Number(50));

@@ -16,6 +16,18 @@ public:
 
   std::string_view Text() const { return text_; }
 
+  /// The text without blanks around it.
+  std::string_view Trimmed() const
+  {
+    constexpr std::string_view blanks = " \t\r";
+    const std::size_t first = text_.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text_.substr(first, text_.find_last_not_of(blanks) + 1 - first);
+  }
+
+  /// Whether it is the code before a keyword, and not merely read as the number 0.
+  bool IsGroupZero() const { return Trimmed() == "0"; }
+
   /// Takes a whole line, of fewer bytes than the capacity.
   void TakeWhole(const char* from, std::size_t length)
   {

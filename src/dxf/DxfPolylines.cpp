@@ -29,7 +29,7 @@ void CFileDxf::ReadPolyline()
     if (code == 75) polylineCurveType = ParseInt32(value, 10);
   });
   polylineExtrusion = entity.Normal();
-  if (IsLayerHidden(entity.layerName)) return;
+  if (IsOnHiddenLayer(entity)) return;
   shape->attributes = std::make_unique<CShapeAttributes>();
   shape->attributes->Append(u"FEATURE", u"POLYLINE");
   Identify(*shape, entity);
@@ -120,7 +120,7 @@ void CFileDxf::ReadLwPolyline(CShapes& target)
   ReadGroups(entity, gather, shortLine);
   // Neither elevation nor normal nor paper space play a part.
   polylineExtrusion = {0.0, 0.0, 1.0};
-  if (IsLayerHidden(entity.layerName)) return;
+  if (IsOnHiddenLayer(entity)) return;
   auto shape = std::make_unique<CShapePolyline>();
   std::vector<CFileDxfVertex> list = vertices.Finish((entity.flags & 1) != 0);
   AppendFlattened(*shape, list);

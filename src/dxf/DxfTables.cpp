@@ -53,9 +53,12 @@ void CFileDxf::ProcessBlock()
 
   DxfLine line;
   while (GetLine(line, shortLine) && line.Text().find("ENDBLK") == std::string_view::npos) {
-    if (const Keyword* const keyword = FindKeyword(line.Text(), true)) RunReader(*keyword, *block);
+    TakeEntityLine(line, true, *block);
   }
-  if (header.paperSpace == 1) return;
+  if (header.paperSpace == 1) {
+    tally.inPaperSpace += block->shapes.size();
+    return;
+  }
   blocks.try_emplace(header.name, std::move(block));
 }
 

@@ -57,7 +57,10 @@ int CFileDxf::Import(std::u16string_view filePath, CLayer* layer)
     return -1;
   }
   Log(TraceLevel::Success, processing, u"[DXF] Successfully opened file: [" + name + u"].");
+  tally.isBinary = std::string_view(buffer.get(), static_cast<std::size_t>(size))
+                       .starts_with("AutoCAD Binary DXF");
   if (ProcessFile() != 0) return -1;
+  tally.CountShapes(*layer->shapes);
   layer->UpdateExtents();
   Log(TraceLevel::Progress, processing,
       u"[DXF] Detected drawing extends: [" + BoundsOf(*layer) + u"].");
@@ -81,6 +84,7 @@ int CFileDxf::ProcessFile()
   frame_->Notify(Notification::ImportStart, reinterpret_cast<std::intptr_t>(wait));
   DxfLine line;
   while (GetLine(line, longLine) && line.Text() != "EOF") {
+    if (line.Trimmed() == "SECTION") tally.hasSections = true;
     if (Contains(line.Text(), "SECTION") && !ProcessSection()) break;
     ReportProgress();
   }
@@ -152,8 +156,9 @@ int CFileDxf::ProcessEntities()
   CShapes& target = *targetLayer->shapes;
   Log(TraceLevel::Progress, processing, u"[DXF] Processing 'ENTITIES' section...");
   DxfLine line;
+  afterGroupZero_ = false;
   while (GetLine(line, shortLine) && !Contains(line.Text(), "ENDSEC")) {
-    if (const Keyword* const keyword = FindKeyword(line.Text(), false)) RunReader(*keyword, target);
+    TakeEntityLine(line, false, target);
     ReportProgress();
   }
   Log(TraceLevel::Success, processing,

@@ -15,6 +15,7 @@
 #include "dxf/FileDxfBlock.h"
 #include "dxf/FileDxfLayer.h"
 #include "dxf/FileDxfVertex.h"
+#include "dxf/ImportTally.h"
 #include "file/FileBase.h"
 #include "model/Layer.h"
 #include "model/ShapePolyline.h"
@@ -133,6 +134,8 @@ public:
   /// multiply without bound; when this is used up, no more copies are made.
   std::int64_t copyBudget = std::int64_t{1} << 30;
 
+  ImportTally tally;  ///< complete when the import is through
+
 private:
   static constexpr std::size_t shortLine = 256;
   static constexpr std::size_t longLine = 512;
@@ -147,9 +150,13 @@ private:
   {
     DxfLine code;
     DxfLine value;
+    afterGroupZero_ = false;
     while (GetLine(code, shortLine)) {
       const std::int32_t group = ParseInt32(code.Text(), 10);
-      if (group == 0) return;
+      if (group == 0) {
+        afterGroupZero_ = code.IsGroupZero();
+        return;
+      }
       GetLine(value, valueLimit);
       act(group, value.Text());
     }
@@ -180,8 +187,11 @@ private:
   template <class Start>
   void ProcessRecords(std::string_view keyword, Start start);
   void SkipPast(std::string_view word);
-  void RunReader(const Keyword& keyword, CShapes& target);
-  bool IsLeftOut(const DxfEntity& entity) const;
+
+  /// Takes a line of the walk over entities: one with a keyword starts its reader.
+  void TakeEntityLine(const DxfLine& line, bool inBlock, CShapes& target);
+  bool IsLeftOut(const DxfEntity& entity);
+  bool IsOnHiddenLayer(const DxfEntity& entity);
 
   /// Takes the groups of an entity in; false for one that is left out.
   bool ReadEntity(DxfEntity& entity);
@@ -194,6 +204,11 @@ private:
   void AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& list) const;
   bool TakeCopyBudget(const CShape& shape);
   void Log(std::int32_t level, std::u16string_view category, std::u16string_view text) const;
+
+  /// Whether the line read last was the code of a group 0, so that the next is a keyword, known or
+  /// not. Entities without a reader are walked line by line, codes and values alike; what follows a
+  /// value of 0 there is a code, which is a number.
+  bool afterGroupZero_ = false;
 
   IMainWindow* frame_;
   const ITrace& log_;

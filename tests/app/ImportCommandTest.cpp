@@ -118,6 +118,21 @@ TEST_F(ImportCommand, WritesItsRecordsToTheLogs)
   EXPECT_THAT(Log("General"), HasSubstr("1\n1|"));
 }
 
+TEST_F(ImportCommand, TellsItsCallerWhatItTookInAndPassedOver)
+{
+  ImportTally tally;
+  EXPECT_EQ(app.ImportDrawing(*fileDialogs.answer, tally), 0);
+  EXPECT_EQ(tally.polylines, 1U);
+  EXPECT_EQ(tally.texts, 1U);
+  const auto splines =
+      folder.Write("splines.dxf", "0\nSECTION\n2\nENTITIES\n0\nSPLINE\n0\nENDSEC\n");
+  EXPECT_EQ(app.ImportDrawing(splines, tally), 0);
+  EXPECT_EQ(tally.Shapes(), 0U);
+  EXPECT_THAT(tally.ignored, ElementsAre(testing::Pair("SPLINE", 1)));
+  EXPECT_EQ(app.ImportDrawing(folder.File("missing.dxf"), tally), -1);
+  EXPECT_THAT(tally.ignored, IsEmpty());
+}
+
 TEST_F(ImportCommand, LeavesTheViewWhereItIs)
 {
   const double left = view.viewPort->left;

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "model/Shapes.h"
+
+namespace hullwright {
+
+/// What an import took in, and what it passed over. The content of a block counts where the block
+/// is defined, however often it is inserted.
+struct ImportTally {
+  static constexpr std::size_t mostKeywords = 40;
+  static constexpr std::size_t longestKeyword = 32;
+
+  /// Counts an entity that nothing is made of. A line without a letter is no keyword.
+  void CountIgnored(std::string_view keyword);
+
+  /// Counts the shapes of a group.
+  void CountShapes(const CShapes& group);
+
+  std::size_t Shapes() const { return polylines + points + areas + texts; }
+
+  /// Whether the file can be a drawing: in text form and with sections, or at least with shapes.
+  bool IsDrawing() const { return !isBinary && (hasSections || Shapes() != 0); }
+
+  std::size_t polylines = 0;
+  std::size_t points = 0;
+  std::size_t areas = 0;
+  std::size_t texts = 0;
+
+  /// Entities without a reader, by their keywords, of which the file may have any number: behind
+  /// the first ones the others are counted together.
+  std::map<std::string, std::size_t, std::less<>> ignored;
+  std::size_t ignoredOthers = 0;
+
+  // Entities that a reader dropped.
+  std::size_t onHiddenLayers = 0;
+  std::size_t inPaperSpace = 0;
+  std::size_t unknownBlocks = 0;  ///< inserts of a block that is not there
+  std::size_t cutInserts = 0;     ///< inserts whose copies would have taken too much memory
+
+  bool isBinary = false;     ///< the file is a drawing in its binary form, which nobody reads
+  bool hasSections = false;  ///< the file has a line that begins a section
+};
+
+}  // namespace hullwright
