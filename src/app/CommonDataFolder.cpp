@@ -31,10 +31,17 @@ std::vector<std::string> SplitFolders(std::string_view list)
   return folders;
 }
 
-bool HoldsPackage(const std::string& folder)
+bool Holds(const std::string& folder, CommonData what)
 {
+  if (folder.empty()) return false;
+  const fs::path package = fs::path(folder) / "Sondaris";
   std::error_code error;
-  return !folder.empty() && fs::is_directory(fs::path(folder) / "Sondaris", error);
+  switch (what) {
+    case CommonData::UnitDatabase:
+      return fs::is_regular_file(package / "Database" / "geo.db", error);
+    case CommonData::Logs: return fs::is_directory(package / "Tracing", error);
+  }
+  return false;
 }
 
 }  // namespace
@@ -53,15 +60,18 @@ DataFolderCandidates FindDataFolderCandidates()
   return candidates;
 }
 
-std::u16string CommonDataFolder(const DataFolderCandidates& candidates)
+std::u16string CommonDataFolder(const DataFolderCandidates& candidates, CommonData what)
 {
-  if (HoldsPackage(candidates.user)) return WideFromUtf8(candidates.user);
+  if (Holds(candidates.user, what)) return WideFromUtf8(candidates.user);
   for (const std::string& folder : candidates.system) {
-    if (HoldsPackage(folder)) return WideFromUtf8(folder);
+    if (Holds(folder, what)) return WideFromUtf8(folder);
   }
   return WideFromUtf8(candidates.besideProgram);
 }
 
-std::u16string FindCommonDataFolder() { return CommonDataFolder(FindDataFolderCandidates()); }
+std::u16string FindCommonDataFolder(CommonData what)
+{
+  return CommonDataFolder(FindDataFolderCandidates(), what);
+}
 
 }  // namespace hullwright

@@ -5,6 +5,12 @@
 
 namespace hullwright {
 
+/// What the survey package keeps in a common data folder.
+enum class CommonData {
+  UnitDatabase,  ///< the file "Sondaris/Database/geo.db"
+  Logs,          ///< the folder "Sondaris/Tracing"
+};
+
 /// The folders that may hold the survey package's common data.
 struct DataFolderCandidates {
   std::string user;                 ///< the user's data folder
@@ -15,11 +21,12 @@ struct DataFolderCandidates {
 /// The candidates of this user and this program, by the desktop's base folder rules.
 DataFolderCandidates FindDataFolderCandidates();
 
-/// The common data folder: the first candidate with a folder "Sondaris" in it, the user's first,
-/// then the system's; where there is none, the one beside the program.
-std::u16string CommonDataFolder(const DataFolderCandidates& candidates);
+/// The common data folder to use for one thing: the first candidate that has it, the user's first,
+/// then the system's; where none has it, the one beside the program. Each thing is looked for on
+/// its own, so a user's folder made for the logs does not hide the database of the system.
+std::u16string CommonDataFolder(const DataFolderCandidates& candidates, CommonData what);
 
-/// The common data folder of this user and this program, as it is now.
-std::u16string FindCommonDataFolder();
+/// The common data folder of this user and this program for one thing, as it is now.
+std::u16string FindCommonDataFolder(CommonData what);
 
 }  // namespace hullwright

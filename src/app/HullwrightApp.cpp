@@ -23,7 +23,7 @@ constexpr std::string_view lookKey = "ApplicationLook";
 CHullwrightApp::CHullwrightApp(AppPorts ports)
     : ownViewPort_(std::make_unique<CViewPortDesigner>()),
       ports_(std::move(ports)),
-      traceLog_(ports_.commonDataFolder)
+      traceLog_([this] { return ports_.commonDataFolder(CommonData::Logs); })
 {
   viewPort = ownViewPort_.get();
 }
@@ -89,7 +89,7 @@ GridSettings CHullwrightApp::LoadGridSettings() const
 std::vector<UnitRecord> CHullwrightApp::ReadUnits()
 {
   return hullwright::ReadUnits(ports_.libraries, ports_.messages,
-                               GetDatabasePath(ports_.commonDataFolder()));
+                               GetDatabasePath(ports_.commonDataFolder(CommonData::UnitDatabase)));
 }
 
 void CHullwrightApp::LoadUnits()

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/CommonDataFolder.h"
 #include "app/TraceLog.h"
 #include "app/UnitTable.h"
 #include "dxf/ImportTally.h"
@@ -32,7 +33,7 @@ struct AppPorts {
   ILibraryLoader& libraries;
   IDialogRunner& dialogs;
   IFileDialogs& fileDialogs;
-  std::function<std::u16string()> commonDataFolder;  ///< of the survey package
+  std::function<std::u16string(CommonData)> commonDataFolder;  ///< where each is to be found
 };
 
 /// The one application object: it holds the design itself, carries out the design-wide commands and

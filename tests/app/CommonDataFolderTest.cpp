@@ -3,50 +3,158 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "support/TempFolder.h"
+#include "support/AppFixture.h"
 
 namespace hullwright {
 namespace {
 
+namespace fs = std::filesystem;
+
 class DataFolder : public testing::Test {
 protected:
   std::string Sub(const char* name) const { return (folder.Path() / name).string(); }
-  void Equip(const char* name) const
+  void EquipDatabase(const std::string& name) const
   {
-    std::filesystem::create_directories(folder.Path() / name / "Sondaris");
+    const fs::path place = folder.Path() / name / "Sondaris" / "Database";
+    fs::create_directories(place);
+    fs::copy_file(HULLWRIGHT_UNIT_DATABASE, place / "geo.db");
   }
-  std::string Chosen() const { return Utf8FromWide(CommonDataFolder(candidates)); }
+  void EquipLogs(const std::string& name) const
+  {
+    fs::create_directories(folder.Path() / name / "Sondaris" / "Tracing");
+  }
+  std::string Chosen(CommonData what) const
+  {
+    return Utf8FromWide(CommonDataFolder(candidates, what));
+  }
+  std::string ForUnits() const { return Chosen(CommonData::UnitDatabase); }
+  std::string ForLogs() const { return Chosen(CommonData::Logs); }
 
   test::TempFolder folder;
   DataFolderCandidates candidates{Sub("user"), {Sub("local"), Sub("system")}, Sub("program")};
 };
 
-TEST_F(DataFolder, IsBesideTheProgramWhereNobodyHasThePackage)
+TEST_F(DataFolder, IsBesideTheProgramWhereNobodyHasTheThing)
 {
-  EXPECT_EQ(Chosen(), Sub("program"));
+  EXPECT_EQ(ForUnits(), Sub("program"));
+  EXPECT_EQ(ForLogs(), Sub("program"));
 }
 
 TEST_F(DataFolder, TheSystemsComesBeforeTheProgramsInItsOrder)
 {
-  Equip("program");
-  Equip("system");
-  EXPECT_EQ(Chosen(), Sub("system"));
-  Equip("local");
-  EXPECT_EQ(Chosen(), Sub("local"));
+  for (const char* name : {"program", "system"}) {
+    EquipDatabase(name);
+    EquipLogs(name);
+  }
+  EXPECT_EQ(ForUnits(), Sub("system"));
+  EXPECT_EQ(ForLogs(), Sub("system"));
+  EquipDatabase("local");
+  EquipLogs("local");
+  EXPECT_EQ(ForUnits(), Sub("local"));
+  EXPECT_EQ(ForLogs(), Sub("local"));
 }
 
 TEST_F(DataFolder, TheUsersComesFirst)
 {
-  Equip("system");
-  Equip("user");
-  EXPECT_EQ(Chosen(), Sub("user"));
+  for (const char* name : {"program", "local", "user"}) {
+    EquipDatabase(name);
+    EquipLogs(name);
+  }
+  EXPECT_EQ(ForUnits(), Sub("user"));
+  EXPECT_EQ(ForLogs(), Sub("user"));
 }
 
-TEST_F(DataFolder, AFileOfThatNameIsNoFolder)
+TEST_F(DataFolder, TheUsersLogsLeaveTheDatabaseWhereItIs)
 {
-  std::filesystem::create_directories(folder.Path() / "user");
-  folder.Write("user/Sondaris", "");
-  EXPECT_EQ(Chosen(), Sub("program"));
+  EquipLogs("user");
+  EXPECT_EQ(ForUnits(), Sub("program"));
+  EquipDatabase("system");
+  EXPECT_EQ(ForUnits(), Sub("system"));
+  EXPECT_EQ(ForLogs(), Sub("user"));
+}
+
+TEST_F(DataFolder, TheUsersDatabaseLeavesTheLogsWhereTheyAre)
+{
+  EquipDatabase("user");
+  EXPECT_EQ(ForLogs(), Sub("program"));
+  EquipLogs("local");
+  EXPECT_EQ(ForLogs(), Sub("local"));
+  EXPECT_EQ(ForUnits(), Sub("user"));
+}
+
+TEST_F(DataFolder, AFolderOfThePackageWithNeitherIsPassedOver)
+{
+  fs::create_directories(folder.Path() / "user" / "Sondaris" / "Database");
+  EquipDatabase("local");
+  EquipLogs("system");
+  EXPECT_EQ(ForUnits(), Sub("local"));
+  EXPECT_EQ(ForLogs(), Sub("system"));
+}
+
+TEST_F(DataFolder, AFolderIsNoDatabaseAndAFileIsNoFolderOfLogs)
+{
+  fs::create_directories(folder.Path() / "user" / "Sondaris" / "Database" / "geo.db");
+  folder.Write("user/Sondaris/Tracing", "");
+  EXPECT_EQ(ForUnits(), Sub("program"));
+  EXPECT_EQ(ForLogs(), Sub("program"));
+}
+
+TEST_F(DataFolder, AnEmptyCandidateIsNotTheFolderTheProgramRunsIn)
+{
+  EquipDatabase(".");
+  EquipLogs(".");
+  candidates.user.clear();
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  EXPECT_EQ(ForUnits(), Sub("program"));
+  EXPECT_EQ(ForLogs(), Sub("program"));
+  fs::current_path(before);
+}
+
+class CommonDataOfTheProgram : public DataFolder {
+protected:
+  std::string LogOf(const std::string& name) const
+  {
+    return folder.Read(name + "/Sondaris/Tracing/Trace_General.txt");
+  }
+
+  test::FakeSettings settings;
+  test::FakeMessages messages;
+  SharedLibraries libraries;
+  test::ScriptedDialogs dialogs;
+  test::FakeFileDialogs fileDialogs;
+  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
+                      [this](CommonData what) { return CommonDataFolder(candidates, what); }}};
+};
+
+TEST_F(CommonDataOfTheProgram, TheUsersFolderOfLogsSwitchesThemOnAndLeavesTheUnits)
+{
+  EquipDatabase("program");
+  EquipLogs("user");
+  app.Trace(0.0, TraceLevel::Failure, u"General", u"x");
+  EXPECT_EQ(LogOf("user"), "1\n1|0.000|1|x\r\n");
+  EXPECT_EQ(LogOf("program"), "(no file)");
+  EXPECT_EQ(app.GetUnitName(), u"metre");
+}
+
+TEST_F(CommonDataOfTheProgram, TheUsersDatabaseIsReadAndDoesNotSwitchTheLogsOn)
+{
+  EquipDatabase("user");
+  app.Trace(0.0, TraceLevel::Failure, u"General", u"x");
+  EXPECT_EQ(LogOf("user"), "(no file)");
+  EXPECT_EQ(app.GetUnitName(), u"metre");
+  EXPECT_FALSE(fs::exists(folder.Path() / "program"));
+}
+
+TEST_F(CommonDataOfTheProgram, TheFolderOfLogsMayComeAndGoDuringTheRun)
+{
+  app.Trace(0.0, TraceLevel::Failure, u"General", u"lost");
+  EquipLogs("system");
+  app.Trace(0.0, TraceLevel::Failure, u"General", u"first");
+  EquipLogs("user");
+  app.Trace(0.0, TraceLevel::Failure, u"General", u"second");
+  EXPECT_EQ(LogOf("system"), "1\n1|0.000|1|first\r\n");
+  EXPECT_EQ(LogOf("user"), "1\n1|0.000|1|second\r\n");
 }
 
 TEST(DataFolderCandidates, ComeFromTheDesktopsRules)

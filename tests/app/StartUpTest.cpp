@@ -89,8 +89,8 @@ protected:
   SharedLibraries libraries;
   test::ScriptedDialogs dialogs;
   test::FakeFileDialogs fileDialogs;
-  CHullwrightApp app{
-      {settings, messages, libraries, dialogs, fileDialogs, [] { return std::u16string(); }}};
+  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
+                      [](CommonData) { return std::u16string(); }}};
 };
 
 TEST_F(Application, BeginsWithItsDefaults)

@@ -13,9 +13,10 @@ SAMPLES = pathlib.Path(sys.argv.pop(1))
 SIDES = ("top", "bottom", "right", "left", "front", "rear")
 
 
-def run(*arguments, data=None):
-    """Runs the program to its end, with bytes on its standard input."""
-    return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, check=False, input=data or b"")
+def run(*arguments, data=None, **environment):
+    """Runs the program to its end, with bytes on its standard input and more variables of the environment."""
+    return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, check=False, input=data or b"",
+                          env={**os.environ, **environment})
 
 
 def size_of(png):
@@ -43,9 +44,9 @@ class CliTest(unittest.TestCase):
         """Writes a drawing of some entities."""
         return self.write(name, "\n".join(("0", "SECTION", "2", "ENTITIES", *lines, "0", "ENDSEC", "")))
 
-    def succeed(self, *arguments, data=None):
+    def succeed(self, *arguments, data=None, **environment):
         """Runs without a word on standard error; what stands on standard output."""
-        done = run(*arguments, data=data)
+        done = run(*arguments, data=data, **environment)
         self.assertEqual((done.returncode, done.stderr.decode()), (0, ""))
         return done.stdout
 

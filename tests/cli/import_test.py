@@ -103,6 +103,15 @@ class ImportTest(CliTest):
         self.assertIn(b'<vertex x="7.000"', self.succeed("import", "-", "-o", "-", data=data))
         self.assertEqual(json.loads(self.succeed("import", "-", "--json", data=data))["shapes"][0]["type"], 2)
 
+    def test_a_folder_of_the_users_switches_the_log_on_and_leaves_the_units(self):
+        logs = self.folder / "share" / "Sondaris" / "Tracing"
+        logs.mkdir(parents=True)
+        folders = {"XDG_DATA_HOME": str(logs.parent.parent), "XDG_DATA_DIRS": str(self.folder / "nothing")}
+        out = self.folder / "out.xml"
+        self.succeed("import", self.drawing("a.dxf", "0", "LINE", "11", "5"), "-o", out, **folders)
+        self.assertIn(b"|32|", (logs / "Trace_General.txt").read_bytes())
+        self.assertIn("metre (EPSG 9001)", self.succeed("info", out, **folders).decode())
+
     def test_in_a_pipe_no_progress_is_shown(self):
         lines = ["0", "LINE", "10", "1"] * 5000
         self.succeed("import", self.drawing("a.dxf", *lines), "-o", self.folder / "out.xml")

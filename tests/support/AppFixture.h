@@ -83,7 +83,7 @@ protected:
   SharedLibraries libraries;
   TempFolder dataFolder;  ///< the common data folder, empty
   CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
-                      [this] { return dataFolder.File(""); }}};
+                      [this](CommonData) { return dataFolder.File(""); }}};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
   CHullwrightView view{app, app, {backEnd, messages, cursor, band, popup}};

@@ -170,7 +170,8 @@ void ReplayFrame::SetModifiedFlag(bool modified)
 
 ReplayEditor::ReplayEditor(std::filesystem::path folder)
     : work(std::move(folder)),
-      app({settings, messages, libraries, dialogs, pointer, [this] { return PathOf(""); }}),
+      app({settings, messages, libraries, dialogs, pointer,
+           [this](CommonData) { return PathOf(""); }}),
       frame(app, widgets, events),
       document(app, frame, messages),
       view(app, app, {recorder, messages, pointer, pointer, pointer}),
