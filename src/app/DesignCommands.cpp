@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
 #include "app/Dialogs.h"
 #include "app/HullwrightApp.h"
+#include "app/ImportText.h"
 #include "app/MainFrame.h"
 #include "dxf/FileDxf.h"
 #include "resources/CommandIds.h"
@@ -52,6 +54,22 @@ std::int32_t ToolOf(int command)
     case Command::CursorMove: return CursorTool::Move;
     default: return CursorTool::None;
   }
+}
+
+/// Whether there are shapes from number `first` on and the view shows no part of the box around
+/// them.
+bool AreOutOfView(const CShapes& group, std::size_t first, const CViewPort& view)
+{
+  constexpr double largest = std::numeric_limits<double>::max();
+  double minX = largest;
+  double minY = largest;
+  double maxX = -largest;
+  double maxY = -largest;
+  for (std::size_t i = first; i < group.shapes.size(); ++i) {
+    if (group.shapes[i]) group.shapes[i]->GetExtents(minX, minY, maxX, maxY);
+  }
+  return minX <= maxX && minY <= maxY &&
+         (minX > view.right || maxX < view.left || minY > view.top || maxY < view.bottom);
 }
 
 }  // namespace
@@ -193,8 +211,17 @@ void CHullwrightApp::ToggleSnap()
 void CHullwrightApp::ImportDxf()
 {
   const auto path = ports_.fileDialogs.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
+  if (!path) return;
   ImportTally tally;
-  if (path) ImportDrawing(*path, tally);
+  const CShapes* group = FindViewGroup(shapeGroups, activeView);
+  const std::size_t before = group == nullptr ? 0 : group->shapes.size();
+  std::u16string note = u"The drawing can't be read, or it is empty";
+  if (ImportDrawing(*path, tally) == 0) {
+    group = FindViewGroup(shapeGroups, activeView);
+    note = DescribeImport(tally);
+    if (AreOutOfView(*group, before, *viewPort)) note += u"; outside the view: Show All";
+  }
+  if (mainFrame != nullptr) mainFrame->ShowNote(note);
 }
 
 int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 #include "platform/Framework.h"
 #include "platform/MainWindow.h"
@@ -47,6 +48,9 @@ public:
   /// The image that the side drop-down bears.
   void SetViewButtonImage(int command);
   void InvalidateToolBar();
+
+  /// Shows in the status bar what came of a command, until the next one.
+  void ShowNote(std::u16string_view text) { widgets_.ShowNote(text); }
 
   CHullwrightDoc* document = nullptr;
   CHullwrightView* view = nullptr;

@@ -133,6 +133,45 @@ TEST_F(ImportCommand, TellsItsCallerWhatItTookInAndPassedOver)
   EXPECT_THAT(tally.ignored, IsEmpty());
 }
 
+TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
+{
+  Run(Command::ImportDxf);
+  fileDialogs.answer = folder.Write("splines.dxf",
+                                    "0\nSECTION\n2\nENTITIES\n0\nSPLINE\n8\n0\n0\nSPLINE\n8\n0\n"
+                                    "0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
+  Run(Command::ImportDxf);
+  fileDialogs.answer = folder.Write("binary.dxf", "AutoCAD Binary DXF\r\n\x1A");
+  Run(Command::ImportDxf);
+  fileDialogs.answer = folder.File("missing.dxf");
+  Run(Command::ImportDxf);
+  EXPECT_THAT(widgets.notes,
+              ElementsAre(u"1 polyline, 1 text",
+                          u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
+                          u"a binary drawing; only drawings in text form can be imported",
+                          u"The drawing can't be read, or it is empty"));
+}
+
+TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)
+{
+  AddLine(ViewSide::Top, {0.0, 0.0, 0.0});
+  const auto importAt = [this](const std::string& x, const std::string& y) {
+    widgets.notes.clear();
+    fileDialogs.answer =
+        folder.Write("line.dxf", "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n" + x + "\n20\n" + y +
+                                     "\n11\n" + x + "\n21\n" + y + "\n0\nENDSEC\n0\nEOF\n");
+    Run(Command::ImportDxf);
+    return widgets.notes.at(0);
+  };
+  const std::u16string inside = u"1 polyline";
+  const std::u16string outside = u"1 polyline; outside the view: Show All";
+  EXPECT_EQ(importAt("100", "75"), inside);
+  EXPECT_EQ(importAt("-100", "-75"), inside);
+  EXPECT_EQ(importAt("100.1", "0"), outside);
+  EXPECT_EQ(importAt("-100.1", "0"), outside);
+  EXPECT_EQ(importAt("0", "75.1"), outside);
+  EXPECT_EQ(importAt("0", "-75.1"), outside);
+}
+
 TEST_F(ImportCommand, LeavesTheViewWhereItIs)
 {
   const double left = view.viewPort->left;
