@@ -11,7 +11,6 @@
 
 #include "qt/Icons.h"
 #include "qt/QtText.h"
-#include "resources/Commands.h"
 #include "resources/ToolBars.h"
 
 namespace hullwright {
@@ -89,20 +88,19 @@ QListWidgetItem* CustomizeDialog::MakeItem(int command)
     item->setText(tr("Separator"));
     return item;
   }
-  const CommandEntry* const entry = FindCommand(command);
-  const QString label = OneLine(TooltipText(*entry));
-  const QString prompt = ToQString(StatusText(*entry));
-  item->setText(label + QStringLiteral(" \u2013 ") + prompt);
-  item->setIcon(actions_.Get(command)->icon());
+  const QAction* const action = actions_.Get(command);
+  QString label = action->iconText();
+  label.replace(QLatin1Char('\n'), QLatin1Char(' '));
+  const QString prompt = action->statusTip();
+  item->setText(prompt.isEmpty() ? label : label + QStringLiteral(" \u2013 ") + prompt);
+  item->setIcon(action->icon());
   return item;
 }
 
 void CustomizeDialog::FillAvailable()
 {
   available_->addItem(MakeItem(toolBarSeparator));
-  for (const CommandEntry& entry : Commands()) {
-    if (!entry.icon.empty() && !TooltipText(entry).empty()) available_->addItem(MakeItem(entry.id));
-  }
+  for (const int command : ToolBars::Available()) available_->addItem(MakeItem(command));
   available_->setCurrentRow(0);
 }
 

@@ -12,7 +12,6 @@
 #include <QToolBar>
 #include <QUrl>
 
-#include "qt/CustomizeDialog.h"
 #include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "qt/QtText.h"
@@ -172,10 +171,18 @@ QMenu* MainWindow::createPopupMenu()
 
 void MainWindow::Customize()
 {
-  CustomizeDialog dialog(*toolBars_, *actions_, this);
-  if (dialog.exec() != QDialog::Accepted) return;
-  toolBars_->Build(dialog.Specs());
-  if (QSettings* const file = settings_.File()) toolBars_->Store(*file);
+  if (customizing_ == nullptr) {
+    customizing_ = new CustomizeDialog(*toolBars_, *actions_, this);
+    customizing_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(customizing_, &QDialog::accepted, this, [this] {
+      toolBars_->Build(customizing_->Specs());
+      if (QSettings* const file = settings_.File()) toolBars_->Store(*file);
+      UpdateCommands();
+    });
+  }
+  customizing_->show();
+  customizing_->raise();
+  customizing_->activateWindow();
 }
 
 void MainWindow::BuildStatusBar()

@@ -2,6 +2,7 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QPointer>
 
 #include "app/DocumentLife.h"
 #include "app/HullwrightApp.h"
@@ -9,6 +10,7 @@
 #include "file/HullwrightDoc.h"
 #include "platform/Framework.h"
 #include "qt/Actions.h"
+#include "qt/CustomizeDialog.h"
 #include "qt/DesignWidget.h"
 #include "qt/ObjectTreeWidget.h"
 #include "qt/ProgressPane.h"
@@ -92,6 +94,7 @@ private:
   QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
   ToolBars* toolBars_ = nullptr;
+  QPointer<CustomizeDialog> customizing_;  ///< while it is open
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
   QString note_;  ///< what came of the last command; empty for nothing to tell

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 
 #include "qt/QtText.h"
 
@@ -21,6 +22,23 @@ QStringList NameFilters(std::u16string_view filter)
   return names;
 }
 
+/// Asks for a drawing. What is typed gets the ending of drawings where it has none, unless a file
+/// of the very name is there.
+class DrawingDialog : public QFileDialog {
+public:
+  using QFileDialog::QFileDialog;
+
+  void accept() override
+  {
+    const auto* const typed = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const bool exists = typed != nullptr && QFileInfo(directory(), typed->text()).isFile();
+    setDefaultSuffix(exists ? QString() : ending);
+    QFileDialog::accept();
+  }
+
+  QString ending;
+};
+
 }  // namespace
 
 std::optional<std::u16string> QtFileDialogs::AskOpen(std::u16string_view extension,
@@ -29,11 +47,11 @@ std::optional<std::u16string> QtFileDialogs::AskOpen(std::u16string_view extensi
   QSettings* const store = settings_.File();
   const QString folder =
       store == nullptr ? QString() : store->value(QLatin1String(folderKey)).toString();
-  QFileDialog dialog(parent_, QObject::tr("Import DXF File"),
-                     folder.isEmpty() ? QDir::currentPath() : folder);
+  DrawingDialog dialog(parent_, QObject::tr("Import DXF File"),
+                       folder.isEmpty() ? QDir::currentPath() : folder);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(filter));
-  dialog.setDefaultSuffix(ToQString(extension));
+  dialog.ending = ToQString(extension);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QString path = dialog.selectedFiles().constFirst();
   if (store != nullptr) {

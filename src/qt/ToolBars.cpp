@@ -26,22 +26,13 @@ QString ToText(const ToolBarSpec& spec)
   return words.join(QLatin1Char(' ')) + QLatin1Char('|') + spec.title;
 }
 
-/// Leaves out what is no command of a button, as an older or newer program may have stored.
-ToolBarSpec FromText(const QString& text)
+void ShowSide(QToolButton& button, const QAction& side, int command)
 {
-  ToolBarSpec spec;
-  spec.title = text.section(QLatin1Char('|'), 1);
-  for (const QString& word : text.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(' '))) {
-    bool isNumber = false;
-    const int command = word.toInt(&isNumber);
-    const CommandEntry* const entry = FindCommand(command);
-    if (!isNumber) continue;
-    if (command == toolBarSeparator || (entry != nullptr && !entry->icon.empty())) {
-      spec.commands.append(command);
-    }
-  }
-  return spec;
+  button.setIcon(side.icon());
+  button.setAccessibleDescription(command == Command::SelectView ? QString() : side.text());
 }
+
+constexpr const char* viewButtonName = "SideButton";
 
 }  // namespace
 
@@ -52,6 +43,36 @@ ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<int> standardCom
       standardCommands_(std::move(standardCommands)),
       viewImage_(Command::SelectView)
 {
+}
+
+QList<int> ToolBars::Available()
+{
+  QList<int> commands;
+  const auto add = [&commands](int command) {
+    // Placeholders of lists that a menu is filled with are no buttons.
+    const bool isList = command == Command::RecentFile || command == Command::ViewToolbars;
+    if (command != toolBarSeparator && !isList && !commands.contains(command)) {
+      commands.append(command);
+    }
+  };
+  for (const MenuItem& item : mainMenu) add(item.id);
+  for (const int command : mainToolBar) add(command);
+  for (const MenuItem& item : viewMenu) add(item.id);
+  return commands;
+}
+
+/// Leaves out what is no command of a button, as an older or newer program may have stored.
+ToolBarSpec ToolBars::FromText(const QString& text) const
+{
+  const QList<int> available = Available() + standardCommands_ + QList<int>{toolBarSeparator};
+  ToolBarSpec spec;
+  spec.title = text.section(QLatin1Char('|'), 1);
+  for (const QString& word : text.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(' '))) {
+    bool isNumber = false;
+    const int command = word.toInt(&isNumber);
+    if (isNumber && available.contains(command)) spec.commands.append(command);
+  }
+  return spec;
 }
 
 ToolBarSpec ToolBars::StandardSpec() const
@@ -80,7 +101,8 @@ void ToolBars::Store(QSettings& settings) const
 
 void ToolBars::Build(const QList<ToolBarSpec>& specs)
 {
-  viewButtons_.clear();
+  const qsizetype before = bars_.size();
+  const QByteArray places = window_.saveState();
   qDeleteAll(std::exchange(bars_, {}));
   specs_ = specs;
   for (const ToolBarSpec& spec : specs_) {
@@ -92,7 +114,11 @@ void ToolBars::Build(const QList<ToolBarSpec>& specs)
     bar->setIconSize(QSize(24, 24));
     bars_.append(bar);
     Fill(*bar, spec.commands);
+    AddCustomizeButton(*bar);
   }
+  if (before > 0) window_.restoreState(places);
+  // A toolbar without a place of before would stay hidden.
+  for (qsizetype i = before; i < bars_.size(); ++i) bars_[i]->show();
   SetViewImage(viewImage_);
 }
 
@@ -118,10 +144,20 @@ void ToolBars::AddButton(QToolBar& bar, QAction& action)
   button->setAccessibleDescription(action.statusTip());
 }
 
+void ToolBars::AddCustomizeButton(QToolBar& bar)
+{
+  QAction* const action = actions_.Get(Command::Customize);
+  AddButton(bar, *action);
+  // Its image alone: it stands on every toolbar and must not take the place of a command's.
+  if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  }
+}
+
 QToolButton* ToolBars::MakeViewButton()
 {
   auto* const button = new QToolButton(&window_);
-  button->setObjectName(QStringLiteral("SideButton"));
+  button->setObjectName(QLatin1String(viewButtonName));
   auto* const menu = new QMenu(button);
   actions_.FillMenu(*menu, viewMenu);
   button->setMenu(menu);
@@ -134,17 +170,26 @@ QToolButton* ToolBars::MakeViewButton()
   const CommandEntry* const entry = FindCommand(Command::SelectView);
   button->setToolTip(OneLine(TooltipText(*entry)));
   button->setStatusTip(ToQString(StatusText(*entry)));
-  viewButtons_.append(button);
+  ShowSide(*button, *actions_.Get(Command::SelectView), Command::SelectView);
   return button;
+}
+
+QToolButton* ToolBars::FirstViewButton() const
+{
+  if (bars_.isEmpty()) return nullptr;
+  // In the order of the buttons, which is not the order in which the toolbar's children were made.
+  for (QAction* const action : bars_.first()->actions()) {
+    auto* const button = qobject_cast<QToolButton*>(bars_.first()->widgetForAction(action));
+    if (button != nullptr && button->objectName() == QLatin1String(viewButtonName)) return button;
+  }
+  return nullptr;
 }
 
 void ToolBars::SetViewImage(int command)
 {
   viewImage_ = command;
-  const QAction* const side = actions_.Get(command);
-  for (QToolButton* const button : viewButtons_) {
-    button->setIcon(side->icon());
-    button->setAccessibleDescription(command == Command::SelectView ? QString() : side->text());
+  if (QToolButton* const button = FirstViewButton()) {
+    ShowSide(*button, *actions_.Get(command), command);
   }
 }
 

@@ -28,6 +28,10 @@ public:
 
   ToolBars(QMainWindow& window, Actions& actions, QList<int> standardCommands);
 
+  /// The commands that can stand on a toolbar: those of the menus, then those that the main toolbar
+  /// alone has, each once.
+  static QList<int> Available();
+
   /// What the user has stored; the standard toolbar alone where that is nothing, or nothing usable.
   void Load(const QSettings& settings);
   void Store(QSettings& settings) const;
@@ -35,25 +39,29 @@ public:
   const QList<ToolBarSpec>& Specs() const { return specs_; }
   ToolBarSpec StandardSpec() const;
 
-  /// Makes the toolbars anew.
+  /// Makes the toolbars anew. Those that were there keep their places, and stay hidden if they
+  /// were.
   void Build(const QList<ToolBarSpec>& specs);
 
   const QList<QToolBar*>& Bars() const { return bars_; }
 
-  /// Shows the image of a side's command on the side drop-downs.
+  /// Shows the image of a side's command on the first side drop-down of the standard toolbar; any
+  /// other keeps its own.
   void SetViewImage(int command);
 
 private:
+  ToolBarSpec FromText(const QString& text) const;
   void Fill(QToolBar& bar, const QList<int>& commands);
   void AddButton(QToolBar& bar, QAction& action);
+  void AddCustomizeButton(QToolBar& bar);
   QToolButton* MakeViewButton();
+  QToolButton* FirstViewButton() const;
 
   QMainWindow& window_;
   Actions& actions_;
   QList<int> standardCommands_;
   QList<ToolBarSpec> specs_;
   QList<QToolBar*> bars_;
-  QList<QToolButton*> viewButtons_;
   int viewImage_;
 };
 

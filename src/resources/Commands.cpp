@@ -7,6 +7,7 @@ namespace hullwright {
 namespace {
 
 constexpr std::array commands = std::to_array<CommandEntry>({
+    {Command::Customize, "customize", u"Choose the buttons of the toolbars\nCustomize..."},
     {Command::FileNew, "file-new", u"Begin a new, empty design\nNew\rDesign"},
     {Command::FileOpen, "file-open", u"Open a design file\nOpen\rDesign"},
     {Command::FileSave, "file-save", u"Save the design\nSave\rDesign"},

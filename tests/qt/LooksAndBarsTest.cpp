@@ -46,8 +46,40 @@ protected:
   /// Runs the customisation with `act` on its dialog.
   void Customize(const std::function<void(QDialog&)>& act)
   {
-    WhenAsked<QDialog>([act](QDialog& dialog) { act(dialog); });
     Window().RunCommand(Command::Customize);
+    auto* const dialog = Window().findChild<CustomizeDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+    dialog->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  /// Names a new toolbar in the open dialog and shows it there.
+  void AddBar(QDialog& dialog, const char* name)
+  {
+    WhenAsked<QInputDialog>([name](QInputDialog& input) {
+      input.setTextValue(QLatin1String(name));
+      input.accept();
+    });
+    Press(dialog, "New...");
+  }
+
+  /// Adds the button of a command to the toolbar that the open dialog shows.
+  static void AddButton(QDialog& dialog, const char* label)
+  {
+    auto* const available = dialog.findChildren<QListWidget*>().at(0);
+    const auto found = available->findItems(QLatin1String(label), Qt::MatchStartsWith);
+    ASSERT_FALSE(found.isEmpty()) << label;
+    available->setCurrentItem(found.first());
+    Press(dialog, "Add");
+  }
+
+  void MakeBar(const char* name)
+  {
+    Customize([this, name](QDialog& dialog) {
+      AddBar(dialog, name);
+      Press(dialog, "OK");
+    });
   }
 
   static void Press(QDialog& dialog, const char* text)
@@ -79,7 +111,88 @@ TEST_F(Frame, TheStandardToolBarBeginsAsItsTableSays)
 {
   ASSERT_EQ(Bars().size(), 1);
   EXPECT_EQ(Bars().first()->windowTitle(), QStringLiteral("Standard"));
-  EXPECT_EQ(Bars().first()->actions().size(), static_cast<qsizetype>(mainToolBar.size()));
+  // The table's buttons, and the one that ends every toolbar.
+  EXPECT_EQ(Bars().first()->actions().size(), static_cast<qsizetype>(mainToolBar.size()) + 1);
+}
+
+TEST_F(Frame, EveryToolBarEndsWithTheButtonThatCustomizes)
+{
+  MakeBar("Mine");
+  for (const QToolBar* const bar : Bars()) {
+    QAction* const last = bar->actions().constLast();
+    EXPECT_EQ(last->text(), QStringLiteral("Customize..."));
+    last->trigger();
+    auto* const dialog = Window().findChild<CustomizeDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(Frame, CustomizingIsNotModalAndOpensOnce)
+{
+  Window().RunCommand(Command::Customize);
+  Window().RunCommand(Command::Customize);
+  const auto open = Window().findChildren<CustomizeDialog*>();
+  ASSERT_EQ(open.size(), 1);
+  EXPECT_TRUE(open.first()->isVisible());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Frame, CustomizingOffersWhatTheMenusHold)
+{
+  Customize([](QDialog& dialog) {
+    QStringList names;
+    auto* const available = dialog.findChildren<QListWidget*>().at(0);
+    for (int row = 0; row < available->count(); ++row) {
+      names.append(available->item(row)->text().section(QStringLiteral(" \u2013 "), 0, 0));
+    }
+    for (const char* name :
+         {"Separator", "New Design", "Exit", "Status Bar", "Grid...", "Windows 2000", "Aqua Style",
+          "Undo", "Toggle Grid", "Toggle Snap", "View Mode", "Show All", "Top", "About"}) {
+      EXPECT_EQ(names.count(QLatin1String(name)), 1) << name;
+    }
+    for (const char* name : {"Print", "Cut", "Copy", "Paste", "Recent File"}) {
+      EXPECT_FALSE(names.contains(QLatin1String(name))) << name;
+    }
+  });
+}
+
+TEST_F(Frame, ToolBarsKeepPlaceAndVisibilityWhenTheyAreCustomized)
+{
+  MakeBar("Mine");
+  Window().addToolBar(Qt::BottomToolBarArea, Bars().at(1));
+  Window().addToolBar(Qt::LeftToolBarArea, Bars().at(0));
+  Bars().at(1)->hide();
+  MakeBar("Another");
+  ASSERT_EQ(Bars().size(), 3);
+  EXPECT_EQ(Window().toolBarArea(Bars().at(0)), Qt::LeftToolBarArea);
+  EXPECT_EQ(Window().toolBarArea(Bars().at(1)), Qt::BottomToolBarArea);
+  EXPECT_TRUE(Bars().at(1)->isHidden());
+  EXPECT_EQ(Window().toolBarArea(Bars().at(2)), Qt::TopToolBarArea);
+  EXPECT_FALSE(Bars().at(2)->isHidden());
+}
+
+TEST_F(Frame, OnlyTheFirstSideButtonOfTheStandardToolBarShowsTheSide)
+{
+  Customize([this](QDialog& dialog) {
+    AddBar(dialog, "Mine");
+    AddButton(dialog, "View Mode");
+    dialog.findChild<QComboBox*>()->setCurrentIndex(0);
+    AddButton(dialog, "View Mode");
+    Press(dialog, "OK");
+  });
+  Window().RunCommand(Command::ViewRear);
+  QStringList shown;
+  for (const QToolBar* const bar : Bars()) {
+    for (QAction* const action : bar->actions()) {
+      const QWidget* const button = bar->widgetForAction(action);
+      if (button != nullptr && button->objectName() == QStringLiteral("SideButton")) {
+        shown.append(button->accessibleDescription());
+      }
+    }
+  }
+  EXPECT_EQ(shown, (QStringList{QStringLiteral("Rear"), QString(), QString()}));
 }
 
 TEST_F(Frame, ButtonsCanBeTakenAwayAndMovedAndStayAwayAfterARestart)
@@ -116,23 +229,17 @@ TEST_F(Frame, ButtonsCanBeTakenAwayAndMovedAndStayAwayAfterARestart)
 TEST_F(Frame, AToolBarOfTheUsersOwnSurvivesARestartAndCanBeDeleted)
 {
   Customize([this](QDialog& dialog) {
-    WhenAsked<QInputDialog>([](QInputDialog& input) {
-      input.setTextValue(QStringLiteral("Mine | 2"));
-      input.accept();
-    });
-    Press(dialog, "New...");
-    auto* const available = dialog.findChildren<QListWidget*>().at(0);
-    available->setCurrentRow(1);
-    Press(dialog, "Add");
-    available->setCurrentRow(0);
-    Press(dialog, "Add");
+    AddBar(dialog, "Mine | 2");
+    AddButton(dialog, "New Design");
+    AddButton(dialog, "Separator");
     Press(dialog, "OK");
   });
   for (int start = 0; start < 2; ++start) {
     ASSERT_EQ(Bars().size(), 2);
     EXPECT_EQ(Bars().at(1)->windowTitle(), QStringLiteral("Mine | 2"));
     EXPECT_EQ(Labels(*Bars().at(1)),
-              (QStringList{QStringLiteral("New\nDesign"), QStringLiteral("|")}));
+              (QStringList{QStringLiteral("New\nDesign"), QStringLiteral("|"),
+                           QStringLiteral("Customize...")}));
     Restart();
   }
   Customize([](QDialog& dialog) {
