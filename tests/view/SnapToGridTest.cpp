@@ -2,16 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <utility>
 
 namespace hullwright {
 namespace {
 
-double Snapped(double value)
+double Snapped(double value, double spacing = GridSettings{}.spacingSnapX)
 {
+  GridSettings grid;
+  grid.spacingSnapX = grid.spacingSnapY = spacing;
   double x = value;
-  double y = 0.0;
-  SnapToGrid(GridSettings{}, x, y);
+  double y = value;
+  SnapToGrid(grid, x, y);
+  EXPECT_EQ(y, x);
   return x;
 }
 
@@ -48,14 +51,29 @@ TEST(SnapToGrid, SwitchedOffPositionsStay)
   EXPECT_EQ(y, -4.56);
 }
 
-TEST(SnapToGrid, ASpacingOfZeroGivesNoNumber)
+TEST(SnapToGrid, IsExactToTheLastBit)
+{
+  // Places at which other ways to the nearest multiple end in another last bit.
+  EXPECT_EQ(Snapped(15.96, 0.07), 15.96);
+  EXPECT_EQ(Snapped(-28.38, 0.33), -28.380000000000003);
+  EXPECT_EQ(Snapped(19.05, 0.1), 19.0);
+}
+
+TEST(SnapToGrid, AnAxisWithoutSpacingKeepsItsCoordinate)
 {
   GridSettings grid;
   grid.spacingSnapX = 0.0;
-  double x = 1.0;
-  double y = 1.0;
+  double x = 1.23;
+  double y = 3.8;
   SnapToGrid(grid, x, y);
-  EXPECT_TRUE(std::isnan(x));
+  EXPECT_EQ(x, 1.23);
+  EXPECT_EQ(y, 5.0);
+  std::swap(grid.spacingSnapX, grid.spacingSnapY);
+  x = -3.8;
+  y = -1.23;
+  SnapToGrid(grid, x, y);
+  EXPECT_EQ(x, -5.0);
+  EXPECT_EQ(y, -1.23);
 }
 
 }  // namespace
