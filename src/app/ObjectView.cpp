@@ -164,7 +164,7 @@ void CObjectView::ZoomPolyline()
   double maxX = -unreached;
   double maxY = -unreached;
   shape->GetExtents(minX, minY, maxX, maxY);
-  app_.viewPort->ZoomToExtents(minX, minY, maxX, maxY);
+  app_.viewPort->ZoomOrCenter(minX, minY, maxX, maxY);
   app_.Repaint();
 }
 

@@ -48,6 +48,7 @@ void CHullwrightDoc::DeleteContents()
 {
   ClearGroups(design_.shapeGroups);
   design_.anchors->Clear();
+  RecoverView(design_);
   if (mainWindow_.HasWindow()) mainWindow_.NotifyDesignChanged();
   SetModifiedFlag(false);
   if (onEmptied) onEmptied();

@@ -29,4 +29,8 @@ struct DesignState {
   std::int32_t activeView = ViewSide::Top;  ///< the side shown and edited
 };
 
+/// Gives the design's view, where zooming no longer leads on from it, the window that it began
+/// with. Implemented where the viewport is.
+void RecoverView(const DesignState& design);
+
 }  // namespace hullwright

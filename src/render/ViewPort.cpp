@@ -1,8 +1,13 @@
 #include "render/ViewPort.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <numeric>
+#include <tuple>
 
 #include "model/Angle.h"
+#include "model/DesignState.h"
 
 namespace hullwright {
 namespace {
@@ -61,11 +66,12 @@ void CViewPort::ZoomOut(double sx, double sy)
   MeasureEdges();
 }
 
-void CViewPort::CenterOn(double sx, double sy)
+void CViewPort::CenterOn(double sx, double sy) { MoveCentreTo(ScreenToWorld(sx, sy)); }
+
+void CViewPort::MoveCentreTo(const WorldPoint& centre)
 {
   const double w = width;
   const double h = height;
-  const WorldPoint centre = ScreenToWorld(sx, sy);
   left = centre.x - w * 0.5;
   bottom = centre.y - h * 0.5;
   right = left + w;
@@ -167,6 +173,53 @@ void CViewPort::ZoomToExtents(double minX, double minY, double maxX, double maxY
   }
   WidenBySixth();
   WidenBySixth();
+}
+
+void CViewPort::FitOrCenter(double minX, double minY, double maxX, double maxY)
+{
+  FrameOrCenter(&CViewPort::FitExtents, minX, minY, maxX, maxY);
+}
+
+void CViewPort::ZoomOrCenter(double minX, double minY, double maxX, double maxY)
+{
+  FrameOrCenter(&CViewPort::ZoomToExtents, minX, minY, maxX, maxY);
+}
+
+void CViewPort::FrameOrCenter(Frame frame, double minX, double minY, double maxX, double maxY)
+{
+  Recover();
+  const auto before = std::make_tuple(left, bottom, right, top, width, height);
+  const auto restore = [&] { std::tie(left, bottom, right, top, width, height) = before; };
+  (this->*frame)(minX, minY, maxX, maxY);
+  if (IsUsable()) return;
+  restore();
+  // Bounds that nothing has reached are still the wrong way round: there is no centre.
+  if (!(minX <= maxX && minY <= maxY)) return;
+  MoveCentreTo({std::midpoint(minX, maxX), std::midpoint(minY, maxY)});
+  // Far enough out the scale is lost in the rounding of the edges.
+  if (!IsUsable()) restore();
+}
+
+bool CViewPort::IsUsable() const
+{
+  const std::array<double, 6> all = {left, bottom, right, top, width, height};
+  return width != 0.0 && height != 0.0 &&
+         std::ranges::all_of(all, [](double value) { return std::isfinite(value); });
+}
+
+bool CViewPort::Recover()
+{
+  if (IsUsable()) return false;
+  left = bottom = -initialReach;
+  right = top = initialReach;
+  MeasureEdges();
+  KeepAspect();
+  return true;
+}
+
+void RecoverView(const DesignState& design)
+{
+  if (design.viewPort != nullptr) design.viewPort->Recover();
 }
 
 }  // namespace hullwright

@@ -15,8 +15,8 @@ struct ScreenPoint {
 };
 
 /// The mapping between world coordinates (y up, design units) and client pixels (y down). Pure
-/// arithmetic on the view rectangle; nothing is guarded against an extent of zero. Before the first
-/// resize both screen sizes are 0.0 and the mappings are not to be used.
+/// arithmetic on the view rectangle; mappings and zooms are not guarded against an extent of zero.
+/// Before the first resize both screen sizes are 0.0 and the mappings are not to be used.
 class CViewPort {
 public:
   CViewPort();
@@ -56,15 +56,29 @@ public:
   /// View rectangle around the box of one shape.
   void ZoomToExtents(double minX, double minY, double maxX, double maxY);
 
+  /// `FitExtents`, but a box that leaves no usable view around it (a point, a vertical line, bounds
+  /// that are not finite) is brought to the centre at the scale of before. One without a finite
+  /// centre changes nothing.
+  void FitOrCenter(double minX, double minY, double maxX, double maxY);
+
+  /// `ZoomToExtents`, with the same way out.
+  void ZoomOrCenter(double minX, double minY, double maxX, double maxY);
+
+  /// Whether zooming leads on from here: edges and extents are finite, and neither extent is zero.
+  bool IsUsable() const;
+
+  /// Gives a view that is no longer usable the window that it began with, and tells whether it did.
+  bool Recover();
+
   CCanvas* canvas = nullptr;  ///< what the shapes draw on; set by the design view
   bool flag = false;          ///< carried
-  double left = -100.0;
-  double bottom = -100.0;
-  double right = 100.0;
-  double top = 100.0;
-  double width = 200.0;      ///< |right - left|
-  double height = 200.0;     ///< |top - bottom|
-  double screenWidth = 0.0;  ///< client size in pixels
+  double left = -initialReach;
+  double bottom = -initialReach;
+  double right = initialReach;
+  double top = initialReach;
+  double width = 2.0 * initialReach;   ///< |right - left|
+  double height = 2.0 * initialReach;  ///< |top - bottom|
+  double screenWidth = 0.0;            ///< client size in pixels
   double screenHeight = 0.0;
   double rotation = 0.0;
   double cosRotation = 1.0;
@@ -73,11 +87,17 @@ public:
   double sinInverse = 0.0;
 
 private:
+  static constexpr double initialReach = 100.0;
+
   double CentreX() const { return (left + right) * 0.5; }
   double CentreY() const { return (bottom + top) * 0.5; }
   WorldPoint Rotated(double wx, double wy) const;
   void MeasureEdges();
   void WidenBySixth();
+  void MoveCentreTo(const WorldPoint& centre);
+
+  using Frame = void (CViewPort::*)(double minX, double minY, double maxX, double maxY);
+  void FrameOrCenter(Frame frame, double minX, double minY, double maxX, double maxY);
 };
 
 /// The viewport of the design view.

@@ -142,14 +142,17 @@ void CHullwrightView::ShowAllShapes()
   constexpr double largest = std::numeric_limits<double>::max();
   if (viewPort == nullptr) return;
   CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
-  if (group == nullptr || group->shapes.empty()) return;
+  if (group == nullptr || group->shapes.empty()) {
+    if (viewPort->Recover()) Repaint();
+    return;
+  }
   double minX = largest;
   double minY = largest;
   double maxX = -largest;
   double maxY = -largest;
   Walk(group->cursor, group->shapes,
        [&](const CShape& shape) { shape.GetExtents(minX, minY, maxX, maxY); });
-  viewPort->FitExtents(minX, minY, maxX, maxY);
+  viewPort->FitOrCenter(minX, minY, maxX, maxY);
   Repaint();
 }
 

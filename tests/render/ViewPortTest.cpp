@@ -227,5 +227,89 @@ TEST_F(ViewPortTest, ZoomToExtentsGivesUpAfterThirtySteps)
   EXPECT_TRUE(std::isnan(viewPort.left));
 }
 
+TEST_F(ViewPortTest, AUsableViewIsNotRecovered)
+{
+  viewPort.left = 0.1;
+  viewPort.bottom = -0.2;
+  viewPort.right = 0.1 + 1e-15;
+  viewPort.top = 5e-324;
+  viewPort.width = 1.0;
+  viewPort.height = 5e-324;
+  EXPECT_TRUE(viewPort.IsUsable());
+  EXPECT_FALSE(viewPort.Recover());
+  EXPECT_EQ(viewPort.left, 0.1);
+  EXPECT_EQ(viewPort.bottom, -0.2);
+  EXPECT_EQ(viewPort.right, 0.1 + 1e-15);
+  EXPECT_EQ(viewPort.top, 5e-324);
+  EXPECT_EQ(viewPort.width, 1.0);
+  EXPECT_EQ(viewPort.height, 5e-324);
+}
+
+TEST_F(ViewPortTest, AnyFieldOfTheRectangleMakesAViewUnusable)
+{
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (double CViewPort::*const field : {&CViewPort::left, &CViewPort::bottom, &CViewPort::right,
+                                         &CViewPort::top, &CViewPort::width, &CViewPort::height}) {
+    for (const double value : {infinity, -infinity, std::nan("")}) {
+      viewPort.*field = value;
+      EXPECT_FALSE(viewPort.IsUsable());
+      EXPECT_TRUE(viewPort.Recover());
+      ExpectEdges(-100.0, -75.0, 100.0, 75.0);
+    }
+  }
+  for (double CViewPort::*const extent : {&CViewPort::width, &CViewPort::height}) {
+    viewPort.*extent = 0.0;
+    EXPECT_TRUE(viewPort.Recover());
+    ExpectEdges(-100.0, -75.0, 100.0, 75.0);
+  }
+}
+
+TEST(ViewPort, RecoversWithoutAShapeBeforeTheFirstResize)
+{
+  CViewPort viewPort;
+  viewPort.left = viewPort.right;
+  viewPort.width = 0.0;
+  EXPECT_TRUE(viewPort.Recover());
+  EXPECT_EQ(viewPort.left, -100.0);
+  EXPECT_EQ(viewPort.bottom, -100.0);
+  EXPECT_EQ(viewPort.width, 200.0);
+  EXPECT_EQ(viewPort.height, 200.0);
+}
+
+TEST_F(ViewPortTest, WhatCanBeFittedIsFittedToTheBit)
+{
+  CViewPort plain;
+  plain.screenWidth = 800.0;
+  plain.screenHeight = 600.0;
+  plain.KeepAspect();
+  const auto expectSame = [&] {
+    for (const double CViewPort::*field :
+         {&CViewPort::left, &CViewPort::bottom, &CViewPort::right, &CViewPort::top,
+          &CViewPort::width, &CViewPort::height}) {
+      EXPECT_EQ(viewPort.*field, plain.*field);
+    }
+  };
+  plain.FitExtents(0.1, 7.7, 60.3, 7.7);  // a horizontal line
+  viewPort.FitOrCenter(0.1, 7.7, 60.3, 7.7);
+  expectSame();
+  plain.FitExtents(-1e-15, 3.1, 1e-15, 40.7);
+  viewPort.FitOrCenter(-1e-15, 3.1, 1e-15, 40.7);
+  expectSame();
+  plain.ZoomToExtents(0.3, 3.1, 0.3, 40.7);  // a vertical one
+  viewPort.ZoomOrCenter(0.3, 3.1, 0.3, 40.7);
+  expectSame();
+}
+
+TEST_F(ViewPortTest, APlaceWhoseSumWithItselfIsTooLargeIsCentredOnAllTheSame)
+{
+  viewPort.left = -4e307;
+  viewPort.right = 4e307;
+  viewPort.KeepAspect();
+  viewPort.FitOrCenter(1.2e308, 0.0, 1.2e308, 0.0);
+  EXPECT_EQ(viewPort.left, 1.2e308 - 4e307);
+  EXPECT_EQ(viewPort.right, (1.2e308 - 4e307) + 8e307);
+  EXPECT_TRUE(viewPort.IsUsable());
+}
+
 }  // namespace
 }  // namespace hullwright
