@@ -28,8 +28,8 @@ constexpr double nearestPoints = 0.125;
 
 const QColor& ColourOf(const IBrush& brush) { return static_cast<const PaintBrush&>(brush).colour; }
 
-/// Whether a stroke of this width covers anything; written so that NaN does not.
-bool IsStroke(float width) { return width > 0.0F && std::isfinite(width); }
+/// Whether a stroke of this width is painted; written so that NaN is not.
+bool IsStroke(float width) { return width >= 0.0F && std::isfinite(width); }
 
 /// Runs without the points that lie on their predecessor, as far as a picture can show.
 std::vector<ScreenPoint> Thinned(const std::vector<ScreenPoint>& run)
@@ -165,7 +165,8 @@ QPen PaintTarget::PenOf(const IBrush& brush, float width) const
   // Up to one pixel of the picture the painter would switch to hairlines, which are too thin where
   // they slant and lack their corners. A stroke that is thinner is a paler one of that width.
   const double thinnest = 1.0001 / surface_.Ratio();
-  const double stroke = std::min(width, widestStroke);
+  // Drawings give a width of zero to lines that are to be seen as thin as they can be.
+  const double stroke = width == 0.0F ? 1.0 : std::min(width, widestStroke);
   QColor colour = ColourOf(brush);
   const double cover = std::min(1.0, stroke * surface_.Ratio());
   colour.setAlphaF(static_cast<float>(colour.alphaF() * cover));

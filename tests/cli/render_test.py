@@ -7,6 +7,7 @@ import shutil
 import subprocess
 import unittest
 import xml.dom.minidom
+import zlib
 
 from cli import PROGRAM, SAMPLES, SIDES, CliTest, run, size_of
 
@@ -48,6 +49,21 @@ class RenderTest(CliTest):
         self.assertTrue(data.startswith(b"%PDF-") and data.rstrip().endswith(b"%%EOF"))
         self.assertRegex(data, rb"/MediaBox \[0 0 300(\.0*)? 225(\.0*)?\]")
         self.assertNotIn(b"/Subtype /Image", data)
+
+    def test_a_polyline_of_width_zero_is_one_pixel_wide(self):
+        def drawn(width, ending):
+            vertices = (("0", "VERTEX", "10", x, "20", y) for x, y in (("0", "0"), ("40", "10"), ("50", "-20")))
+            line = ("0", "POLYLINE", "66", "1", "40", width, *(group for v in vertices for group in v), "0", "SEQEND")
+            out = self.folder / f"out.{ending}"
+            self.succeed("render", self.drawing("line.dxf", *line), "-z", "200x120", "--grid=off", "-o", out)
+            if ending != "pdf":
+                return out.read_bytes()
+            streams = re.findall(rb"stream\r?\n(.*?)\r?\nendstream", out.read_bytes(), re.DOTALL)
+            return [zlib.decompress(stream) for stream in streams if stream.startswith(b"\x78")]
+
+        for ending in ("png", "svg", "pdf"):
+            self.assertEqual(drawn("0", ending), drawn("0.5", ending), ending)  # a width is read as its double
+            self.assertNotEqual(drawn("0", ending), drawn("-0.5", ending), ending)
 
     def test_a_sheet_has_all_sides(self):
         for ending in ("png", "svg", "pdf"):

@@ -144,9 +144,9 @@ TEST_F(Stroke, ASmallRectangleHasItsCorners)
   EXPECT_GE(qGray(picture.pixel(21, 21)), 250);
 }
 
-TEST_F(Stroke, WidthsThatCoverNothingDrawNothing)
+TEST_F(Stroke, WidthsThatAreNoneDrawNothing)
 {
-  for (const float strokeWidth : {0.0F, -1.0F, std::nanf("")}) {
+  for (const float strokeWidth : {-0.001F, -1.0F, std::nanf("")}) {
     target->DrawLine({0.0F, 20.0F}, {60.0F, 20.0F}, *black, strokeWidth);
     target->DrawRectangle({5.0F, 5.0F, 30.0F, 30.0F}, *black, strokeWidth);
     target->DrawEllipse({30.0F, 20.0F}, 10.0F, 10.0F, *black, strokeWidth);

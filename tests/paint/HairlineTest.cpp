@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPicture>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+#include "paint/PaintBackEnd.h"
+#include "paint/PaintSurface.h"
+#include "platform/Drawing.h"
+#include "render/Canvas.h"
+
+namespace hullwright {
+namespace {
+
+/// Everything that has a stroke, painted at one width.
+class Strokes : public testing::Test {
+protected:
+  static void Paint(CCanvas& canvas, float width)
+  {
+    constexpr std::array<PixelPoint, 3> corner = {{{5.5F, 5.5F}, {40.5F, 5.5F}, {50.0F, 30.0F}}};
+    IRenderTarget& target = *canvas.renderTarget;
+    target.BeginDraw();
+    target.Clear({1.0F, 1.0F, 1.0F, 1.0F});
+    const auto black = target.CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});
+    canvas.DrawPolyline(*black, corner, width);
+    target.DrawLine({5.0F, 35.5F}, {55.0F, 35.5F}, *black, width);
+    target.DrawRectangle({10.5F, 12.5F, 20.5F, 20.5F}, *black, width);
+    target.DrawEllipse({30.0F, 24.0F}, 8.0F, 6.0F, *black, width);
+    EXPECT_EQ(target.EndDraw(), 0);
+  }
+
+  /// On a picture of a pixel ratio.
+  static QImage Picture(float width, double ratio = 1.0)
+  {
+    PaintSurface surface(60, 40, ratio);
+    PaintBackEnd backEnd;
+    CCanvas canvas(backEnd);
+    EXPECT_TRUE(canvas.Initialize(&surface));
+    Paint(canvas, width);
+    return surface.Picture().copy();
+  }
+
+  /// As the orders that a page or a file of vectors gets.
+  static QByteArray Orders(float width)
+  {
+    PaintSurface surface(60, 40);
+    PaintBackEnd backEnd;
+    CCanvas canvas(backEnd);
+    EXPECT_TRUE(canvas.Initialize(&surface));
+    QPicture page;
+    surface.SetDevice(&page);
+    Paint(canvas, width);
+    return {page.data(), static_cast<qsizetype>(page.size())};
+  }
+};
+
+TEST_F(Strokes, AStrokeWithoutWidthIsALineOfOnePixel)
+{
+  const QImage hairlines = Picture(0.0F);
+  EXPECT_EQ(qGray(hairlines.pixel(30, 35)), 0);
+  EXPECT_GE(qGray(hairlines.pixel(30, 34)), 254);
+  EXPECT_EQ(qGray(hairlines.pixel(20, 5)), 0);
+  EXPECT_EQ(qGray(hairlines.pixel(10, 16)), 0);
+  EXPECT_EQ(hairlines, Picture(1.0F));
+  EXPECT_EQ(Picture(-0.0F), Picture(1.0F));
+}
+
+TEST_F(Strokes, AStrokeWithoutWidthIsAsWideOnEveryMonitorAndPage)
+{
+  for (const double ratio : {1.5, 2.0, 3.0}) {
+    EXPECT_EQ(Picture(0.0F, ratio), Picture(1.0F, ratio)) << ratio;
+  }
+  EXPECT_EQ(Orders(0.0F), Orders(1.0F));
+  EXPECT_NE(Orders(0.0F), Orders(0.5F));
+}
+
+TEST_F(Strokes, AThinStrokeStaysPalerThanOneWithoutWidth)
+{
+  const QImage pale = Picture(0.01F);
+  EXPECT_GE(qGray(pale.pixel(30, 35)), 250);
+  EXPECT_NEAR(qGray(Picture(0.5F).pixel(30, 35)), 127, 2);
+}
+
+TEST_F(Strokes, WidthsBelowNothingOrThatAreNoNumbersPaintNothing)
+{
+  const float infinity = std::numeric_limits<float>::infinity();
+  const QByteArray nothing = Orders(-1.0F);
+  EXPECT_LT(nothing.size(), Orders(0.0F).size());
+  QImage blank = Picture(-1.0F);
+  blank.fill(Qt::white);
+  for (const float width : {-1.0F, -1e-30F, -infinity, infinity, std::nanf("")}) {
+    EXPECT_EQ(Picture(width), blank) << width;
+    EXPECT_EQ(Orders(width), nothing) << width;
+  }
+}
+
+}  // namespace
+}  // namespace hullwright
