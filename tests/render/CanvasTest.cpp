@@ -182,6 +182,8 @@ TEST_F(CanvasTest, MeasureTextAsksTheFormat)
   const PixelSize size = canvas.MeasureText(*format, u"abcd");
   EXPECT_EQ(size.width, 20.0F);
   EXPECT_EQ(size.height, 10.0F);
+  EXPECT_EQ(backEnd.measuredWithin.width, 1000.0F);
+  EXPECT_EQ(backEnd.measuredWithin.height, 100.0F);
   canvas.ReleaseResources();
   EXPECT_EQ(canvas.MeasureText(*format, u"abcd").width, 0.0F);
 }

@@ -153,6 +153,19 @@ TEST_F(Scene, NothingIsDoneWithoutViewPortCanvasOrAnchorList)
   EXPECT_TRUE(backEnd.log.empty());
 }
 
+TEST_F(Scene, WithoutAnAnchorListNothingIsDrawnOnAnySide)
+{
+  AddLine(63, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  design.anchors.reset();
+  grid.show = 1;
+  backEnd.log.clear();
+  for (const std::int32_t side : ViewSide::each) {
+    design.activeView = side;
+    Draw();
+  }
+  EXPECT_TRUE(backEnd.log.empty());
+}
+
 TEST_F(Scene, WithoutATargetEveryStepIsSkipped)
 {
   AddLine(1, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});

@@ -160,9 +160,10 @@ public:
     format->size = size;
     return {0, std::move(format)};
   }
-  std::optional<PixelSize> MeasureText(const ITextFormat& format, std::u16string_view text, float,
-                                       float) override
+  std::optional<PixelSize> MeasureText(const ITextFormat& format, std::u16string_view text,
+                                       float maxWidth, float maxHeight) override
   {
+    backEnd_.measuredWithin = {maxWidth, maxHeight};
     const float size = static_cast<const Format&>(format).size;
     return PixelSize{static_cast<float>(text.size()) * 0.5F * size, size};
   }

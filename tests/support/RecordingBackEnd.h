@@ -46,6 +46,7 @@ public:
   bool emptyInsteadOfFailure = false;  ///< the step succeeds, but yields no object
   std::optional<std::string> systemMessage;
   std::vector<std::string> log;  ///< everything, in order
+  PixelSize measuredWithin;      ///< the limits of the last measuring of a text
 };
 
 /// A window of a given client size.

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "render/ViewPort.h"
+
+// Views at which other forms of the same formulas end in other last bits. Pixels are cut and
+// coordinates are stored as they come, so the last bit is part of the behaviour.
+
+namespace hullwright {
+namespace {
+
+struct Edges {
+  double left;
+  double bottom;
+  double right;
+  double top;
+};
+
+struct Window {
+  Edges edges;
+  double screenWidth;
+  double screenHeight;
+};
+
+class ViewPortBits : public testing::Test {
+protected:
+  void Show(const Window& window)
+  {
+    viewPort.left = window.edges.left;
+    viewPort.bottom = window.edges.bottom;
+    viewPort.right = window.edges.right;
+    viewPort.top = window.edges.top;
+    viewPort.width = std::abs(viewPort.right - viewPort.left);
+    viewPort.height = std::abs(viewPort.top - viewPort.bottom);
+    viewPort.screenWidth = window.screenWidth;
+    viewPort.screenHeight = window.screenHeight;
+  }
+
+  void Expect(const Edges& edges, double width, double height) const
+  {
+    EXPECT_EQ(viewPort.left, edges.left);
+    EXPECT_EQ(viewPort.bottom, edges.bottom);
+    EXPECT_EQ(viewPort.right, edges.right);
+    EXPECT_EQ(viewPort.top, edges.top);
+    EXPECT_EQ(viewPort.width, width);
+    EXPECT_EQ(viewPort.height, height);
+  }
+
+  void ExpectWorld(double sx, double sy, double x, double y) const
+  {
+    const WorldPoint world = viewPort.ScreenToWorld(sx, sy);
+    EXPECT_EQ(world.x, x);
+    EXPECT_EQ(world.y, y);
+  }
+
+  CViewPort viewPort;
+};
+
+TEST_F(ViewPortBits, APixelLeadsToItsWorldPointToTheLastBit)
+{
+  Show({{-31.2, -20.7, 44.9, 46.8}, 1013.0, 613.0});
+  ExpectWorld(280.0, 540.0, -10.165449160908198, -12.661663947797726);
+  Show({{-19.0, -37.8, 39.3, 30.1}, 1013.0, 599.0});
+  ExpectWorld(19.0, 37.0, -17.906515301085882, 25.90584307178631);
+  Show({{-23.8, -17.0, 55.5, 47.9}, 773.0, 701.0});
+  viewPort.SetRotation(30.0);
+  ExpectWorld(1.0, 479.0, -12.450668883203454, -14.62662896186487);
+}
+
+TEST_F(ViewPortBits, ZoomInMovesTheEdgesToTheLastBit)
+{
+  Show({{-5.5, -39.3, 9.1, 39.0}, 811.0, 701.0});
+  viewPort.ZoomIn(38.0, 246.0);
+  Expect({-10.290906288532677, -17.84010342368046, 0.6590937114673239, 40.88489657631954},
+         10.950000000000001, 58.725);
+}
+
+TEST_F(ViewPortBits, ZoomOutMovesTheEdgesToTheLastBit)
+{
+  Show({{-43.1, -6.5, 18.8, 11.8}, 797.0, 599.0});
+  viewPort.ZoomOut(713.0, 69.0);
+  Expect({-28.990631534922624, -2.508013355592653, 53.54270179841072, 21.89198664440735},
+         82.53333333333335, 24.400000000000002);
+  Show({{-48.0, -34.3, 29.7, 4.3}, 797.0, 613.0});
+  viewPort.ZoomOut(133.0, 375.0);
+  Expect({-86.83375156838143, -45.04671016856987, 16.766248431618575, 6.41995649809679},
+         103.60000000000001, 51.466666666666654);
+}
+
+TEST_F(ViewPortBits, CenterOnMovesTheEdgesToTheLastBit)
+{
+  Show({{-17.0, -43.2, 18.0, 9.3}, 773.0, 701.0});
+  viewPort.CenterOn(119.0, 353.0);
+  Expect({-29.111901681759377, -43.38723252496433, 5.888098318240623, 9.112767475035668}, 35.0,
+         52.5);
+  Show({{-44.4, -8.0, 11.5, 31.4}, 1013.0, 701.0});
+  viewPort.CenterOn(957.0, 237.0);
+  Expect({-19.540227048371175, -1.6206847360912953, 36.35977295162883, 37.7793152639087},
+         55.900000000000006, 39.39999999999999);
+}
+
+TEST_F(ViewPortBits, KeepAspectTakesTheHeightFromTheEdgesToTheLastBit)
+{
+  Show({{-3.7, -7.4, 14.1, 42.5}, 811.0, 599.0});
+  viewPort.width = viewPort.height = 200.0;  // of before the edges moved
+  viewPort.KeepAspect();
+  Expect({-3.7, 10.976510480887793, 14.1, 24.12348951911221}, 17.8, 13.146979038224414);
+}
+
+}  // namespace
+}  // namespace hullwright
