@@ -108,7 +108,8 @@ MainWindow::~MainWindow()
 void MainWindow::ShowAsBefore()
 {
   frame_.OnApplicationLook(app_.applicationLook);
-  resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 0.95));
+  // As wide as the standard toolbar.
+  resize(QSize(1340, 860).boundedTo(screen()->availableSize() * 0.95));
   if (const QSettings* const file = settings_.File()) {
     restoreGeometry(file->value(QLatin1String(geometryKey)).toByteArray());
     restoreState(file->value(QLatin1String(layoutKey)).toByteArray());

@@ -151,6 +151,7 @@ void ToolBars::AddCustomizeButton(QToolBar& bar)
   // Its image alone: it stands on every toolbar and must not take the place of a command's.
   if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setIconSize(QSize(16, 16));
   }
 }
 
