@@ -105,7 +105,7 @@ bool HeadlessEditor::Save(std::u16string_view path)
 {
   document_.OnSaveDocument(path);
   if (document_.SavedWhole()) return true;
-  problem_ = u"the design can't be written";
+  problem_ = u"the design can't be written: " + document_.SaveProblem();
   return false;
 }
 

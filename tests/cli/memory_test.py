@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""hullwright-cli with less and less memory: a design is written whole or not at all."""
+
+import resource
+import subprocess
+import unittest
+
+from cli import PROGRAM, CliTest
+
+MIB = 1 << 20
+
+
+class MemoryTest(CliTest):
+    """What memory running out does to a file that is there already."""
+
+    def import_within(self, memory, drawing, design):
+        """Runs an import that may take so many bytes of address space."""
+        return subprocess.run([PROGRAM, "import", drawing, "-o", design], capture_output=True, check=False,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (memory, memory)))
+
+    def test_a_design_with_a_hole_never_replaces_the_one_before(self):
+        vertices = [word for i in range(200000) for word in ("10", f"{i % 1000}.125", "20", f"{i / 7:.3f}")]
+        drawing = self.drawing("big.dxf", "0", "LWPOLYLINE", *vertices)
+        design = self.folder / "boat.xml"
+        reasons = set()
+        for memory in range(80 * MIB, 200 * MIB, 2 * MIB):
+            with self.subTest(memory=memory // MIB):
+                design.write_bytes(b"<vessel/>")
+                done = self.import_within(memory, drawing, design)
+                written = design.read_bytes()
+                if done.returncode == 0:
+                    self.assertNotIn(b"\0", written)
+                    self.assertTrue(written.endswith(b"</vessel>\n"))
+                else:
+                    self.assertEqual(written, b"<vessel/>")
+                reasons.add(done.stderr.decode().partition("boat.xml: ")[2])
+        # Both ends were met: a save that was refused, and one that was whole.
+        self.assertIn("the design can't be written: Cannot allocate memory\n", reasons)
+        self.assertIn("", reasons)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "file/FileVessel.h"
+#include "model/ShapePolyline.h"
+#include "support/Fakes.h"
+
+namespace hullwright {
+namespace {
+
+/// A design file for whose block memory ends once.
+class ShortOfMemory : public CFileVessel {
+public:
+  using CFileVessel::CFileVessel;
+  int until = -1;  ///< resizes that still succeed; below 0 all do
+
+protected:
+  void* Reallocate(void* block, std::size_t size) override
+  {
+    if (until-- != 0) return CFileVessel::Reallocate(block, size);
+    std::free(block);
+    return nullptr;
+  }
+};
+
+class LostBlock : public testing::Test {
+protected:
+  LostBlock()
+  {
+    auto line = std::make_unique<CShapePolyline>();
+    for (int i = 0; i < 3000; ++i) line->AddVertex(i, i, i);
+    groups.push_back(std::make_unique<CShapes>(ViewSide::Top));
+    groups.back()->shapes.push_back(std::move(line));
+  }
+
+  test::FakeMessages messages;
+  ShortOfMemory file{messages};
+  OwnedArray<CShapes> groups;
+};
+
+TEST_F(LostBlock, IsKnownWhereverMemoryEnded)
+{
+  int resizes = 0;
+  for (;; ++resizes) {
+    file.until = resizes;
+    file.Compose(groups);
+    if (file.until >= 0) break;  // that many resizes were not asked for
+    EXPECT_TRUE(file.LostBlock()) << resizes;
+  }
+  EXPECT_GT(resizes, 3);
+  EXPECT_FALSE(file.LostBlock());
+}
+
+TEST_F(LostBlock, IsForgottenByTheNextDocument)
+{
+  file.until = 1;
+  file.Compose(groups);
+  EXPECT_TRUE(file.LostBlock());
+  file.Compose(groups);
+  EXPECT_FALSE(file.LostBlock());
+  EXPECT_TRUE(file.Output().ends_with("</vessel>\n"));
+  EXPECT_EQ(file.Output().find('\0'), std::string_view::npos);
+}
+
+}  // namespace
+}  // namespace hullwright
