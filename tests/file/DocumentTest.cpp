@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <tuple>
+
 #include "file/HullwrightDoc.h"
 #include "model/ShapePolyline.h"
 #include "support/Fakes.h"
@@ -50,6 +52,20 @@ TEST_F(Document, OpenTellsRepaintThenTreeForEmptyingAndForFilling)
 {
   ASSERT_TRUE(Open(good));
   EXPECT_THAT(window.codes, ElementsAre(1124, 1054, 1124, 1054));
+}
+
+TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeItIsTold)
+{
+  using Seen = std::tuple<std::int32_t, double, std::size_t, std::size_t>;
+  std::vector<Seen> seen;
+  window.onTold = [&] {
+    seen.emplace_back(design.unitCode, design.offsetPivot->x, design.shapeGroups.size(),
+                      design.anchors->items.size());
+  };
+  ASSERT_TRUE(Open(good));
+  const Seen emptied(9001, 0.0, 0, 0);
+  const Seen filled(9002, 5.0, 1, 1);
+  EXPECT_THAT(seen, ElementsAre(emptied, emptied, filled, filled));
 }
 
 TEST_F(Document, OpenLeavesTheSideInViewAndCarriedFieldsOfOffsets)
@@ -151,6 +167,29 @@ TEST_F(Document, SaveWritesTheDesignAndClearsTheModifiedFlag)
             " <anchors>\n  <anchor>\n   <id>3</id>\n   <name></name>\n"
             "   <attachmentX>0.000</attachmentX>\n   <attachmentY>0.000</attachmentY>\n"
             "  </anchor>\n </anchors>\n</vessel>\n");
+}
+
+TEST_F(Document, TheModifiedFlagIsClearedWhenTheFileIsWritten)
+{
+  std::vector<std::string> files;
+  window.onTold = [&] { files.push_back(folder.Read("out.xml")); };
+  document.OnSaveDocument(folder.File("out.xml"));
+  ASSERT_EQ(files.size(), 1U);
+  EXPECT_TRUE(files[0].ends_with("</vessel>\n")) << files[0];
+}
+
+TEST_F(Document, AnEmptySlotEndsTheAnchorsOfASaveWithTheirOwnCursor)
+{
+  for (const std::uint32_t id : {7U, 8U}) {
+    design.anchors->items.push_back(std::make_unique<CAnchor>());
+    design.anchors->items.back()->id = id;
+    design.anchors->items.push_back(nullptr);
+  }
+  document.OnSaveDocument(folder.File("out.xml"));
+  const std::string text = folder.Read("out.xml");
+  EXPECT_THAT(text, testing::HasSubstr("<id>7</id>"));
+  EXPECT_THAT(text, testing::Not(testing::HasSubstr("<id>8</id>")));
+  EXPECT_EQ(design.anchors->cursor, 2U);
 }
 
 TEST_F(Document, SavingToAPathThatCannotBeWrittenCountsAsSaved)

@@ -132,6 +132,62 @@ TEST_F(VesselWrite, ANullGroupEndsTheGroups)
   EXPECT_EQ(text.find("view=\"02\""), std::string::npos);
 }
 
+TEST_F(VesselWrite, ANullShapeEndsItsGroupWithTheGroupsCursor)
+{
+  AddLine(1).AddVertex(1.0, 0.0, 0.0);
+  groups[0]->shapes.push_back(nullptr);
+  groups[0]->shapes.push_back(std::make_unique<CShapePolyline>());
+  AddLine(2).AddVertex(2.0, 0.0, 0.0);
+  const std::string text = Save();
+  EXPECT_NE(text.find(" <shapes view=\"01\" >\n  <polyline>\n   <vertex x=\"1.000\" y=\"0.000\" "
+                      "z=\"0.000\" />\n  </polyline>\n </shapes>\n <shapes view=\"02\" >\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("x=\"2.000\""), std::string::npos);
+  EXPECT_EQ(groups[0]->cursor, 2U);
+}
+
+TEST_F(VesselWrite, ANullVertexEndsItsPolylineWithThePolylinesCursor)
+{
+  CShapePolyline& line = AddLine(1);
+  line.AddVertex(1.0, 0.0, 0.0);
+  line.vertices.push_back(nullptr);
+  line.AddVertex(2.0, 0.0, 0.0);
+  groups[0]->shapes.push_back(std::make_unique<CShapePolyline>());
+  EXPECT_NE(Save().find("  <polyline>\n   <vertex x=\"1.000\" y=\"0.000\" z=\"0.000\" />\n"
+                        "  </polyline>\n  <polyline>\n  </polyline>\n </shapes>\n"),
+            std::string::npos);
+  EXPECT_EQ(line.cursor, 2U);
+}
+
+TEST_F(VesselWrite, ANullAnchorEndsTheAnchorsWithTheListsCursor)
+{
+  file.anchors->items.push_back(file.anchors->NewAnchor());
+  file.anchors->items.push_back(nullptr);
+  file.anchors->items.push_back(file.anchors->NewAnchor());
+  const std::string text = Save();
+  EXPECT_NE(text.find("<id>1</id>"), std::string::npos);
+  EXPECT_EQ(text.find("<id>2</id>"), std::string::npos);
+  EXPECT_EQ(file.anchors->cursor, 2U);
+}
+
+TEST_F(VesselWrite, WholeWalksLeaveTheirCursorsBehindTheEnd)
+{
+  AddLine(1).AddVertex(1.0, 0.0, 0.0);
+  file.anchors->items.push_back(file.anchors->NewAnchor());
+  Save();
+  EXPECT_EQ(groups[0]->cursor, 2U);
+  EXPECT_EQ(groups[0]->shapes[0]->cursor, 2U);
+  EXPECT_EQ(file.anchors->cursor, 2U);
+}
+
+TEST_F(VesselWrite, APolylineThatWasResetIsNotSaved)
+{
+  CShapePolyline& line = AddLine(1);
+  line.Reset();
+  line.AddVertex(1.0, 0.0, 0.0);
+  EXPECT_NE(Save().find(" <shapes view=\"01\" >\n </shapes>\n"), std::string::npos);
+}
+
 TEST_F(VesselWrite, ANullOffsetIsLeftOut)
 {
   file.txd.reset();

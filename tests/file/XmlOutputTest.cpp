@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <limits>
+
 #include "file/FileSax.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
@@ -13,11 +15,20 @@ namespace {
 class StingyFile : public CFileSax {
 public:
   using CFileSax::CFileSax;
-  int failures = 0;  ///< how many resizes from now on fail
+  int failures = 0;                 ///< how many resizes from now on fail
+  std::vector<std::size_t> wanted;  ///< the size of each resize
+
+  bool CanHave(std::size_t size)
+  {
+    void* const block = CFileSax::Reallocate(nullptr, size);
+    std::free(block);
+    return block != nullptr;
+  }
 
 protected:
   void* Reallocate(void* block, std::size_t size) override
   {
+    wanted.push_back(size);
     if (failures == 0) return CFileSax::Reallocate(block, size);
     --failures;
     std::free(block);
@@ -138,6 +149,57 @@ TEST_F(XmlOutput, WithoutMemoryNothingIsWrittenAndTheIndentationStays)
   EXPECT_EQ(file.Output(), "<c>\n");
 }
 
+TEST_F(XmlOutput, WithoutMemoryForTheMarginTheIndentationStays)
+{
+  file.indent = 2;
+  file.failures = 3;
+  file.OpenElement(u"a");
+  EXPECT_EQ(file.indent, 2);
+  file.OpenElement(u"a", {{u"b", u"1"}});
+  EXPECT_EQ(file.indent, 2);
+  file.CloseElement(u"a");
+  EXPECT_EQ(file.indent, 2);
+  EXPECT_EQ(file.outLength, 0U);
+  EXPECT_EQ(file.failures, 0);
+}
+
+TEST_F(XmlOutput, WithoutMemoryForItsBlanksTheIndentationStays)
+{
+  const auto failsAtDepth = [this](auto write) {
+    file.ResetOutput();
+    file.WriteDeclaration();
+    const std::uint32_t before = file.outLength;
+    constexpr std::int32_t deeperThanTheBlock = 0x9000;
+    file.indent = deeperThanTheBlock;
+    file.failures = 1;
+    write();
+    EXPECT_EQ(file.failures, 0);
+    EXPECT_EQ(file.outLength, before);
+    EXPECT_EQ(file.indent, deeperThanTheBlock);
+  };
+  failsAtDepth([this] { file.OpenElement(u"a"); });
+  failsAtDepth([this] { file.OpenElement(u"a", {{u"b", u"1"}}); });
+  failsAtDepth([this] { file.CloseElement(u"a"); });
+}
+
+TEST_F(XmlOutput, ASumPastItsLimitAsksForTheLargestSizeAndFails)
+{
+  constexpr std::uint32_t largestSum = 0xFFFF7FFF;
+  constexpr std::uint32_t margin = 0x200;
+  file.failures = 2;  // four gigabytes are not needed to see what is asked for
+  file.outLength = largestSum - margin;
+  file.OpenElement(u"a");
+  file.outLength = largestSum - margin + 1;
+  file.OpenElement(u"a");
+  EXPECT_THAT(file.wanted,
+              testing::ElementsAre(0xFFFFFFFFU, std::numeric_limits<std::size_t>::max()));
+  EXPECT_EQ(file.indent, 0);
+  EXPECT_EQ(file.outLength, largestSum - margin + 1);
+  EXPECT_FALSE(file.CanHave(file.wanted.back()));
+  EXPECT_EQ(file.outCapacity, 0U);
+  EXPECT_EQ(file.Output(), "");
+}
+
 TEST_F(XmlOutput, ABlockThatWasLostGoesOnAtItsOffset)
 {
   file.OpenElement(u"vessel");
@@ -182,6 +244,20 @@ TEST_F(XmlOutput, FlushOfNothingOrToNowhereFails)
   EXPECT_EQ(folder.Read("out.xml"), "(no file)");
   file.OpenElement(u"a");
   EXPECT_EQ(file.Flush(u""), -1);
+}
+
+TEST_F(XmlOutput, FlushOfABlockWithoutLengthOrCapacityLeavesTheFileAndSaysNothing)
+{
+  folder.Write("out.xml", "before");
+  file.OpenElement(u"a");
+  const std::uint32_t length = file.outLength;
+  file.outLength = 0;
+  EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);
+  file.outLength = length;
+  file.outCapacity = 0;
+  EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);
+  EXPECT_EQ(folder.Read("out.xml"), "before");
+  EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(XmlOutput, AFileThatWontOpenFailsWithoutAMessage)

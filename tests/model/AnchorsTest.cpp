@@ -66,6 +66,18 @@ TEST(Anchors, CloneCopiesEveryField)
   EXPECT_EQ(copy->state, -1);
 }
 
+TEST(Anchors, ANullEntryEndsTheClonesWithTheCursorOfTheSource)
+{
+  CAnchors source = WithIds({3, 4});
+  source.items.insert(source.items.begin() + 1, nullptr);
+  CAnchors target = WithIds({9});
+  target.AppendClones(source);
+  ASSERT_EQ(target.items.size(), 2U);
+  EXPECT_EQ(target.items[1]->id, 3U);
+  EXPECT_EQ(source.cursor, 2U);
+  EXPECT_EQ(target.cursor, 0U);
+}
+
 TEST(Anchors, ClearEmptiesTheList)
 {
   CAnchors anchors = WithIds({1, 2});

@@ -57,6 +57,18 @@ TEST(Layer, ABoxThatTouchesZeroIsComputedAgainEachTime)
   EXPECT_TRUE(grows(1.0, -2.0, 3.0, 0.0));
 }
 
+TEST(Layer, ANullShapeEndsTheBoxWithTheCursorOfTheShapes)
+{
+  CLayer layer;
+  AddLine(layer, 1.0, 2.0, 3.0, 4.0);
+  layer.shapes->shapes.push_back(nullptr);
+  AddLine(layer, 50.0, 50.0, 60.0, 60.0);
+  layer.UpdateExtents();
+  EXPECT_EQ(layer.maxX, 3.0);
+  EXPECT_EQ(layer.maxY, 4.0);
+  EXPECT_EQ(layer.shapes->cursor, 2U);
+}
+
 TEST(Layer, WithoutShapesTheBoxIsInsideOut)
 {
   CLayer layer;

@@ -85,6 +85,20 @@ TEST(Polyline, AppendVerticesStopsAtANullEntry)
   EXPECT_EQ(line.vertices.size(), 1U);
 }
 
+TEST(Polyline, AppendVerticesWalksWithTheSourcesCursor)
+{
+  CShapePolyline source;
+  source.AddVertex(1.0, 0.0, 0.0);
+  source.AddVertex(2.0, 0.0, 0.0);
+  CShapePolyline line;
+  line.AppendVertices(&source);
+  EXPECT_EQ(source.cursor, 3U);
+  source.vertices.insert(source.vertices.begin() + 1, nullptr);
+  line.AppendVertices(&source);
+  EXPECT_EQ(source.cursor, 2U);
+  EXPECT_EQ(line.cursor, 0U);
+}
+
 TEST(Polyline, AppendingAPolylineToItselfDoublesItOnce)
 {
   CShapePolyline line;

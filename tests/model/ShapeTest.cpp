@@ -90,6 +90,22 @@ TEST(Shape, CopyBaseToCopiesStyleAndAttributesWhereThereAreAny)
   EXPECT_EQ(target.attributes->items.at(0)->name, u"LAYER");
 }
 
+TEST(Shape, CopyBaseToReplacesAStyleByACopyOfAllItsFields)
+{
+  CShapePolyline source;
+  source.style = std::make_unique<ShapeStyle>(ShapeStyle{1, 2, 3, 4.5F, 5, 6});
+  CShapePolyline target;
+  target.style = std::make_unique<ShapeStyle>();
+  source.CopyBaseTo(&target);
+  EXPECT_NE(target.style, source.style);
+  EXPECT_EQ(target.style->lineColour, 1U);
+  EXPECT_EQ(target.style->fillColour, 2U);
+  EXPECT_EQ(target.style->styleCode, 3);
+  EXPECT_EQ(target.style->lineWidth, 4.5F);
+  EXPECT_EQ(target.style->styleFlagA, 5);
+  EXPECT_EQ(target.style->styleFlagB, 6);
+}
+
 TEST(Shape, CopyBaseToReplacesAttributesAlsoByNone)
 {
   CShapePolyline source;

@@ -66,6 +66,24 @@ TEST(Units, AVertexIsConvertedInAllThreeCoordinates)
   EXPECT_EQ(vertex.tagA, 4);
 }
 
+TEST(Units, BetweenTwoUnitsEveryBitGoesThroughTheMetre)
+{
+  constexpr double usFoot = 0.3048006096012192;
+  constexpr double clarkesLink = 0.201166195164;
+  constexpr double x = -35.0;
+  constexpr double y = 34.937;
+  constexpr double z = -34.979;
+  CShapeVertex vertex(x, y, z);
+  ASSERT_TRUE(vertex.ConvertUnits(9003, 9039));
+  EXPECT_TRUE(vertex == CShapeVertex(x * usFoot / clarkesLink, y * usFoot / clarkesLink,
+                                     z * usFoot / clarkesLink));
+  // One factor for both steps would differ in the last bits, as would multiplying by a reciprocal.
+  const double both = usFoot / clarkesLink;
+  EXPECT_FALSE(vertex == CShapeVertex(x * both, y * both, z * both));
+  const double back = 1.0 / clarkesLink;
+  EXPECT_FALSE(vertex == CShapeVertex(x * usFoot * back, y * usFoot * back, z * usFoot * back));
+}
+
 TEST(Units, TheOriginAndEqualCodesAreNotConverted)
 {
   CShapeVertex origin(0.0, -0.0, 0.0);

@@ -74,7 +74,8 @@ TEST(Vertex, OrderLooksAtXThenYAndNeverAtZ)
 TEST(Vertex, EqualityIsExact)
 {
   EXPECT_FALSE(CShapeVertex(0.1 + 0.2, 0.0, 0.0) == CShapeVertex(0.3, 0.0, 0.0));
-  EXPECT_FALSE(CShapeVertex(0.0, 0.0, 1.0) == CShapeVertex(0.0, 0.0, 2.0));
+  EXPECT_FALSE(CShapeVertex(0.0, 0.1 + 0.2, 0.0) == CShapeVertex(0.0, 0.3, 0.0));
+  EXPECT_FALSE(CShapeVertex(0.0, 0.0, 0.1 + 0.2) == CShapeVertex(0.0, 0.0, 0.3));
 }
 
 double Distance(double px, double py)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -80,13 +81,19 @@ public:
   {
     codes.push_back(code);
     values.push_back(value);
+    if (onTold) onTold();
   }
-  void SetModifiedFlag(bool modified) override { flags.push_back(modified); }
+  void SetModifiedFlag(bool modified) override
+  {
+    flags.push_back(modified);
+    if (onTold) onTold();
+  }
 
   bool hasWindow = true;
   std::vector<int> codes;
   std::vector<std::intptr_t> values;
   std::vector<bool> flags;
+  std::function<void()> onTold;  ///< looks at what stands when it is told something
 };
 
 }  // namespace hullwright::test
