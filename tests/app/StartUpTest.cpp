@@ -18,12 +18,21 @@ public:
   }
   bool CreateDocumentTemplate() override { return Step("template"); }
   bool ProcessCommandLine() override { return Step("command line"); }
-  void ShowMainWindow() override { steps.emplace_back("show"); }
-  void AcceptDroppedFiles() override { steps.emplace_back("drops"); }
+  void ShowMainWindow() override
+  {
+    steps.emplace_back("show");
+    if (onStep) onStep();
+  }
+  void AcceptDroppedFiles() override
+  {
+    steps.emplace_back("drops");
+    if (onStep) onStep();
+  }
   void ReleaseLibraries() override { steps.emplace_back("release"); }
 
   std::vector<std::string> steps;
   std::string failAt;
+  std::function<void()> onStep;  ///< when the window is shown, and when it takes drops
 
 private:
   bool Step(const char* name)
@@ -48,6 +57,25 @@ TEST_F(StartUp, RunsInOrderAndEndsOnTheTopSide)
   EXPECT_EQ(frame.viewButtonImage, 32804);
   EXPECT_EQ(Frames(), 1);
   EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(StartUp, TheSideIsChosenBetweenTheWindowsShowAndItsFirstDrops)
+{
+  app.activeView = ViewSide::Rear;
+  std::vector<std::int32_t> sides;
+  framework.onStep = [&] { sides.push_back(app.activeView); };
+  ASSERT_TRUE(app.InitInstance(framework));
+  EXPECT_THAT(sides, ElementsAre(ViewSide::Rear, ViewSide::Top));
+}
+
+TEST_F(StartUp, TheToolbarIsInvalidatedWithItsNewImageAndBeforeTheRepaint)
+{
+  std::vector<int> frames;
+  widgets.onInvalidate = [&] { frames.push_back(Frames()); };
+  app.SetViewSide(ViewSide::Left);
+  EXPECT_THAT(frames, ElementsAre(0));
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_THAT(widgets.calls, ElementsAre("image 32803", "invalidate"));
 }
 
 TEST_F(StartUp, LibrariesThatFailAreTold)

@@ -120,6 +120,54 @@ TEST_F(TraceLog, AHeaderThatIsNoNumberCountsFromZero)
   EXPECT_EQ(General(), "1\n1|0.000|1|new\r\n");
 }
 
+TEST_F(TraceLog, ALineOfBlanksIsKeptAsARecord)
+{
+  MakeFolder();
+  folder.Write("Sondaris/Tracing/Trace_General.txt", "5\n   \n\t\r\n\n");
+  log.Trace(0.0, 1, u"General", u"new");
+  EXPECT_EQ(General(), "6\n   \n\t\r\n6|0.000|1|new\r\n");
+}
+
+TEST_F(TraceLog, AHeaderBeyondTheLargestNumberCountsOnFromTheLargest)
+{
+  MakeFolder();
+  for (const char* header : {"2147483648\n", "4294967295\n", "99999999999\n"}) {
+    folder.Write("Sondaris/Tracing/Trace_General.txt", header);
+    log.Trace(0.0, 1, u"General", u"new");
+    EXPECT_EQ(General(), "-2147483648\n-2147483648|0.000|1|new\r\n") << header;
+  }
+}
+
+TEST_F(TraceLog, TheFolderIsAskedForAtEachRecord)
+{
+  int asked = 0;
+  const CTraceLog counting([&] {
+    ++asked;
+    return folder.File("");
+  });
+  EXPECT_EQ(asked, 0);
+  counting.Trace(0.0, 1, u"General", u"lost");
+  MakeFolder();
+  counting.Trace(0.0, 1, u"General", u"first");
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(General(), "1\n1|0.000|1|first\r\n");
+}
+
+TEST_F(TraceLog, APathOf259CharactersIsWrittenAndOneOf260IsNot)
+{
+  MakeFolder();
+  const std::u16string category(259 - log.PathOf(u"").size(), u'c');
+  const auto files = [this] {
+    return std::ranges::distance(
+        std::filesystem::directory_iterator(folder.Path() / "Sondaris" / "Tracing"),
+        std::filesystem::directory_iterator());
+  };
+  log.Trace(0.0, 1, category + u"c", u"x");
+  EXPECT_EQ(files(), 0);
+  log.Trace(0.0, 1, category, u"x");
+  EXPECT_EQ(files(), 1);
+}
+
 TEST_F(TraceLog, APathBeyondItsBufferIsNotWritten)
 {
   MakeFolder();

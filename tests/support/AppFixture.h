@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,11 @@ public:
   {
     calls.push_back("image " + std::to_string(command));
   }
-  void InvalidateToolBar() override { calls.emplace_back("invalidate"); }
+  void InvalidateToolBar() override
+  {
+    calls.emplace_back("invalidate");
+    if (onInvalidate) onInvalidate();
+  }
   void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
   void ShowNote(std::u16string_view text) override { notes.emplace_back(text); }
   void StartProgress(std::string_view text) override
@@ -35,6 +40,7 @@ public:
   void EndProgress() override { calls.emplace_back("end"); }
   std::vector<std::string> calls;
   std::vector<std::u16string> notes;
+  std::function<void()> onInvalidate;
 };
 
 /// Answers every question for a file with one path, or not at all.

@@ -25,10 +25,12 @@ public:
              std::u16string_view text) const override
   {
     EXPECT_EQ(elapsedSeconds * 1000.0, std::round(elapsedSeconds * 1000.0));
+    seconds.push_back(elapsedSeconds);
     records.push_back(std::to_string(level) + " " + Utf8FromWide(category) + ": " +
                       Utf8FromWide(text));
   }
   mutable std::vector<std::string> records;
+  mutable std::vector<double> seconds;
 };
 
 using Pairs = std::initializer_list<std::pair<int, std::string>>;
