@@ -16,8 +16,8 @@ constexpr const char* help =
     "Reads designs as the program does and tells what opening and saving them would lose\n"
     "or change. '-' stands for standard input.\n"
     "\n"
-    "Exit status: 0 when nothing is lost, 1 when something is, 2 when a design can't be\n"
-    "read.\n";
+    "Exit status: 0 when nothing is lost, 1 when something is, 2 when a file can't be\n"
+    "read or is no design, and for wrong usage.\n";
 
 constexpr int exitUnreadable = 2;
 
@@ -31,7 +31,12 @@ int Check(const std::string& word)
     Fail(problem);
     return exitUnreadable;
   }
-  if (check.Read(WideFromUtf8(input.Path())) != 0) {
+  if (!input.IsDesign()) {
+    Fail(input.Name() + ": " + notADesign);
+    return exitUnreadable;
+  }
+  const std::u16string path = WideFromUtf8(input.Path());
+  if (check.Read(path) != 0) {
     Fail(input.Name() + ":" + check.Problem());
     return exitUnreadable;
   }
@@ -48,8 +53,8 @@ int Run(int argc, char** argv)
   const Arguments arguments =
       ReadArguments(argc, argv, "", longOptions, [](int, const char*) { return std::string(); });
   if (arguments.wrong) return exitUsage;
-  if (arguments.words.empty()) return UsageError("check takes a design or several");
-  if (ReadsInputTwice(arguments.words)) return exitUsage;
+  if (arguments.words.empty()) return UsageError(argv[0], "check takes a design or several");
+  if (ReadsInputTwice(argv[0], arguments.words)) return exitUsage;
   int status = 0;
   for (const std::string& word : arguments.words) status = std::max(status, Check(word));
   return status;

@@ -3,7 +3,18 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "base/Text.h"
+
 namespace hullwright {
+namespace {
+
+void PointToHelp(const char* verb)
+{
+  const std::string words = verb == nullptr ? std::string() : std::string(verb) + " ";
+  std::fprintf(stderr, "Try 'hullwright-cli %s--help'.\n", words.c_str());
+}
+
+}  // namespace
 
 int Fail(const std::string& problem)
 {
@@ -11,16 +22,22 @@ int Fail(const std::string& problem)
   return exitFailed;
 }
 
-int UsageError(const std::string& problem)
+void Remark(const std::string& file, std::u16string_view text)
 {
-  std::fprintf(stderr, "hullwright-cli: %s\nTry 'hullwright-cli --help'.\n", problem.c_str());
+  std::fprintf(stderr, "hullwright-cli: %s: %s\n", file.c_str(), Utf8FromWide(text).c_str());
+}
+
+int UsageError(const char* verb, const std::string& problem)
+{
+  std::fprintf(stderr, "hullwright-cli: %s\n", problem.c_str());
+  PointToHelp(verb);
   return exitUsage;
 }
 
-bool ReadsInputTwice(const std::vector<std::string>& inputs)
+bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs)
 {
   if (std::ranges::count(inputs, "-") < 2) return false;
-  UsageError("standard input can be read only once");
+  UsageError(verb, "standard input can be read only once");
   return true;
 }
 
@@ -31,12 +48,12 @@ Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<co
   int letter = 0;
   while ((letter = getopt_long(argc, argv, letters, options.data(), nullptr)) != -1) {
     if (letter == '?') {
-      std::fputs("Try 'hullwright-cli --help'.\n", stderr);
+      PointToHelp(argv[0]);
       arguments.wrong = true;
       return arguments;
     }
     if (const std::string problem = take(letter, optarg); !problem.empty()) {
-      UsageError(problem);
+      UsageError(argv[0], problem);
       arguments.wrong = true;
       return arguments;
     }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace hullwright {
@@ -28,11 +29,15 @@ extern const Verb renderVerb;
 /// Tells what went wrong on standard error; the exit status for a failure.
 int Fail(const std::string& problem);
 
-/// Tells what is wrong with the arguments on standard error; the exit status for wrong usage.
-int UsageError(const std::string& problem);
+/// Tells something about a file on standard error that is no failure.
+void Remark(const std::string& file, std::u16string_view text);
+
+/// Tells what is wrong with the arguments of a verb on standard error, and where its help is; the
+/// exit status for wrong usage. Null for no verb.
+int UsageError(const char* verb, const std::string& problem);
 
 /// Whether standard input is asked for more than once; that is told.
-bool ReadsInputTwice(const std::vector<std::string>& inputs);
+bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs);
 
 /// The arguments of a verb that are no options.
 struct Arguments {
@@ -40,8 +45,9 @@ struct Arguments {
   bool wrong = false;  ///< an option is unknown, lacks its value, or was refused; that was told
 };
 
-/// Reads the options of a verb. `take` gets each with its letter and its value, which is null for
-/// one without, and tells what is wrong with it; empty for nothing.
+/// Reads the options of a verb, whose name is the first argument. `take` gets each with its letter
+/// and its value, which is null for one without, and tells what is wrong with it; empty for
+/// nothing.
 Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<const option> options,
                         const std::function<std::string(int letter, const char* value)>& take);
 

@@ -4,7 +4,9 @@
 #include <cinttypes>
 #include <cstdio>
 
+#include "app/ImportText.h"
 #include "base/Text.h"
+#include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
 
 namespace hullwright {
@@ -52,13 +54,14 @@ void PrintCounts(const char* title, const std::map<std::string, std::size_t>& co
 
 }  // namespace
 
-bool SummariseDrawing(std::u16string_view path, DrawingSummary& summary)
+std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summary)
 {
   SilentWindow window;
   const KeptTrace log;
   CLayer layer;
   CFileDxf reader(&window, log);
-  if (reader.Import(path, &layer) != 0) return false;
+  if (reader.Import(path, &layer) != 0) return std::u16string(unreadableDrawing);
+  if (!reader.tally.IsDrawing()) return DescribeImport(reader.tally);
   for (const auto& [name, known] : reader.layers) {
     summary.layers[name] = {known->colour, known->off, known->frozen};
   }
@@ -71,7 +74,7 @@ bool SummariseDrawing(std::u16string_view path, DrawingSummary& summary)
   CountEntities(reader, summary.entities);
   std::ranges::copy_if(summary.entities, std::inserter(summary.ignored, summary.ignored.end()),
                        [](const auto& entry) { return !CFileDxf::IsImported(entry.first); });
-  return true;
+  return {};
 }
 
 void PrintDrawing(const DrawingSummary& summary, const std::string& name)

@@ -26,8 +26,8 @@ struct DrawingSummary {
   double maxY = 0.0;
 };
 
-/// Reads a drawing; false when that fails.
-bool SummariseDrawing(std::u16string_view path, DrawingSummary& summary);
+/// Reads a drawing. Empty on success, else what is wrong with the file.
+std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summary);
 
 /// Prints a summary as text for people.
 void PrintDrawing(const DrawingSummary& summary, const std::string& name);

@@ -81,10 +81,9 @@ std::filesystem::path TemporaryFolder()
 
 }  // namespace
 
-InputFile::InputFile(const std::string& name)
-    : isStream_(name == standardStream), name_(name), path_(name)
+InputFile::InputFile(const std::string& name) : name_(name), path_(name)
 {
-  if (isStream_) {
+  if (name == standardStream) {
     name_ = "standard input";
     CopyFrom(STDIN_FILENO);
   } else if (!IsUtf8(name)) {
@@ -118,18 +117,20 @@ std::string InputFile::Problem() const
   return file.Number() < 0 ? name_ + ": " + Reason(errno) : std::string();
 }
 
-bool InputFile::IsDrawing() const
+bool InputFile::IsDesign() const
 {
-  if (!isStream_) {
-    const std::string extension = std::filesystem::path(name_).extension().string();
-    return strcasecmp(extension.c_str(), ".dxf") == 0;
-  }
+  // The bytes of the byte-order marks, and of white space in one byte or two.
+  static constexpr std::string_view leading("\xEF\xBB\xBF\xFE\xFF \t\r\n\0", 10);
   const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
-  std::array<char, 512> start{};
-  const ssize_t length = read(file.Number(), start.data(), start.size());
-  const std::string_view text(start.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
-  const std::size_t first = text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
-  return first == std::string_view::npos || text[first] != '<';
+  std::array<char, 4096> block{};
+  for (;;) {
+    const ssize_t length = read(file.Number(), block.data(), block.size());
+    if (length < 0 && errno == EINTR) continue;
+    if (length <= 0) return false;
+    const std::string_view text(block.data(), static_cast<std::size_t>(length));
+    const std::size_t first = text.find_first_not_of(leading);
+    if (first != std::string_view::npos) return text[first] == '<';
+  }
 }
 
 OutputFile::OutputFile(const std::string& name) : name_(name)

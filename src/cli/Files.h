@@ -5,6 +5,9 @@
 
 namespace hullwright {
 
+/// What a file is told not to be that should be a design.
+inline constexpr const char* notADesign = "not a design: it does not begin as XML does";
+
 /// A file to read; "-" stands for what comes on standard input. That, and a file whose name is not
 /// UTF-8, is read from a copy.
 class InputFile {
@@ -24,14 +27,12 @@ public:
   /// Why the file can't be read; empty when it can.
   std::string Problem() const;
 
-  /// Whether it is an AutoCAD drawing: by its name, or, on standard input, when it doesn't begin as
-  /// XML does.
-  bool IsDrawing() const;
+  /// Whether it begins as XML does, and so is a design; anything else is taken for a drawing.
+  bool IsDesign() const;
 
 private:
   void CopyFrom(int file);
 
-  bool isStream_;
   std::string name_;
   std::string path_;
   std::string copy_;     ///< path of the copy, where there is one

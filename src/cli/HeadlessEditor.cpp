@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/CommonDataFolder.h"
+#include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/DesignCheck.h"
 
@@ -96,9 +97,22 @@ bool HeadlessEditor::Open(std::u16string_view path)
 
 bool HeadlessEditor::Import(std::u16string_view path)
 {
-  if (app_.ImportDrawing(path, tally_) == 0) return true;
-  problem_ = u"the drawing can't be read, or it is empty";
+  if (app_.ImportDrawing(path, tally_) != 0) {
+    problem_ = unreadableDrawing;
+  } else if (!tally_.IsDrawing()) {
+    problem_ = DescribeImport(tally_);
+  } else {
+    return true;
+  }
   return false;
+}
+
+void HeadlessEditor::RemoveSymbols()
+{
+  app_.offsetGps.reset();
+  app_.offsetTransducer.reset();
+  app_.offsetPivot.reset();
+  app_.anchors->Clear();
 }
 
 bool HeadlessEditor::Save(std::u16string_view path)
@@ -125,7 +139,7 @@ WorldBox HeadlessEditor::SideBox() const
   };
   for (const CShapeVertex* offset :
        {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
-    widen(offset->x, offset->y);
+    if (offset != nullptr) widen(offset->x, offset->y);
   }
   ForEachEntry(app_.anchors->items,
                [&](const CAnchor& anchor) { widen(anchor.attachmentX, anchor.attachmentY); });

@@ -52,6 +52,9 @@ public:
   void EndProgress() override {}
 };
 
+inline constexpr std::u16string_view unreadableDrawing =
+    u"the drawing can't be read, or it is empty";
+
 /// The editor without a window: application, document and view as the window has them, on a drawing
 /// surface of the caller's, or without a picture.
 class HeadlessEditor {
@@ -69,14 +72,21 @@ public:
   bool Open(std::u16string_view path);
   const std::u16string& Problem() const { return problem_; }
 
-  /// Adds a drawing to the side in view; false with `Problem` telling why.
+  /// Adds a drawing to the side in view; false with `Problem` telling why, also for a file that is
+  /// no drawing.
   bool Import(std::u16string_view path);
+
+  /// What the last import took in and passed over.
+  const ImportTally& Tally() const { return tally_; }
+
+  /// Takes offsets and anchors out of the picture and out of the design.
+  void RemoveSymbols();
 
   /// Writes the design; false with `Problem` telling why.
   bool Save(std::u16string_view path);
 
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
-  /// and anchors, or with at least a stretch of the world.
+  /// and anchors if they are not removed, or with at least a stretch of the world.
   void ShowSide(std::int32_t side, int width, int height);
   void ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch);
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/Files.h"
@@ -21,13 +22,18 @@ constexpr const char* help =
     "       hullwright-cli import DRAWING.dxf... --json\n"
     "Imports AutoCAD drawings into one side of a vessel design and saves it: the\n"
     "outlines, that is, for a design file holds polylines only. '-' stands for standard\n"
-    "input and output.\n"
+    "input and output. What the import ignores or leaves out is told on standard error.\n"
     "\n"
     "  -i, --into=DESIGN.xml  the design to add to; without it a new one\n"
     "  -s, --side=SIDE        top, bottom, right, left, front or rear (top)\n"
     "  -o, --output=OUT.xml   the design to write\n"
     "  -j, --json             print what each import gives, one JSON document a line:\n"
-    "                         result, log, extents and shapes; -o may be left out then\n";
+    "                         result, log, extents and shapes; -o may be left out then\n"
+    "\n"
+    "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"
+    "drawn, or no polylines; 1, with nothing written, when a file can't be read or is no\n"
+    "drawing in text form; 2 wrong usage. With --json alone 0 in the place of 1: the\n"
+    "result tells.\n";
 
 struct Options {
   std::vector<std::string> drawings;
@@ -74,8 +80,24 @@ private:
   TerminalProgress progress_;
 };
 
+/// Tells what an import passed over, and where it gave nothing. `keepsAll` is false where only
+/// polylines are kept.
+void TellTally(const std::string& name, const ImportTally& tally, bool keepsAll)
+{
+  if (const std::u16string passedOver = DescribePassedOver(tally); !passedOver.empty()) {
+    Remark(name, passedOver);
+  }
+  if (tally.Shapes() == 0) {
+    Remark(name, u"warning: " + DescribeShapes(tally));
+  } else if (tally.polylines == 0 && !keepsAll) {
+    Remark(name,
+           u"warning: no polylines, and a design keeps nothing else: " + DescribeShapes(tally));
+  }
+}
+
 int PrintJson(const Options& options)
 {
+  const bool tells = options.output.empty();  // else the import into the design does
   JsonWriter json(stdout);
   for (const std::string& drawing : options.drawings) {
     const InputFile input(drawing);
@@ -86,6 +108,12 @@ int PrintJson(const Options& options)
     CFileDxf reader(&window, log);
     const int result = reader.Import(path, &layer);
     WriteImportJson(json, result, log, path, layer);
+    if (!tells || result != 0) continue;
+    if (reader.tally.IsDrawing()) {
+      TellTally(input.Name(), reader.tally, true);
+    } else {
+      Remark(input.Name(), DescribeImport(reader.tally));
+    }
   }
   return 0;
 }
@@ -97,6 +125,7 @@ int ImportAll(const Options& options)
   if (!options.into.empty()) {
     const InputFile design(options.into);
     if (std::string problem = design.Problem(); !problem.empty()) return Fail(problem);
+    if (!design.IsDesign()) return Fail(design.Name() + ": " + notADesign);
     if (!editor.Open(WideFromUtf8(design.Path()))) {
       return Fail(design.Name() + ": " + Utf8FromWide(editor.Problem()));
     }
@@ -105,9 +134,11 @@ int ImportAll(const Options& options)
   for (const std::string& drawing : options.drawings) {
     const InputFile input(drawing);
     if (std::string problem = input.Problem(); !problem.empty()) return Fail(problem);
+    if (input.IsDesign()) return Fail(input.Name() + ": a design, not a drawing");
     if (!editor.Import(WideFromUtf8(input.Path()))) {
       return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
     }
+    TellTally(input.Name(), editor.Tally(), false);
   }
   OutputFile output(options.output);
   if (output.Path().empty()) return Fail(output.Problem());
@@ -155,18 +186,18 @@ int Run(int argc, char** argv)
       });
   if (arguments.wrong) return exitUsage;
   options.drawings = arguments.words;
-  if (options.drawings.empty()) return UsageError("import takes a drawing or several");
+  if (options.drawings.empty()) return UsageError(argv[0], "import takes a drawing or several");
   std::vector<std::string> inputs = options.drawings;
   inputs.push_back(options.into);
-  if (ReadsInputTwice(inputs)) return exitUsage;
+  if (ReadsInputTwice(argv[0], inputs)) return exitUsage;
   if (options.output.empty() && !options.json) {
-    return UsageError("import needs -o OUT.xml, or --json");
+    return UsageError(argv[0], "import needs -o OUT.xml, or --json");
   }
   const bool readsInput = std::ranges::find(inputs, "-") != inputs.end();
   if (options.json && !options.output.empty() && (options.output == "-" || readsInput)) {
-    return UsageError("--json and -o can't share standard input or output");
+    return UsageError(argv[0], "--json and -o can't share standard input or output");
   }
-  if (WouldOverwrite(options)) return UsageError("the design would overwrite the drawing");
+  if (WouldOverwrite(options)) return UsageError(argv[0], "the design would overwrite the drawing");
   const int printed = options.json ? PrintJson(options) : 0;
   return options.output.empty() ? printed : ImportAll(options);
 }

@@ -13,16 +13,19 @@ constexpr const char* help =
     "Usage: hullwright-cli info DESIGN.xml|DRAWING.dxf... [--json]\n"
     "Tells what designs hold: the unit, the offsets, the anchors, and of each side the\n"
     "polylines, their vertices and extents; of drawings the layers, the blocks, the\n"
-    "entities, and what of them the import ignores. '-' stands for standard input.\n"
+    "entities, and what of them the import ignores. '-' stands for standard input. A\n"
+    "file that begins as XML does is a design, any other a drawing, whatever its name.\n"
     "\n"
-    "  -j, --json  as JSON, one document a line\n";
+    "  -j, --json  as JSON, one document a line\n"
+    "\n"
+    "Exit status: 0 success, 1 when a file is neither a design nor a drawing or can't be\n"
+    "read, 2 wrong usage.\n";
 
 int InfoOfDrawing(const InputFile& input, bool asJson)
 {
   DrawingSummary summary;
-  if (!SummariseDrawing(WideFromUtf8(input.Path()), summary)) {
-    return Fail(input.Name() + ": the drawing can't be read, or it is empty");
-  }
+  const std::u16string problem = SummariseDrawing(WideFromUtf8(input.Path()), summary);
+  if (!problem.empty()) return Fail(input.Name() + ": " + Utf8FromWide(problem));
   if (!asJson) {
     PrintDrawing(summary, input.Name());
     return 0;
@@ -58,15 +61,16 @@ int Run(int argc, char** argv)
         return {};
       });
   if (arguments.wrong) return exitUsage;
-  if (arguments.words.empty()) return UsageError("info takes a design or a drawing, or several");
-  if (ReadsInputTwice(arguments.words)) return exitUsage;
+  if (arguments.words.empty())
+    return UsageError(argv[0], "info takes a design or a drawing, or several");
+  if (ReadsInputTwice(argv[0], arguments.words)) return exitUsage;
   int status = 0;
   for (const std::string& word : arguments.words) {
     const InputFile input(word);
     const std::string problem = input.Problem();
     if (!problem.empty()) {
       status = Fail(problem);
-    } else if (input.IsDrawing() ? InfoOfDrawing(input, asJson) : InfoOfDesign(input, asJson)) {
+    } else if (input.IsDesign() ? InfoOfDesign(input, asJson) : InfoOfDrawing(input, asJson)) {
       status = exitFailed;
     }
   }

@@ -24,7 +24,7 @@ constexpr const char* help =
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage; check has more to tell.\n";
 
 const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
 
@@ -39,7 +39,7 @@ bool IsHelp(std::string_view argument) { return argument == "-h" || argument == 
 
 int RunVerb(int argc, char** argv)
 {
-  if (argc < 2) return UsageError("nothing to do");
+  if (argc < 2) return UsageError(nullptr, "nothing to do");
   const std::string_view word = argv[1];
   if (IsHelp(word)) {
     std::fputs(help, stdout);
@@ -51,7 +51,7 @@ int RunVerb(int argc, char** argv)
   }
   const auto* const verb =
       std::ranges::find_if(verbs, [&](const Verb* known) { return known->name == word; });
-  if (verb == verbs.end()) return UsageError("unknown verb '" + std::string(word) + "'");
+  if (verb == verbs.end()) return UsageError(nullptr, "unknown verb '" + std::string(word) + "'");
   if (std::any_of(argv + 2, argv + argc, IsHelp)) {
     std::fputs((*verb)->help, stdout);
     return 0;

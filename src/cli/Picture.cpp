@@ -11,7 +11,9 @@
 #include <deque>
 #include <filesystem>
 
+#include "app/ImportText.h"
 #include "base/Text.h"
+#include "cli/CommandLine.h"
 #include "cli/Files.h"
 #include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
@@ -59,12 +61,13 @@ public:
   {
     if (std::string problem = input.Problem(); !problem.empty()) return problem;
     const std::u16string path = WideFromUtf8(input.Path());
-    bool opened = true;
-    if (!input.IsDrawing()) opened = editor_.Open(path);
-    for (const ViewSideEntry& side : request_.sides) {
-      editor_.App().activeView = side.code;
-      if (opened && input.IsDrawing()) opened = editor_.Import(path);
+    const bool isDesign = input.IsDesign();
+    bool opened = isDesign ? editor_.Open(path) : ImportIntoSides(path);
+    if (opened && !isDesign && editor_.Tally().Shapes() == 0) {
+      Remark(input.Name(), u"warning: " + DescribeShapes(editor_.Tally()));
     }
+    // A drawing comes into a new design, whose offsets it doesn't have.
+    if (!isDesign || !request_.symbols) editor_.RemoveSymbols();
     if (request_.grid) {
       GridSettings grid = editor_.App().LoadGridSettings();
       grid.show = *request_.grid ? 1 : 0;
@@ -87,6 +90,14 @@ public:
   }
 
 private:
+  bool ImportIntoSides(const std::u16string& path)
+  {
+    return std::ranges::all_of(request_.sides, [&](const ViewSideEntry& side) {
+      editor_.App().activeView = side.code;
+      return editor_.Import(path);
+    });
+  }
+
   const PictureRequest& request_;
   PaintSurface surface_;
   PaintBackEnd drawing_;
@@ -128,27 +139,63 @@ QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
   return bytes;
 }
 
-/// Paints all sides with their names, two beside each other or three.
+/// Where the sides stand on a sheet, two beside each other or three.
+struct SheetLayout {
+  static constexpr int gap = 24;
+  static constexpr int caption = 40;
+
+  explicit SheetLayout(const PictureRequest& request)
+      : count(static_cast<int>(request.sides.size())),
+        columns(count > 4 ? 3 : std::min(count, 2)),
+        cell(request.width + gap, request.height + caption + gap)
+  {
+  }
+
+  QSize Size() const
+  {
+    const int rows = (count + columns - 1) / columns;
+    return {columns * cell.width() + gap, rows * cell.height() + gap};
+  }
+
+  QPoint Corner(int i) const
+  {
+    return {gap + i % columns * cell.width(), gap + i / columns * cell.height()};
+  }
+
+  int count;
+  int columns;
+  QSize cell;
+};
+
+std::string PixelsOf(QSize size)
+{
+  return std::to_string(size.width()) + "x" + std::to_string(size.height()) + " pixels";
+}
+
+/// Why there is no sheet of this size; empty where there is.
+std::string SheetProblem(const PictureRequest& request)
+{
+  constexpr int largest = 32767;  // of the toolkit's pictures
+  const QSize size = SheetLayout(request).Size();
+  if (size.width() <= largest && size.height() <= largest) return {};
+  return "the sheet would have " + PixelsOf(size) + ", more than " + std::to_string(largest) +
+         " one way; a smaller --size makes a smaller sheet";
+}
+
+/// Paints all sides with their names.
 QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
 {
-  constexpr int gap = 24;
-  constexpr int caption = 40;
-  const auto count = static_cast<int>(request.sides.size());
-  const int columns = count > 4 ? 3 : std::min(count, 2);
-  const int rows = (count + columns - 1) / columns;
-  const QSize cell(request.width + gap, request.height + caption + gap);
-  const QSize size(columns * cell.width() + gap, rows * cell.height() + gap);
-  constexpr int largest = 32767;  // of the toolkit's pictures
-  if (size.width() > largest || size.height() > largest) return {};
+  const SheetLayout layout(request);
+  const QSize size = layout.Size();
   return MakeFile(EndingOf(request.output), size, [&](QPaintDevice& device) {
     QPainter sheet(&device);
     sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
     QFont font(QStringLiteral("Liberation Sans"));
-    font.setPixelSize(caption / 2);
+    font.setPixelSize(SheetLayout::caption / 2);
     sheet.setFont(font);
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < layout.count; ++i) {
       const ViewSideEntry& side = request.sides[static_cast<std::size_t>(i)];
-      const QPoint corner(gap + i % columns * cell.width(), gap + i / columns * cell.height());
+      const QPoint corner = layout.Corner(i);
       const QRect area(corner, QSize(request.width, request.height));
       QPicture picture;
       painter.Paint(side, picture);
@@ -157,7 +204,8 @@ QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
       sheet.drawPicture(corner, picture);
       sheet.restore();
       sheet.setPen(Qt::black);
-      sheet.drawText(QRect(area.bottomLeft(), QSize(area.width(), caption)), Qt::AlignCenter,
+      sheet.drawText(QRect(area.bottomLeft(), QSize(area.width(), SheetLayout::caption)),
+                     Qt::AlignCenter,
                      QString::fromUtf8(side.name.data(), static_cast<qsizetype>(side.name.size())));
     }
   });
@@ -208,8 +256,13 @@ bool IsPictureName(const std::string& path)
 std::string WritePictures(const PictureRequest& request)
 {
   StartToolkit();
+  if (request.sheet) {
+    if (std::string problem = SheetProblem(request); !problem.empty()) return problem;
+  }
   SidePainter painter(request);
-  if (!painter.HasRoom()) return "no memory for a picture of this size";
+  if (!painter.HasRoom()) {
+    return "no memory for a picture of " + PixelsOf({request.width, request.height});
+  }
   const InputFile input(request.input);
   if (std::string problem = painter.Open(input); !problem.empty()) return problem;
   PictureFiles files;

@@ -20,6 +20,7 @@ struct PictureRequest {
   int height = 1000;
   std::optional<WorldBox> stretch;  ///< what to show at least; without it everything
   std::optional<bool> grid;         ///< whether the grid is drawn; without it as by default
+  bool symbols = true;              ///< whether a design's offsets and anchors are drawn
 };
 
 /// Draws sides of a design, or of a drawing imported into them, to picture files. Empty on success,

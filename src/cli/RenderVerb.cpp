@@ -12,21 +12,33 @@ namespace {
 constexpr const char* help =
     "Usage: hullwright-cli render DESIGN.xml|DRAWING.dxf [OPTION...] -o OUT.png|OUT.svg|OUT.pdf\n"
     "Draws sides of a vessel design, or of a drawing, as pictures. '-' stands for\n"
-    "standard input and, as a PNG, for standard output.\n"
+    "standard input and, as a PNG, for standard output. A file that begins as XML does is\n"
+    "a design, any other a drawing, whatever its name.\n"
     "\n"
     "  -s, --side=SIDE     top, bottom, right, left, front, rear, or all (top)\n"
-    "  -z, --size=WxH      size of a side's picture in pixels (1600x1000)\n"
+    "  -z, --size=WxH      size of a side's picture in pixels (1600x1000), each from 1 to\n"
+    "                      20000; a sheet may have up to 32767 each way\n"
     "  -f, --fit           show everything of the side (the default)\n"
     "  -v, --view=L,B,R,T  show at least this stretch of the world instead\n"
     "  -g, --grid=on|off   draw the grid or not (on)\n"
+    "  -y, --symbols=on|off\n"
+    "                      draw the offsets and anchors of a design or not (on); a drawing\n"
+    "                      has none\n"
     "  -c, --sheet         all sides on one sheet, with their names\n"
     "  -o, --output=OUT    the file to write; its ending tells the format. With\n"
-    "                      --side=all one file a side, its name set before the ending\n";
+    "                      --side=all one file a side, its name set before the ending\n"
+    "\n"
+    "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"
+    "drawn; 1 when a file can't be read or written or is neither a design nor a drawing\n"
+    "in text form; 2 wrong usage.\n";
 
-/// Reads a size from 1 to 20000, the whole text; 0 for anything else.
+/// The longest side of a picture.
+constexpr int largest = 20000;
+
+/// Reads a length of 1 pixel or more, the whole text; 0 for anything else and for one that is too
+/// long.
 int ParseLength(std::string_view text)
 {
-  constexpr int largest = 20000;
   const bool digits = text.find_first_not_of("0123456789") == std::string_view::npos;
   const int length = digits ? ParseInt32(text, 10) : 0;
   return length <= largest ? length : 0;
@@ -71,6 +83,12 @@ std::vector<ViewSideEntry> SidesOf(std::string_view name)
   return sides;
 }
 
+/// Empty for "on" and "off".
+std::string SwitchProblem(const std::string& what, const std::string& value)
+{
+  return value == "on" || value == "off" ? "" : what + " on or off, not '" + value + "'";
+}
+
 std::string TakeOption(int letter, const std::string& value, PictureRequest& request)
 {
   switch (letter) {
@@ -78,11 +96,13 @@ std::string TakeOption(int letter, const std::string& value, PictureRequest& req
       request.sides = SidesOf(value);
       request.oneEach = value == "all";
       return request.sides.empty() ? "unknown side '" + value + "'" : "";
-    case 'z': return ParseSize(value, request) ? "" : "not a size: '" + value + "'";
+    case 'z':
+      return ParseSize(value, request) ? ""
+                                       : "not a size of two lengths from 1 to " +
+                                             std::to_string(largest) + " pixels: '" + value + "'";
     case 'v': return ParseStretch(value, request) ? "" : "not a stretch: '" + value + "'";
-    case 'g':
-      request.grid = value == "on";
-      return value == "on" || value == "off" ? "" : "the grid is on or off, not '" + value + "'";
+    case 'g': request.grid = value == "on"; return SwitchProblem("the grid is", value);
+    case 'y': request.symbols = value == "on"; return SwitchProblem("symbols are", value);
     case 'f': request.stretch.reset(); return {};
     case 'c': request.sheet = true; return {};
     default: request.output = value; return {};
@@ -97,6 +117,7 @@ int Run(int argc, char** argv)
       {"fit", no_argument, nullptr, 'f'},
       {"view", required_argument, nullptr, 'v'},
       {"grid", required_argument, nullptr, 'g'},
+      {"symbols", required_argument, nullptr, 'y'},
       {"sheet", no_argument, nullptr, 'c'},
       {"output", required_argument, nullptr, 'o'},
       {nullptr, 0, nullptr, 0},
@@ -104,17 +125,17 @@ int Run(int argc, char** argv)
   PictureRequest request;
   request.sides = SidesOf("top");
   const Arguments arguments =
-      ReadArguments(argc, argv, "s:z:fv:g:co:", longOptions, [&](int letter, const char* value) {
+      ReadArguments(argc, argv, "s:z:fv:g:y:co:", longOptions, [&](int letter, const char* value) {
         return TakeOption(letter, value == nullptr ? "" : value, request);
       });
   if (arguments.wrong) return exitUsage;
-  if (arguments.words.size() != 1) return UsageError("render takes one design or drawing");
+  if (arguments.words.size() != 1) return UsageError(argv[0], "render takes one design or drawing");
   if (!IsPictureName(request.output))
-    return UsageError("render needs -o with a .png, .svg or .pdf");
+    return UsageError(argv[0], "render needs -o with a .png, .svg or .pdf");
   if (request.sheet) {
     request.sides = SidesOf("all");
   } else if (request.oneEach && request.output == "-") {
-    return UsageError("standard output takes one picture only");
+    return UsageError(argv[0], "standard output takes one picture only");
   }
   request.input = arguments.words[0];
   const std::string problem = WritePictures(request);

@@ -10,13 +10,14 @@ import unittest
 
 PROGRAM = sys.argv.pop(1)
 SAMPLES = pathlib.Path(sys.argv.pop(1))
+VERBS = ("check", "import", "info", "render")
 SIDES = ("top", "bottom", "right", "left", "front", "rear")
 
 
 def run(*arguments, data=None, **environment):
     """Runs the program to its end, with bytes on its standard input and more variables of the environment."""
-    return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, check=False, input=data or b"",
-                          env={**os.environ, **environment})
+    return subprocess.run([PROGRAM, *(a if isinstance(a, bytes) else str(a) for a in arguments)], capture_output=True,
+                          check=False, input=data or b"", env={**os.environ, **environment})
 
 
 def size_of(png):
@@ -44,10 +45,11 @@ class CliTest(unittest.TestCase):
         """Writes a drawing of some entities."""
         return self.write(name, "\n".join(("0", "SECTION", "2", "ENTITIES", *lines, "0", "ENDSEC", "")))
 
-    def succeed(self, *arguments, data=None, **environment):
-        """Runs without a word on standard error; what stands on standard output."""
+    def succeed(self, *arguments, data=None, remarks=(), **environment):
+        """Runs with no more than these remarks on standard error; what stands on standard output."""
         done = run(*arguments, data=data, **environment)
-        self.assertEqual((done.returncode, done.stderr.decode()), (0, ""))
+        told = done.stderr.decode("utf-8", "surrogateescape").replace(f"{self.folder}/", "")
+        self.assertEqual((done.returncode, told), (0, "".join(f"hullwright-cli: {line}\n" for line in remarks)))
         return done.stdout
 
     def fail_with(self, status, words, *arguments, data=None):
@@ -56,7 +58,7 @@ class CliTest(unittest.TestCase):
         done = run(*arguments, data=data)
         self.assertEqual((done.returncode, done.stdout), (status, b""), done.stderr)
         for word in ("hullwright-cli", *words):
-            self.assertIn(word, done.stderr.decode())
+            self.assertIn(word, done.stderr.decode("utf-8", "surrogateescape"))
         self.assertEqual(sorted(self.folder.iterdir()), before)
 
     def read_only_folder(self):
@@ -71,7 +73,8 @@ class CliTest(unittest.TestCase):
         return folder
 
     def assert_usage_errors(self, *cases):
-        """Each of these is wrong usage."""
+        """Each of these is wrong usage, and points to the verb's help."""
         for arguments in cases:
+            verbs = [word for word in arguments[:1] if word in VERBS]
             with self.subTest(arguments):
-                self.fail_with(2, (), *arguments)
+                self.fail_with(2, (f"Try '{' '.join(['hullwright-cli', *verbs, '--help'])}'.",), *arguments)

@@ -5,18 +5,19 @@ import json
 import os
 import pty
 import re
+import shutil
 import subprocess
 import unittest
 
-from cli import PROGRAM, SAMPLES, CliTest
+from cli import PROGRAM, SAMPLES, CliTest, run
 
 
 class ImportTest(CliTest):
     """Drawings into designs."""
 
-    def import_json(self, path):
+    def import_json(self, path, remarks=()):
         """The document that an import prints."""
-        text = self.succeed("import", path, "--json").decode()
+        text = self.succeed("import", path, "--json", remarks=remarks).decode()
         self.assertTrue(text.endswith("}\n"))
         return json.loads(text)
 
@@ -45,7 +46,7 @@ class ImportTest(CliTest):
         self.assertEqual(result["extents"][0], -1.0)
 
     def test_prints_the_log_without_the_path(self):
-        result = self.import_json(self.drawing("a.dxf"))
+        result = self.import_json(self.drawing("a.dxf"), ["a.dxf: warning: nothing that can be drawn"])
         self.assertEqual(result["log"][0], [32, "Processing", "[DXF] Successfully opened file: [%ls]."])
         self.assertEqual(result["log"][-1][2], "Successfully loaded the selected AutoCAD DXF file: "
                          "[ %ls]. Please see the 'Processing' tab for details.")
@@ -64,7 +65,9 @@ class ImportTest(CliTest):
         path = self.folder / "many.dxf"
         path.write_text("\n".join([*blocks, "0", "ENDSEC", "0", "SECTION", "2", "ENTITIES", "0", "INSERT",
                                    "2", "b39", "0", "LINE", "0", "ENDSEC", ""]))
-        result = self.import_json(path)
+        done = run("import", path, "--json")
+        self.assertRegex(done.stderr.decode(), r"^hullwright-cli: .*many\.dxf: left out: \d+ inserts for want of memory\n$")
+        result = json.loads(done.stdout)
         self.assertEqual(len(result["shapes"]), 1)
         self.assertEqual([entry[0] for entry in result["log"] if entry[1] == "General"], [1, 32])
 
@@ -79,7 +82,8 @@ class ImportTest(CliTest):
     def test_several_drawings_make_a_new_design(self):
         out = self.folder / "new boat.xml"
         plan = SAMPLES / "dxf" / "workboat-r2018.dxf"
-        self.succeed("import", plan, self.drawing("a.dxf", "0", "LINE", "11", "5"), "--side", "left", "-o", out)
+        self.succeed("import", plan, self.drawing("a.dxf", "0", "LINE", "11", "5"), "--side", "left", "-o", out,
+                     remarks=[f"{plan}: left out: 2 on hidden layers"])
         self.assertEqual(self.polylines(out), {"08": 57})
 
     def test_adds_to_a_design(self):
@@ -151,6 +155,81 @@ class ImportTest(CliTest):
         text = self.succeed("import", self.drawing("a.dxf", "0", "LINE"), "--json", "-o", out).decode()
         self.assertEqual(json.loads(text)["result"], 0)
         self.assertEqual(self.polylines(out), {"01": 1})
+
+    # -- what is passed over, and what is no drawing
+
+    def test_what_an_import_ignores_is_told(self):
+        path = self.drawing("a.dxf", "0", "LINE", *["0", "HATCH", "2", "SOLID", "70", "0"] * 3, "0", "RAY", "70", "0",
+                            *["0", "SPLINE", "10", "1"] * 985)
+        ignored = ["a.dxf: ignored: 985 SPLINE, 3 HATCH, 1 RAY"]
+        self.succeed("import", path, "-o", self.folder / "out.xml", remarks=ignored)
+        self.assertEqual(self.polylines(self.folder / "out.xml"), {"01": 1})
+        self.assertEqual(len(self.import_json(path, ignored)["shapes"]), 1)
+
+    def test_what_an_import_leaves_out_is_told(self):
+        tables = ["0", "SECTION", "2", "TABLES", "0", "LAYER", "2", "off", "62", "-7", "0", "ENDSEC"]
+        entities = ["0", "SECTION", "2", "ENTITIES", "0", "LINE", "8", "off", "0", "TEXT", "8", "off", "0", "LINE", "67",
+                    "1", "0", "INSERT", "2", "none", "0", "LINE", "0", "ENDSEC", ""]
+        path = self.write("a.dxf", "\n".join(tables + entities))
+        self.succeed("import", path, "-o", self.folder / "out.xml", remarks=[
+            "a.dxf: left out: 2 on hidden layers, 1 in paper space, 1 insert of an unknown block"])
+
+    def test_remarks_of_each_drawing_come_once(self):
+        first = self.drawing("a.dxf", "0", "LINE", "0", "SPLINE")
+        second = self.drawing("b", "0", "LINE", "0", "HATCH")
+        self.succeed("import", first, second, "--json", "-o", self.folder / "out.xml",
+                     remarks=["a.dxf: ignored: 1 SPLINE", "b: ignored: 1 HATCH"])
+
+    def test_a_drawing_without_shapes_is_a_warning(self):
+        out = self.folder / "out.xml"
+        self.succeed("import", self.drawing("a.dxf", "0", "SPLINE"), self.drawing("b.dxf"), "-o", out, remarks=[
+            "a.dxf: ignored: 1 SPLINE", "a.dxf: warning: nothing that can be drawn",
+            "b.dxf: warning: nothing that can be drawn"])
+        self.assertEqual(self.polylines(out), {"01": 0})
+
+    def test_a_drawing_without_polylines_is_a_warning_where_a_design_is_written(self):
+        path = self.drawing("a.dxf", "0", "TEXT", "1", "Bow", "0", "POINT", "0", "SOLID", "0", "TEXT", "1", "Stern")
+        self.succeed("import", path, "-o", self.folder / "out.xml", remarks=[
+            "a.dxf: warning: no polylines, and a design keeps nothing else: 1 point, 1 area, 2 texts"])
+        self.assertEqual(len(self.import_json(path)["shapes"]), 4)
+
+    def test_a_binary_drawing_is_named_as_such(self):
+        path = self.folder / "b.dxf"
+        path.write_bytes(b"AutoCAD Binary DXF\r\n\x1a\0\0\0SECTION\0")
+        self.fail_with(1, ("b.dxf: a binary drawing",), "import", path, "-o", self.folder / "out.xml")
+        self.fail_with(1, ("standard input: a binary drawing",), "import", "-", "-o", self.folder / "out.xml",
+                       data=path.read_bytes())
+        told = ["b.dxf: a binary drawing; only drawings in text form can be imported"]
+        self.assertEqual(self.import_json(path, told)["result"], 0)
+
+    def test_what_is_no_drawing_makes_no_design(self):
+        out = self.write("out.xml", "precious")
+        good = self.drawing("good.dxf", "0", "LINE")
+        for name, text in (("letter.dxf", "Dear Sirs,\nan INTERSECTION of hull and deck\n"), ("nul", "\0" * 5000),
+                           ("one line.dxf", "0")):
+            path = self.write(name, text)
+            self.fail_with(1, (f"{name}: not a drawing: it has no SECTION",), "import", good, path, "-o", out)
+            self.assertEqual(self.import_json(path, [f"{name}: not a drawing: it has no SECTION"])["shapes"], [])
+        self.fail_with(1, ("workboat.xml: a design, not a drawing",), "import", SAMPLES / "workboat.xml", "-o", out)
+        self.fail_with(1, ("good.dxf: not a design",), "import", good, "-i", good, "-o", out)
+        self.assertEqual(out.read_text(), "precious")
+
+    def test_names_do_not_tell_what_a_file_is(self):
+        out = self.folder / "out.xml"
+        design = self.write("design.dxf", (SAMPLES / "catamaran.xml").read_text())
+        for name in ("plan.xml", "plan", "-plan", "plan.DXF.bak", "a\nb"):
+            plan = self.drawing(name, "0", "LINE")
+            self.succeed("import", "-i", design, "-o", out, "--", plan)
+            self.assertEqual(sum(self.polylines(out).values()),
+                             sum(self.polylines(SAMPLES / "catamaran.xml").values()) + 1)
+
+    def test_a_name_that_is_not_unicode(self):
+        inside = os.fsencode(self.folder) + b"/pl\xe4n.dxf"
+        outside = os.fsencode(self.folder) + b"/b\xf6t.xml"
+        shutil.copyfile(self.drawing("a.dxf", "0", "LINE", "0", "SPLINE"), inside)
+        self.succeed("import", inside, "-o", outside, remarks=["pl\udce4n.dxf: ignored: 1 SPLINE"])
+        with open(outside, encoding="ascii") as design:
+            self.assertIn("<polyline>", design.read())
 
     def test_the_drawing_is_not_overwritten(self):
         path = self.drawing("a.dxf", "0", "LINE")

@@ -53,6 +53,22 @@ class InfoTest(CliTest):
         self.assertEqual((info["kind"], info["shapes"], info["layers"]),
                          ("drawing", 1, {"": {"colour": 256, "off": False, "frozen": False}}))
 
+    def test_names_do_not_tell_what_a_file_is(self):
+        design = (HEAD + GROUP + TAIL).encode()
+        plain = HEAD[HEAD.index("\n") + 1:] + GROUP + TAIL
+        for name, data in (("plan.dxf", design), ("plan", b"\xef\xbb\xbf" + design), ("-", design),
+                           ("wide.dxf", plain.encode("utf-16")), ("blanks", b" \n" * 5000 + plain.encode())):
+            (self.folder / name).write_bytes(data)
+            self.assertIn("1 polylines, 1 vertices", self.succeed("info", self.folder / name).decode())
+        for name in ("plan.xml", "plan.dxf.bak", "<vessel>"):
+            self.assertIn("imported: 1 shapes", self.succeed("info", self.drawing(name, "0", "LINE")).decode())
+
+    def test_what_is_neither_a_design_nor_a_drawing(self):
+        for name in ("letter.xml", "letter.dxf", "letter"):
+            self.fail_with(1, (f"{name}: not a drawing: it has no SECTION",), "info", self.write(name, "Dear Sirs\n"))
+        self.fail_with(1, ("empty.xml: the drawing can't be read, or it is empty",), "info", self.write("empty.xml", ""))
+        self.fail_with(1, ("b.dxf: a binary drawing",), "info", self.write("b.dxf", "AutoCAD Binary DXF\n\x1a"))
+
     def test_several_files_and_standard_input(self):
         out = self.succeed("info", "--json", "-", SAMPLES / "dredger.xml", data=(HEAD + TAIL).encode())
         self.assertEqual([json.loads(line)["file"] for line in out.splitlines()],
@@ -153,6 +169,13 @@ class CheckTest(CliTest):
             'unit codes change (1): id="0x9"',
             "there is no <txd>; a save writes one of its own",
             "there is no <piv>; a save writes one of its own"])
+
+    def test_names_do_not_tell_what_a_file_is(self):
+        self.assertEqual(self.succeed("check", self.write("boat.dxf", HEAD + GROUP + TAIL)), b"")
+
+    def test_what_is_no_design(self):
+        for path in (self.drawing("a.xml", "0", "LINE"), self.write("letter.xml", "Dear Sirs"), self.write("empty.xml", "")):
+            self.fail_with(2, (f"{path.name}: not a design: it does not begin as XML does",), "check", path)
 
     def test_designs_that_cannot_be_read(self):
         self.fail_with(2, ("bad.xml:2:", "hullwright-cli"), "check", self.write("bad.xml", "<vessel>\n</wessel>"))

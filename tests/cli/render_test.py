@@ -9,7 +9,7 @@ import unittest
 import xml.dom.minidom
 import zlib
 
-from cli import PROGRAM, SAMPLES, SIDES, CliTest, run, size_of
+from cli import PROGRAM, SAMPLES, SIDES, VERBS, CliTest, run, size_of
 
 BOAT = SAMPLES / "workboat.xml"
 PLAN = SAMPLES / "dxf" / "workboat-r2010.dxf"
@@ -30,8 +30,64 @@ class RenderTest(CliTest):
 
     def test_a_drawing_is_imported_into_the_side(self):
         self.succeed("render", PLAN, "-s", "left", "-z", "300x200", "-o", self.folder / "plan.png")
-        self.succeed("render", self.drawing("none.dxf"), "-s", "left", "-z", "300x200", "-o", self.folder / "none.png")
+        self.succeed("render", self.drawing("none.dxf"), "-s", "left", "-z", "300x200", "-o", self.folder / "none.png",
+                     remarks=["none.dxf: warning: nothing that can be drawn"])
         self.assertNotEqual((self.folder / "plan.png").read_bytes(), (self.folder / "none.png").read_bytes())
+
+    def picture(self, *arguments):
+        """The bytes of a small picture."""
+        return self.succeed("render", *arguments, "-z", "200x120", "-o", "-")
+
+    def test_a_drawing_has_no_offsets_and_anchors(self):
+        plan = self.drawing("a.dxf", "0", "LINE", "10", "3", "20", "1", "11", "4", "21", "2")
+        top = self.picture(plan)
+        self.assertEqual(top, self.picture(plan, "-s", "left"))
+        self.assertEqual(top, self.picture(plan, "--symbols=on"))
+        self.succeed("render", plan, "-o", self.folder / "a.svg")
+        self.assertNotIn("<text", (self.folder / "a.svg").read_text())
+
+    def test_the_symbols_of_a_design_are_drawn_or_not(self):
+        text = BOAT.read_text()
+        group = re.search(r' <shapes view="01" >.*?</shapes>\n', text, re.S)
+        self.assertIsNotNone(group)
+        text = re.sub(r' <shapes view="08" >.*?</shapes>\n', "", text, flags=re.S)
+        design = self.write("a.xml", text.replace(group[0], group[0] + group[0].replace('"01"', '"08"')))
+        on, off = self.picture(design), self.picture(design, "--symbols", "off")
+        self.assertEqual(on, self.picture(design, "-y", "on"))
+        self.assertNotEqual(on, off)
+        self.assertEqual(off, self.picture(design, "-s", "left"))  # a side that never has symbols
+        for choice, labels in (("on", ["1", "2", "GPS", "PIV", "TXD"]), ("off", [])):
+            self.succeed("render", design, "--symbols", choice, "-o", self.folder / "a.svg")
+            shown = {node.firstChild.data.strip() for node in
+                     xml.dom.minidom.parse(str(self.folder / "a.svg")).getElementsByTagName("text")}
+            self.assertEqual(sorted(shown & {"1", "2", "GPS", "PIV", "TXD"}), labels)
+        self.succeed("render", design, "--symbols=off", "--sheet", "-z", "64x40", "-o", self.folder / "a.pdf")
+
+    def test_names_do_not_tell_what_a_file_is(self):
+        plan = self.drawing("plan.xml", "0", "LINE", "11", "5", "21", "5")
+        expected = self.picture(plan)
+        for name in ("plan.dxf", "plan", "plan.png", "-o", "a\nb"):
+            self.assertEqual(self.picture(shutil.copyfile(plan, self.folder / name)), expected)
+        expected = self.picture(BOAT)
+        for name in ("boat.dxf", "boat", "<boat>.DXF"):
+            self.assertEqual(self.picture(shutil.copyfile(BOAT, self.folder / name)), expected)
+
+    def test_what_is_neither_a_design_nor_a_drawing(self):
+        out = self.folder / "out.png"
+        for name in ("letter.xml", "letter.dxf", "letter"):
+            self.fail_with(1, (f"{name}: not a drawing: it has no SECTION",), "render", self.write(name, "Dear Sirs\n"), "-o", out)
+        self.fail_with(1, ("b: a binary drawing",), "render", self.write("b", "AutoCAD Binary DXF\n\x1a"), "-o", out)
+
+    def test_the_limits_of_a_size_are_told(self):
+        out = self.folder / "out.png"
+        for size in ("20001x5", "5x99999", "0x5", "5x99999999999", "-1x5", "5x5x5", "12", "ax5", "5x"):
+            self.fail_with(2, ("two lengths from 1 to 20000 pixels", f"'{size}'", "Try 'hullwright-cli render --help'"),
+                           "render", BOAT, "--size", size, "-o", out)
+        self.fail_with(1, ("the sheet would have 33096x232 pixels, more than 32767 one way", "--size"),
+                       "render", BOAT, "--sheet", "--size", "11000x40", "-o", out)
+        self.fail_with(1, ("the sheet would have 288x40152 pixels",), "render", BOAT, "-c", "-z", "64x20000", "-o", out)
+        self.succeed("render", BOAT, "-s", "rear", "-z", "20000x1", "-o", out)
+        self.assertEqual(size_of(out.read_bytes()), (20000, 1))
 
     def test_svg_has_vectors_and_texts(self):
         out = self.folder / "plan.svg"
@@ -179,7 +235,8 @@ class RenderTest(CliTest):
             ("render", BOAT, "--size", "5x5x5", "-o", out), ("render", BOAT, "--fast", "-o", out),
             ("render", BOAT, "--view", "1,2,3", "-o", out), ("render", BOAT, "--view", "1,2,3,4,5", "-o", out),
             ("render", BOAT, "--view", "5,0,1,4", "-o", out), ("render", BOAT, "--view", "a,0,1,4", "-o", out),
-            ("render", BOAT, "--grid", "maybe", "-o", out), ("render", BOAT, "-s", "all", "-o", "-"), ("render", BOAT, "-o"))
+            ("render", BOAT, "--grid", "maybe", "-o", out), ("render", BOAT, "-s", "all", "-o", "-"), ("render", BOAT, "-o"),
+            ("render", BOAT, "--symbols", "maybe", "-o", out), ("render", BOAT, "--symbols", "-o", out))
 
     def test_help_and_version(self):
         for verb in ("check", "import", "info", "render"):
@@ -187,6 +244,12 @@ class RenderTest(CliTest):
             self.assertIn(f"Usage: hullwright-cli {verb}".encode(), self.succeed(verb, "--help"))
         self.assertRegex(self.succeed("--version").decode(), r"^hullwright-cli \d+\.\d+\.\d+\n$")
         self.assert_usage_errors((), ("draw",), ("--wrong",))
+        page = (SAMPLES.parent / "packaging" / "hullwright-cli.1").read_text().replace("\\-", "-")
+        for verb in VERBS:
+            text = self.succeed(verb, "--help").decode()
+            self.assertIn("Exit status: 0", text)
+            for option in re.findall(r"--[a-z]+", text):
+                self.assertIn(option, page)
         self.assertEqual(run("-h").returncode, 0)
 
 
