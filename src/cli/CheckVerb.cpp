@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/DesignCheck.h"
+#include "cli/DesignFindings.h"
 #include "cli/Files.h"
 #include "cli/HeadlessEditor.h"
 
@@ -14,10 +15,11 @@ namespace {
 constexpr const char* help =
     "Usage: hullwright-cli check DESIGN.xml...\n"
     "Reads designs as the program does and tells what opening and saving them would lose\n"
-    "or change. '-' stands for standard input.\n"
+    "or change, every number that is not finite with its place, and a unit code that has\n"
+    "no factor, so that its lengths count as metres. '-' stands for standard input.\n"
     "\n"
-    "Exit status: 0 when nothing is lost, 1 when something is, 2 when a file can't be\n"
-    "read or is no design, and for wrong usage.\n";
+    "Exit status: 0 when there is nothing to tell, 1 when there is something, 2 when a\n"
+    "file can't be read or is no design, and for wrong usage.\n";
 
 constexpr int exitUnreadable = 2;
 
@@ -36,15 +38,24 @@ int Check(const std::string& word)
     return exitUnreadable;
   }
   const std::u16string path = WideFromUtf8(input.Path());
+  HeadlessEditor editor;
   if (check.Read(path) != 0) {
     Fail(input.Name() + ":" + check.Problem());
     return exitUnreadable;
   }
-  const std::vector<std::string> findings = check.Findings();
-  for (const std::string& finding : findings) {
-    std::printf("%s: %s\n", input.Name().c_str(), finding.c_str());
+  if (!editor.Open(path)) {
+    Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
+    return exitUnreadable;
   }
-  return findings.empty() ? 0 : exitFailed;
+  int status = 0;
+  for (const auto& findings :
+       {check.Findings(), UnitFindings(editor.App()), NumberFindings(editor.App())}) {
+    for (const std::string& finding : findings) {
+      std::printf("%s: %s\n", input.Name().c_str(), finding.c_str());
+      status = exitFailed;
+    }
+  }
+  return status;
 }
 
 int Run(int argc, char** argv)

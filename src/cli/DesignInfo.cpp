@@ -6,7 +6,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "resources/ViewSides.h"
+#include "cli/DesignFindings.h"
 
 namespace hullwright {
 namespace {
@@ -36,11 +36,7 @@ GroupSummary Summarise(const CShapes& group)
 {
   constexpr double largest = std::numeric_limits<double>::max();
   GroupSummary summary;
-  const ViewSideEntry* const side = FindViewSide(group.viewCode);
-  summary.side = side != nullptr ? std::string(side->name)
-                 : group.viewCode == ViewSide::All
-                     ? "all"
-                     : "view " + FormatHex(static_cast<std::uint32_t>(group.viewCode), 2);
+  summary.side = GroupName(group.viewCode);
   WorldBox& box = summary.box;
   box = {largest, largest, -largest, -largest};
   ForEachEntry(group.shapes, [&](const CShape& shape) {

@@ -16,7 +16,7 @@ constexpr const char* help =
     "Usage: hullwright-cli VERB [ARGUMENT...]\n"
     "Works on vessel designs and drawings without a window.\n"
     "\n"
-    "  check    tell what saving a design would lose\n"
+    "  check    tell what saving a design would lose, and wrong numbers and units\n"
     "  import   import drawings into a design\n"
     "  info     tell what designs and drawings hold\n"
     "  render   draw sides of a design or drawing as pictures\n"

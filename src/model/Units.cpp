@@ -64,6 +64,12 @@ double FromMetres(std::int32_t unitCode, double value)
   return unit == nullptr ? value : value / unit->fromMetres;
 }
 
+bool HasUnitFactor(std::int32_t unitCode)
+{
+  constexpr std::int32_t metre = 9001;
+  return unitCode == metre || Find(unitCode) != nullptr;
+}
+
 bool CShapeVertex::ConvertUnits(std::int32_t fromCode, std::int32_t toCode)
 {
   if (x == 0.0 && y == 0.0 && z == 0.0) return false;

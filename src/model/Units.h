@@ -12,4 +12,7 @@ double ToMetres(std::int32_t unitCode, double value);
 /// on the way to metres, so that a value taken there and back is not exactly what it was.
 double FromMetres(std::int32_t unitCode, double value);
 
+/// Whether a unit has a factor, as the metre has; all others are taken for it.
+bool HasUnitFactor(std::int32_t unitCode);
+
 }  // namespace hullwright

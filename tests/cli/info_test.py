@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """hullwright-cli info and check"""
 
+import contextlib
 import json
 import os
+import sqlite3
 import unittest
 
 from cli import SAMPLES, CliTest, run
@@ -170,8 +172,63 @@ class CheckTest(CliTest):
             "there is no <txd>; a save writes one of its own",
             "there is no <piv>; a save writes one of its own"])
 
+    def test_every_number_that_is_not_finite_is_told_with_its_place(self):
+        def group(view, *polylines):
+            return f'<shapes view="{view}" >' + "".join(
+                "<polyline>" + "".join(f'<vertex x="{x}" y="{y}" z="{z}" />' for x, y, z in vertices) + "</polyline>"
+                for vertices in polylines) + "</shapes>\n"
+        good = ("1.000", "2.000", "3.000")
+        tail = TAIL.replace('gps x="1.000"', 'gps x="-1e999"').replace('piv x="0.000" y="0.000"', 'piv x="0.000" y="NaN"')
+        for place in (('<id>4', "Infinity", "1.000"), ('<id>0', "2.000", "-nan"), ('<id>0', "1.000", "2.000")):
+            tail = tail.replace("</anchors>", "<anchor>{}</id><name>a</name><attachmentX>{}</attachmentX>"
+                                "<attachmentY>{}</attachmentY></anchor>\n </anchors>".format(*place))
+        design = HEAD + group("20", [good], [good, ("nan", "2.000", "-inf"), good, ("1e400", "1e308", "1e-400")])
+        design += group("01", [("inf", "inf", "1.000")]) + group("01", [("inf", "1.000", "1.000")])
+        design += group("3F", [good], [], [good, good, ("1.000", "nan", "0x1p5000")]) + group("03", [("nan", "1", "1")])
+        found = self.findings(design + tail)
+        self.assertEqual([line for line in found if "finite" in line], [
+            "rear, polyline 2, vertex 2: x is not finite (nan)", "rear, polyline 2, vertex 2: z is not finite (-inf)",
+            "rear, polyline 2, vertex 4: x is not finite (inf)",
+            "top, polyline 1, vertex 1: x is not finite (inf)", "top, polyline 1, vertex 1: y is not finite (inf)",
+            "top (group 2), polyline 1, vertex 1: x is not finite (inf)",
+            "all, polyline 3, vertex 3: y is not finite (nan)", "all, polyline 3, vertex 3: z is not finite (inf)",
+            "view 03, polyline 1, vertex 1: x is not finite (nan)",
+            "offset gps: x is not finite (-inf)", "offset piv: y is not finite (nan)",
+            "anchor 4: attachmentX is not finite (inf)", "anchor 0: attachmentY is not finite (nan)"])
+
+    def test_a_design_with_a_number_that_is_not_finite_and_nothing_else(self):
+        self.assertEqual(self.findings(HEAD + GROUP.replace("2.000", "inf") + TAIL),
+                         ["top, polyline 1, vertex 1: y is not finite (inf)"])
+
+    def test_units_that_are_not_known(self):
+        for code, remark in ((4711, "is unknown"), (9000, "is unknown"), (9004, "is unknown"), (-9001, "is unknown"),
+                             (9101, "is an angle, not a length"), (9102, "is an angle, not a length"),
+                             (9201, "is a ratio, not a length")):
+            self.assertEqual(self.findings(HEAD.replace("9001", str(code)) + TAIL),
+                             [f"the unit code {code} {remark}; all lengths count as metres"])
+        for code in (9001, 9002, 9003, 9062, 9098):
+            self.succeed("check", self.write("a.xml", HEAD.replace("9001", str(code)) + TAIL))
+
+    def test_units_of_the_database_without_a_factor(self):
+        data = self.folder / "Sondaris" / "Database"
+        data.mkdir(parents=True)
+        design = self.write("a.xml", HEAD.replace("9001", "9030") + TAIL)
+        for rows, remark in (("(9030, 'nautical mile', 'NM', 1)", "(nautical mile) has no factor"),
+                             ("(9001, 'metre', 'm', 1)", "is unknown")):
+            with contextlib.closing(sqlite3.connect(data / "geo.db")) as base:
+                base.executescript("DROP TABLE IF EXISTS tblUnits; CREATE TABLE tblUnits (numId INTEGER, strUnit TEXT, "
+                                   f"strUnitShort TEXT, numDimension INTEGER); INSERT INTO tblUnits VALUES {rows};")
+            done = run("check", design, XDG_DATA_HOME=str(self.folder))
+            self.assertEqual((done.returncode, done.stdout.decode()),
+                             (1, f"{design}: the unit code 9030 {remark}; all lengths count as metres\n"))
+
     def test_names_do_not_tell_what_a_file_is(self):
         self.assertEqual(self.succeed("check", self.write("boat.dxf", HEAD + GROUP + TAIL)), b"")
+        inside = os.fsencode(self.folder) + b"/b\xf6t"
+        with open(inside, "w", encoding="utf-8") as design:
+            design.write(HEAD + GROUP.replace("2.000", "nan") + TAIL)
+        done = run("check", inside)
+        self.assertEqual((done.returncode, done.stdout), (1, inside + b": top, polyline 1, vertex 1: y is not finite (nan)\n"))
 
     def test_what_is_no_design(self):
         for path in (self.drawing("a.xml", "0", "LINE"), self.write("letter.xml", "Dear Sirs"), self.write("empty.xml", "")):

@@ -21,6 +21,7 @@ TEST_P(UnitFactor, MultipliesToMetresAndDividesFromThem)
 {
   EXPECT_EQ(ToMetres(GetParam().code, value), value * GetParam().toMetres);
   EXPECT_EQ(FromMetres(GetParam().code, value), value / GetParam().fromMetres);
+  EXPECT_TRUE(HasUnitFactor(GetParam().code));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -48,6 +49,7 @@ TEST(Units, TheMetreAndCodesWithoutAnEntryLeaveTheValue)
 {
   for (const std::int32_t code : {9001, 8999, 9000, 9099, 9004, 9030, 9096, 0, -1}) {
     EXPECT_EQ(ToMetres(code, value), value) << code;
+    EXPECT_EQ(HasUnitFactor(code), code == 9001) << code;
     EXPECT_EQ(FromMetres(code, value), value) << code;
   }
 }
