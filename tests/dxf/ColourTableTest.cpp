@@ -53,5 +53,14 @@ TEST(ColourTable, TheNearestIsTheFirstOfTheBest)
   EXPECT_EQ(NearestColourIndex(0x818181), 9);    // as near to 808080 as to 828282
 }
 
+TEST(ColourTable, TheNearestWeighsAllChannelsAlike)
+{
+  // With another weight of any channel, or without the squares, other entries are nearest.
+  EXPECT_EQ(NearestColourIndex(0x4751E0), 13);
+  EXPECT_EQ(NearestColourIndex(0xD09DD5), 213);
+  EXPECT_EQ(NearestColourIndex(0x4EE84D), 93);
+  EXPECT_EQ(NearestColourIndex(0xE84D4D), 173);
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -108,6 +108,28 @@ TEST_F(Curves, AClockwiseArcMayOvershootByOneStepBeforeItReturns)
   EXPECT_NEAR(beforeLast.y, -std::sin(0.5 * turn), 1e-9);
 }
 
+TEST_F(Curves, AClockwiseArcWhoseStepsMeetTheStepBehindItsEndHasThatVertex)
+{
+  // The steps of most arcs end a rounding error before or behind that place; these meet it.
+  for (const auto& [start, end] : {std::pair{0.0, 155.0}, {5.0, 100.0}, {20.0, 175.0}}) {
+    CFileDxf reader(&window, log);
+    const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, true);
+    ASSERT_EQ(arc->vertices.size(), 183U) << start;
+    const double step = (start + 360.0 - end) / 180.0 * turn;
+    EXPECT_NEAR(arc->vertices[181]->x, std::cos(end * turn - step), 1e-9);
+    EXPECT_NEAR(arc->vertices[181]->y, std::sin(end * turn - step), 1e-9);
+    EXPECT_NEAR(arc->vertices[182]->x, std::cos(end * turn), 1e-12);
+  }
+}
+
+TEST_F(Curves, AClockwiseArcWhoseStepsEndBehindThatPlaceStopsAtItsEnd)
+{
+  CFileDxf reader(&window, log);
+  const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, 10.0, true);
+  ASSERT_EQ(arc->vertices.size(), 182U);
+  EXPECT_NEAR(arc->vertices[180]->x, arc->vertices[181]->x, 1e-9);
+}
+
 TEST_F(Curves, AnArcAlwaysEnds)
 {
   CFileDxf reader(&window, log);

@@ -63,6 +63,39 @@ TEST_F(Inserts, AnArrayGivesOneCopyAndTheNormalPlaysNoPart)
   EXPECT_EQ(VerticesOf(0)[0][0], 1.0);
 }
 
+TEST_F(Inserts, WithoutAScaleKeepTheSizeAndEachScaleIsForItsOwnAxis)
+{
+  const std::string block =
+      Blocks(Block("B", Lines({{0, "LINE"}, {10, "1"}, {20, "2"}, {30, "3"}})));
+  const auto firstVertex = [&](const std::string& scale) {
+    Import(block + Entities(Insert("B", scale)));
+    return VerticesOf(0).at(0);
+  };
+  EXPECT_THAT(firstVertex({}), ElementsAre(1.0, 2.0, 3.0));
+  EXPECT_THAT(firstVertex(Lines({{41, "5"}})), ElementsAre(5.0, 2.0, 3.0));
+  EXPECT_THAT(firstVertex(Lines({{42, "5"}})), ElementsAre(1.0, 10.0, 3.0));
+  EXPECT_THAT(firstVertex(Lines({{43, "5"}})), ElementsAre(1.0, 2.0, 15.0));
+}
+
+TEST_F(Inserts, HaveTheirPlaceInTheWorldWhateverTheirNormal)
+{
+  Import(
+      Blocks(Block("B", unitLine)) +
+      Entities(Insert("B", Lines({{10, "10"}, {20, "20"}, {30, "30"}, {230, "-1"}})) +
+               Insert("B", Lines({{10, "10"}, {20, "20"}, {30, "30"}, {210, "1"}, {230, "0"}}))));
+  EXPECT_THAT(VerticesOf(0)[0], ElementsAre(11.0, 20.0, 32.0));
+  EXPECT_THAT(VerticesOf(1)[0], ElementsAre(11.0, 20.0, 32.0));
+}
+
+TEST_F(Inserts, OfEntitiesByBlockStayBlack)
+{
+  const std::string byBlock = Lines({{0, "LINE"}, {8, "0"}, {62, "0"}});
+  Import(LayerTable(LayerRecord("0", 3, 0) + LayerRecord("deck", 2, 0)) +
+         Blocks(Block("B", byBlock)) + Entities(Insert("B", Lines({{8, "deck"}, {62, "1"}}))));
+  EXPECT_EQ(ColourOf(0), 0U);
+  EXPECT_EQ(At(0).style->fillColour, 0U);
+}
+
 TEST_F(Inserts, TheBasePointOfTheBlockPlaysNoPart)
 {
   Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}, {10, "100"}, {20, "100"}}) + unitLine +
@@ -107,8 +140,11 @@ TEST_F(Inserts, OfABlockWhoseHeaderIsOnAFrozenLayerAreMade)
 
 TEST_F(Inserts, MakeNoLayer)
 {
-  Import(Blocks(Block("B", "")) + Entities(Insert("B", Lines({{8, "deck"}}))));
-  EXPECT_TRUE(file->layers.empty());
+  Import(Blocks(Block("empty", "") + Block("B", unitLine)) +
+         Entities(Insert("empty", Lines({{8, "deck"}})) + Insert("B", Lines({{8, "deck"}}))));
+  EXPECT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(file->layers.size(), 1U);
+  EXPECT_TRUE(file->layers.contains("part"));
 }
 
 TEST_F(Inserts, NestAndComposeTheirTransforms)

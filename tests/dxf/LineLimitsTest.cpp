@@ -1,4 +1,4 @@
-#include "support/DxfFixture.h"
+#include "support/DxfPolylines.h"
 
 namespace hullwright {
 namespace {
@@ -66,6 +66,64 @@ TEST_F(LineLimits, ALineOfApplicationDataHas255Bytes)
   };
   EXPECT_EQ(shapesWith(255), 1U);  // no brace comes any more, so that everything belongs to it
   EXPECT_EQ(shapesWith(256), 2U);  // the empty rest of the line ends the record
+}
+
+TEST_F(LineLimits, AValueOfAnEntityHas511Bytes)
+{
+  for (const char* keyword : {"LINE", "POINT", "ARC", "CIRCLE", "ELLIPSE", "SOLID", "3DFACE",
+                              "TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
+    const auto colourBehind = [&](std::size_t length) {
+      ImportEntities(Lines({{0, keyword}}) + "999\n" + Filler(length) + Lines({{62, "1"}}));
+      return ColourOf(0);
+    };
+    EXPECT_EQ(colourBehind(511), 0xFFU) << keyword;
+    EXPECT_EQ(colourBehind(512), 0U) << keyword;
+  }
+}
+
+TEST_F(LineLimits, AValueOfAVertexHas511Bytes)
+{
+  const auto xBehind = [this](std::size_t length) {
+    ImportEntities(Header() + Lines({{0, "VERTEX"}}) + "999\n" + Filler(length) +
+                   Lines({{10, "5"}}) + seqEnd);
+    return VerticesOf(0).at(0).at(0);
+  };
+  EXPECT_EQ(xBehind(511), 5.0);
+  EXPECT_EQ(xBehind(512), 0.0);
+}
+
+TEST_F(LineLimits, AValueOfThePolylinesHeaderHas511Bytes)
+{
+  const auto colourBehind = [this](std::size_t length) {
+    ImportEntities(Header("999\n" + Filler(length) + Lines({{62, "1"}})) + triangle + seqEnd);
+    return ColourOf(0);
+  };
+  EXPECT_EQ(colourBehind(511), 0xFFU);
+  EXPECT_EQ(colourBehind(512), 0U);
+}
+
+TEST_F(LineLimits, AValueOfThePolylinesEndHas511Bytes)
+{
+  const auto shapesBehind = [this](std::size_t length) {
+    ImportEntities(Header() + triangle + Lines({{0, "SEQEND"}}) + "999\n" + Filler(length) +
+                   Lines({{1000, "LINE"}}));
+    return ShapeCount();
+  };
+  EXPECT_EQ(shapesBehind(511), 1U);
+  EXPECT_EQ(shapesBehind(512), 2U);  // the value is taken for a keyword
+}
+
+TEST_F(LineLimits, AValueOfABlocksHeaderAndOfAnInsertionHas511Bytes)
+{
+  const auto shapesBehind = [this](std::size_t inHeader, std::size_t inInsert) {
+    Import(Blocks(Lines({{0, "BLOCK"}}) + "999\n" + Filler(inHeader) + Lines({{2, "B"}}) + aLine +
+                  Lines({{0, "ENDBLK"}})) +
+           Entities(Lines({{0, "INSERT"}}) + "999\n" + Filler(inInsert) + Lines({{2, "B"}})));
+    return ShapeCount();
+  };
+  EXPECT_EQ(shapesBehind(511, 511), 1U);
+  EXPECT_EQ(shapesBehind(512, 511), 0U);
+  EXPECT_EQ(shapesBehind(511, 512), 0U);
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
-#include <cmath>
-
-#include "support/DxfFixture.h"
+#include "support/DxfPolylines.h"
 
 namespace hullwright {
 namespace {
@@ -8,17 +6,6 @@ namespace {
 using namespace test;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-std::string Header(const std::string& more = {}) { return Lines({{0, "POLYLINE"}}) + more; }
-
-std::string Vertex(double x, double y, const std::string& more = {})
-{
-  return Lines({{0, "VERTEX"}, {8, "frozen"}, {10, std::to_string(x)}, {20, std::to_string(y)}}) +
-         more;
-}
-
-const std::string seqEnd = Lines({{0, "SEQEND"}, {8, "0"}});
-const std::string triangle = Vertex(0, 0) + Vertex(4, 0) + Vertex(4, 3);
 
 class Polylines : public DxfFixture {
 protected:
@@ -62,6 +49,32 @@ TEST_F(Polylines, FlagsPassOnToTheNextOneWithoutAny)
   EXPECT_EQ(CountOf(1), 4U);
   EXPECT_EQ(CountOf(2), 3U);
   EXPECT_EQ(CountOf(3), 3U);
+}
+
+TEST_F(Polylines, FlagsOfAHiddenOnePassOnToTheNextOneWithoutAny)
+{
+  Import(LayerTable(LayerRecord("frozen", 1, 1)) +
+         Entities(Header(Lines({{8, "frozen"}, {70, "1"}})) + triangle + seqEnd + Header() +
+                  triangle + seqEnd));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_EQ(CountOf(0), 4U);
+}
+
+TEST_F(Polylines, AHiddenOneWithoutAnEndLeavesItsVerticesForTheNext)
+{
+  Import(
+      LayerTable(LayerRecord("frozen", 1, 1)) +
+      Entities(Header(Lines({{8, "frozen"}})) + Vertex(1, 1) + Header() + Vertex(2, 2) + seqEnd));
+  ASSERT_EQ(ShapeCount(), 1U);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 1.0, 0.0), ElementsAre(2.0, 2.0, 0.0)));
+}
+
+TEST_F(Polylines, TheClosingCopyKeepsItsHeight)
+{
+  ImportEntities(Header(Lines({{70, "1"}})) + Vertex(1, 2, Lines({{30, "3"}})) + Vertex(4, 5) +
+                 seqEnd);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 2.0, 3.0), ElementsAre(4.0, 5.0, 0.0),
+                                         ElementsAre(1.0, 2.0, 3.0)));
 }
 
 TEST_F(Polylines, TheCurveTypeIsKeptAndNotUsed)
@@ -211,6 +224,7 @@ TEST_F(Polylines, ALightweightRectangleIsClosedByItsFirstVertex)
   EXPECT_EQ(VerticesOf(0).front(), VerticesOf(0).back());
   EXPECT_THAT(VerticesOf(0)[2], ElementsAre(4.0, 3.0, 0.0));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=A", "HANDLE=C"));
+  EXPECT_EQ(At(0).tag, 0xC);
 }
 
 TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
@@ -252,97 +266,6 @@ TEST_F(Polylines, ALightweightOneOnAHiddenLayerIsDropped)
   Import(LayerTable(LayerRecord("A", -1, 0)) +
          Entities(Lines({{0, "LWPOLYLINE"}, {8, "A"}, {10, "1"}, {20, "2"}})));
   EXPECT_EQ(ShapeCount(), 0U);
-}
-
-// ---------------------------------------------------------------------------------------------------
-// Bulges
-
-std::string TwoVertices(const std::string& bulge)
-{
-  return Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, bulge}, {10, "2"}, {20, "0"}});
-}
-
-TEST_F(Polylines, ABulgeOfOneIsAHalfCircleCounterClockwise)
-{
-  ImportEntities(TwoVertices("1"));
-  const auto vertices = VerticesOf(0);
-  EXPECT_GE(vertices.size(), 182U);
-  EXPECT_LE(vertices.size(), 184U);
-  EXPECT_NEAR(vertices[0][0], 0.0, 1e-9);
-  EXPECT_NEAR(vertices[90][0], 1.0, 1e-9);
-  EXPECT_NEAR(vertices[90][1], -1.0, 1e-9);
-  EXPECT_THAT(vertices.back(), ElementsAre(2.0, 0.0, 0.0));  // the second vertex itself
-  EXPECT_NEAR(vertices[vertices.size() - 2][0], 2.0, 1e-9);  // behind the end of the arc
-}
-
-TEST_F(Polylines, ABulgeOfMinusOneIsItsMirrorImage)
-{
-  ImportEntities(TwoVertices("-1"));
-  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
-  EXPECT_NEAR(VerticesOf(0)[90][1], 1.0, 1e-9);
-}
-
-TEST_F(Polylines, ABulgeAboveOneHasItsCentreOnTheFarSide)
-{
-  ImportEntities(TwoVertices("2"));
-  // tan(theta/4) = 2: the sagitta is twice the half chord.
-  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
-  EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
-  for (const auto& [bulge, sagitta] : {std::pair{"0.5", 0.5}, {"0.95", 0.95}}) {
-    ImportEntities(TwoVertices(bulge));
-    EXPECT_NEAR(VerticesOf(0).at(90).at(1), -sagitta, 1e-9);
-  }
-}
-
-TEST_F(Polylines, TheLastVertexIsLostWithABulge)
-{
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}}));
-  EXPECT_EQ(CountOf(0), 1U);
-  // So is the closing copy of a first vertex with a bulge.
-  ImportEntities(
-      Lines({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
-  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
-  ImportEntities(Header(Lines({{70, "1"}})) + Vertex(0, 0, Lines({{42, "1"}})) + Vertex(2, 0) +
-                 seqEnd);
-  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
-}
-
-TEST_F(Polylines, ABulgeBelongsToTheVertexBeforeIt)
-{
-  ImportEntities(Lines({{0, "LWPOLYLINE"},
-                        {10, "0"},
-                        {20, "0"},
-                        {10, "2"},
-                        {20, "0"},
-                        {42, "1"},
-                        {10, "4"},
-                        {20, "0"}}));
-  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(0.0, 0.0, 0.0));
-  EXPECT_NEAR(VerticesOf(0)[1][0], 2.0, 1e-9);
-  EXPECT_NEAR(VerticesOf(0)[91][1], -1.0, 1e-9);
-}
-
-TEST_F(Polylines, TheArcLiesAtTheMeanHeightOfItsEnds)
-{
-  ImportEntities(Header() + Vertex(0, 0, Lines({{30, "1"}, {42, "1"}})) +
-                 Vertex(2, 0, Lines({{30, "3"}})) + seqEnd);
-  EXPECT_EQ(VerticesOf(0)[50][2], 2.0);
-}
-
-TEST_F(Polylines, TheRadiusOfABulgeIsMeasuredInSpace)
-{
-  // The ends are 2 apart in the plane and 4 in space.
-  ImportEntities(Header() + Vertex(0, 0, Lines({{42, "1"}})) +
-                 Vertex(2, 0, Lines({{30, "3.4641016151377544"}})) + seqEnd);
-  const auto vertex = VerticesOf(0)[50];
-  EXPECT_NEAR(std::hypot(vertex[0] - 1.0, vertex[1]), 2.0, 1e-6);
-}
-
-TEST_F(Polylines, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)
-{
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}, {42, "1"}, {10, "1"}, {20, "1"}}));
-  EXPECT_TRUE(std::isnan(VerticesOf(0)[0][0]));
-  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(1.0, 1.0, 0.0));
 }
 
 TEST_F(Polylines, FlatteningEmptiesTheList)

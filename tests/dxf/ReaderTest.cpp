@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "support/DxfFixture.h"
 
 namespace hullwright {
@@ -14,16 +12,7 @@ using testing::IsEmpty;
 const std::string aLine =
     Lines({{0, "LINE"}, {8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
-class Reader : public DxfFixture {
-protected:
-  /// Loads text without walking it.
-  CFileDxf& Loaded(const std::string& text)
-  {
-    file = std::make_unique<CFileDxf>(&window, log);
-    EXPECT_EQ(file->Load(folder.Write("lines.dxf", text)), 0);
-    return *file;
-  }
-};
+class Reader : public DxfFixture {};
 
 // ---------------------------------------------------------------------------------------------------
 // Lines
@@ -336,48 +325,6 @@ TEST_F(Reader, ApplicationDataEndsAtAnyLineWithABraceOrALineTooLong)
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 3.0);
   ImportEntities(Lines({{0, "LINE"}}) + "102\n{A\n" + std::string(256, 'x') + "\n10\n4\n");
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 0.0);  // the empty rest of that line ends the record
-}
-
-// ---------------------------------------------------------------------------------------------------
-// Progress
-
-TEST_F(Reader, ProgressBeginsRisesAndEnds)
-{
-  std::string records;
-  for (int i = 0; i < 1000; ++i) records += aLine;
-  Import(Entities(records) + endOfFile);
-  EXPECT_EQ(window.codes.front(), Notification::ImportStart);
-  EXPECT_EQ(window.codes.back(), Notification::ImportEnd);
-  const auto percents = std::ranges::count(window.codes, Notification::ImportProgress);
-  EXPECT_GE(percents, 95);
-  EXPECT_LE(percents, 100);
-  EXPECT_TRUE(std::ranges::is_sorted(window.values.begin() + 1, window.values.end() - 1));
-  EXPECT_STREQ(reinterpret_cast<const char*>(window.values.front()),
-               "Loading and processing DXF file, please wait...");
-}
-
-TEST_F(Reader, PercentIsTruncatedAndToldOnce)
-{
-  CFileDxf& reader = Loaded(std::string(400, 'x'));
-  for (const std::int64_t position : {0, 3, 4, 7, 8, 8, 199, 400}) {
-    reader.position = position;
-    reader.ReportProgress();
-  }
-  EXPECT_THAT(window.values, ElementsAre(1, 2, 49, 100));
-}
-
-TEST_F(Reader, PercentIsReckonedInSinglePrecision)
-{
-  CFileDxf& reader = Loaded(std::string(100, 'x'));
-  reader.position = 29;  // in double precision a hair below 29 per cent
-  reader.ReportProgress();
-  EXPECT_THAT(window.values, ElementsAre(29));
-}
-
-TEST_F(Reader, AnImportThatFailsShowsNoProgress)
-{
-  Import("");
-  EXPECT_THAT(window.codes, IsEmpty());
 }
 
 }  // namespace

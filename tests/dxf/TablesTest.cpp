@@ -35,12 +35,24 @@ TEST_F(Tables, ALayerKeepsNameColourAndFlags)
 TEST_F(Tables, EntitiesOnALayerThatIsOffOrFrozenAreLeftOut)
 {
   const std::string table = LayerTable(LayerRecord("off", -7, 0) + LayerRecord("frozen", 7, 1) +
-                                       LayerRecord("locked", 1, 4) + LayerRecord("plain", 1, 0));
-  for (const auto& [layerName, shapes] :
-       {std::pair{"off", 0U}, {"frozen", 0U}, {"locked", 1U}, {"plain", 1U}, {"unknown", 1U}}) {
+                                       LayerRecord("locked", 1, 4) + LayerRecord("plain", 1, 0) +
+                                       LayerRecord("byBlock", 0, 0));
+  for (const auto& [layerName, shapes] : {std::pair{"off", 0U},
+                                          {"frozen", 0U},
+                                          {"locked", 1U},
+                                          {"plain", 1U},
+                                          {"byBlock", 1U},
+                                          {"unknown", 1U}}) {
     Import(table + Entities(LineOn(layerName)));
     EXPECT_EQ(ShapeCount(), shapes) << layerName;
   }
+}
+
+TEST_F(Tables, ALayerOfColourZeroIsNotOff)
+{
+  Import(LayerTable(LayerRecord("A", 0, 0)) + Entities(LineOn("A")));
+  EXPECT_FALSE(file->layers.at("A")->off);
+  EXPECT_EQ(ShapeCount(), 1U);
 }
 
 TEST_F(Tables, TheFirstLayerOfANameStays)

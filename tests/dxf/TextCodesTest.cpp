@@ -67,6 +67,45 @@ TEST(TextCodes, BecomeWhatALabelCanShow)
   }
 }
 
+TEST(TextCodes, GoStepByStepSoThatOneStepMayUncoverWhatALaterOneTakes)
+{
+  // For each two neighbours: a text that would end otherwise if they changed places.
+  const std::vector<Example> examples = {
+      {u"\\{fArial;x", u"x"},        // opening braces, fonts
+      {u"\\}fArial;x", u"x"},        // closing braces, fonts
+      {u"\\A\\f|b1;1;x", u"x"},      // fonts, alignments
+      {u"\\H\\A1;2;x", u"x"},        // alignments, heights
+      {u"\\A\\H2;1;x", u"\\A1;x"},   // and not the other way round
+      {u"\\\\H2;Lx", u"x"},          // heights, underline on
+      {u"\\H\\L2;x", u"\\H2;x"},     // and not the other way round
+      {u"\\\\Llx", u"x"},            // underline on, underline off
+      {u"\\\\lLx", u"\\Lx"},         // and not the other way round
+      {u"\\\\lPx", u"\nx"},          // underline off, paragraphs
+      {u"\\\\pPx", u"\\Px"},         // paragraphs, indents
+      {u"\\\\pC1;x", u"x"},          // indents, colour indices
+      {u"\\p\\C1;i2;x", u"i2;x"},    // and not the other way round
+      {u"\\\\C1;c5;x", u"x"},        // colour indices, true colours
+      {u"\\\\c5;C1;x", u"\\C1;x"},   // and not the other way round
+      {u"\\U+005Cc1;x", u"\\c1;x"},  // true colours, units
+      {u"\\\\c1;U+0041x", u"Ax"},    // a unit behind a true colour
+      {u"\\U+005EIx", u"\tx"},       // units, carets
+      {u"%\\L%dx", u"\u00B0x"},      // codes, percents
+  };
+  for (const Example& example : examples) {
+    EXPECT_EQ(Cleaned(example.text), example.cleaned) << Utf8FromWide(example.text);
+  }
+}
+
+TEST(TextCodes, ForColoursAreReadWhereTheirStepStands)
+{
+  // Uncovered by the step before: an index by an indent, a true colour by an index.
+  EXPECT_EQ(CleanText(u"\\\\pC1;").colourIndex, 1);
+  EXPECT_EQ(CleanText(u"\\\\C1;c5;").colourValue, 5);
+  // Uncovered by a later step.
+  EXPECT_FALSE(CleanText(u"\\\\c5;C1;").colourIndex);
+  EXPECT_FALSE(CleanText(u"\\U+005Cc1;").colourValue);
+}
+
 TEST(TextCodes, TheCodeOfNulBecomesOneUnit)
 {
   EXPECT_EQ(Cleaned(u"a\\U+0000b"), std::u16string(u"a\0b", 3));

@@ -72,6 +72,22 @@ TEST_F(Texts, WithoutARotationTheDirectionCountsAsItIs)
   EXPECT_EQ(Label("TEXT", {{1, "x"}}).angle, 0.0);
 }
 
+TEST_F(Texts, TheDirectionIsNotExtruded)
+{
+  for (const char* keyword : {"TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
+    const CShapeText& label = Label(keyword, {{10, "1"}, {11, "1"}, {21, "1"}, {230, "-1"}});
+    EXPECT_EQ(label.angle, std::atan2(1.0, 1.0) * 57.29577951308232) << keyword;
+    EXPECT_EQ(label.vertices[0]->x, -1.0) << keyword;
+  }
+}
+
+TEST_F(Texts, WithoutAHeightHaveNone)
+{
+  for (const char* keyword : {"TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
+    EXPECT_EQ(Label(keyword, {{1, "x"}}).height, 0.0) << keyword;
+  }
+}
+
 TEST_F(Texts, OnlyParagraphTextsHaveChunks)
 {
   const Pairs pairs = {{3, "first "}, {3, "second "}, {1, "last"}};
@@ -138,6 +154,8 @@ TEST_F(Texts, ATrueColourCountsLastAndIsTakenToTheNearestIndex)
   EXPECT_EQ(ColourOf(0), 0xFF0000U);
   Label("TEXT", {{1, "\\c250;X"}});  // nearly red
   EXPECT_EQ(ColourOf(0), 0x0000FFU);
+  Label("TEXT", {{1, "\\c4674016;X"}});  // whose nearest depends on the weights of the channels
+  EXPECT_EQ(ColourOf(0), 0x7E7EBDU);
 }
 
 TEST_F(Texts, IndexByLayerInATextLooksForTheLayerWithoutAName)
@@ -149,6 +167,19 @@ TEST_F(Texts, IndexByLayerInATextLooksForTheLayerWithoutAName)
   EXPECT_EQ(ColourOf(0), 0U);
   Label("TEXT", {{62, "1"}, {1, "\\C99999999999;X"}});
   EXPECT_EQ(ColourOf(0), 0U);
+}
+
+TEST_F(Texts, IndexByLayerInATextFindsTheLayerThatTheTextItselfHasMade)
+{
+  EXPECT_EQ(Label("TEXT", {{62, "3"}, {1, "\\C256;X"}}).text, u"X");
+  EXPECT_EQ(ColourOf(0), 0x00FF00U);
+}
+
+TEST_F(Texts, IndexByLayerInATextFindsTheNamelessLayerOfAnEarlierOne)
+{
+  ImportEntities(Lines({{0, "TEXT"}, {62, "3"}, {1, "first"}}) +
+                 Lines({{0, "MTEXT"}, {8, "A"}, {62, "1"}, {1, "\\C256;X"}}));
+  EXPECT_EQ(ColourOf(1), 0x00FF00U);
 }
 
 TEST_F(Texts, TheLayerOfATextGetsTheColourOfTheEntityNotOfTheCode)

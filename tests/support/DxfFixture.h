@@ -83,6 +83,14 @@ protected:
     return file->Import(folder.Write("drawing.dxf", text), layer.get());
   }
 
+  /// Loads text without walking it.
+  CFileDxf& Loaded(const std::string& text)
+  {
+    file = std::make_unique<CFileDxf>(&window, log);
+    EXPECT_EQ(file->Load(folder.Write("lines.dxf", text)), 0);
+    return *file;
+  }
+
   /// Imports the records as the only section.
   void ImportEntities(const std::string& records) { ASSERT_EQ(Import(Entities(records)), 0); }
 

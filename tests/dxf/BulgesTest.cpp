@@ -1,0 +1,175 @@
+#include <cmath>
+#include <numbers>
+
+#include "support/DxfPolylines.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+
+/// Segments that are arcs.
+class Bulges : public DxfFixture {};
+
+std::string TwoVertices(const std::string& bulge)
+{
+  return Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, bulge}, {10, "2"}, {20, "0"}});
+}
+
+TEST_F(Bulges, ABulgeOfOneIsAHalfCircleCounterClockwise)
+{
+  ImportEntities(TwoVertices("1"));
+  const auto vertices = VerticesOf(0);
+  EXPECT_GE(vertices.size(), 182U);
+  EXPECT_LE(vertices.size(), 184U);
+  EXPECT_NEAR(vertices[0][0], 0.0, 1e-9);
+  EXPECT_NEAR(vertices[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(vertices[90][1], -1.0, 1e-9);
+  EXPECT_THAT(vertices.back(), ElementsAre(2.0, 0.0, 0.0));  // the second vertex itself
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], 2.0, 1e-9);  // behind the end of the arc
+}
+
+TEST_F(Bulges, ABulgeOfMinusOneIsItsMirrorImage)
+{
+  ImportEntities(TwoVertices("-1"));
+  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[90][1], 1.0, 1e-9);
+}
+
+TEST_F(Bulges, ABulgeAboveOneHasItsCentreOnTheFarSide)
+{
+  ImportEntities(TwoVertices("2"));
+  // tan(theta/4) = 2: the sagitta is twice the half chord.
+  EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
+  for (const auto& [bulge, sagitta] : {std::pair{"0.5", 0.5}, {"0.95", 0.95}}) {
+    ImportEntities(TwoVertices(bulge));
+    EXPECT_NEAR(VerticesOf(0).at(90).at(1), -sagitta, 1e-9);
+  }
+}
+
+TEST_F(Bulges, TheLastVertexIsLostWithABulge)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}}));
+  EXPECT_EQ(VerticesOf(0).size(), 1U);
+  // So is the closing copy of a first vertex with a bulge.
+  ImportEntities(
+      Lines({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
+  ImportEntities(Header(Lines({{70, "1"}})) + Vertex(0, 0, Lines({{42, "1"}})) + Vertex(2, 0) +
+                 seqEnd);
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
+}
+
+TEST_F(Bulges, ABulgeBelongsToTheVertexBeforeIt)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"},
+                        {10, "0"},
+                        {20, "0"},
+                        {10, "2"},
+                        {20, "0"},
+                        {42, "1"},
+                        {10, "4"},
+                        {20, "0"}}));
+  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(0.0, 0.0, 0.0));
+  EXPECT_NEAR(VerticesOf(0)[1][0], 2.0, 1e-9);
+  EXPECT_NEAR(VerticesOf(0)[91][1], -1.0, 1e-9);
+}
+
+TEST_F(Bulges, TheArcLiesAtTheMeanHeightOfItsEnds)
+{
+  ImportEntities(Header() + Vertex(0, 0, Lines({{30, "1"}, {42, "1"}})) +
+                 Vertex(2, 0, Lines({{30, "3"}})) + seqEnd);
+  EXPECT_EQ(VerticesOf(0)[50][2], 2.0);
+}
+
+TEST_F(Bulges, TheRadiusOfABulgeIsMeasuredInSpace)
+{
+  // The ends are 2 apart in the plane and 4 in space.
+  ImportEntities(Header() + Vertex(0, 0, Lines({{42, "1"}})) +
+                 Vertex(2, 0, Lines({{30, "3.4641016151377544"}})) + seqEnd);
+  const auto vertex = VerticesOf(0)[50];
+  EXPECT_NEAR(std::hypot(vertex[0] - 1.0, vertex[1]), 2.0, 1e-6);
+}
+
+TEST_F(Bulges, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)
+{
+  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}, {42, "1"}, {10, "1"}, {20, "1"}}));
+  EXPECT_TRUE(std::isnan(VerticesOf(0)[0][0]));
+  EXPECT_THAT(VerticesOf(0).back(), ElementsAre(1.0, 1.0, 0.0));
+}
+
+TEST_F(Bulges, OfNegativeValuesBendToTheLeftByTheirSagitta)
+{
+  for (const auto& [bulge, sagitta] :
+       {std::pair{"-0.25", 0.25}, {"-0.5", 0.5}, {"-0.95", 0.95}, {"-2", 2.0}, {"-4", 4.0}}) {
+    ImportEntities(TwoVertices(bulge));
+    const auto vertices = VerticesOf(0);
+    EXPECT_NEAR(vertices.at(0).at(0), 0.0, 1e-9) << bulge;
+    EXPECT_NEAR(vertices.at(0).at(1), 0.0, 1e-9) << bulge;
+    EXPECT_NEAR(vertices.at(90).at(0), 1.0, 1e-9) << bulge;
+    EXPECT_NEAR(vertices.at(90).at(1), sagitta, 1e-9) << bulge;
+    EXPECT_NEAR(vertices.at(vertices.size() - 2).at(0), 2.0, 1e-9) << bulge;
+    EXPECT_NEAR(vertices.at(vertices.size() - 2).at(1), 0.0, 1e-9) << bulge;
+  }
+}
+
+TEST_F(Bulges, OfNextToNothingAreArcsAllTheSame)
+{
+  for (const auto& [bulge, sagitta] : {std::pair{"0.0005", 0.0005}, {"-0.0005", -0.0005}}) {
+    ImportEntities(TwoVertices(bulge));
+    ASSERT_GE(VerticesOf(0).size(), 182U) << bulge;
+    EXPECT_NEAR(VerticesOf(0)[90][1], -sagitta, 1e-6) << bulge;
+  }
+  ImportEntities(TwoVertices("-0.0"));
+  EXPECT_EQ(VerticesOf(0).size(), 2U);
+}
+
+TEST_F(Bulges, AreExtrudedOnceWithTheirPolyline)
+{
+  const auto halfWayAlong = [this](const std::string& normal) {
+    ImportEntities(Header(normal) + Vertex(0, 0, Lines({{30, "3"}, {42, "1"}})) +
+                   Vertex(2, 0, Lines({{30, "3"}})) + seqEnd);
+    return VerticesOf(0).at(90);
+  };
+  // Without an extrusion it would be (1, -1, 3).
+  const auto below = halfWayAlong(Lines({{230, "-1"}}));
+  EXPECT_NEAR(below[0], -1.0, 1e-9);
+  EXPECT_NEAR(below[1], -1.0, 1e-9);
+  EXPECT_EQ(below[2], -3.0);
+  const auto sideways = halfWayAlong(Lines({{210, "1"}, {230, "0"}}));
+  EXPECT_EQ(sideways[0], 3.0);
+  EXPECT_NEAR(sideways[1], 1.0, 1e-9);
+  EXPECT_NEAR(sideways[2], -1.0, 1e-9);
+}
+
+TEST_F(Bulges, HaveTheirAnglesMeasuredInSpace)
+{
+  // The ends are 2 apart in the plane and 4 in space, so that a half circle has its centre between
+  // them and begins where a direction of length 2 has the part -1 along x: at 120 degrees.
+  const std::string up = Lines({{30, "3.4641016151377544"}});
+  const double root3 = std::numbers::sqrt3;
+  ImportEntities(Header() + Vertex(0, 0, Lines({{42, "1"}})) + Vertex(2, 0, up) + seqEnd);
+  auto vertices = VerticesOf(0);
+  EXPECT_NEAR(vertices[0][0], 0.0, 1e-6);
+  EXPECT_NEAR(vertices[0][1], root3, 1e-6);
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], 2.0, 1e-6);
+  EXPECT_NEAR(vertices[vertices.size() - 2][1], root3, 1e-6);
+
+  // A third of a circle: the direction between its ends is 60 degrees from x, and the centre lies
+  // 2 / sqrt(3) to the left of it.
+  ImportEntities(Header() + Vertex(0, 0, Lines({{42, "0.5773502691896257"}})) + Vertex(2, 0, up) +
+                 seqEnd);
+  vertices = VerticesOf(0);
+  const double radius = 4.0 / root3;
+  EXPECT_NEAR(vertices[0][0], 0.0, 1e-6);
+  EXPECT_NEAR(vertices[0][1], 1.0 / root3 - radius, 1e-6);
+  const double cosine = 2.0 / std::sqrt(22.0 / 3.0);  // of the direction to the second end
+  EXPECT_NEAR(vertices[vertices.size() - 2][0], radius * cosine, 1e-6);
+  EXPECT_NEAR(vertices[vertices.size() - 2][1],
+              1.0 / root3 - radius * std::sqrt(1.0 - cosine * cosine), 1e-6);
+}
+
+}  // namespace
+}  // namespace hullwright

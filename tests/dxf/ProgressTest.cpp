@@ -1,0 +1,119 @@
+#include <algorithm>
+
+#include "support/DxfFixture.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string aLine =
+    Lines({{0, "LINE"}, {8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
+
+class Progress : public DxfFixture {
+protected:
+  /// What the last import told between its beginning and its end; the next one starts anew.
+  std::vector<std::intptr_t> Percents()
+  {
+    EXPECT_EQ(window.codes.front(), Notification::ImportStart);
+    EXPECT_EQ(window.codes.back(), Notification::ImportEnd);
+    const std::vector<std::intptr_t> percents(window.values.begin() + 1, window.values.end() - 1);
+    window.codes.clear();
+    window.values.clear();
+    return percents;
+  }
+};
+
+TEST_F(Progress, ProgressBeginsRisesAndEnds)
+{
+  std::string records;
+  for (int i = 0; i < 1000; ++i) records += aLine;
+  Import(Entities(records) + endOfFile);
+  EXPECT_EQ(window.codes.front(), Notification::ImportStart);
+  EXPECT_EQ(window.codes.back(), Notification::ImportEnd);
+  const auto percents = std::ranges::count(window.codes, Notification::ImportProgress);
+  EXPECT_GE(percents, 95);
+  EXPECT_LE(percents, 100);
+  EXPECT_TRUE(std::ranges::is_sorted(window.values.begin() + 1, window.values.end() - 1));
+  EXPECT_STREQ(reinterpret_cast<const char*>(window.values.front()),
+               "Loading and processing DXF file, please wait...");
+}
+
+TEST_F(Progress, PercentIsTruncatedAndToldOnce)
+{
+  CFileDxf& reader = Loaded(std::string(400, 'x'));
+  for (const std::int64_t position : {0, 3, 4, 7, 8, 8, 199, 400}) {
+    reader.position = position;
+    reader.ReportProgress();
+  }
+  EXPECT_THAT(window.values, ElementsAre(1, 2, 49, 100));
+}
+
+TEST_F(Progress, PercentIsReckonedInSinglePrecision)
+{
+  CFileDxf& reader = Loaded(std::string(100, 'x'));
+  reader.position = 29;  // in double precision a hair below 29 per cent
+  reader.ReportProgress();
+  EXPECT_THAT(window.values, ElementsAre(29));
+}
+
+TEST_F(Progress, AnImportThatFailsShowsNoProgress)
+{
+  Import("");
+  EXPECT_THAT(window.codes, IsEmpty());
+}
+
+TEST_F(Progress, IsToldBehindEveryLineBetweenSections)
+{
+  std::string text;
+  for (int i = 0; i < 50; ++i) text += "x\n";
+  Import(text);
+  std::vector<std::intptr_t> everyLine;
+  for (int percent = 2; percent <= 100; percent += 2) everyLine.push_back(percent);
+  EXPECT_EQ(Percents(), everyLine);
+}
+
+TEST_F(Progress, IsToldBehindASectionAndNotInsideIt)
+{
+  for (const auto& section : {Section("HEADER", Lines({{9, "$ACADVER"}, {1, "AC1015"}})),
+                              Section("TABLES", LayerRecord("A", 1, 0) + LayerRecord("B", 1, 0)),
+                              Section("BLOCKS", Block("A", aLine) + Block("B", aLine))}) {
+    const std::string begin = "0\n";
+    const std::string body = section.substr(begin.size());
+    const std::size_t half = begin.size() + body.size();
+    // The line behind the section is as long as all before it, and its percent comes of itself.
+    Import(begin + body + std::string(half - 1, 'x') + "\n");
+    const auto first = static_cast<std::intptr_t>(100 * begin.size() / (2 * half));
+    std::vector<std::intptr_t> expected = {50, 100};
+    if (first > 0) expected.insert(expected.begin(), first);
+    EXPECT_EQ(Percents(), expected) << section;
+  }
+}
+
+TEST_F(Progress, IsToldBehindEveryLineAndEntityOfTheEntities)
+{
+  std::string text = "SECTION\n2\nENTITIES\n";
+  std::vector<std::intptr_t> expected;
+  // The text has 100 bytes, so that each place in it is its own percent.
+  const auto add = [&](const std::string& part) {
+    text += part;
+    expected.push_back(static_cast<std::intptr_t>(text.size()));
+  };
+  add("0\n");
+  add("LINE\n10\n1\n0\n");  // an entity with the group 0 behind it
+  add("RAY\n");             // an unknown one, line by line
+  add("5\n");
+  add("0\n");
+  add("HATCH\n0\n");        // one that is skipped
+  add("LINE\n67\n1\n0\n");  // one that is left out
+  add("ENDSEC\n");
+  text += "EOF\n";  // nothing is told behind the end
+  text.resize(100, 'x');
+  Import(text);
+  EXPECT_EQ(Percents(), expected);
+}
+
+}  // namespace
+}  // namespace hullwright
