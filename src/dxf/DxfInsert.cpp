@@ -1,3 +1,4 @@
+#include <new>
 #include <utility>
 
 #include "dxf/FileDxf.h"
@@ -44,6 +45,17 @@ bool CFileDxf::TakeCopyBudget(const CShape& shape)
   return false;
 }
 
+void CFileDxf::AddCopy(const CShape& shape, const DxfEntity& insert, CShapes& target) const
+{
+  auto copy = shape.Clone();
+  copy->Scale(insert.Number(41), insert.Number(42), insert.Number(43));
+  copy->Rotate(insert.Number(50));
+  const DxfPoint place = insert.Point(10);
+  copy->Translate(place.x, place.y, place.z);
+  Identify(*copy, insert);
+  target.shapes.push_back(std::move(copy));
+}
+
 void CFileDxf::ReadInsert(CShapes& target)
 {
   DxfEntity entity;
@@ -54,18 +66,16 @@ void CFileDxf::ReadInsert(CShapes& target)
     ++tally.unknownBlocks;
     return;
   }
-  const DxfPoint place = entity.Point(10);
   for (const auto& shape : block->second->shapes) {
     if (!TakeCopyBudget(*shape)) {
       ++tally.cutInserts;
       return;
     }
-    auto copy = shape->Clone();
-    copy->Scale(entity.Number(41), entity.Number(42), entity.Number(43));
-    copy->Rotate(entity.Number(50));
-    copy->Translate(place.x, place.y, place.z);
-    Identify(*copy, entity);
-    target.shapes.push_back(std::move(copy));
+    try {
+      AddCopy(*shape, entity, target);
+    } catch (const std::bad_alloc&) {
+      // There is no memory for this copy; the next one may be smaller.
+    }
   }
 }
 

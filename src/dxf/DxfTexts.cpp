@@ -46,7 +46,7 @@ void CFileDxf::ReadAnyText(CShapes& target, bool hasChunks, bool hasFlags)
 void CFileDxf::CleanTextCodes(CShapeText& shape) const
 {
   if (shape.text.empty()) return;
-  CleanedText cleaned = CleanText(shape.text);
+  CleanedText cleaned = CleanText(std::move(shape.text));
   if (cleaned.colourIndex) ResolveColour(shape, {}, *cleaned.colourIndex);
   if (cleaned.colourValue) {
     const auto value = static_cast<std::uint32_t>(*cleaned.colourValue);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <new>
 
 #include "base/Text.h"
 
@@ -82,14 +83,24 @@ int CFileDxf::ProcessFile()
   if (!HasTarget()) return -1;
   Log(TraceLevel::Progress, processing, u"[DXF] Processing file...");
   frame_->Notify(Notification::ImportStart, reinterpret_cast<std::intptr_t>(wait));
+  try {
+    ProcessSections();
+  } catch (const std::bad_alloc&) {
+    // There is no memory for a layer or a block. Without it the entities behind would come out in
+    // other colours, or hidden ones would come out at all.
+  }
+  frame_->Notify(Notification::ImportEnd, 0);
+  return 0;
+}
+
+void CFileDxf::ProcessSections()
+{
   DxfLine line;
   while (GetLine(line, longLine) && line.Text() != "EOF") {
     if (line.Trimmed() == "SECTION") tally.hasSections = true;
     if (Contains(line.Text(), "SECTION") && !ProcessSection()) break;
     ReportProgress();
   }
-  frame_->Notify(Notification::ImportEnd, 0);
-  return 0;
 }
 
 bool CFileDxf::ProcessSection()

@@ -40,6 +40,8 @@ public:
   int Import(std::u16string_view filePath, CLayer* layer);
 
   /// Walks the sections of the loaded text. -1 without a group to read into and without a window.
+  /// Without memory for an entity or for the copy of one, that one is left out; without memory for
+  /// anything else the walk ends there, as at the end of the text.
   int ProcessFile();
 
   /// Copies the next line. False when the text ends before the line does, or when `maxChars` bytes
@@ -183,6 +185,7 @@ private:
   }
 
   bool HasTarget() const;
+  void ProcessSections();
   bool ProcessSection();
   template <class Start>
   void ProcessRecords(std::string_view keyword, Start start);
@@ -203,6 +206,7 @@ private:
   void ReadAnyText(CShapes& target, bool hasChunks, bool hasFlags);
   void AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& list) const;
   bool TakeCopyBudget(const CShape& shape);
+  void AddCopy(const CShape& shape, const DxfEntity& insert, CShapes& target) const;
   void Log(std::int32_t level, std::u16string_view category, std::u16string_view text) const;
 
   /// Whether the line read last was the code of a group 0, so that the next is a keyword, known or

@@ -144,6 +144,12 @@ void RemoveLetter(std::u16string& text, char16_t letter, Text replacement = {})
       replacement);
 }
 
+void RemoveNumbered(std::u16string& text, char16_t letter)
+{
+  ReplaceAll(text, backslash,
+             [letter](Text t, std::size_t at) { return MatchNumbered(t, at, letter); });
+}
+
 /// The unit that the last seven of a text stand for, if they are a code such as "\\U+00B0".
 std::optional<char16_t> UnitAtEnd(Text text)
 {
@@ -177,10 +183,7 @@ void RemoveFonts(std::u16string& text)
   ReplaceAll(text, backslash, std::ref(match));
 }
 
-void RemoveAlignments(std::u16string& text)
-{
-  ReplaceAll(text, backslash, [](Text t, std::size_t at) { return MatchNumbered(t, at, u'A'); });
-}
+void RemoveAlignments(std::u16string& text) { RemoveNumbered(text, u'A'); }
 
 void RemoveHeights(std::u16string& text) { ReplaceAll(text, backslash, MatchHeight); }
 
@@ -194,16 +197,16 @@ void BreakParagraphs(std::u16string& text) { RemoveLetter(text, u'P', u"\n"); }
 
 void RemoveIndents(std::u16string& text) { ReplaceAll(text, backslash, MatchIndent); }
 
-std::optional<std::int32_t> TakeColour(std::u16string& text, char16_t letter)
+std::optional<std::int32_t> FirstColour(std::u16string_view text, char16_t letter)
 {
-  std::optional<std::int32_t> first;
-  ReplaceAll(text, backslash, [&](Text t, std::size_t at) {
-    const std::size_t length = MatchNumbered(t, at, letter);
-    if (length != 0 && !first) first = ParseInt32(t.substr(at + 2, length - 2), 10);
-    return length;
-  });
-  return first;
+  for (std::size_t at = text.find(backslash); at != Text::npos; at = text.find(backslash, at + 1)) {
+    const std::size_t length = MatchNumbered(text, at, letter);
+    if (length != 0) return ParseInt32(text.substr(at + 2, length - 2), 10);
+  }
+  return std::nullopt;
 }
+
+void RemoveColours(std::u16string& text, char16_t letter) { RemoveNumbered(text, letter); }
 
 void DecodeUnits(std::u16string& text)
 {
@@ -255,9 +258,12 @@ void DecodePercents(std::u16string& text)
 
 }  // namespace TextCodes
 
-CleanedText CleanText(std::u16string text)
+namespace {
+
+/// Takes one step after the other, so that each leaves its result even if the next one fails.
+void Clean(CleanedText& cleaned)
 {
-  CleanedText cleaned;
+  std::u16string& text = cleaned.text;
   if (text.find(backslash) != Text::npos) {
     TextCodes::RemoveBraces(text);
     TextCodes::RemoveFonts(text);
@@ -266,13 +272,27 @@ CleanedText CleanText(std::u16string text)
     TextCodes::RemoveUnderlines(text);
     TextCodes::BreakParagraphs(text);
     TextCodes::RemoveIndents(text);
-    cleaned.colourIndex = TextCodes::TakeColour(text, u'C');
-    cleaned.colourValue = TextCodes::TakeColour(text, u'c');
+    cleaned.colourIndex = TextCodes::FirstColour(text, u'C');
+    TextCodes::RemoveColours(text, u'C');
+    cleaned.colourValue = TextCodes::FirstColour(text, u'c');
+    TextCodes::RemoveColours(text, u'c');
     TextCodes::DecodeUnits(text);
     TextCodes::DecodeCarets(text);
   }
   TextCodes::DecodePercents(text);
+}
+
+}  // namespace
+
+CleanedText CleanText(std::u16string text)
+{
+  CleanedText cleaned;
   cleaned.text = std::move(text);
+  try {
+    Clean(cleaned);
+  } catch (const std::bad_alloc&) {
+    // A label with some of its codes says more than none.
+  }
   return cleaned;
 }
 

@@ -16,11 +16,12 @@ struct CleanedText {
 
 /// Strips the formatting codes of a text. Only a text with a backslash somewhere loses its codes,
 /// braces and carets; the percent codes are replaced in any text. The time is linear in the length.
+/// Where memory ends, the text stays as it is at that step.
 CleanedText CleanText(std::u16string text);
 
-/// The steps of the cleaning. Each replaces every match of its pattern (ECMAScript's grammar, with
-/// 16-bit units as characters) that a single search from left to right finds, unless it says
-/// otherwise.
+/// The steps of the cleaning. A step that memory ends in leaves the text as it is. Each replaces
+/// every match of its pattern (ECMAScript's grammar, with 16-bit units as characters) that a single
+/// search from left to right finds, unless it says otherwise.
 namespace TextCodes {
 
 /// "\{" and "\}", removed one after the other.
@@ -45,9 +46,11 @@ void BreakParagraphs(std::u16string& text);
 /// "\\p(?:x?i(\d*\.?\d+);)?" removed.
 void RemoveIndents(std::u16string& text);
 
-/// "\\C(\d+);" or, with a small letter, "\\c(\d+);" removed; the number of the first match,
-/// 2147483647 at most.
-std::optional<std::int32_t> TakeColour(std::u16string& text, char16_t letter);
+/// The number of the first "\\C(\d+);" or, with a small letter, "\\c(\d+);", 2147483647 at most.
+std::optional<std::int32_t> FirstColour(std::u16string_view text, char16_t letter);
+
+/// "\\C(\d+);" or "\\c(\d+);" removed.
+void RemoveColours(std::u16string& text, char16_t letter);
 
 /// "\\[Uu]\+([0-9a-fA-F]{4})" becomes the unit of that code, from left to right and again until
 /// nothing matches, so that a new unit may complete a code.

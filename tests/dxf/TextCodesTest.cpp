@@ -185,8 +185,8 @@ const std::vector<Step>& Steps()
        [](std::u16string& t) { ReplaceAllByEngine(t, L"\\\\p(?:x?i(\\d*\\.?\\d+);)?", L""); }},
       {"colours",
        [](std::u16string& t) {
-         TextCodes::TakeColour(t, u'C');
-         TextCodes::TakeColour(t, u'c');
+         TextCodes::RemoveColours(t, u'C');
+         TextCodes::RemoveColours(t, u'c');
        },
        [](std::u16string& t) {
          ReplaceAllByEngine(t, L"\\\\C(\\d+);", L"");

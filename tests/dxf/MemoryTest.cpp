@@ -1,0 +1,153 @@
+#include <algorithm>
+#include <new>
+#include <set>
+
+#include "support/DxfFixture.h"
+#include "support/FailingNew.h"
+
+namespace hullwright {
+namespace {
+
+using namespace test;
+
+std::string LineAt(const std::string& x)
+{
+  return Lines({{0, "LINE"}, {5, "A1"}, {8, "0"}, {62, "3"}, {10, x}});
+}
+
+/// Imports in which memory ends at one place after the other.
+class Memory : public DxfFixture {
+protected:
+  /// Imports text once for each of its allocations, which fails, and at last without a failure.
+  /// `look` is called behind each import that has begun to walk the file, even if it could not
+  /// tell its end in the log.
+  template <class Look>
+  void ImportWithEachFailure(const std::string& text, Look look)
+  {
+    constexpr std::size_t plenty = 1000;
+    const auto path = folder.Write("drawing.dxf", text);
+    bool failed = true;
+    for (std::size_t which = 1; failed; ++which) {
+      window = {};
+      // The window of a test shall not be what fails.
+      window.codes.reserve(plenty);
+      window.values.reserve(plenty);
+      layer = std::make_unique<CLayer>();
+      file = std::make_unique<CFileDxf>(&window, log);
+      int result = 0;
+      const FailingNew memory(which);
+      try {
+        result = file->Import(path, layer.get());
+      } catch (const std::bad_alloc&) {
+        // In the log, before or behind the reading.
+      }
+      failed = FailingNew::Stop();
+      if (window.codes.empty()) continue;
+      EXPECT_EQ(result, 0) << which;
+      EXPECT_EQ(window.codes.back(), Notification::ImportEnd) << which;
+      EXPECT_EQ(std::ranges::count(window.codes, Notification::ImportEnd), 1) << which;
+      look();
+    }
+  }
+
+  /// The first vertices' x of all shapes, in a row.
+  std::string Places() const
+  {
+    std::string places;
+    for (std::size_t i = 0; i < ShapeCount(); ++i) {
+      places += std::to_string(static_cast<int>(VerticesOf(i).at(0).at(0)));
+    }
+    return places;
+  }
+};
+
+TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
+{
+  const std::string insert = Lines({{0, "INSERT"}, {2, "B"}, {5, "C3"}});
+  std::set<std::string> seen;
+  ImportWithEachFailure(Blocks(Block("B", LineAt("1") + LineAt("2") + LineAt("3"))) +
+                            Entities(insert + insert + LineAt("4")),
+                        [&] {
+                          seen.insert(Places());
+                          for (std::size_t i = 0; i < ShapeCount(); ++i) {
+                            // A copy is whole or not there.
+                            const bool isCopy = At(i).tag == 0xC3;
+                            EXPECT_EQ(AttributesOf(i).size(), isCopy ? 4U : 2U);
+                            EXPECT_EQ(VerticesOf(i).size(), 2U);
+                            EXPECT_EQ(ColourOf(i), 0x00FF00U);
+                          }
+                        });
+  EXPECT_EQ(seen, (std::set<std::string>{"1231234", "231234", "131234", "121234", "123234",
+                                         "123134", "123124",         // a copy
+                                         "23234", "13134", "12124",  // an entity of the block
+                                         "123123",                   // the last entity
+                                         ""}));  // the block, or the log before the entities
+}
+
+TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextAsItIsAtThatStep)
+{
+  const std::string text =
+      R"({\fArial|b0;\A1;\H2;\L\l\P\p\C1;\c16711680;\U+0041^I%%c%%d%%p%%C%%D%%P, a long text})";
+  constexpr std::uint32_t green = 0x00FF00;  // of the entity
+  constexpr std::uint32_t red = 0x0000FF;    // of the index in the text
+  constexpr std::uint32_t blue = 0xFF0000;   // of the true colour in the text
+  const std::u16string_view signs = u"%%c%%d%%p%%C%%D%%P, a long text";
+  const auto behind = [&](std::u16string_view start) {
+    return std::u16string(start).append(signs);
+  };
+  const std::set<std::pair<std::u16string, std::uint32_t>> steps = {
+      {behind(u"\\fArial|b0;\\A1;\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\\A1;\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\n\\p\\C1;\\c16711680;\\U+0041^I"), green},
+      {behind(u"\n\\C1;\\c16711680;\\U+0041^I"), red},
+      {behind(u"\n\\c16711680;\\U+0041^I"), blue},
+      {u"\nA\t%%c%%d%%p%%C%%D%%P, a long text", blue},
+      {u"\nA\t\u2300%%d%%p%%C%%D%%P, a long text", blue},
+      {u"\nA\t\u2300\u00B0%%p%%C%%D%%P, a long text", blue},
+      {u"\nA\t\u2300\u00B0\u00B1%%C%%D%%P, a long text", blue},
+      {u"\nA\t\u2300\u00B0\u00B1\u2300%%D%%P, a long text", blue},
+      {u"\nA\t\u2300\u00B0\u00B1\u2300\u00B0%%P, a long text", blue},
+      {u"\nA\t\u2300\u00B0\u00B1\u2300\u00B0\u00B1, a long text", blue}};
+  std::set<std::pair<std::u16string, std::uint32_t>> seen;
+  ImportWithEachFailure(Entities(Lines({{0, "MTEXT"}, {62, "3"}, {1, text}})), [&] {
+    // Before the cleaning the entity is left out.
+    if (ShapeCount() > 0) seen.emplace(At<CShapeText>(0).text, ColourOf(0));
+  });
+  EXPECT_EQ(seen, steps);
+}
+
+TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
+{
+  const std::string a = "a name that is long: a";
+  const std::string b = "a name that is long: b";
+  std::set<std::string> seen;
+  ImportWithEachFailure(
+      Entities(LineAt("1")) + LayerTable(LayerRecord(a, 1, 0) + LayerRecord(b, 1, 0)) +
+          Blocks(Block(a, LineAt("2")) + Block(b, LineAt("3"))) + Entities(LineAt("4")),
+      [&] {
+        std::string names;
+        for (const auto& entry : file->layers) names += entry.first.back();
+        names += " ";
+        for (const auto& entry : file->blocks) names += entry.first.back();
+        seen.insert(names + " " + Places());
+      });
+  const std::set<std::string> whereItEnds = {
+      "  ",         // the log before the first entities
+      "0  1",       // the first layer
+      "0a  1",      // the second
+      "0ab  1",     // the first block
+      "0ab a 1",    // the second
+      "0ab ab 1",   // the last entity
+      "0ab ab 4",   // the first one
+      "ab ab 4",    // its layer
+      "0ab ab 14",  // an entity of a block, or nowhere
+  };
+  EXPECT_EQ(seen, whereItEnds);
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,86 @@
+#include "support/FailingNew.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+/// Allocations up to the one that fails; 0 while none shall.
+thread_local std::size_t left = 0;
+thread_local bool failed = false;
+
+/// Null when it is this allocation's turn, or when there is no memory indeed.
+void* Allocate(std::size_t size, std::size_t alignment) noexcept
+{
+  if (left > 0 && --left == 0) {
+    failed = true;
+    return nullptr;
+  }
+  if (alignment <= alignof(std::max_align_t)) return std::malloc(size == 0 ? 1 : size);
+  const std::size_t whole = (size + alignment - 1) / alignment * alignment;
+  return std::aligned_alloc(alignment, whole == 0 ? alignment : whole);
+}
+
+void* AllocateOrThrow(std::size_t size, std::size_t alignment = 1)
+{
+  void* const place = Allocate(size, alignment);
+  if (place == nullptr) throw std::bad_alloc();
+  return place;
+}
+
+std::size_t Number(std::align_val_t alignment) { return static_cast<std::size_t>(alignment); }
+
+}  // namespace
+
+// The whole family: a sanitizer brings its own for each one that is missing here, and those would
+// not go together with these.
+void* operator new(std::size_t n) { return AllocateOrThrow(n); }
+void* operator new[](std::size_t n) { return AllocateOrThrow(n); }
+void* operator new(std::size_t n, std::align_val_t a) { return AllocateOrThrow(n, Number(a)); }
+void* operator new[](std::size_t n, std::align_val_t a) { return AllocateOrThrow(n, Number(a)); }
+void* operator new(std::size_t n, const std::nothrow_t&) noexcept { return Allocate(n, 1); }
+void* operator new[](std::size_t n, const std::nothrow_t&) noexcept { return Allocate(n, 1); }
+void* operator new(std::size_t n, std::align_val_t a, const std::nothrow_t&) noexcept
+{
+  return Allocate(n, Number(a));
+}
+void* operator new[](std::size_t n, std::align_val_t a, const std::nothrow_t&) noexcept
+{
+  return Allocate(n, Number(a));
+}
+void operator delete(void* place) noexcept { std::free(place); }
+void operator delete[](void* place) noexcept { std::free(place); }
+void operator delete(void* place, std::size_t) noexcept { std::free(place); }
+void operator delete[](void* place, std::size_t) noexcept { std::free(place); }
+void operator delete(void* place, std::align_val_t) noexcept { std::free(place); }
+void operator delete[](void* place, std::align_val_t) noexcept { std::free(place); }
+void operator delete(void* place, std::size_t, std::align_val_t) noexcept { std::free(place); }
+void operator delete[](void* place, std::size_t, std::align_val_t) noexcept { std::free(place); }
+void operator delete(void* place, const std::nothrow_t&) noexcept { std::free(place); }
+void operator delete[](void* place, const std::nothrow_t&) noexcept { std::free(place); }
+void operator delete(void* place, std::align_val_t, const std::nothrow_t&) noexcept
+{
+  std::free(place);
+}
+void operator delete[](void* place, std::align_val_t, const std::nothrow_t&) noexcept
+{
+  std::free(place);
+}
+
+namespace hullwright::test {
+
+FailingNew::FailingNew(std::size_t which)
+{
+  left = which;
+  failed = false;
+}
+
+FailingNew::~FailingNew() { Stop(); }
+
+bool FailingNew::Stop()
+{
+  left = 0;
+  return failed;
+}
+
+}  // namespace hullwright::test
