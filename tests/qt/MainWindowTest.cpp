@@ -3,69 +3,18 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMouseEvent>
-#include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
-#include <QWheelEvent>
 
-#include "qt/Shell.h"
 #include "qt/TemplateDialog.h"
 #include "resources/Strings.h"
-#include "support/ShellFixture.h"
+#include "support/DeskFixture.h"
 
 namespace hullwright {
 namespace {
 
-class Desk : public test::ShellFixture {
-protected:
-  Desk()
-  {
-    shell = std::make_unique<Shell>(QStringLiteral(HULLWRIGHT_SAMPLES "/workboat.xml"));
-    started = shell->App().InitInstance(*shell);
-    Window().resize(1280, 860);
-    QApplication::processEvents();
-  }
-
-  MainWindow& Window() { return *shell->Window(); }
-  DesignWidget& View() { return *Window().findChild<DesignWidget*>(); }
-
-  QAction* Action(const char* text)
-  {
-    for (QAction* action : Window().findChildren<QAction*>()) {
-      if (action->text().remove(QLatin1Char('&')) == QLatin1String(text)) return action;
-    }
-    return nullptr;
-  }
-
-  void Mouse(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held)
-  {
-    QMouseEvent event(type, at, View().mapToGlobal(at), button, held, Qt::NoModifier);
-    QApplication::sendEvent(&View(), &event);
-  }
-  void Move(QPoint at) { Mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
-  void Click(QPoint at)
-  {
-    Move(at);
-    Mouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
-    Mouse(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
-  }
-  void Wheel(int turn)
-  {
-    QWheelEvent event(QPointF(200, 200), View().mapToGlobal(QPointF(200, 200)), QPoint(),
-                      QPoint(0, turn), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&View(), &event);
-  }
-
-  QString PaneText(int index)
-  {
-    return Window().statusBar()->findChildren<StatusPane*>().at(index)->text();
-  }
-
-  std::unique_ptr<Shell> shell;
-  bool started = false;
-};
+class Desk : public test::DeskFixture {};
 
 TEST_F(Desk, StartsAndShowsTheDesign)
 {
@@ -152,7 +101,7 @@ TEST_F(Desk, APressOnTheUnitsPaneOpensTheUnitsDialogAndOneOnTheOtherDoesNot)
 
 TEST_F(Desk, ARebuiltTreeShowsItsRootsOpenAndItsSidesClosed)
 {
-  auto& tree = *Window().findChild<ObjectTreeWidget*>();
+  ObjectTreeWidget& tree = Tree();
   const QAbstractItemModel& model = *tree.model();
   const auto root = [&] { return model.index(0, 0); };
   tree.expand(model.index(0, 0, root()));
