@@ -23,12 +23,6 @@ ObjectTreeWidget::ObjectTreeWidget(QWidget* parent) : QTreeView(parent)
   setAccessibleName(tr("Object tree"));
   setAccessibleDescription(tr("The design by side, with its polylines, points and anchors"));
   connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) { Click(index); });
-  // Opening or closing a side is a click on it, too.
-  const auto onSide = [this](const QModelIndex& index) {
-    if (model_ != nullptr && model_->ItemAt(index).level == TreeLevel::Side) Click(index);
-  };
-  connect(this, &QTreeView::expanded, this, onSide);
-  connect(this, &QTreeView::collapsed, this, onSide);
 }
 
 void ObjectTreeWidget::Attach(CObjectView& pane)
@@ -103,6 +97,11 @@ void ObjectTreeWidget::keyPressEvent(QKeyEvent* event)
 {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     Click(currentIndex());
+    return;
+  }
+  if (event->matches(QKeySequence::Copy)) {
+    // The toolkit would copy the row's text; the program's own command of this key does nothing.
+    event->ignore();
     return;
   }
   QTreeView::keyPressEvent(event);

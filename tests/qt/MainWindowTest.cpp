@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QKeyEvent>
 #include <QMenuBar>
 #include <QTimer>
 #include <QToolBar>
@@ -110,24 +109,6 @@ TEST_F(Desk, ARebuiltTreeShowsItsRootsOpenAndItsSidesClosed)
   EXPECT_TRUE(tree.isExpanded(root()));
   EXPECT_TRUE(tree.isExpanded(model.index(1, 0)));
   EXPECT_FALSE(tree.isExpanded(model.index(0, 0, root())));
-}
-
-TEST_F(Desk, OpeningASideInTheTreeCountsAsAClickOnIt)
-{
-  auto& tree = *Window().findChild<ObjectTreeWidget*>();
-  const QAbstractItemModel& model = *tree.model();
-  const QModelIndex top = model.index(0, 0, model.index(0, 0));
-  tree.expand(top);
-  const QModelIndex line = model.index(0, 0, top);
-  tree.setCurrentIndex(line);
-  const auto icon = [&] {
-    return model.data(line, Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
-  };
-  const QImage before = icon();
-  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-  QApplication::sendEvent(&tree, &enter);
-  EXPECT_TRUE(FindViewGroup(shell->App().shapeGroups, 1)->shapes.at(0)->editing);
-  EXPECT_NE(icon(), before);
 }
 
 TEST_F(Desk, TheWheelGathersFractionsOfANotchAndTakesOneStepAMessage)
