@@ -7,9 +7,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "qt/Icons.h"
 #include "qt/QtText.h"
@@ -25,6 +27,20 @@ constexpr int allColumns = 3;
 constexpr int fieldWidth = 130;
 constexpr int unitWidth = 56;
 constexpr int noteWidth = 300;
+
+/// A list box that tells of every double click of the left button, also of one beside its entries.
+class ListBox : public QListWidget {
+public:
+  using QListWidget::QListWidget;
+  std::function<void()> onDoubleClick;
+
+protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override
+  {
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton) onDoubleClick();
+  }
+};
 
 }  // namespace
 
@@ -153,11 +169,12 @@ void TemplateDialog::AddButton(const DialogRow& row)
 
 void TemplateDialog::AddList(const DialogRow& row)
 {
-  list_ = new QListWidget(this);
+  auto* const list = new ListBox(this);
+  list->onDoubleClick = [this] { accept(); };
+  list_ = list;
   list_->setAccessibleName(ToQString(row.text));
   list_->setMinimumSize(noteWidth, noteWidth);
   Keep(row.id, list_);
-  connect(list_, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
   Grid().addWidget(list_, Grid().rowCount(), labelColumn, 1, allColumns);
 }
 
