@@ -45,7 +45,7 @@ protected:
 }  // namespace
 
 TemplateDialog::TemplateDialog(const DialogTemplate& rows, IDialog& logic, QWidget* parent)
-    : QDialog(parent), logic_(logic), boxes_(new QVBoxLayout(this))
+    : QDialog(parent), rows_(rows), logic_(logic), boxes_(new QVBoxLayout(this))
 {
   setWindowTitle(ToQString(rows.title));
   for (const DialogRow& row : rows.rows) AddRow(row);
@@ -114,7 +114,20 @@ QLineEdit* TemplateDialog::MakeField(int id, const QString& name)
   field->setAlignment(Qt::AlignRight);
   field->setAccessibleName(name);
   Keep(id, field);
+  connect(field, &QLineEdit::textEdited, this, [this, id] { TakeTyped(id); });
   return field;
+}
+
+void TemplateDialog::TakeTyped(int field)
+{
+  auto& edit = *Find<QLineEdit>(field);
+  const QString taken = ToQString(AsTyped(ToWide(edit.text())));
+  if (taken != edit.text()) {
+    const int caret = edit.cursorPosition();
+    edit.setText(taken);
+    edit.setCursorPosition(caret);
+  }
+  SetChecked(ChosenByTyping(rows_, field), true);
 }
 
 void TemplateDialog::AddField(const DialogRow& row)
@@ -136,8 +149,7 @@ void TemplateDialog::AddUnit(const DialogRow& row)
   auto* const unit = new QLabel(ToQString(row.unitText), box_);
   unit->setMinimumWidth(unitWidth);
   Keep(row.unitId, unit);
-  const int field = row.kind == DialogRowKind::RadioField ? row.labelId : row.id;
-  unitOf_[unit] = Find<QLineEdit>(field);
+  unitOf_[unit] = Find<QLineEdit>(FieldOf(row));
   unitOf_[unit]->setAccessibleDescription(unit->text());
   Grid().addWidget(unit, Grid().rowCount() - 1, unitColumn);
 }
@@ -159,9 +171,7 @@ void TemplateDialog::AddButton(const DialogRow& row)
     grid.addWidget(button, line, labelColumn, 1, allColumns);
     return;
   }
-  QLineEdit* const field = MakeField(row.labelId, tr("%1 by").arg(ToQString(row.text)));
-  // Typing an angle chooses it.
-  connect(field, &QLineEdit::textEdited, button, [button] { button->setChecked(true); });
+  QLineEdit* const field = MakeField(FieldOf(row), tr("%1 by").arg(ToQString(row.text)));
   grid.addWidget(button, line, labelColumn);
   grid.addWidget(field, line, fieldColumn);
   AddUnit(row);

@@ -17,7 +17,8 @@ class QVBoxLayout;
 namespace hullwright {
 
 /// A modal dialog made from its template: boxes from top to bottom, in each a column of labels, one
-/// of fields and one of units, OK and Cancel below. The logic fills it and takes its values.
+/// of fields and one of units, OK and Cancel below. The logic fills it and takes its values. The
+/// template must outlive it.
 class TemplateDialog : public QDialog, public IDialogControls {
   Q_OBJECT
 
@@ -50,11 +51,13 @@ private:
   void FocusFirst(const DialogTemplate& rows);
   QGridLayout& Grid();
   QLineEdit* MakeField(int id, const QString& name);
+  void TakeTyped(int field);
   void Keep(int id, QWidget* widget);
 
   template <class T>
   T* Find(int id) const;
 
+  const DialogTemplate& rows_;
   IDialog& logic_;
   QVBoxLayout* boxes_;
   QWidget* box_ = nullptr;       ///< the box that rows go into

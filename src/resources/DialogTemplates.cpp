@@ -88,4 +88,28 @@ const DialogTemplate* FindDialogTemplate(int id)
   return found == templates.end() ? nullptr : found;
 }
 
+int FieldOf(const DialogRow& row)
+{
+  switch (row.kind) {
+    case DialogRowKind::Field: return row.id;
+    case DialogRowKind::RadioField: return row.labelId;
+    default: return 0;
+  }
+}
+
+std::u16string AsTyped(std::u16string_view text)
+{
+  std::u16string taken(text);
+  std::ranges::replace(taken, u',', u'.');
+  return taken;
+}
+
+int ChosenByTyping(const DialogTemplate& rows, int field)
+{
+  for (const DialogRow& row : rows.rows) {
+    if (row.kind == DialogRowKind::RadioField && FieldOf(row) == field) return row.id;
+  }
+  return 0;
+}
+
 }  // namespace hullwright

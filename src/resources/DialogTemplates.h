@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace hullwright {
@@ -32,8 +33,8 @@ struct DialogRow {
   DialogRowKind kind;
   int id = 0;                     ///< of the field, box or button
   std::u16string_view text = {};  ///< label or title
-  int labelId = 0;
-  int unitId = 0;  ///< of the text behind the field
+  int labelId = 0;  ///< of the label; of the edit field that a radio button has of its own
+  int unitId = 0;   ///< of the text behind the field
   std::u16string_view unitText = {};
 };
 
@@ -47,5 +48,17 @@ struct DialogTemplate {
 
 /// The template of a number; null for one that there is not.
 const DialogTemplate* FindDialogTemplate(int id);
+
+/// The edit field of a row; 0 where it has none. All of them hold numbers.
+int FieldOf(const DialogRow& row);
+
+// What typing does, for the window and for whatever stands in its place.
+
+/// What an edit field makes of a text that is typed or pasted: a comma, which stands on the number
+/// pad of many keyboards, becomes the point that numbers are read with.
+std::u16string AsTyped(std::u16string_view text);
+
+/// The radio button that typing into an edit field chooses; 0 for none.
+int ChosenByTyping(const DialogTemplate& rows, int field);
 
 }  // namespace hullwright

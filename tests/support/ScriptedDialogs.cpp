@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "resources/DialogTemplates.h"
-
 namespace hullwright::test {
 
 DialogEnd ScriptedDialogs::Run(IDialog& dialog)
@@ -16,6 +14,9 @@ DialogEnd ScriptedDialogs::Run(IDialog& dialog)
   startSelected = selected;
   for (const auto& [id, text] : script.fields) SetText(id, text);
   for (const auto& [id, checked] : script.clicks) Click(dialog, id, checked);
+  if (const DialogTemplate* const rows = FindDialogTemplate(dialog.Template())) {
+    for (const auto& [id, text] : script.typed) Type(*rows, id, text);
+  }
   if (script.select) selected = script.select;
   if (script.selectNothing) selected.reset();
   if (!script.ok) return DialogEnd::Cancel;
@@ -54,6 +55,15 @@ void ScriptedDialogs::Click(IDialog& dialog, int id, bool checked)
 {
   SetChecked(id, checked);
   dialog.OnClick(*this, id);
+}
+
+void ScriptedDialogs::Type(const DialogTemplate& rows, int id, std::u16string_view text)
+{
+  // Nobody can type into a label or into a field that is greyed.
+  if (std::ranges::find(rows.rows, id, FieldOf) == rows.rows.end()) return;
+  if (const auto found = enabled.find(id); found != enabled.end() && !found->second) return;
+  SetText(id, AsTyped(text));
+  SetChecked(ChosenByTyping(rows, id), true);
 }
 
 std::u16string ScriptedDialogs::GetText(int id) const

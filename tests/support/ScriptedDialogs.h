@@ -6,15 +6,17 @@
 #include <vector>
 
 #include "platform/Dialogs.h"
+#include "resources/DialogTemplates.h"
 
 namespace hullwright::test {
 
-/// What happens in the next dialogs: texts typed, buttons clicked, a list entry chosen, then the
-/// end.
+/// What happens in the next dialogs: texts filled in, buttons clicked, texts typed, a list entry
+/// chosen, then the end.
 struct DialogScript {
   bool ok = false;
-  std::map<int, std::u16string> fields = {};
+  std::map<int, std::u16string> fields = {};  ///< stand in their fields without further effect
   std::vector<std::pair<int, bool>> clicks = {};
+  std::map<int, std::u16string> typed = {};  ///< typed over, with all that a person's typing does
   std::optional<std::size_t> select =
       std::nullopt;  ///< list entry; what was selected at opening stays
   bool selectNothing = false;
@@ -55,6 +57,7 @@ public:
 private:
   void Open(int templateId);
   void Click(IDialog& dialog, int id, bool checked);
+  void Type(const DialogTemplate& rows, int id, std::u16string_view text);
 
   std::map<int, std::u16string> texts_;
   std::map<int, bool> checks_;

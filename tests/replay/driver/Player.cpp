@@ -28,15 +28,23 @@ std::vector<std::size_t> PathOf(const QJsonValue& value)
   return path;
 }
 
+/// Texts by the ids of their fields.
+std::map<int, std::u16string> TextsOf(const QJsonObject& object)
+{
+  std::map<int, std::u16string> texts;
+  for (auto text = object.begin(); text != object.end(); ++text) {
+    texts[text.key().toInt()] = WideOf(text.value());
+  }
+  return texts;
+}
+
 test::DialogScript DialogOf(const QJsonObject& object)
 {
   test::DialogScript script;
   const QString end = object[u"end"].toString();
   script.ok = end == u"ok" || end == u"dblclick";
-  const QJsonObject fields = object[u"fields"].toObject();
-  for (auto field = fields.begin(); field != fields.end(); ++field) {
-    script.fields[field.key().toInt()] = WideOf(field.value());
-  }
+  script.fields = TextsOf(object[u"fields"].toObject());
+  script.typed = TextsOf(object[u"type"].toObject());
   const QJsonObject checks = object[u"checks"].toObject();
   for (auto check = checks.begin(); check != checks.end(); ++check) {
     script.clicks.emplace_back(check.key().toInt(), check.value().toBool());

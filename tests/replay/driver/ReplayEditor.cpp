@@ -50,8 +50,7 @@ DialogFields FieldsOf(int id)
   const DialogTemplate* const rows = FindDialogTemplate(id);
   if (rows == nullptr) return found;
   for (const DialogRow& row : rows->rows) {
-    if (row.kind == DialogRowKind::Field) found.fields.push_back(row.id);
-    if (row.kind == DialogRowKind::RadioField) found.fields.push_back(row.labelId);
+    if (const int field = FieldOf(row); field != 0) found.fields.push_back(field);
     if (row.kind == DialogRowKind::Field && found.unit == 0) found.unit = row.unitId;
   }
   return found;
