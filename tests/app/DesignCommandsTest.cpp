@@ -169,6 +169,34 @@ TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
   }
 }
 
+struct WalkCase {
+  int command;
+  DialogScript script;
+};
+
+class EachWalk : public Commands, public testing::WithParamInterface<WalkCase> {};
+
+TEST_P(EachWalk, EndsAtAnEmptySlotAndTellsAll)
+{
+  const CShapeVertex start(1.0, 2.0, 3.0);
+  const CShapePolyline& before = AddLine(ViewSide::Top, start);
+  GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(nullptr);
+  const CShapePolyline& behind = AddLine(ViewSide::Top, start);
+  Run(GetParam().command, GetParam().script);
+  EXPECT_FALSE(*before.vertices[0] == start);
+  EXPECT_TRUE(*behind.vertices[0] == start);
+  EXPECT_THAT(listening.heard, ElementsAreArray(all));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, EachWalk,
+    testing::Values(WalkCase{Command::MirrorVertically, {}},
+                    WalkCase{Command::MirrorHorizontally, {}},
+                    WalkCase{Command::Scale, {.ok = true, .fields = {{1011, u"2"}}}},
+                    WalkCase{Command::Move, {.ok = true, .fields = {{1024, u"2"}}}},
+                    WalkCase{Command::RotateLeft, {.ok = true}},
+                    WalkCase{Command::RotateRight, {.ok = true}}));
+
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});

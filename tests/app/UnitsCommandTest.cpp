@@ -78,6 +78,33 @@ TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
   EXPECT_TRUE(document.IsModified());
 }
 
+TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
+{
+  const CShapePolyline& top = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  std::vector<std::int32_t> units;
+  messages.onQuestion = [&] {
+    units.push_back(app.unitCode);
+    EXPECT_EQ(top.vertices[0]->x, 3.048);
+    EXPECT_EQ(app.offsetGps->x, 10.0);
+  };
+  messages.answer = true;
+  ToFeet();
+  EXPECT_THAT(units, ElementsAre(9002));
+  EXPECT_EQ(top.vertices[0]->x, 10.0);
+}
+
+TEST_F(UnitsCommand, AnEmptySlotEndsTheConversionOfShapesAndNotThatOfOffsets)
+{
+  const CShapePolyline& before = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(nullptr);
+  const CShapePolyline& behind = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  messages.answer = true;
+  ToFeet();
+  EXPECT_EQ(before.vertices[0]->x, 10.0);
+  EXPECT_EQ(behind.vertices[0]->x, 3.048);
+  EXPECT_EQ(app.offsetGps->x, 10.0 / 0.3048);
+}
+
 TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
 {
   AddLine(ViewSide::Bottom, {1.0, 0.0, 0.0});

@@ -40,12 +40,14 @@ public:
   bool AskYesNo(std::u16string_view question) override
   {
     asked.emplace_back(question);
+    if (onQuestion) onQuestion();
     return answer;
   }
 
   std::vector<std::u16string> shown;
   std::vector<std::u16string> asked;
   bool answer = false;
+  std::function<void()> onQuestion;  ///< runs while the question is open
 };
 
 class FakeCursor : public ICursor {
