@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <optional>
+
 #include "resources/CommandIds.h"
 #include "support/AppFixture.h"
 
@@ -156,6 +158,32 @@ TEST_F(MainFrame, ALookIsShownThenStoredAndBearsTheMark)
   EXPECT_FALSE(frame.QueryCommand(210).checked);
   EXPECT_TRUE(frame.OnCommand(213));
   EXPECT_EQ(app.applicationLook, 213);
+}
+
+/// Looks into the settings at the moment that a look is shown.
+class WatchingWidgets : public test::FakeWidgets {
+public:
+  explicit WatchingWidgets(const test::FakeSettings& settings) : settings_(settings) {}
+  void ApplyLook(int look) override
+  {
+    FakeWidgets::ApplyLook(look);
+    storedBefore = settings_.written;
+  }
+  std::optional<std::vector<std::string>> storedBefore;
+
+private:
+  const test::FakeSettings& settings_;
+};
+
+TEST_F(MainFrame, ALookIsStoredOnlyAfterItIsShown)
+{
+  WatchingWidgets watching(settings);
+  CMainFrame watched(app, watching);
+  watched.OnApplicationLook(206);
+  EXPECT_THAT(watching.calls, ElementsAre("look 206"));
+  EXPECT_EQ(watching.storedBefore, std::vector<std::string>());
+  EXPECT_THAT(settings.written, ElementsAre("Workspace/ApplicationLook"));
+  EXPECT_EQ(settings.values["Workspace/ApplicationLook"], 206);
 }
 
 TEST_F(MainFrame, AStoredLookOf219MarksNoEntryOfTheMenu)

@@ -149,6 +149,17 @@ TEST_F(DocumentFlow, YesSavesBeforeItGoesOn)
   EXPECT_EQ(Groups(), 0U);
 }
 
+TEST_F(DocumentFlow, TheReturnKeyAnswersTheQuestionWithYes)
+{
+  ASSERT_TRUE(Start(Design("boat.xml")));
+  shell->App().unitCode = 9002;
+  Modify();
+  WhenAsked<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+  Documents().New();
+  EXPECT_NE(folder.Read("boat.xml").find("9002"), std::string::npos);
+  EXPECT_EQ(Groups(), 0U);
+}
+
 TEST_F(DocumentFlow, AnUnmodifiedDesignIsLeftWithoutAQuestion)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));

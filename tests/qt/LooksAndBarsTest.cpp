@@ -250,6 +250,18 @@ TEST_F(Frame, AToolBarOfTheUsersOwnSurvivesARestartAndCanBeDeleted)
   EXPECT_EQ(Bars().size(), 1);
 }
 
+TEST_F(Frame, ToolBarsOfTheUsersOwnAreNumberedFrom59432)
+{
+  Actions actions(&Window(), [](int) {});
+  ToolBars bars(Window(), actions, {Command::FileNew});
+  const ToolBarSpec own = {QStringLiteral("Mine"), {Command::FileOpen}};
+  bars.Build({bars.StandardSpec(), own, own, own});
+  QStringList names;
+  for (const QToolBar* bar : bars.Bars()) names.append(bar->objectName());
+  EXPECT_EQ(names, (QStringList{QStringLiteral("StandardToolBar"), QStringLiteral("59432"),
+                                QStringLiteral("59433"), QStringLiteral("59434")}));
+}
+
 TEST_F(Frame, TenToolBarsOfTheUsersOwnAreTheMost)
 {
   QList<ToolBarSpec> specs = {{QStringLiteral("Standard"), {Command::FileNew}}};

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <set>
+#include <map>
 
 #include "resources/Accelerators.h"
 #include "resources/Commands.h"
@@ -85,9 +85,15 @@ TEST(Menus, ViewMenuHasTheLooks)
 
 TEST(Menus, SideDropDown)
 {
-  std::vector<int> ids;
-  for (const MenuItem& item : viewMenu) ids.push_back(item.id);
-  EXPECT_EQ(ids, (std::vector<int>{32804, 32805, 32806, 32807, 32802, 32803}));
+  MenuRows rows;
+  for (const MenuItem& item : viewMenu) rows.emplace_back(item.id, item.text);
+  EXPECT_EQ(rows, (MenuRows{{32804, u"Top"},
+                            {32805, u"Bottom"},
+                            {32806, u"Front"},
+                            {32807, u"Rear"},
+                            {32802, u"Right"},
+                            {32803, u"Left"}}));
+  EXPECT_EQ(viewButtonText, u"Select\rView");
 }
 
 TEST(ToolBars, StandInTheirOrder)
@@ -101,11 +107,24 @@ TEST(ToolBars, StandInTheirOrder)
             (std::vector<int>{57600, 57601, 57603, 0, 57635, 57634, 57637, 0, 57607, 57664}));
 }
 
-TEST(Accelerators, RedoIsNamedInItsMenuButHasNoKey)
+TEST(Accelerators, EachKeyRunsItsCommandAndRedoHasNone)
 {
-  for (const Accelerator& accelerator : accelerators)
-    EXPECT_NE(accelerator.command, Command::EditRedo);
-  EXPECT_EQ(accelerators.size(), 14U);
+  std::map<std::string_view, int> keys;
+  for (const Accelerator& accelerator : accelerators) keys[accelerator.key] = accelerator.command;
+  EXPECT_EQ(keys, (std::map<std::string_view, int>{{"Ctrl+N", 57600},
+                                                   {"Ctrl+O", 57601},
+                                                   {"Ctrl+S", 57603},
+                                                   {"Ctrl+P", 57607},
+                                                   {"Ctrl+Z", 57643},
+                                                   {"Alt+Backspace", 57643},
+                                                   {"Ctrl+X", 57635},
+                                                   {"Shift+Del", 57635},
+                                                   {"Ctrl+C", 57634},
+                                                   {"Ctrl+Ins", 57634},
+                                                   {"Ctrl+V", 57637},
+                                                   {"Shift+Ins", 57637},
+                                                   {"F6", 57680},
+                                                   {"Shift+F6", 57681}}));
 }
 
 TEST(Commands, PromptsHaveAStatusTextAndATooltip)
@@ -173,6 +192,15 @@ TEST(ViewSides, CodesAndCommandsBelongTogether)
   EXPECT_EQ(FindViewSide(63), nullptr);
   EXPECT_EQ(FindViewSideByCommand(32802)->code, 4);
   EXPECT_EQ(FindViewSideByCommand(32808), nullptr);
+}
+
+TEST(Strings, TheWindowsOwnTexts)
+{
+  EXPECT_EQ(Strings::ready, u"Ready");
+  EXPECT_EQ(Strings::paneEmpty, u"N/A");
+  EXPECT_EQ(Strings::objectView, u"Object View");
+  EXPECT_EQ(Strings::standardToolBar, u"Standard");
+  EXPECT_EQ(Strings::customize, u"Customize...");
 }
 
 TEST(Strings, TheLibrariesMessageHasTwoBlanks)

@@ -1,0 +1,197 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <set>
+
+#include "qt/TemplateDialog.h"
+#include "resources/Accelerators.h"
+#include "resources/CommandIds.h"
+#include "support/DeskFixture.h"
+
+namespace hullwright {
+namespace {
+
+struct KeyCase {
+  const char* name;
+  Qt::Key key;
+  Qt::KeyboardModifiers modifiers;
+  int command;
+};
+
+class Keys : public test::ShellFixture, public testing::WithParamInterface<KeyCase> {};
+
+TEST_P(Keys, RunTheirCommand)
+{
+  QWidget window;
+  std::vector<int> ran;
+  Actions actions(&window, [&ran](int command) { ran.push_back(command); });
+  for (const Accelerator& accelerator : accelerators) actions.Get(accelerator.command);
+  window.show();
+  window.activateWindow();
+  QApplication::processEvents();
+  QTest::keyClick(&window, GetParam().key, GetParam().modifiers);
+  EXPECT_EQ(ran, std::vector<int>{GetParam().command});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Accelerators, Keys,
+    testing::Values(KeyCase{"CtrlN", Qt::Key_N, Qt::ControlModifier, 57600},
+                    KeyCase{"CtrlO", Qt::Key_O, Qt::ControlModifier, 57601},
+                    KeyCase{"CtrlS", Qt::Key_S, Qt::ControlModifier, 57603},
+                    KeyCase{"CtrlP", Qt::Key_P, Qt::ControlModifier, 57607},
+                    KeyCase{"CtrlZ", Qt::Key_Z, Qt::ControlModifier, 57643},
+                    KeyCase{"AltBackspace", Qt::Key_Backspace, Qt::AltModifier, 57643},
+                    KeyCase{"CtrlX", Qt::Key_X, Qt::ControlModifier, 57635},
+                    KeyCase{"ShiftDelete", Qt::Key_Delete, Qt::ShiftModifier, 57635},
+                    KeyCase{"CtrlC", Qt::Key_C, Qt::ControlModifier, 57634},
+                    KeyCase{"CtrlInsert", Qt::Key_Insert, Qt::ControlModifier, 57634},
+                    KeyCase{"CtrlV", Qt::Key_V, Qt::ControlModifier, 57637},
+                    KeyCase{"ShiftInsert", Qt::Key_Insert, Qt::ShiftModifier, 57637},
+                    KeyCase{"F6", Qt::Key_F6, Qt::NoModifier, 57680},
+                    KeyCase{"ShiftF6", Qt::Key_F6, Qt::ShiftModifier, 57681}),
+    [](const auto& row) { return row.param.name; });
+
+class Marks : public test::DeskFixture {
+protected:
+  Marks()
+  {
+    Window().activateWindow();
+    QApplication::processEvents();
+  }
+
+  QToolButton& Button(const char* label)
+  {
+    for (QToolButton* button : Window().findChildren<QToolButton*>()) {
+      if (button->text() == QLatin1String(label)) return *button;
+    }
+    ADD_FAILURE() << label;
+    return *Window().findChild<QToolButton*>();
+  }
+
+  /// The looks of the menu that bear the mark.
+  QStringList MarkedLooks()
+  {
+    QStringList marked;
+    for (const char* look :
+         {"Windows 2000", "Office XP", "Windows XP", "Office 2003", "Visual Studio 2005",
+          "Visual Studio 2008", "Blue Style", "Black Style", "Silver Style", "Aqua Style"}) {
+      const QAction* const action = Action(look);
+      if (action == nullptr || !action->isCheckable()) {
+        ADD_FAILURE() << look;
+      } else if (action->isChecked()) {
+        marked.append(QLatin1String(look));
+      }
+    }
+    return marked;
+  }
+
+  void Restart()
+  {
+    Window().close();
+    shell.reset();
+    shell = std::make_unique<Shell>(QString());
+    ASSERT_TRUE(shell->App().InitInstance(*shell));
+  }
+};
+
+TEST_F(Marks, TheKeysOfTheWindowReachItsCommands)
+{
+  View().setFocus();
+  QTest::keyClick(&View(), Qt::Key_F6);
+  EXPECT_EQ(Window().focusWidget(), &Tree());
+  QTest::keyClick(&Tree(), Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_EQ(Window().focusWidget(), &View());
+  QTest::keyClick(&View(), Qt::Key_N, Qt::ControlModifier);
+  EXPECT_TRUE(shell->App().shapeGroups.empty());
+}
+
+TEST_F(Marks, TheWindowKnowsEveryKeyAndThoseWithoutAHandlerAreGrey)
+{
+  const std::set<int> answered = {Command::FileNew, Command::FileOpen, Command::FileSave,
+                                  Command::NextPane, Command::PreviousPane};
+  for (const Accelerator& accelerator : accelerators) {
+    const QKeySequence key(QString::fromLatin1(accelerator.key.data()));
+    int found = 0;
+    for (const QAction* action : Window().actions()) {
+      if (!action->shortcuts().contains(key)) continue;
+      ++found;
+      EXPECT_EQ(action->isEnabled(), answered.contains(accelerator.command)) << accelerator.key;
+    }
+    EXPECT_EQ(found, 1) << accelerator.key;
+  }
+}
+
+TEST_F(Marks, TheGridButtonShowsAndHidesTheGridAndBearsItsMark)
+{
+  QToolButton& grid = Button("Toggle\nGrid");
+  EXPECT_TRUE(grid.isCheckable());
+  EXPECT_TRUE(grid.isChecked());
+  grid.click();
+  EXPECT_EQ(shell->App().LoadGridSettings().show, 0);
+  EXPECT_EQ(shell->App().LoadGridSettings().snap, 1);
+  EXPECT_FALSE(grid.isChecked());
+  grid.click();
+  EXPECT_EQ(shell->App().LoadGridSettings().show, 1);
+  EXPECT_TRUE(grid.isChecked());
+}
+
+TEST_F(Marks, TheSnapButtonSwitchesTheSnapAndBearsItsMark)
+{
+  QToolButton& snap = Button("Toggle\nSnap");
+  EXPECT_TRUE(snap.isCheckable());
+  EXPECT_TRUE(snap.isChecked());
+  snap.click();
+  EXPECT_EQ(shell->App().LoadGridSettings().snap, 0);
+  EXPECT_EQ(shell->App().LoadGridSettings().show, 1);
+  EXPECT_FALSE(snap.isChecked());
+  snap.click();
+  EXPECT_EQ(shell->App().LoadGridSettings().snap, 1);
+  EXPECT_TRUE(snap.isChecked());
+}
+
+TEST_F(Marks, TheMarksOfGridAndSnapFollowTheGridDialog)
+{
+  WhenAsked<TemplateDialog>([](TemplateDialog& dialog) {
+    dialog.SetChecked(1002, false);
+    dialog.SetChecked(1001, false);
+    dialog.accept();
+  });
+  Action("Grid...")->trigger();
+  EXPECT_FALSE(Button("Toggle\nGrid").isChecked());
+  EXPECT_FALSE(Button("Toggle\nSnap").isChecked());
+}
+
+TEST_F(Marks, TheCursorToolThatIsChosenBearsTheMarkAlone)
+{
+  for (const char* chosen : {"Zoom In", "Zoom Out", "Move"}) {
+    Action(chosen)->trigger();
+    for (const char* tool : {"Zoom In", "Zoom Out", "Move"}) {
+      EXPECT_EQ(Action(tool)->isChecked(), tool == chosen) << chosen << ' ' << tool;
+    }
+  }
+}
+
+TEST_F(Marks, TheLookThatIsShownBearsARadioMark)
+{
+  EXPECT_EQ(MarkedLooks(), QStringList{QStringLiteral("Visual Studio 2008")});
+  for (const char* look : {"Office XP", "Black Style", "Black Style", "Windows 2000"}) {
+    Action(look)->trigger();
+    EXPECT_EQ(MarkedLooks(), QStringList{QLatin1String(look)});
+    ASSERT_NE(Action(look)->actionGroup(), nullptr);
+    EXPECT_TRUE(Action(look)->actionGroup()->isExclusive());
+  }
+}
+
+TEST_F(Marks, AStoredLookThatTheMenuLacksIsKeptAndMarksNone)
+{
+  Window().RunCommand(Command::LookLast);
+  EXPECT_EQ(MarkedLooks(), QStringList());
+  Restart();
+  EXPECT_EQ(shell->App().applicationLook, 219);
+  EXPECT_EQ(MarkedLooks(), QStringList());
+}
+
+}  // namespace
+}  // namespace hullwright

@@ -1,0 +1,201 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "resources/CommandIds.h"
+#include "support/DeskFixture.h"
+
+namespace hullwright {
+namespace {
+
+class WindowTexts : public test::DeskFixture {
+protected:
+  QToolBar& Bar() { return *Window().findChild<QToolBar*>(QStringLiteral("StandardToolBar")); }
+
+  QToolButton& Button(const char* label)
+  {
+    for (QToolButton* button : Bar().findChildren<QToolButton*>()) {
+      if (button->text() == QLatin1String(label)) return *button;
+    }
+    ADD_FAILURE() << label;
+    return *Bar().findChild<QToolButton*>();
+  }
+
+  static QStringList Texts(const QList<QAction*>& actions)
+  {
+    QStringList texts;
+    for (const QAction* action : actions) texts.append(action->text());
+    return texts;
+  }
+
+  /// The menu of toolbars and panes, as it opens.
+  QMenu& BarsMenu()
+  {
+    QMenu& menu = *Action("Toolbars and Docking Windows")->menu();
+    Q_EMIT menu.aboutToShow();
+    return menu;
+  }
+
+  /// The mouse comes onto a widget.
+  static void Enter(QWidget& widget)
+  {
+    const QPointF middle(widget.rect().center());
+    QEnterEvent enter(middle, middle, widget.mapToGlobal(middle));
+    QApplication::sendEvent(&widget, &enter);
+  }
+};
+
+TEST_F(WindowTexts, ThePromptIsReadyWhenIdle)
+{
+  const auto* const prompt =
+      Window().statusBar()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+  ASSERT_NE(prompt, nullptr);
+  EXPECT_EQ(prompt->text(), QStringLiteral("Ready"));
+  EXPECT_TRUE(prompt->isVisible());
+}
+
+TEST_F(WindowTexts, TheDataPanesAre250WideAndTheUnitsStandRightmost)
+{
+  const auto panes = Window().statusBar()->findChildren<StatusPane*>();
+  ASSERT_EQ(panes.size(), 2);
+  for (const int width : {1280, 900}) {
+    Window().resize(width, 700);
+    QApplication::processEvents();
+    EXPECT_EQ(panes.at(0)->width(), 250);
+    EXPECT_EQ(panes.at(1)->width(), 250);
+  }
+  EXPECT_LT(panes.at(0)->x(), panes.at(1)->x());
+}
+
+TEST_F(WindowTexts, TheObjectPaneStandsAtTheLeftUnderItsCaption)
+{
+  auto* const pane = Window().findChild<QDockWidget*>();
+  ASSERT_NE(pane, nullptr);
+  EXPECT_EQ(pane->windowTitle(), QStringLiteral("Object View"));
+  EXPECT_EQ(Window().dockWidgetArea(pane), Qt::LeftDockWidgetArea);
+  EXPECT_FALSE(pane->isFloating());
+  EXPECT_LT(pane->x(), View().x());
+  EXPECT_EQ(pane->widget(), &Tree());
+  EXPECT_EQ(pane->width(), 200);
+}
+
+TEST_F(WindowTexts, TheMenuOfBarsEndsWithCustomize)
+{
+  EXPECT_EQ(Texts(BarsMenu().actions()),
+            (QStringList{QStringLiteral("Standard"), QStringLiteral("Object View"), QString(),
+                         QStringLiteral("Customize...")}));
+  WhenAsked<QDialog>([this](QDialog& dialog) {
+    lastQuestion = dialog.windowTitle();
+    dialog.reject();
+  });
+  BarsMenu().actions().constLast()->trigger();
+  EXPECT_EQ(lastQuestion, QStringLiteral("Customize Toolbars"));
+}
+
+TEST_F(WindowTexts, ButtonsOfTheToolBarHaveTheirTooltips)
+{
+  QStringList tips;
+  for (QAction* action : Bar().actions()) {
+    const auto* const button = qobject_cast<QToolButton*>(Bar().widgetForAction(action));
+    if (button != nullptr) tips.append(button->toolTip());
+  }
+  EXPECT_EQ(tips.join(QLatin1Char('\n')).toStdString(),
+            "New Design (Ctrl+N)\nOpen Design (Ctrl+O)\nSave Design (Ctrl+S)\nImport DXF\n"
+            "View Mode\nZoom In\nZoom Out\nShow All\nMove Design\nUndo (Ctrl+Z)\nRedo\n"
+            "Scale Design\nMove Design\nMirror Vert\nMirror Horz\nRotate Left\nRotate Right\n"
+            "Modify Offsets\nToggle Grid\nToggle Snap\nDraw Shape");
+}
+
+TEST_F(WindowTexts, ButtonsBearTheirLabelsOnTwoLines)
+{
+  for (const char* label : {"New\nDesign", "Import\nDXF", "Select\nView", "Zoom\nIn", "Show\nAll",
+                            "Mirror\nVert", "Rotate\nLeft", "Modify\nOffsets", "Toggle\nGrid"}) {
+    EXPECT_TRUE(Button(label).isVisible()) << label;
+    EXPECT_EQ(Button(label).toolButtonStyle(), Qt::ToolButtonTextUnderIcon) << label;
+  }
+}
+
+TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAButton)
+{
+  Enter(Button("Mirror\nVert"));
+  EXPECT_EQ(Window().statusBar()->currentMessage(), QStringLiteral("Mirror design vertical"));
+  Enter(Button("Select\nView"));
+  EXPECT_EQ(Window().statusBar()->currentMessage(), QStringLiteral("Select the current view mode"));
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&Button("Select\nView"), &leave);
+  EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
+}
+
+TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAnEntry)
+{
+  QAction* const title = Window().menuBar()->actions().at(3);
+  ASSERT_EQ(title->text(), QStringLiteral("Modify"));
+  Window().menuBar()->setActiveAction(title);
+  QMenu& menu = *title->menu();
+  ASSERT_TRUE(menu.isVisible());
+  const auto hover = [&](const char* entry) {
+    // A menu takes no notice of the mouse until it has moved a few times.
+    const QPoint place = menu.actionGeometry(Action(entry)).center();
+    for (int step = 8; step >= 0; --step) QTest::mouseMove(&menu, place - QPoint(step, 0));
+    return Window().statusBar()->currentMessage().toStdString();
+  };
+  EXPECT_EQ(hover("Offsets..."), "Modify offsets for devices");
+  EXPECT_EQ(hover("Move..."), "Move design in a specified direction");
+  menu.close();
+  EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
+}
+
+TEST_F(WindowTexts, YesIsTheDefaultOfAQuestion)
+{
+  WhenAsked<QMessageBox>([this](QMessageBox& box) {
+    lastQuestion = box.text();
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(box.standardButton(box.defaultButton()), QMessageBox::Yes);
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_TRUE(shell->App().AskYesNo(u"Really <b>?"));
+  EXPECT_EQ(lastQuestion, QStringLiteral("Really <b>?"));
+  Answer(QMessageBox::No);
+  EXPECT_FALSE(shell->App().AskYesNo(u"Really?"));
+}
+
+/// A window whose frame has been made and not yet shown anything.
+class NewWindow : public test::ShellFixture {
+protected:
+  void Create()
+  {
+    shell.OpenUserStore("Quillmere", 4);
+    ASSERT_TRUE(shell.CreateDocumentTemplate());
+  }
+
+  Shell shell{QString()};
+};
+
+TEST_F(NewWindow, TheDataPanesBeginAsNotAvailable)
+{
+  Create();
+  const auto panes = shell.Window()->findChildren<StatusPane*>();
+  ASSERT_EQ(panes.size(), 2);
+  for (const StatusPane* pane : panes) EXPECT_EQ(pane->text(), QStringLiteral("N/A"));
+}
+
+TEST_F(NewWindow, WithoutThePaneStyleTheSmallToolBarStandsInForTheMainOne)
+{
+  shell.App().paneStyleFlag = 0;
+  Create();
+  QStringList labels;
+  for (const QAction* action : shell.Window()->findChild<QToolBar*>()->actions()) {
+    labels.append(action->isSeparator() ? QStringLiteral("|") : action->iconText());
+  }
+  EXPECT_EQ(labels.join(QLatin1Char(' ')).toStdString(),
+            "New\nDesign Open\nDesign Save\nDesign | Cut Copy Paste | Print About");
+  EXPECT_EQ(shell.Window()->findChild<QToolBar*>()->windowTitle(), QStringLiteral("Standard"));
+}
+
+}  // namespace
+}  // namespace hullwright
