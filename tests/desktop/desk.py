@@ -49,10 +49,18 @@ class Desk:
         self._processes.append(process)
         return process
 
-    def start(self, program, *arguments):
-        """Starts the program and waits for its window."""
+    def launch(self, program, *arguments):
+        """Starts the program and waits for nothing."""
         with open(self.folder / "complaints", "wb") as complaints:
             self.program = self._start([program, *map(str, arguments)], stderr=complaints)
+
+    def complaints(self):
+        """What the program has written on standard error so far."""
+        return (self.folder / "complaints").read_text(errors="replace")
+
+    def start(self, program, *arguments):
+        """Starts the program and waits for its window."""
+        self.launch(program, *arguments)
         found = self._xdotool("search", "--sync", "--onlyvisible", "--name", "Hullwright")
         self.window = found.split()[-1]
         self.activate()
@@ -203,5 +211,5 @@ class Desk:
         """Waits until the program has ended by itself; its exit status. Tells what it complained of."""
         status = self.program.wait(PATIENCE)
         if status:
-            print((self.folder / "complaints").read_text(errors="replace"), file=sys.stderr)
+            print(self.complaints(), file=sys.stderr)
         return status
