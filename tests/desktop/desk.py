@@ -2,134 +2,241 @@
 
 import os
 import pathlib
+import re
+import select
 import signal
-import struct
 import subprocess
-import sys
 import tempfile
 import time
 
-PAPER = (255, 255, 224)  # the design view's background
-PATIENCE = 60            # seconds that anything may take on a slow machine
+from screen import Screen
+
+PATIENCE = 60        # seconds that anything may take on a slow machine
+TICK = 0.008         # seconds between two looks at what the desk does
+REST = 3             # looks in a row without any activity that make a rest; a repaint may wait for 5 ms
+DOUBLE_CLICK = 0.45  # seconds after which a second click is one of its own
+
+# Fonts as the system has them, with a cache of the desk's own.
+FONTS = """<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts</dir>
+  <include ignore_missing="yes">/etc/fonts/conf.d</include>
+  <cachedir prefix="xdg">fontconfig</cachedir>
+</fontconfig>
+"""
 
 
 class Desk:
-    """Runs one program in a real window under Xvfb. Settings and home lie in a folder of its own."""
+    """A display under Xvfb for one program at a time, which runs in a real window. Settings, caches and home
+    lie in a folder of its own. There is no session bus: without an address the toolkit would try to launch one
+    at each start, and whatever bus the person at the machine has is none of the tests' business."""
 
-    def __init__(self, size="1400x1000"):
-        self._folder = tempfile.TemporaryDirectory()
-        self.folder = pathlib.Path(self._folder.name)
-        self._processes = []
-        self.environment = dict(os.environ, HOME=str(self.folder), QT_QPA_PLATFORM="xcb",
-                                XDG_CONFIG_HOME=str(self.folder / "config"),
-                                XDG_RUNTIME_DIR=str(self.folder))
-        read, write = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
-                     "-noreset"], pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as answer:
-            self.environment["DISPLAY"] = ":" + answer.readline().strip()
-        # A keyboard with umlauts: a key that has to be bound first reaches a busy program too late.
-        subprocess.run(["setxkbmap", "de"], env=self.environment, check=True, timeout=PATIENCE)
-        self._start(["openbox", "--sm-disable"])
+    def __init__(self, size="1400x1000", own_fonts=False):
+        self._own_fonts = own_fonts
+        self._top = tempfile.TemporaryDirectory(prefix="desk-")
+        self._homes = 0
+        self._display = []  # the processes that are there as long as the desk is
+        self.folder = None
         self.window = None
         self.program = None
+        self._last_click = (0.0, None)
+        self._environment = {name: value for name, value in os.environ.items()
+                             if not name.startswith(("XDG_", "QT_", "DBUS_", "FONTCONFIG_"))}
+        self._environment.update(QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS="disabled:")
+        self._move_house()
+        try:
+            self._open_display(size)
+            self.clear()
+        except BaseException:
+            self.close()
+            raise
+
+    def _open_display(self, size):
+        read, write = os.pipe()
+        server = self._spawn(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten",
+                              "tcp", "-noreset"], pass_fds=[write], stdout=subprocess.DEVNULL)
+        self._display.append(server)
+        os.close(write)
+        with os.fdopen(read) as answer:
+            self._environment["DISPLAY"] = ":" + self._line(answer, "the display")
+        # A keyboard with umlauts: a key that has to be bound first reaches a busy program too late.
+        self._run("setxkbmap", "de")
+        # The window manager drops what windows ask of it until it listens, and then runs this command.
+        # A program that shows its window before that may stay without one for ever.
+        manager = self._spawn(["openbox", "--sm-disable", "--startup", "echo ready"], stdout=subprocess.PIPE)
+        self._display.append(manager)
+        self._line(manager.stdout, "the window manager")
+
+    @staticmethod
+    def _line(stream, who):
+        """The line that tells that something is ready."""
+        if not select.select([stream], [], [], PATIENCE)[0]:
+            raise AssertionError(f"{who} does not get ready")
+        line = stream.readline().strip()
+        if not line:
+            raise AssertionError(f"{who} has ended")
+        return line
+
+    def clear(self):
+        """Ends the program; the next one finds an empty home and the mouse in the middle."""
+        self._end(self.program)
+        self.program = self.window = None
+        self._move_house()
+        self.move(700, 500)
+
+    def _move_house(self):
+        """Makes a new home for what starts from now on."""
+        self._homes += 1
+        self.folder = pathlib.Path(self._top.name) / str(self._homes)
+        self.folder.mkdir(mode=0o700)
+        self._environment.update(HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder / "config"),
+                                 XDG_CACHE_HOME=str(self.folder / "cache"),
+                                 XDG_DATA_HOME=str(self.folder / "data"), XDG_RUNTIME_DIR=str(self.folder))
+        if self._own_fonts:
+            (self.folder / "fonts.conf").write_text(FONTS)
+            self._environment["FONTCONFIG_FILE"] = str(self.folder / "fonts.conf")
 
     def close(self):
         """Ends everything that was started."""
-        for process in reversed(self._processes):
-            if process.poll() is None:
-                process.send_signal(signal.SIGTERM)
-            process.wait(PATIENCE)
-        self._folder.cleanup()
+        for process in [self.program, *reversed(self._display)]:
+            self._end(process)
+        self._top.cleanup()
 
-    def _start(self, command, **options):
+    @staticmethod
+    def _end(process):
+        if process is None:
+            return
+        if process.poll() is None:
+            process.send_signal(signal.SIGTERM)
+            process.send_signal(signal.SIGCONT)
+        try:
+            process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+        if process.stdout:
+            process.stdout.close()
+
+    def _spawn(self, command, **options):
         options.setdefault("stderr", subprocess.DEVNULL)
-        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.DEVNULL, **options)
-        self._processes.append(process)
-        return process
+        return subprocess.Popen(command, env=self._environment, text=True, **options)
+
+    def _run(self, *words, check=True):
+        """Runs a tool to its end; what it printed."""
+        told = subprocess.run([*map(str, words)], env=self._environment, check=False, capture_output=True,
+                              text=True, timeout=PATIENCE)
+        if check and told.returncode != 0:
+            raise AssertionError(f"{' '.join(told.args)}: {told.stderr.strip() or told.returncode}")
+        return told.stdout
+
+    # The program.
 
     def launch(self, program, *arguments):
         """Starts the program and waits for nothing."""
-        with open(self.folder / "complaints", "wb") as complaints:
-            self.program = self._start([program, *map(str, arguments)], stderr=complaints)
-
-    def complaints(self):
-        """What the program has written on standard error so far."""
-        return (self.folder / "complaints").read_text(errors="replace")
+        with open(self.folder / "output", "wb") as output:
+            self.program = self._spawn([program, *map(str, arguments)], stdout=output, stderr=output)
 
     def start(self, program, *arguments):
-        """Starts the program and waits for its window."""
+        """Starts the program and waits until its window shows the design view and has the keys."""
         self.launch(program, *arguments)
-        found = self._xdotool("search", "--sync", "--onlyvisible", "--name", "Hullwright")
-        self.window = found.split()[-1]
+        self.window = self._wait_for_window("Hullwright")
         self.activate()
-        self.wait_until(lambda: self.paper() is not None)
+        self.wait_until(lambda: self.screen().paper() is not None)
         self.settle()
 
-    def activate(self):
-        """Gives the program's window the keys: where two dialogs close at once, the window manager may leave
-        them with nobody."""
-        self._xdotool("windowactivate", "--sync", self.window)
+    def output(self):
+        """What the program has printed so far."""
+        path = self.folder / "output"
+        return path.read_text(errors="replace") if path.exists() else ""
 
-    def _xdotool(self, *words):
-        return subprocess.run(["xdotool", *map(str, words)], env=self.environment, check=True,
-                              capture_output=True, text=True, timeout=PATIENCE).stdout
+    def wait_for_end(self):
+        """Waits until the program has ended by itself; its exit status."""
+        return self.program.wait(PATIENCE)
+
+    def processes(self):
+        """What runs on this desk: display, window manager and program."""
+        return [process for process in [*self._display, self.program] if process is not None]
+
+    # Waiting.
 
     def wait_until(self, happened):
-        """Waits until something has happened; fails when it takes too long."""
+        """Waits until something has happened; fails when it takes too long or the program ends."""
         deadline = time.monotonic() + PATIENCE
         while not happened():
+            if self.program.poll() is not None and not happened():
+                raise AssertionError(f"the program has ended with {self.program.returncode}:\n{self.output()}")
             if time.monotonic() > deadline:
                 raise AssertionError("nothing happened in time")
-            time.sleep(0.1)
+            time.sleep(2 * TICK)
 
     def _activity(self):
         """How often each thread on this desk has run so far; None while one of them runs or wants to."""
         runs = {}
-        for process in self._processes:
+        for process in self.processes():
             for status in pathlib.Path(f"/proc/{process.pid}/task").glob("*/status"):
                 try:
-                    fields = dict(line.split(":\t", 1) for line in status.read_text().splitlines())
+                    text = status.read_text()
                 except (FileNotFoundError, ProcessLookupError):
                     return None  # a thread that just ended
-                if fields["State"][0] in "RD":
+                if re.search(r"^State:\t[RD]", text, re.M):
                     return None
-                runs[status] = [value for name, value in fields.items() if name.endswith("ctxt_switches")]
+                runs[status] = re.findall(r"ctxt_switches:\t(\d+)", text)
         return runs
 
-    def _rest(self):
+    def _rest(self, looks=REST):
         """Waits until what was sent has been dealt with: the display, the window manager and the program
         all sleep. Unlike a pause this holds on a machine under load as well."""
-        time.sleep(0.05)
-        before, same, deadline = None, 0, time.monotonic() + PATIENCE
-        while same < 3 and time.monotonic() < deadline:
+        before, same, deadline = self._activity(), 0, time.monotonic() + PATIENCE
+        while same < looks and time.monotonic() < deadline:
+            time.sleep(TICK)
             now = self._activity()
             same = same + 1 if now is not None and now == before else 0
             before = now
-            time.sleep(0.02)
 
     def settle(self):
         """Waits until the screen has not changed for a while."""
-        seen = [self.screen()]
-        deadline = time.monotonic() + PATIENCE
-        while len(seen) < 3 and time.monotonic() < deadline:
-            time.sleep(0.1)
-            self._rest()
+        self._rest()
+        before, deadline = self.screen(), time.monotonic() + PATIENCE
+        while time.monotonic() < deadline:
+            self._rest(2 * REST)
             now = self.screen()
-            seen = seen + [now] if now == seen[-1] else [now]
+            if now == before:
+                return
+            before = now
+
+    # Windows.
+
+    def find(self, title, only_visible=False):
+        """The windows whose titles hold a pattern."""
+        options = ["--onlyvisible"] if only_visible else []
+        return self._run("xdotool", "search", *options, "--name", title, check=False).split()
+
+    def window_text(self, window):
+        """A window's place, size and title."""
+        place = self._run("xdotool", "getwindowgeometry", window, check=False).split()[2:]
+        return " ".join([*place, repr(self._run("xdotool", "getwindowname", window, check=False).strip())])
+
+    def _wait_for_window(self, title):
+        """Waits until a window of this title can be seen; the window."""
+        found = []
+
+        def happened():
+            found[:] = self.find(title, only_visible=True)
+            return found
+
+        self.wait_until(happened)
+        return found[-1]
+
+    def activate(self):
+        """Gives the program's window the keys: where two dialogs close at once, the window manager may leave
+        them with nobody."""
+        self._run("xdotool", "windowactivate", "--sync", self.window)
 
     def dialog(self, title):
-        """Waits for a dialog of exactly this title."""
-        found = self._xdotool("search", "--sync", "--onlyvisible", "--name", f"^{title}$").split()
-        self._xdotool("windowactivate", "--sync", found[-1])
+        """Waits for a dialog of exactly this title and gives it the keys."""
+        self._run("xdotool", "windowactivate", "--sync", self._wait_for_window(f"^{title}$"))
         self.settle()
-
-    def _is_open(self, title):
-        """Whether a window of exactly this title can be seen."""
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], check=False,
-                               env=self.environment, capture_output=True, timeout=PATIENCE)
-        return bool(found.stdout.split())
 
     def answer(self, title, key):
         """Waits for a dialog and presses the key that closes it; again where the key came too early."""
@@ -138,78 +245,50 @@ class Desk:
             self.keys(key)
             deadline = time.monotonic() + 3
             while time.monotonic() < deadline:
-                if not self._is_open(title):
+                if not self.find(f"^{title}$", only_visible=True):
                     self.settle()
                     return
-                time.sleep(0.1)
+                time.sleep(2 * TICK)
         raise AssertionError(f"the dialog {title!r} stays open")
 
     def screen(self):
-        """The screen as (bytes a pixel, rows of pixels in the order blue, green, red)."""
-        dump = subprocess.run(["xwd", "-root", "-silent"], env=self.environment, check=True,
+        """A picture of the screen."""
+        dump = subprocess.run(["xwd", "-root", "-silent"], env=self._environment, check=True,
                               capture_output=True, timeout=PATIENCE).stdout
-        header = struct.unpack(">25I", dump[:100])
-        width, height, depth, stride = header[4], header[5], header[11] // 8, header[12]
-        start = header[0] + header[19] * 12
-        return depth, [dump[start + y * stride:][:width * depth] for y in range(height)]
+        return Screen(dump)
 
-    def paper(self):
-        """The design view on the screen as (left, top, width, height); None if it can't be seen."""
-        depth, rows = self.screen()
-        ink = bytes((PAPER[2], PAPER[1], PAPER[0]))
-        found = [(y, row) for y, row in enumerate(rows) if row.count(ink) > 50]
-        if not found:
-            return None
-        spans = [self._span(row, ink, depth) for _, row in found]
-        lefts, rights = [left for left, _ in spans], [right for _, right in spans]
-        return (min(lefts), found[0][0], max(rights) - min(lefts) + 1, found[-1][0] - found[0][0] + 1)
+    # Keys and mouse.
 
-    @staticmethod
-    def _span(row, ink, depth):
-        """The first and the last pixel of a row in a colour; what only spans two pixels is none."""
-        first = row.find(ink)
-        while first % depth:
-            first = row.find(ink, first + 1)
-        last = row.rfind(ink)
-        while last % depth:
-            last = row.rfind(ink, 0, last + len(ink) - 1)
-        return first // depth, last // depth
+    def _send(self, *words):
+        self._run("xdotool", *words)
+        self._rest()
 
     def keys(self, *names):
         """Presses keys one after the other."""
         for name in names:
-            self._xdotool("key", "--clearmodifiers", name)
-            self._rest()
-
-    def move(self, x, y):
-        """Moves the mouse to a position of the screen."""
-        self._xdotool("mousemove", "--sync", x, y)
-        self._rest()
-
-    def click(self, x, y, button=1):
-        """Moves there and clicks."""
-        self.move(x, y)
-        self._xdotool("click", button)
-        self._rest()
+            self._send("key", "--clearmodifiers", name)
 
     def type(self, text):
         """Types a text."""
-        self._xdotool("type", "--clearmodifiers", "--delay", 40, "--", text)
-        self._rest()
+        self._send("type", "--clearmodifiers", "--delay", 40, "--", text)
+
+    def move(self, x, y):
+        """Moves the mouse to a position of the screen."""
+        self._send("mousemove", x, y)
+
+    def click(self, x, y, button=1):
+        """Moves there and clicks: once, even where the last click was at the same place."""
+        self.move(x, y)
+        when, where = self._last_click
+        if where == (x, y, button):
+            time.sleep(max(0.0, when + DOUBLE_CLICK - time.monotonic()))
+        self._send("click", button)
+        self._last_click = (time.monotonic(), (x, y, button))
 
     def press(self):
         """Presses the left button."""
-        self._xdotool("mousedown", 1)
-        self._rest()
+        self._send("mousedown", 1)
 
     def release(self):
         """Releases the left button."""
-        self._xdotool("mouseup", 1)
-        self._rest()
-
-    def wait_for_end(self):
-        """Waits until the program has ended by itself; its exit status. Tells what it complained of."""
-        status = self.program.wait(PATIENCE)
-        if status:
-            print(self.complaints(), file=sys.stderr)
-        return status
+        self._send("mouseup", 1)

@@ -9,11 +9,8 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
-from desk import Desk  # noqa: E402
+from case import DeskTest, SAMPLES  # noqa: E402
 
-PROGRAM = sys.argv.pop(1)
-SAMPLES = pathlib.Path(sys.argv.pop(1))
-VIEW_WIDTH = 200.0
 FOOT = 0.3048
 
 # Menus of the bar by how often the left key is pressed from "File", and their entries from below.
@@ -41,23 +38,15 @@ class Design:
             rf'<{name} x="(.*?)" y="(.*?)" z="(.*?)" />', text)]
 
 
-class EditingTest(unittest.TestCase):
+class EditingTest(DeskTest):
     """Each test edits one small design."""
 
     def setUp(self):
-        self.desk = Desk()
-        self.addCleanup(self.desk.close)
+        super().setUp()
         self.path = self.desk.folder / "boat.xml"
         shutil.copy(SAMPLES / "workboat.xml", self.path)
         self.before = Design(self.path)
-        self.desk.start(PROGRAM, self.path)
-        self.paper = self.desk.paper()
-
-    def pixel(self, x, y):
-        """Position on the screen of a point of the world, before any zoom."""
-        left, top, width, height = self.paper
-        scale = width / VIEW_WIDTH
-        return round(left + width / 2 + x * scale), round(top + height / 2 - y * scale)
+        self.start(self.path)
 
     def choose(self, menu, entry):
         """Runs a menu's entry by the keyboard."""

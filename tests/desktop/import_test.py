@@ -8,35 +8,26 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
-from desk import Desk  # noqa: E402
-
-PROGRAM = sys.argv.pop(1)
-SAMPLES = pathlib.Path(sys.argv.pop(1))
+from case import DeskTest, SAMPLES  # noqa: E402
 
 # Colours of the drawing's layers as (red, green, blue). Some of the devices' symbols have them too.
 HULL = (0, 0, 255)
 DECKHOUSE = (255, 0, 0)
 
 
-class ImportTest(unittest.TestCase):
+class ImportTest(DeskTest):
     """From an empty design to the saved outline."""
 
     def setUp(self):
-        self.desk = Desk()
-        self.addCleanup(self.desk.close)
+        super().setUp()
         self.drawing = self.desk.folder / "Plan \u00e4.dxf"
         shutil.copy(SAMPLES / "dxf" / "workboat-r2018.dxf", self.drawing)
         self.design = self.desk.folder / "boat.xml"
 
     def ink(self, colour):
         """Number of the view's pixels near a colour; thin slanting lines have no pure ones."""
-        left, top, width, height = self.desk.paper()
-        depth, rows = self.desk.screen()
-        rows = [row[left * depth:(left + width) * depth] for row in rows[top:top + height]]
-        channels = [(range(max(0, value - 96), min(256, value + 97)), offset)
-                    for value, offset in zip(colour, (2, 1, 0))]
-        return sum(all(row[i + offset] in near for near, offset in channels)
-                   for row in rows for i in range(0, len(row), depth))
+        screen = self.desk.screen()
+        return screen.near(screen.paper(), colour)
 
     def import_drawing(self):
         """Runs "Import DXF File...", the fifth entry of the first menu, and names the drawing."""
@@ -46,7 +37,7 @@ class ImportTest(unittest.TestCase):
         self.desk.answer("Import DXF File", "Return")
 
     def test_an_imported_outline_is_seen_saved_and_opened_again(self):
-        self.desk.start(PROGRAM)
+        self.start()
         before = self.ink(HULL), self.ink(DECKHOUSE)
         self.import_drawing()
         after = self.ink(HULL), self.ink(DECKHOUSE)
@@ -67,13 +58,13 @@ class ImportTest(unittest.TestCase):
         text = self.design.read_text()
         self.assertEqual(text.count("<polyline>"), 56)
         self.assertEqual(re.findall(r'<shapes view="(..)"', text), ["01"])
-        self.desk.start(PROGRAM, self.design)
+        self.start(self.design)
         self.assertLess(self.ink(HULL), before[0] + 50)  # black lines over a symbol darken it
         self.assertLess(self.ink(DECKHOUSE), before[1] + 25)
         self.assertGreater(self.ink((0, 0, 0)), 200)
 
     def test_giving_up_the_dialog_leaves_the_design_unmodified(self):
-        self.desk.start(PROGRAM)
+        self.start()
         self.desk.keys("alt+f", *["Down"] * 4, "Return")
         self.desk.dialog("Import DXF File")
         self.desk.keys("Escape")

@@ -7,29 +7,16 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
-from desk import Desk  # noqa: E402
-
-PROGRAM = sys.argv.pop(1)
-SAMPLES = pathlib.Path(sys.argv.pop(1))
-
-# The view is 200 units wide at the start, around the origin.
-VIEW_WIDTH = 200.0
+from case import DeskTest, SAMPLES  # noqa: E402
 
 
-class RoadTest(unittest.TestCase):
+class RoadTest(DeskTest):
     """From opening a design to its saved file."""
 
     def setUp(self):
-        self.desk = Desk()
-        self.addCleanup(self.desk.close)
+        super().setUp()
         self.design = self.desk.folder / "workboat.xml"
         shutil.copy(SAMPLES / "workboat.xml", self.design)
-
-    def pixel(self, x, y):
-        """Position on the screen of a point of the world, before any zoom."""
-        left, top, width, height = self.paper
-        scale = width / VIEW_WIDTH
-        return round(left + width / 2 + x * scale), round(top + height / 2 - y * scale)
 
     def choose_side(self, name):
         """Chooses a side in the drop-down of the toolbar, which the tab key reaches from the view behind
@@ -43,8 +30,7 @@ class RoadTest(unittest.TestCase):
 
     def test_draw_a_polyline_on_the_right_side_and_save_it(self):
         before = self.design.read_text()
-        self.desk.start(PROGRAM, self.design)
-        self.paper = self.desk.paper()
+        self.start(self.design)
 
         self.choose_side("Right")
 
@@ -69,8 +55,7 @@ class RoadTest(unittest.TestCase):
 
     def test_a_question_is_asked_before_a_modified_design_is_left(self):
         before = self.design.read_text()
-        self.desk.start(PROGRAM, self.design)
-        self.paper = self.desk.paper()
+        self.start(self.design)
         # Drag the GNSS antenna, which stands at (1.2, 0), to a grid point.
         self.desk.move(*self.pixel(1.2, 0))
         self.desk.press()

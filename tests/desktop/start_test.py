@@ -50,7 +50,7 @@ class FailedStartTest(unittest.TestCase):
         desk.launch(PROGRAM, path)
         desk.answer("Hullwright", "Return")
         self.assertEqual(desk.program.wait(PATIENCE), 1)
-        self.assertEqual(desk.complaints().splitlines()[-1], told(path))
+        self.assertEqual(desk.output().splitlines()[-1], told(path))
         self.assertFalse(path.exists())
 
 

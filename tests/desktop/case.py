@@ -1,0 +1,60 @@
+"""What the tests at a desk have in common: the program, the samples, and what a failure leaves behind."""
+
+import functools
+import pathlib
+import sys
+import unittest
+
+import evidence
+from desk import Desk
+
+PROGRAM = pathlib.Path(sys.argv.pop(1))
+SAMPLES = pathlib.Path(sys.argv.pop(1))
+EVIDENCE = PROGRAM.resolve().parents[1] / "Testing" / "desktop"  # in the build tree
+
+VIEW_WIDTH = 200.0  # the view is 200 units wide at the start, around the origin
+
+
+class DeskTest(unittest.TestCase):
+    """The tests of a class share one display; each has its own home and program."""
+
+    def __init__(self, method="runTest"):
+        super().__init__(method)
+        for name in ("setUp", method):
+            setattr(self, name, self._telling(getattr(self, name)))
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = Desk()
+        cls.addClassCleanup(cls.desk.close)
+
+    def setUp(self):
+        self.desk.clear()
+
+    def _telling(self, step):
+        """A step that leaves evidence where it fails, while the program still stands there."""
+        @functools.wraps(step)
+        def told():
+            try:
+                step()
+            except unittest.SkipTest:
+                raise
+            except BaseException:
+                if self.desk is not None:
+                    folder = EVIDENCE / self.id().removeprefix("__main__.")
+                    evidence.leave(self.desk, folder)
+                    print(f"{self.desk.output()}The screen, the windows, the output and the stacks of "
+                          f"{self.id()} are in {folder}", file=sys.stderr)
+                raise
+        return told
+
+    def start(self, *arguments):
+        """Starts the program; the design view's place is known from then on."""
+        self.desk.start(PROGRAM, *arguments)
+        self.paper = self.desk.screen().paper()
+
+    def pixel(self, x, y):
+        """Position on the screen of a point of the world, before any zoom."""
+        left, top, width, height = self.paper
+        scale = width / VIEW_WIDTH
+        return round(left + width / 2 + x * scale), round(top + height / 2 - y * scale)

@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""Fails on purpose in front of the real program and looks at what that leaves behind."""
+
+import pathlib
+import struct
+import sys
+import unittest
+import zlib
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent))
+from case import DeskTest, EVIDENCE, SAMPLES  # noqa: E402
+
+
+class EvidenceTest(unittest.TestCase):
+    """What a failure leaves behind."""
+
+    class Failing(DeskTest):
+        """Fails while the program's window is open."""
+
+        def test_that_fails(self):
+            self.start(SAMPLES / "workboat.xml")
+            with open(self.desk.folder / "output", "a", encoding="utf-8") as output:
+                output.write("the program's last words\n")
+            self.fail("on purpose")
+
+    @classmethod
+    def setUpClass(cls):
+        cls.result = unittest.TestResult()
+        unittest.defaultTestLoader.loadTestsFromTestCase(cls.Failing).run(cls.result)
+        cls.folder = EVIDENCE / "EvidenceTest.Failing.test_that_fails"
+
+    def test_the_failure_is_reported_as_it_is(self):
+        self.assertEqual(len(self.result.failures), 1)
+        self.assertIn("on purpose", self.result.failures[0][1])
+        self.assertEqual(self.result.errors, [])
+
+    def test_the_picture_shows_the_design_view(self):
+        picture = (self.folder / "screen.png").read_bytes()
+        self.assertTrue(picture.startswith(b"\x89PNG\r\n\x1a\n"))
+        self.assertEqual(struct.unpack(">II", picture[16:24]), (1400, 1000))
+        size = struct.unpack(">I", picture[33:37])[0]
+        self.assertEqual(picture[37:41], b"IDAT")
+        self.assertGreater(zlib.decompress(picture[41:41 + size]).count(b"\xff\xff\xe0"), 100000)
+
+    def test_the_windows_are_listed_with_their_titles(self):
+        self.assertRegex((self.folder / "windows.txt").read_text(),
+                         r"(?m)^ *\d+ visible .* 1280x860 'workboat\.xml - Hullwright'$")
+
+    def test_the_output_so_far_is_kept(self):
+        self.assertIn("the program's last words\n", (self.folder / "output.txt").read_text())
+
+    def test_each_thread_is_named_and_the_main_one_stands_in_main(self):
+        text = (self.folder / "stacks.txt").read_text()
+        for name in ("Xvfb", "openbox", "hullwright", "QXcbEventQueue"):
+            self.assertRegex(text, rf"(?m)^  thread \d+: {name} \| [SR] \|")
+        # Some machines let nobody but a debugger's own children be looked at.
+        self.assertRegex(text, r"(?m)^#\d+ .* main$|Operation not permitted")
+
+
+if __name__ == "__main__":
+    unittest.main()
