@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <chrono>
 
+#include "qt/SessionBus.h"
 #include "qt/Shell.h"
 
 namespace {
@@ -33,6 +35,7 @@ int main(int argc, char** argv)
   QCommandLineParser commandLine;
   Describe(commandLine);
   AnswerWithoutDisplay(commandLine, argc, argv);
+  hullwright::LeaveSilentSessionBus(std::chrono::seconds(3));
   const QApplication toolkit(argc, argv);
   commandLine.process(toolkit);
 
