@@ -118,9 +118,9 @@ class Desk:
         if process.stdout:
             process.stdout.close()
 
-    def _spawn(self, command, **options):
+    def _spawn(self, command, environment=(), **options):
         options.setdefault("stderr", subprocess.DEVNULL)
-        return subprocess.Popen(command, env=self._environment, text=True, **options)
+        return subprocess.Popen(command, env=self._environment | dict(environment), text=True, **options)
 
     def _run(self, *words, check=True):
         """Runs a tool to its end; what it printed."""
@@ -132,14 +132,11 @@ class Desk:
 
     # The program.
 
-    def launch(self, program, *arguments):
-        """Starts the program and waits for nothing."""
-        with open(self.folder / "output", "wb") as output:
-            self.program = self._spawn([program, *map(str, arguments)], stdout=output, stderr=output)
-
-    def start(self, program, *arguments):
+    def start(self, program, *arguments, **environment):
         """Starts the program and waits until its window shows the design view and has the keys."""
-        self.launch(program, *arguments)
+        with open(self.folder / "output", "wb") as output:
+            self.program = self._spawn([program, *map(str, arguments)], environment, stdout=output,
+                                       stderr=output)
         self.window = self._wait_for_window("Hullwright")
         self.activate()
         self.wait_until(lambda: self.screen().paper() is not None)

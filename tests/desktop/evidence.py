@@ -1,7 +1,6 @@
 """What a failure at the desk leaves behind for people to look at."""
 
 import pathlib
-import shutil
 import subprocess
 
 PATIENCE = 20  # seconds that any one tool may take
@@ -10,7 +9,6 @@ PATIENCE = 20  # seconds that any one tool may take
 def leave(desk, folder):
     """Puts a picture of the screen, the windows, the program's output and the stacks of its threads into a
     folder of their own. A part that can't be had holds the reason: it must not hide what failed first."""
-    shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     # The stacks come first: they are the most fleeting, and the display may be what hangs.
     for name, part in (("stacks.txt", _stacks), ("output.txt", _output), ("windows.txt", _windows),

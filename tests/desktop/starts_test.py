@@ -2,6 +2,7 @@
 """Starts the real program again and again with nothing warm: starts_test.py PROGRAM SAMPLES [HOW OFTEN]"""
 
 import pathlib
+import socket
 import sys
 import time
 import unittest
@@ -11,6 +12,18 @@ from case import DeskTest, SAMPLES  # noqa: E402
 from desk import Desk  # noqa: E402
 
 HOW_OFTEN = int(sys.argv.pop(1)) if sys.argv[1:] else 3
+
+
+class SilentBusTest(DeskTest):
+    """The session bus of a desktop may be there and never answer."""
+
+    def test_a_silent_session_bus_holds_the_start_up_for_seconds_only(self):
+        bus = socket.socket(socket.AF_UNIX)
+        self.addCleanup(bus.close)
+        bus.bind(str(self.desk.folder / "bus"))
+        bus.listen()
+        self.start(SAMPLES / "workboat.xml", DBUS_SESSION_BUS_ADDRESS=f"unix:path={bus.getsockname()}")
+        self.assertEqual(self.desk.output(), "hullwright: the session bus does not answer; going on without it\n")
 
 
 class StartsTest(DeskTest):
