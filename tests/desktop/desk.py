@@ -13,7 +13,7 @@ from screen import Screen
 
 PATIENCE = 60        # seconds that anything may take on a slow machine
 TICK = 0.008         # seconds between two looks at what the desk does
-REST = 3             # looks in a row without any activity that make a rest; a repaint may wait for 5 ms
+REST = 0.024         # seconds without any activity that make a rest; a repaint may wait for 5 ms
 DOUBLE_CLICK = 0.45  # seconds after which a second click is one of its own
 
 # Fonts as the system has them, with a cache of the desk's own.
@@ -54,8 +54,10 @@ class Desk:
 
     def _open_display(self, size):
         read, write = os.pipe()
+        # Its scheduler for many clients has a timer of 5 ms that at times goes on when there is nothing to do:
+        # such a display never rests.
         server = self._spawn(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten",
-                              "tcp", "-noreset"], pass_fds=[write], stdout=subprocess.DEVNULL)
+                              "tcp", "-noreset", "-dumbSched"], pass_fds=[write], stdout=subprocess.DEVNULL)
         self._display.append(server)
         os.close(write)
         with os.fdopen(read) as answer:
@@ -171,6 +173,8 @@ class Desk:
         """How often each thread on this desk has run so far; None while one of them runs or wants to."""
         runs = {}
         for process in self.processes():
+            if process.poll() is not None:
+                continue
             for status in pathlib.Path(f"/proc/{process.pid}/task").glob("*/status"):
                 try:
                     text = status.read_text()
@@ -181,26 +185,32 @@ class Desk:
                 runs[status] = re.findall(r"ctxt_switches:\t(\d+)", text)
         return runs
 
-    def _rest(self, looks=REST):
+    def _rest(self, length=REST):
         """Waits until what was sent has been dealt with: the display, the window manager and the program
-        all sleep. Unlike a pause this holds on a machine under load as well."""
-        before, same, deadline = self._activity(), 0, time.monotonic() + PATIENCE
-        while same < looks and time.monotonic() < deadline:
+        all sleep, and none has run since an earlier look. Unlike a pause this holds on a machine under load
+        as well. That two looks are enough for it lets it end between two blinks of a text cursor."""
+        deadline = time.monotonic() + PATIENCE
+        before, since = self._activity(), time.monotonic()
+        while time.monotonic() < deadline:
             time.sleep(TICK)
-            now = self._activity()
-            same = same + 1 if now is not None and now == before else 0
-            before = now
+            begin, now = time.monotonic(), self._activity()
+            if now is None or now != before:
+                before, since = now, time.monotonic()
+            elif begin - since >= length:
+                return
+        raise AssertionError("the desk does not come to rest")
 
     def settle(self):
-        """Waits until the screen has not changed for a while."""
+        """Waits until the screen stays as it is, but for a blinking text cursor."""
         self._rest()
-        before, deadline = self.screen(), time.monotonic() + PATIENCE
+        last, last_but_one, deadline = self.screen(), None, time.monotonic() + PATIENCE
         while time.monotonic() < deadline:
             self._rest(2 * REST)
             now = self.screen()
-            if now == before:
+            if now in (last, last_but_one):
                 return
-            before = now
+            last, last_but_one = now, last
+        raise AssertionError("the screen does not settle")
 
     # Windows.
 

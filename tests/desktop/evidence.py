@@ -9,7 +9,7 @@ PATIENCE = 20  # seconds that any one tool may take
 def leave(desk, folder):
     """Puts a picture of the screen, the windows, the program's output and the stacks of its threads into a
     folder of their own. A part that can't be had holds the reason: it must not hide what failed first."""
-    folder.mkdir(parents=True)
+    folder.mkdir(parents=True, exist_ok=True)
     # The stacks come first: they are the most fleeting, and the display may be what hangs.
     for name, part in (("stacks.txt", _stacks), ("output.txt", _output), ("windows.txt", _windows),
                        ("screen.png", _picture)):

@@ -18,7 +18,7 @@ class Screen:
                       for begin in range(start, start + self._height * stride, stride)]
 
     def __eq__(self, other):
-        return self._rows == other._rows
+        return isinstance(other, Screen) and self._rows == other._rows
 
     def paper(self):
         """The design view as (left, top, width, height); None if it can't be seen."""
