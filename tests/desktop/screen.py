@@ -10,7 +10,7 @@ class Screen:
     """What a screen showed at one moment. Colours are (red, green, blue); a pixel's bytes begin with blue."""
 
     def __init__(self, dump):
-        """Reads a dump of the program xwd."""
+        """Reads a picture in the format of the program xwd."""
         header = struct.unpack(">25I", dump[:100])
         self._width, self._height, self._depth, stride = header[4], header[5], header[11] // 8, header[12]
         start = header[0] + header[19] * 12
