@@ -54,6 +54,9 @@ public:
     return greeting;
   }
 
+  /// Takes one caller in and hangs up without a word.
+  void HangUp() const { close(accept(socket_, nullptr, nullptr)); }
+
   /// Calls until the queue is full.
   void Fill()
   {
@@ -115,6 +118,14 @@ TEST_F(SessionBus, ABusThatRefusesIsLeftToTheToolkit)
 {
   const Listener bus(path);
   std::thread other([&] { bus.Answer("REJECTED\r\n"); });
+  EXPECT_TRUE(BusAnswers(Address(), 60s));
+  other.join();
+}
+
+TEST_F(SessionBus, ABusThatHangsUpIsLeftToTheToolkit)
+{
+  const Listener bus(path);
+  std::thread other([&] { bus.HangUp(); });
   EXPECT_TRUE(BusAnswers(Address(), 60s));
   other.join();
 }
