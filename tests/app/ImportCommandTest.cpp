@@ -144,11 +144,11 @@ TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
   Run(Command::ImportDxf);
   fileDialogs.answer = folder.File("missing.dxf");
   Run(Command::ImportDxf);
-  EXPECT_THAT(widgets.notes,
-              ElementsAre(u"1 polyline, 1 text",
-                          u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
-                          u"a binary drawing; only drawings in text form can be imported",
-                          u"The drawing can't be read, or it is empty"));
+  EXPECT_THAT(
+      widgets.notes,
+      ElementsAre(u"1 polyline, 1 text", u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
+                  u"a binary drawing; only drawings in text form can be imported",
+                  u"The drawing can't be read, or it is empty"));
 }
 
 TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)

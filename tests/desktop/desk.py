@@ -135,11 +135,15 @@ class Desk:
 
     # The program.
 
-    def start(self, program, *arguments, **environment):
-        """Starts the program and waits until its window shows the design view and has the keys."""
+    def launch(self, program, *arguments, **environment):
+        """Starts the program and waits for nothing."""
         with open(self.folder / "output", "wb") as output:
             self.program = self._spawn([program, *map(str, arguments)], environment, stdout=output,
                                        stderr=output)
+
+    def start(self, program, *arguments, **environment):
+        """Starts the program and waits until its window shows the design view and has the keys."""
+        self.launch(program, *arguments, **environment)
         self.window = self._wait_for_window("Hullwright")
         self.activate()
         self.wait_until(lambda: self.screen().paper() is not None)

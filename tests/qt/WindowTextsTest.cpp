@@ -89,12 +89,10 @@ TEST_F(WindowTexts, TheMenuOfBarsEndsWithCustomize)
   EXPECT_EQ(Texts(BarsMenu().actions()),
             (QStringList{QStringLiteral("Standard"), QStringLiteral("Object View"), QString(),
                          QStringLiteral("Customize...")}));
-  WhenAsked<QDialog>([this](QDialog& dialog) {
-    lastQuestion = dialog.windowTitle();
-    dialog.reject();
-  });
   BarsMenu().actions().constLast()->trigger();
-  EXPECT_EQ(lastQuestion, QStringLiteral("Customize Toolbars"));
+  const auto* const dialog = Window().findChild<CustomizeDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Customize Toolbars"));
 }
 
 TEST_F(WindowTexts, ButtonsOfTheToolBarHaveTheirTooltips)
@@ -108,7 +106,7 @@ TEST_F(WindowTexts, ButtonsOfTheToolBarHaveTheirTooltips)
             "New Design (Ctrl+N)\nOpen Design (Ctrl+O)\nSave Design (Ctrl+S)\nImport DXF\n"
             "View Mode\nZoom In\nZoom Out\nShow All\nMove Design\nUndo (Ctrl+Z)\nRedo\n"
             "Scale Design\nMove Design\nMirror Vert\nMirror Horz\nRotate Left\nRotate Right\n"
-            "Modify Offsets\nToggle Grid\nToggle Snap\nDraw Shape");
+            "Modify Offsets\nToggle Grid\nToggle Snap\nDraw Shape\nCustomize...");
 }
 
 TEST_F(WindowTexts, ButtonsBearTheirLabelsOnTwoLines)
@@ -193,7 +191,7 @@ TEST_F(NewWindow, WithoutThePaneStyleTheSmallToolBarStandsInForTheMainOne)
     labels.append(action->isSeparator() ? QStringLiteral("|") : action->iconText());
   }
   EXPECT_EQ(labels.join(QLatin1Char(' ')).toStdString(),
-            "New\nDesign Open\nDesign Save\nDesign | Cut Copy Paste | Print About");
+            "New\nDesign Open\nDesign Save\nDesign | Cut Copy Paste | Print About Customize...");
   EXPECT_EQ(shell.Window()->findChild<QToolBar*>()->windowTitle(), QStringLiteral("Standard"));
 }
 

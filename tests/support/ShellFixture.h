@@ -24,11 +24,12 @@ protected:
     qputenv("XDG_STATE_HOME", (folder.Path() / "state").c_str());
   }
 
-  /// Calls `act` with the next modal dialog as soon as it is open. `dialogs` counts them.
+  /// Calls `act` with the next modal dialog as soon as it is open, if it opens before the test
+  /// ends. `dialogs` counts them.
   template <class Dialog>
   void WhenAsked(std::function<void(Dialog&)> act)
   {
-    QTimer::singleShot(0, QApplication::instance(), [this, act] {
+    QTimer::singleShot(1, &waiting_, [this, act] {
       auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return WhenAsked<Dialog>(act);
       ++dialogs;
@@ -48,6 +49,9 @@ protected:
   TempFolder folder;
   int dialogs = 0;
   QString lastQuestion;
+
+private:
+  QObject waiting_;  ///< what waits for a dialog goes with the test
 };
 
 }  // namespace hullwright::test
