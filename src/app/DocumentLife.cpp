@@ -105,11 +105,10 @@ bool DocumentLife::SaveTo(const std::u16string& path)
 
 void DocumentLife::NoteSaved(const std::u16string& path) const
 {
-  const NonFiniteNumbers numbers = FindNonFiniteNumbers(design_);
-  if (numbers.count == 0) return;
-  ports_.widgets.ShowNote(Quoted(NameOf(path)) +
-                          u" was saved, but it holds numbers that are not finite (" +
-                          WideFromAscii(std::to_string(numbers.count)) + u"): " + numbers.first);
+  const std::u16string warning = Describe(FindNonFiniteNumbers(design_));
+  if (!warning.empty()) {
+    ports_.widgets.ShowNote(Quoted(NameOf(path)) + u" was saved, but it " + warning);
+  }
 }
 
 void DocumentLife::NoteNotSaved(const std::u16string& formerVersion) const

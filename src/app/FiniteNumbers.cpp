@@ -77,4 +77,11 @@ NonFiniteNumbers FindNonFiniteNumbers(const DesignState& design)
   return finder.found;
 }
 
+std::u16string Describe(const NonFiniteNumbers& numbers)
+{
+  if (numbers.count == 0) return {};
+  return u"holds numbers that are not finite (" + WideFromAscii(std::to_string(numbers.count)) +
+         u"): " + numbers.first;
+}
+
 }  // namespace hullwright

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "app/FiniteNumbers.h"
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
@@ -13,6 +14,7 @@
 #include "cli/ShapesJson.h"
 #include "dxf/FileDxf.h"
 #include "resources/ViewSides.h"
+#include "system/FormerVersions.h"
 
 namespace hullwright {
 namespace {
@@ -145,6 +147,11 @@ int ImportAll(const Options& options)
   if (!editor.Save(WideFromUtf8(output.Path()))) {
     return Fail(options.output + ": " + Utf8FromWide(editor.Problem()));
   }
+  if (const std::u16string numbers = Describe(FindNonFiniteNumbers(editor.App()));
+      !numbers.empty()) {
+    Remark(options.output, u"warning: " + numbers);
+  }
+  FormerVersions(StateFolder()).Keep(WideFromUtf8(options.output));
   return output.Commit() ? 0 : Fail(output.Problem());
 }
 

@@ -3,15 +3,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QUrl>
 
+#include "qt/DroppedFiles.h"
 #include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "qt/QtText.h"
@@ -27,34 +25,6 @@ namespace {
 constexpr const char* geometryKey = "Workspace/Geometry";
 constexpr const char* layoutKey = "Workspace/Layout";
 constexpr const char* statusBarKey = "Workspace/StatusBar";
-
-/// The files on this machine among what is dropped.
-QStringList DroppedFiles(const QMimeData& data)
-{
-  QStringList files;
-  for (const QUrl& url : data.urls()) {
-    if (url.isLocalFile()) files.append(url.toLocalFile());
-  }
-  return files;
-}
-
-/// Names files that were not opened because another one was.
-QString NotOpened(const QStringList& paths)
-{
-  QStringList names;
-  for (const QString& path : paths) {
-    names.append(QLatin1Char('"') + QFileInfo(path).fileName() + QLatin1Char('"'));
-  }
-  return QObject::tr("One design is open at a time; not opened: %1")
-      .arg(names.join(QStringLiteral(", ")));
-}
-
-/// Takes a drop as a copy, whatever was proposed, so that nobody removes the file afterwards.
-void AcceptCopy(QDropEvent& event)
-{
-  event.setDropAction(Qt::CopyAction);
-  event.accept();
-}
 
 }  // namespace
 

@@ -21,6 +21,21 @@ class ImportTest(CliTest):
         self.assertTrue(text.endswith("}\n"))
         return json.loads(text)
 
+    def test_what_a_design_held_before_is_kept(self):
+        state = self.folder / "state"
+        drawing = self.drawing("a.dxf", "0", "LINE", "11", "1")
+        design = self.write("boat.xml", "<vessel/>")
+        self.succeed("import", drawing, "-o", design, XDG_STATE_HOME=str(state))
+        self.assertEqual([copy.read_text() for copy in (state / "hullwright").iterdir()], ["<vessel/>"])
+        self.assertIn("<polyline>", design.read_text())
+
+    def test_numbers_that_are_not_finite_are_a_warning(self):
+        drawing = self.drawing("a.dxf", "0", "LINE", "10", "nan", "11", "1")
+        design = self.folder / "boat.xml"
+        self.succeed("import", drawing, "-o", design, remarks=(
+            "boat.xml: warning: holds numbers that are not finite (1): polyline 1 (top), point 1",))
+        self.assertIn('x="nan"', design.read_text())
+
     def test_prints_every_kind_of_shape(self):
         path = self.drawing(
             "Zeichnung Ä.dxf",

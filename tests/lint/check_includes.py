@@ -20,7 +20,7 @@ ROOMS = {
     "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform render resources file dxf view app paint",
+    "cli": "base model platform system render resources file dxf view app paint",
 }
 
 # rooms, and single files, that may include the toolkit's headers

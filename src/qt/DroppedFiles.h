@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringList>
+
+class QDropEvent;
+class QMimeData;
+
+namespace hullwright {
+
+/// The files on this machine among what is dropped.
+QStringList DroppedFiles(const QMimeData& data);
+
+/// Takes a drop as a copy, whatever was proposed, so that nobody removes the file afterwards.
+void AcceptCopy(QDropEvent& event);
+
+/// Names files that were not opened because another one was.
+QString NotOpened(const QStringList& paths);
+
+}  // namespace hullwright
