@@ -46,7 +46,7 @@ class EvidenceTest(unittest.TestCase):
 
     def test_the_windows_are_listed_with_their_titles(self):
         self.assertRegex((self.folder / "windows.txt").read_text(),
-                         r"(?m)^ *\d+ visible .* 1280x860 'workboat\.xml - Hullwright'$")
+                         r"(?m)^ *\d+ visible .* 1330x860 'workboat\.xml - Hullwright'$")
 
     def test_the_output_so_far_is_kept(self):
         self.assertIn("the program's last words\n", (self.folder / "output.txt").read_text())

@@ -25,9 +25,10 @@ class ImportTest(DeskTest):
         self.design = self.desk.folder / "boat.xml"
 
     def ink(self, colour):
-        """Number of the view's pixels near a colour; thin slanting lines have no pure ones."""
+        """Number of the view's pixels near a colour. A line one pixel thin that falls between two rows of
+        pixels gives half of its colour to each."""
         screen = self.desk.screen()
-        return screen.near(screen.paper(), colour)
+        return screen.near(screen.paper(), colour, 140)
 
     def import_drawing(self):
         """Runs "Import DXF File...", the fifth entry of the first menu, and names the drawing."""
