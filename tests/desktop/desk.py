@@ -245,6 +245,11 @@ class Desk:
         them with nobody."""
         self._run("xdotool", "windowactivate", "--sync", self.window)
 
+    def resize(self, width, height):
+        """Gives the program's window a size."""
+        self._run("xdotool", "windowsize", "--sync", self.window, width, height)
+        self.settle()
+
     def dialog(self, title):
         """Waits for a dialog of exactly this title and gives it the keys."""
         self._run("xdotool", "windowactivate", "--sync", self._wait_for_window(f"^{title}$"))
