@@ -139,7 +139,7 @@ fs::path FormerVersions::WriteCopy() const
   // Saving again without a change must not push the older versions out.
   if (!copies.empty() && ReadWhole(copies.back()) == bytes_) return copies.back();
 
-  const fs::path copy = FreeName(folder_, prefix, file_.extension().string());
+  fs::path copy = FreeName(folder_, prefix, file_.extension().string());
   if (!WriteWhole(copy, *bytes_)) {
     fs::remove(copy, failed);
     return {};
