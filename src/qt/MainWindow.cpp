@@ -211,6 +211,8 @@ void MainWindow::ApplyLook(int look)
 void MainWindow::ShowNote(std::u16string_view text)
 {
   note_ = ToQString(text);
+  // The prompt of the button that the mouse rests on, most often the one just pressed, would hide it.
+  statusBar()->clearMessage();
   UpdatePanes();
 }
 

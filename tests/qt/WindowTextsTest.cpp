@@ -129,6 +129,14 @@ TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAButton)
   EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
 }
 
+TEST_F(WindowTexts, WhatCameOfACommandIsSeenThoughTheMouseIsStillOnItsButton)
+{
+  Enter(Button("Mirror\nVert"));
+  Window().ShowNote(u"20 polylines");
+  EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
+  EXPECT_EQ(Window().findChild<PromptPane*>()->Text(), QStringLiteral("20 polylines"));
+}
+
 TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAnEntry)
 {
   QAction* const title = Window().menuBar()->actions().at(3);
