@@ -24,9 +24,13 @@ std::u16string NameOf(std::u16string_view path)
 
 std::u16string Absolute(const std::u16string& path)
 {
+  // The folder as the system finds it, behind links too; the name as the user knows it.
+  namespace fs = std::filesystem;
   std::error_code failed;
-  const auto absolute = std::filesystem::absolute(Utf8FromWide(path), failed);
-  return failed ? path : WideFromUtf8(absolute.lexically_normal().string());
+  const fs::path whole = fs::absolute(Utf8FromWide(path), failed);
+  if (failed) return path;
+  const fs::path folder = fs::weakly_canonical(whole.parent_path(), failed);
+  return failed ? path : WideFromUtf8((folder / whole.filename()).string());
 }
 
 std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }
@@ -42,6 +46,7 @@ DocumentLife::DocumentLife(CHullwrightDoc& document, const DesignState& design,
     emptied_ = true;
     SetPath({});
   };
+  document_.onSaveFailed = [this] { restored_ = ports_.formerVersions.PutBack(); };
   Settle();
 }
 
@@ -91,6 +96,7 @@ bool DocumentLife::SaveTo(const std::u16string& path)
   document_.OnSaveDocument(path);
   const bool whole = document_.SavedWhole();
   if (whole) {
+    ports_.formerVersions.Release();
     Remember(path);
     Settle();
     NoteSaved(path);
@@ -105,24 +111,35 @@ bool DocumentLife::SaveTo(const std::u16string& path)
 
 void DocumentLife::NoteSaved(const std::u16string& path) const
 {
+  const std::u16string name = Quoted(NameOf(path));
   const std::u16string warning = Describe(FindNonFiniteNumbers(design_));
   if (!warning.empty()) {
-    ports_.widgets.ShowNote(Quoted(NameOf(path)) + u" was saved, but it " + warning);
+    ports_.widgets.ShowNote(name + u" was saved, but it " + warning);
+  } else if (HasUnfinishedPolyline()) {
+    ports_.widgets.ShowNote(name + u" was saved without the polyline that is being drawn");
   }
 }
 
 void DocumentLife::NoteNotSaved(const std::u16string& formerVersion) const
 {
   std::u16string note = u"Nothing was saved: " + document_.SaveProblem() + u".";
-  const bool inPlace = ports_.formerVersions.PutBack();
-  if (inPlace) note += u" The file is as it was before.";
-  if (!formerVersion.empty()) note += u" A copy of the former file is " + formerVersion;
+  if (!formerVersion.empty()) note += u" Former file: " + formerVersion + u".";
+  switch (restored_) {
+    case Restored::Nothing: break;
+    case Restored::AsBefore: note += u" The file is as it was."; break;
+    case Restored::Damaged: note += u" The file is damaged."; break;
+  }
   ports_.widgets.ShowNote(note);
+}
+
+bool DocumentLife::HasUnfinishedPolyline() const
+{
+  return ports_.hasUnfinishedPolyline && ports_.hasUnfinishedPolyline();
 }
 
 bool DocumentLife::HasChanges() const
 {
-  if (document_.IsModified()) return true;
+  if (document_.IsModified() || HasUnfinishedPolyline()) return true;
   return !settled_ || document_.Fingerprint() != settled_;
 }
 

@@ -20,13 +20,16 @@ struct DocumentPorts {
   IRecentFiles& recentFiles;
   IFormerVersions& formerVersions;
   IFrameWidgets& widgets;  ///< shows what came of opening and saving
+
+  /// Whether a polyline is being drawn that no save would write; empty where nobody draws.
+  std::function<bool()> hasUnfinishedPolyline = {};
 };
 
 /// The life of a document at the desk: the question before changes are left, names for opening and
 /// saving, former versions of what is saved over, and the list of recent files. Every save reaches
 /// the document, and what it leaves of the modified flag stands. So that nothing is lost where the
 /// flag is not set, the question also comes when a save would write something else now than right
-/// after the last new, open or whole save, and after a save that failed.
+/// after the last new, open or whole save, after a save that failed, and while a polyline is drawn.
 class DocumentLife {
 public:
   /// `design` is the state that `document` moves.
@@ -58,6 +61,7 @@ private:
   void NoteSaved(const std::u16string& path) const;
   void NoteNotSaved(const std::u16string& formerVersion) const;
   bool HasChanges() const;
+  bool HasUnfinishedPolyline() const;
   void Settle() { settled_ = document_.Fingerprint(); }
   void Remember(const std::u16string& path);
   void Forget(const std::u16string& path);
@@ -68,8 +72,9 @@ private:
   const DesignState& design_;
   DocumentPorts ports_;
   std::size_t mostRecentFiles_;
-  std::u16string path_;   ///< absolute; empty for an untitled design
-  bool emptied_ = false;  ///< the design was emptied since an open began
+  std::u16string path_;                    ///< absolute; empty for an untitled design
+  Restored restored_ = Restored::Nothing;  ///< what the last failed save left of its file
+  bool emptied_ = false;                   ///< the design was emptied since an open began
   /// Fingerprint after the last new, open or whole save; nothing when a save has failed since.
   std::optional<std::size_t> settled_;
 };

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "base/ErrorText.h"
 #include "base/Text.h"
 
 namespace hullwright {
@@ -69,8 +70,6 @@ bool Copy(int from, int to)
   }
 }
 
-std::string Reason(int error) { return strerrordesc_np(error); }
-
 /// Where files lie that are nobody's business.
 std::filesystem::path TemporaryFolder()
 {
@@ -102,7 +101,7 @@ void InputFile::CopyFrom(int file)
 {
   if (file >= 0) copy_ = MakeTemporary(TemporaryFolder());
   const Descriptor copy(copy_.empty() ? -1 : open(copy_.c_str(), O_WRONLY | O_CLOEXEC));
-  if (copy.Number() < 0 || !Copy(file, copy.Number())) problem_ = Reason(errno);
+  if (copy.Number() < 0 || !Copy(file, copy.Number())) problem_ = ErrorText(errno);
   path_ = copy_;
 }
 
@@ -110,11 +109,11 @@ std::string InputFile::Problem() const
 {
   if (!problem_.empty()) return name_ + ": " + problem_;
   struct stat status {};
-  if (stat(path_.c_str(), &status) != 0) return name_ + ": " + Reason(errno);
-  if (S_ISDIR(status.st_mode)) return name_ + ": " + Reason(EISDIR);
+  if (stat(path_.c_str(), &status) != 0) return name_ + ": " + ErrorText(errno);
+  if (S_ISDIR(status.st_mode)) return name_ + ": " + ErrorText(EISDIR);
   if (!S_ISREG(status.st_mode)) return name_ + ": It is not a file";
   const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
-  return file.Number() < 0 ? name_ + ": " + Reason(errno) : std::string();
+  return file.Number() < 0 ? name_ + ": " + ErrorText(errno) : std::string();
 }
 
 bool InputFile::IsDesign() const
@@ -167,7 +166,7 @@ OutputFile::~OutputFile()
 
 bool OutputFile::Fail(int error)
 {
-  problem_ = (name_ == standardStream ? "standard output" : name_) + ": " + Reason(error);
+  problem_ = (name_ == standardStream ? "standard output" : name_) + ": " + ErrorText(error);
   return false;
 }
 

@@ -16,6 +16,16 @@ std::u16string Coordinate(double value)
   return WideFromAscii(text);
 }
 
+/// Whether a save of the group writes more than its tags.
+bool HoldsPolyline(const CShapes& group)
+{
+  for (const auto& shape : group.shapes) {
+    if (!shape) break;
+    if (shape->type == ShapeType::Polyline) return true;
+  }
+  return false;
+}
+
 void ReadCoordinates(CShapeVertex& vertex, const AttributeMap& attributes)
 {
   vertex.x = ParseDouble(AttributeValue(attributes, u"x"));
@@ -35,7 +45,7 @@ int CFileVessel::Save(std::u16string_view path, const OwnedArray<CShapes>& shape
   return Flush(path);
 }
 
-void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups)
+void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups, EmptyGroups emptyGroups)
 {
   ResetOutput();
   WriteDeclaration();
@@ -45,6 +55,7 @@ void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups)
   }
   for (const auto& group : shapeGroups) {
     if (!group) break;
+    if (emptyGroups == EmptyGroups::LeftOut && !HoldsPolyline(*group)) continue;
     WriteGroup(*group);
   }
   if (gps) WriteCoordinates("gps", *gps);

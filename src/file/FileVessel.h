@@ -20,8 +20,12 @@ public:
   explicit CFileVessel(IMessageBoxes& messages);
   ~CFileVessel() override;
 
+  /// Groups that hold no polyline.
+  enum class EmptyGroups { Written, LeftOut };
+
   /// Composes the document in the block, anew.
-  void Compose(const OwnedArray<CShapes>& shapeGroups);
+  void Compose(const OwnedArray<CShapes>& shapeGroups,
+               EmptyGroups emptyGroups = EmptyGroups::Written);
 
   /// Composes the document and writes it. 0 on success, -1 as `Flush`.
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);

@@ -1,8 +1,8 @@
 #include "file/HullwrightDoc.h"
 
 #include <cerrno>
-#include <cstring>
 
+#include "base/ErrorText.h"
 #include "base/Text.h"
 #include "file/FileVessel.h"
 #include "file/OpenFile.h"
@@ -18,12 +18,25 @@ void CopyCoordinates(const CShapeVertex& from, CShapeVertex& to)
   to.z = from.z;
 }
 
-/// The system's text for an `errno`, in the language of all other messages, whatever the locale;
-/// `unknown` for 0.
-std::u16string ErrorText(int error, const char* unknown)
+/// Why a file could not be opened or written; `unknown` where there is no `errno`.
+std::u16string Reason(int error, const char* unknown)
 {
-  return WideFromUtf8(error != 0 ? strerrordesc_np(error) : unknown);
+  return WideFromUtf8(error != 0 ? ErrorText(error) : unknown);
 }
+
+/// Keeps a message back until its time has come.
+class MessageForLater : public IMessageBoxes {
+public:
+  void ShowMessage(std::u16string_view text) override { text_ = text; }
+  bool AskYesNo(std::u16string_view) override { return false; }
+  void ShowOn(IMessageBoxes& messages) const
+  {
+    if (!text_.empty()) messages.ShowMessage(text_);
+  }
+
+private:
+  std::u16string text_;
+};
 
 std::u16string CannotOpen(std::u16string_view path, const std::u16string& reason)
 {
@@ -58,7 +71,7 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
   errno = 0;
   if (!OpenToRead(path)) {
-    openProblem_ = ErrorText(errno, "It is not a file");
+    openProblem_ = Reason(errno, "It is not a file");
     messages_.ShowMessage(CannotOpen(path, openProblem_));
     return false;
   }
@@ -93,15 +106,19 @@ void CHullwrightDoc::FillFile(CFileVessel& file) const
 
 bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
 {
-  CFileVessel file(messages_);
+  MessageForLater message;
+  CFileVessel file(message);
   FillFile(file);
   file.Compose(design_.shapeGroups);
   saveProblem_.clear();
   if (file.LostBlock()) {
-    saveProblem_ = ErrorText(ENOMEM, "");
+    saveProblem_ = Reason(ENOMEM, "");
   } else if (file.Flush(path) != 0) {
-    saveProblem_ = ErrorText(file.WriteError(), "There is nothing to write");
+    saveProblem_ = Reason(file.WriteError(), "There is nothing to write");
   }
+  // Before anybody reads a message: the file may be torn until then.
+  if (!SavedWhole() && onSaveFailed) onSaveFailed();
+  message.ShowOn(messages_);
   mainWindow_.SetModifiedFlag(false);
   return true;
 }
@@ -110,7 +127,7 @@ std::optional<std::size_t> CHullwrightDoc::Fingerprint() const
 {
   CFileVessel file(messages_);
   FillFile(file);
-  file.Compose(design_.shapeGroups);
+  file.Compose(design_.shapeGroups, CFileVessel::EmptyGroups::LeftOut);
   if (file.LostBlock()) return std::nullopt;
   return std::hash<std::string_view>()(file.Output());
 }

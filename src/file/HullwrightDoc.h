@@ -44,13 +44,17 @@ public:
   /// it did not.
   const std::u16string& OpenProblem() const { return openProblem_; }
 
-  /// Stands for the bytes that a save would write now: equal texts have equal fingerprints. Nothing
-  /// where there is no memory to compose them.
+  /// Stands for the bytes that a save would write now, but for groups without polylines, which come
+  /// to be when a side is merely looked at: equal texts have equal fingerprints. Nothing where
+  /// there is no memory to compose them.
   std::optional<std::size_t> Fingerprint() const;
 
   /// Called when the design has been emptied, by new or by open: what is there then is no longer
   /// what the file of before holds, also if the open fails later.
   std::function<void()> onEmptied;
+
+  /// Called when a save has failed, before the user is told: the target may be torn.
+  std::function<void()> onSaveFailed;
 
   void SetModifiedFlag(bool modified) { modified_ = modified; }
   bool IsModified() const { return modified_; }

@@ -6,7 +6,6 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <initializer_list>
 #include <memory>
 #include <new>
@@ -14,6 +13,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "base/ErrorText.h"
 #include "base/Text.h"
 #include "file/OpenFile.h"
 
@@ -174,9 +174,9 @@ bool Feed(std::FILE* file, XML_Parser parser)
 }
 
 /// Why a parse that has just failed did so. Asks `errno`, so nothing may come in between.
-const char* FailureReason(const Driver& driver, std::FILE* file, XML_Parser parser)
+std::string FailureReason(const Driver& driver, std::FILE* file, XML_Parser parser)
 {
-  if (std::ferror(file) != 0) return strerrordesc_np(errno);
+  if (std::ferror(file) != 0) return ErrorText(errno);
   if (driver.StopReason() != nullptr) return driver.StopReason();
   const XML_LChar* const text = XML_ErrorString(XML_GetErrorCode(parser));
   return text == nullptr ? outOfMemory : text;
@@ -202,7 +202,7 @@ bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
   if (!parser) return false;
   Driver driver(parser.get(), content);
   if (Feed(file.get(), parser.get())) return true;
-  const char* const reason = FailureReason(driver, file.get(), parser.get());
+  const std::string reason = FailureReason(driver, file.get(), parser.get());
   const XML_Error code = XML_GetErrorCode(parser.get());
   errors.Error(WideFromUtf8(reason), static_cast<int>(XML_GetCurrentLineNumber(parser.get())),
                static_cast<int>(XML_GetCurrentColumnNumber(parser.get())) + 1, code);

@@ -107,6 +107,7 @@ void DesignWidget::Resized()
 void DesignWidget::mousePressEvent(QMouseEvent* event)
 {
   if (view_ == nullptr) return;
+  Q_EMIT Pressed();
   if (event->button() == Qt::LeftButton) {
     setFocus(Qt::MouseFocusReason);
     view_->OnLButtonDown(PixelOf(event->position()));

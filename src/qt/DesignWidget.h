@@ -35,6 +35,9 @@ public:
   std::function<QIcon(int)> iconOf;
 
 Q_SIGNALS:
+  /// A button is being pressed; the view has not seen it yet.
+  void Pressed();
+
   /// A mouse event has run through the view, which may have changed what panes and commands show.
   void ViewChanged();
 

@@ -37,7 +37,9 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       design_(new DesignWidget(this)),
       view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
       recentFiles_(settings),
-      documents_(document_, app, {documentDialogs_, recentFiles_, formerVersions_, *this},
+      documents_(document_, app,
+                 {documentDialogs_, recentFiles_, formerVersions_, *this,
+                  [this] { return view_.drawing && !view_.newShape->vertices.empty(); }},
                  recentFiles),
       tree_(new ObjectTreeWidget(this)),
       objects_(app, *tree_),
@@ -54,10 +56,8 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
   frame_.document = &document_;
   frame_.view = &view_;
   frame_.objectView = &objects_;
-  documents_.onChange = [this] {
-    UpdateTitle();
-    UpdatePanes();
-  };
+  documents_.onChange = [this] { UpdateAll(); };
+  connect(design_, &DesignWidget::Pressed, this, [this] { note_.clear(); });
   connect(design_, &DesignWidget::ViewChanged, this, [this] { UpdateAll(); });
   design_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
   design_->Attach(view_);
@@ -211,7 +211,8 @@ void MainWindow::ApplyLook(int look)
 void MainWindow::ShowNote(std::u16string_view text)
 {
   note_ = ToQString(text);
-  // The prompt of the button that the mouse rests on, most often the one just pressed, would hide it.
+  // The prompt of the button that the mouse rests on, most often the one just pressed, would hide
+  // it.
   statusBar()->clearMessage();
   UpdatePanes();
 }
@@ -333,11 +334,12 @@ void MainWindow::UpdatePanes()
 
 QString MainWindow::Prompt() const
 {
+  if (!note_.isEmpty()) return note_;
   if (view_.drawing) {
     return tr("Left click adds a vertex, right click ends the polyline: %n so far", nullptr,
               static_cast<int>(view_.newShape->vertices.size()));
   }
-  return note_.isEmpty() ? ToQString(Strings::ready) : note_;
+  return ToQString(Strings::ready);
 }
 
 void MainWindow::UpdateTitle()
@@ -373,10 +375,14 @@ void MainWindow::dropEvent(QDropEvent* event)
   const QStringList paths = DroppedFiles(*event->mimeData());
   if (paths.isEmpty()) return;
   AcceptCopy(*event);
-  // Opening may ask a question; the one who dropped must not wait for its answer.
-  // A dialog that has opened meanwhile works on the design as it is; it goes first.
+  // Opening may ask a question, for which the one who dropped must not wait. A dialog that has opened
+  // meanwhile works on the design as it is; it goes first.
   QTimer::singleShot(0, this, [this, paths] {
-    if (QApplication::activeModalWidget() == nullptr) OpenFromOutside(paths);
+    if (QApplication::activeModalWidget() == nullptr) {
+      OpenFromOutside(paths);
+    } else {
+      ShowNote(ToWide(NotOpened(paths)));
+    }
   });
 }
 

@@ -27,7 +27,7 @@ void PromptPane::resizeEvent(QResizeEvent* event)
 
 void PromptPane::Elide()
 {
-  const QString shown = fontMetrics().elidedText(text_, Qt::ElideRight, width() - 2 * margin());
+  const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, width() - 2 * margin());
   setText(shown);
   setToolTip(shown == text_ ? QString() : text_);
 }

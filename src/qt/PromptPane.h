@@ -4,8 +4,8 @@
 
 namespace hullwright {
 
-/// The pane of the status bar that tells what goes on. A text that is too long for it ends in an
-/// ellipsis, and stands whole in the tooltip.
+/// The pane of the status bar that tells what goes on. Of a text that is too long for it
+/// both ends are shown; the whole text stands in the tooltip.
 class PromptPane : public QLabel {
   Q_OBJECT
 

@@ -18,10 +18,14 @@ namespace {
 constexpr const char* storeKey = "Workspace/ToolBars";
 constexpr int firstUserToolBar = 59432;
 
-/// One toolbar as a line of text: commands, then the title.
+// A toolbar's number in its line of text.
+constexpr QLatin1Char numberMark('#');
+
+/// One toolbar as a line of text: its number, if it has one, commands, then the title.
 QString ToText(const ToolBarSpec& spec)
 {
   QStringList words;
+  if (spec.number != 0) words.append(numberMark + QString::number(spec.number));
   for (const int command : spec.commands) words.append(QString::number(command));
   return words.join(QLatin1Char(' ')) + QLatin1Char('|') + spec.title;
 }
@@ -68,6 +72,7 @@ ToolBarSpec ToolBars::FromText(const QString& text) const
   ToolBarSpec spec;
   spec.title = text.section(QLatin1Char('|'), 1);
   for (const QString& word : text.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(' '))) {
+    if (word.startsWith(numberMark)) spec.number = word.mid(1).toInt();
     bool isNumber = false;
     const int command = word.toInt(&isNumber);
     if (isNumber && available.contains(command)) spec.commands.append(command);
@@ -101,25 +106,46 @@ void ToolBars::Store(QSettings& settings) const
 
 void ToolBars::Build(const QList<ToolBarSpec>& specs)
 {
-  const qsizetype before = bars_.size();
+  QStringList before;
+  for (const QToolBar* const bar : bars_) before.append(bar->objectName());
   const QByteArray places = window_.saveState();
   qDeleteAll(std::exchange(bars_, {}));
   specs_ = specs;
+  NumberBars();
   for (const ToolBarSpec& spec : specs_) {
     auto* const bar = window_.addToolBar(spec.title);
-    bar->setObjectName(
-        bars_.isEmpty() ? QStringLiteral("StandardToolBar")
-                        : QString::number(firstUserToolBar + static_cast<int>(bars_.size()) - 1));
+    bar->setObjectName(bars_.isEmpty() ? QStringLiteral("StandardToolBar")
+                                       : QString::number(spec.number));
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setIconSize(QSize(24, 24));
     bars_.append(bar);
     Fill(*bar, spec.commands);
     AddCustomizeButton(*bar);
   }
-  if (before > 0) window_.restoreState(places);
+  if (!before.isEmpty()) window_.restoreState(places);
   // A toolbar without a place of before would stay hidden.
-  for (qsizetype i = before; i < bars_.size(); ++i) bars_[i]->show();
+  for (QToolBar* const bar : bars_) {
+    if (!before.contains(bar->objectName())) bar->show();
+  }
   SetViewImage(viewImage_);
+}
+
+void ToolBars::NumberBars()
+{
+  QList<int> taken;
+  specs_.first().number = 0;
+  for (qsizetype i = 1; i < specs_.size(); ++i) {
+    int& number = specs_[i].number;
+    if (number < firstUserToolBar || taken.contains(number)) number = 0;
+    if (number != 0) taken.append(number);
+  }
+  for (qsizetype i = 1; i < specs_.size(); ++i) {
+    int& number = specs_[i].number;
+    if (number != 0) continue;
+    number = firstUserToolBar;
+    while (taken.contains(number)) ++number;
+    taken.append(number);
+  }
 }
 
 void ToolBars::Fill(QToolBar& bar, const QList<int>& commands)

@@ -17,6 +17,7 @@ namespace hullwright {
 struct ToolBarSpec {
   QString title;
   QList<int> commands;
+  int number = 0;  ///< of a toolbar of the user's own, which keeps its place by it; 0 for none yet
   friend bool operator==(const ToolBarSpec&, const ToolBarSpec&) = default;
 };
 
@@ -51,6 +52,9 @@ public:
 
 private:
   ToolBarSpec FromText(const QString& text) const;
+
+  /// Gives each toolbar of the user's own a number of its own, the lowest that is free.
+  void NumberBars();
   void Fill(QToolBar& bar, const QList<int>& commands);
   void AddButton(QToolBar& bar, QAction& action);
   void AddCustomizeButton(QToolBar& bar);

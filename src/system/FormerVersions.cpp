@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
-#include <iterator>
 #include <new>
 #include <string_view>
 #include <vector>
@@ -21,19 +20,26 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t mostCopies = 5;
 
-/// A file's name may have 255 bytes; what is left for the stem beside hash, time and ending.
-constexpr std::size_t longestStem = 180;
+// A file's name may have 255 bytes; what is left for the stem beside hash, count, time and ending.
+constexpr std::size_t longestStem = 160;
+constexpr std::size_t longestEnding = 16;
+
+/// Larger files are no designs, and reading them would hold the save up.
+constexpr std::uintmax_t largestFile = 256U << 20U;
 
 /// The bytes of a regular file; nothing for anything else, and where it can't be read whole.
 std::optional<std::string> ReadWhole(const fs::path& path)
 {
   std::error_code failed;
   if (!fs::is_regular_file(path, failed)) return std::nullopt;
+  const std::uintmax_t size = fs::file_size(path, failed);
   std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
+  if (failed || size > largestFile || !file) return std::nullopt;
   try {
-    std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    return file.bad() ? std::nullopt : std::optional(std::move(bytes));
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    file.read(bytes.data(), static_cast<std::streamsize>(size));
+    if (!file) return std::nullopt;
+    return bytes;
   } catch (const std::bad_alloc&) {
     return std::nullopt;
   }
@@ -97,24 +103,24 @@ std::vector<fs::path> CopiesOf(const fs::path& folder, const std::string& prefix
 {
   std::vector<fs::path> copies;
   std::error_code failed;
-  for (const auto& entry : fs::directory_iterator(folder, failed)) {
-    if (entry.path().filename().string().starts_with(prefix)) copies.push_back(entry.path());
+  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+       entry.increment(failed)) {
+    if (entry->path().filename().string().starts_with(prefix)) copies.push_back(entry->path());
   }
   std::ranges::sort(copies);
   return copies;
 }
 
-/// A name that no copy has yet: two saves within a millisecond get different times.
-fs::path FreeName(const fs::path& folder, const std::string& prefix, const std::string& ending)
+/// The count of the copy behind the newest one, as six digits.
+std::string NextCount(const std::vector<fs::path>& copies, const std::string& prefix)
 {
-  std::error_code failed;
-  auto now = std::chrono::system_clock::now();
-  fs::path path;
-  do {
-    path = folder / (prefix + TimeStamp(now) + ending);
-    now += std::chrono::milliseconds(1);
-  } while (fs::exists(path, failed));
-  return path;
+  constexpr std::uint32_t million = 1000000;
+  std::uint32_t count = 0;
+  if (!copies.empty()) {
+    const std::string newest = copies.back().filename().string();
+    count = ParseUInt32(std::string_view(newest).substr(prefix.size()), 10);
+  }
+  return std::to_string(million + (count + 1) % million).substr(1);
 }
 
 }  // namespace
@@ -122,11 +128,17 @@ fs::path FreeName(const fs::path& folder, const std::string& prefix, const std::
 std::u16string FormerVersions::Keep(std::u16string_view path)
 {
   std::error_code failed;
-  file_ = fs::path(Utf8FromWide(path));
-  const fs::path real = fs::canonical(file_, failed);
-  if (!failed) file_ = real;
-  bytes_ = ReadWhole(file_);
-  return bytes_ && !folder_.empty() ? WideFromUtf8(WriteCopy().string()) : std::u16string();
+  fs::path file(Utf8FromWide(path));
+  const fs::path real = fs::canonical(file, failed);
+  if (!failed) file = real;
+  if (!isDamaged_ || file != file_) {
+    file_ = file;
+    wasAbsent_ = !fs::exists(file, failed);
+    isDamaged_ = false;
+    bytes_ = ReadWhole(file);
+    copy_ = bytes_ && !folder_.empty() ? WriteCopy() : fs::path();
+  }
+  return WideFromUtf8(copy_.string());
 }
 
 fs::path FormerVersions::WriteCopy() const
@@ -139,7 +151,10 @@ fs::path FormerVersions::WriteCopy() const
   // Saving again without a change must not push the older versions out.
   if (!copies.empty() && ReadWhole(copies.back()) == bytes_) return copies.back();
 
-  fs::path copy = FreeName(folder_, prefix, file_.extension().string());
+  std::string ending = file_.extension().string();
+  if (ending.size() > longestEnding) ending.clear();
+  fs::path copy = folder_ / (prefix + NextCount(copies, prefix) + '.' +
+                             TimeStamp(std::chrono::system_clock::now()) + ending);
   if (!WriteWhole(copy, *bytes_)) {
     fs::remove(copy, failed);
     return {};
@@ -149,10 +164,22 @@ fs::path FormerVersions::WriteCopy() const
   return copy;
 }
 
-bool FormerVersions::PutBack()
+void FormerVersions::Release()
 {
-  if (!bytes_) return false;
-  return ReadWhole(file_) == bytes_ || WriteWhole(file_, *bytes_);
+  bytes_.reset();
+  isDamaged_ = false;
+}
+
+Restored FormerVersions::PutBack()
+{
+  std::error_code failed;
+  if (wasAbsent_) {
+    if (fs::is_regular_file(file_, failed)) fs::remove(file_, failed);
+    return fs::exists(file_, failed) ? Restored::Damaged : Restored::Nothing;
+  }
+  if (!bytes_) return fs::is_regular_file(file_, failed) ? Restored::Damaged : Restored::Nothing;
+  isDamaged_ = ReadWhole(file_) != bytes_ && !WriteWhole(file_, *bytes_);
+  return isDamaged_ ? Restored::Damaged : Restored::AsBefore;
 }
 
 fs::path StateFolder()

@@ -17,8 +17,8 @@ bool CHullwrightView::HasRubberBand() const
 void CHullwrightView::BeginPolyline()
 {
   if (drawing) return;
-  drawing = true;
   newShape = std::make_unique<CShapePolyline>();
+  drawing = true;
 }
 
 void CHullwrightView::AddPolylineVertex()

@@ -91,7 +91,13 @@ protected:
   FakeDocumentDialogs documentDialogs;
   KeptRecentFiles recentFiles;
   FormerVersions formerVersions{folder.Path() / "state"};
-  DocumentLife life{document, app, {documentDialogs, recentFiles, formerVersions, widgets}, 4};
+  bool isDrawing = false;
+  std::string heldAtMessage;  ///< by the file, when the user was told
+  DocumentLife life{
+      document,
+      app,
+      {documentDialogs, recentFiles, formerVersions, widgets, [this] { return isDrawing; }},
+      4};
 };
 
 TEST_F(Life, AnUntouchedDesignNeverAsks)
@@ -133,7 +139,8 @@ TEST_F(Life, EveryChangeOfWhatASaveWritesAsksWithoutAFlag)
   EXPECT_TRUE(changed([&] { app.unitCode = 9002; }, [&] { app.unitCode = 9001; }));
   EXPECT_TRUE(changed([&] { app.anchors->items.push_back(app.anchors->NewAnchor()); },
                       [&] { app.anchors->Clear(); }));
-  EXPECT_TRUE(changed([&] { GetShapes(app.shapeGroups, 2); }, [&] { app.shapeGroups.pop_back(); }));
+  EXPECT_TRUE(changed([&] { app.shapeGroups[0]->viewCode = 2; },
+                      [&] { app.shapeGroups[0]->viewCode = 1; }));
 }
 
 TEST_F(Life, WhatNoSaveWritesIsNotAskedFor)
@@ -143,6 +150,20 @@ TEST_F(Life, WhatNoSaveWritesIsNotAskedFor)
   FirstVertex().x += 0.0001;
   app.anchors->enabled = 0;
   app.shapeGroups[0]->shapes.push_back(std::make_unique<CShapePoint>());
+  GetShapes(app.shapeGroups, 2);  // as a side gets that is only looked at
+  EXPECT_FALSE(Asks());
+}
+
+TEST_F(Life, APolylineThatIsBeingDrawnIsAskedForAndMissedByASave)
+{
+  ASSERT_TRUE(OpenBoat());
+  isDrawing = true;
+  EXPECT_TRUE(Asks());
+  EXPECT_TRUE(life.Save());
+  EXPECT_THAT(widgets.notes,
+              ElementsAre(u"\"boat.xml\" was saved without the polyline that is being drawn"));
+  EXPECT_TRUE(Asks());
+  isDrawing = false;
   EXPECT_FALSE(Asks());
 }
 
@@ -194,17 +215,18 @@ TEST_F(Life, ASaveThatFailsHalfwayGivesTheFileBackWhatItHeldAndNamesTheCopy)
   for (int i = 0; i < 1000; ++i) {
     app.shapeGroups[0]->shapes.push_back(app.shapeGroups[0]->shapes[0]->Clone());
   }
+  messages.onShow = [this] { heldAtMessage = folder.Read("boat.xml"); };
   {
     const FileSizeLimit limit(4096);
     EXPECT_FALSE(life.Save());
   }
   EXPECT_THAT(messages.shown, ElementsAre(Strings::writeFailed));
+  EXPECT_EQ(heldAtMessage, boat);
   EXPECT_EQ(folder.Read("boat.xml"), boat);
   ASSERT_EQ(widgets.notes.size(), 1U);
-  EXPECT_TRUE(widgets.notes[0].starts_with(
-      u"Nothing was saved: File too large. The file is as it was before. A copy of the former "
-      u"file is " +
-      folder.File("state/boat.")));
+  EXPECT_TRUE(widgets.notes[0].starts_with(u"Nothing was saved: File too large. Former file: " +
+                                           folder.File("state/boat.")));
+  EXPECT_TRUE(widgets.notes[0].ends_with(u".xml. The file is as it was."));
   EXPECT_TRUE(Asks());
 }
 

@@ -267,6 +267,14 @@ TEST_F(DocumentFlow, AnOutlineThatWasDrawnIsAskedForThoughTheDesignIsNotModified
   QTest::mouseMove(design, QPoint(100, 100));
   QTest::mouseClick(design, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
   EXPECT_TRUE(Prompt().endsWith(QStringLiteral("1 so far")));
+  Answer(QMessageBox::Cancel);
+  EXPECT_FALSE(Window().close());  // the polyline is not in the design yet
+  Window().ShowNote(u"something else");
+  EXPECT_EQ(Prompt(), QStringLiteral("something else"));
+  QTest::mouseMove(design, QPoint(150, 100));
+  EXPECT_EQ(Prompt(), QStringLiteral("something else"));
+  QTest::mouseClick(design, Qt::LeftButton, Qt::NoModifier, QPoint(150, 100));
+  EXPECT_TRUE(Prompt().endsWith(QStringLiteral("2 so far")));
   QTest::mouseClick(design, Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
   EXPECT_EQ(Prompt(), QStringLiteral("Ready"));
   EXPECT_FALSE(Window().isWindowModified());

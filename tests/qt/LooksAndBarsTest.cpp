@@ -4,6 +4,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolBar>
@@ -171,6 +172,42 @@ TEST_F(Frame, ToolBarsKeepPlaceAndVisibilityWhenTheyAreCustomized)
   EXPECT_TRUE(Bars().at(1)->isHidden());
   EXPECT_EQ(Window().toolBarArea(Bars().at(2)), Qt::TopToolBarArea);
   EXPECT_FALSE(Bars().at(2)->isHidden());
+}
+
+TEST_F(Frame, AToolBarKeepsItsPlaceWhenAnotherOneGoesAndANewOneComes)
+{
+  MakeBar("First");
+  MakeBar("Second");
+  Window().addToolBar(Qt::BottomToolBarArea, Bars().at(2));
+  Bars().at(1)->hide();
+  Customize([this](QDialog& dialog) {
+    dialog.findChild<QComboBox*>()->setCurrentIndex(1);
+    Press(dialog, "Delete");
+    AddBar(dialog, "Third");
+    Press(dialog, "OK");
+  });
+  for (int start = 0; start < 2; ++start) {
+    ASSERT_EQ(Bars().size(), 3);
+    EXPECT_EQ(Bars().at(1)->windowTitle(), QStringLiteral("Second"));
+    EXPECT_EQ(Bars().at(1)->objectName(), QStringLiteral("59433"));
+    EXPECT_EQ(Window().toolBarArea(Bars().at(1)), Qt::BottomToolBarArea);
+    EXPECT_EQ(Bars().at(2)->windowTitle(), QStringLiteral("Third"));
+    EXPECT_EQ(Bars().at(2)->objectName(), QStringLiteral("59432"));
+    Restart();
+  }
+}
+
+TEST_F(Frame, TheWindowClosesWithTheOpenDialogAndALookMayChangeUnderIt)
+{
+  Window().RunCommand(Command::Customize);
+  Window().RunCommand(Command::LookBlack);
+  QPointer<CustomizeDialog> dialog = Window().findChild<CustomizeDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  Press(*dialog, "OK");
+  Window().RunCommand(Command::Customize);
+  EXPECT_TRUE(Window().close());
+  Restart();
+  EXPECT_EQ(dialog, nullptr);
 }
 
 TEST_F(Frame, OnlyTheFirstSideButtonOfTheStandardToolBarShowsTheSide)

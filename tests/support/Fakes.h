@@ -36,7 +36,11 @@ public:
 
 class FakeMessages : public IMessageBoxes {
 public:
-  void ShowMessage(std::u16string_view text) override { shown.emplace_back(text); }
+  void ShowMessage(std::u16string_view text) override
+  {
+    shown.emplace_back(text);
+    if (onShow) onShow();
+  }
   bool AskYesNo(std::u16string_view question) override
   {
     asked.emplace_back(question);
@@ -45,6 +49,7 @@ public:
   }
 
   std::vector<std::u16string> shown;
+  std::function<void()> onShow;
   std::vector<std::u16string> asked;
   bool answer = false;
   std::function<void()> onQuestion;  ///< runs while the question is open

@@ -26,8 +26,17 @@ protected:
   {
     const std::u16string copy = versions.Keep(folder.File(name));
     folder.Write(name, text);
+    versions.Release();
     return copy;
   }
+
+  /// Makes a file one that nobody can write, also for a user who may write everything.
+  void Block(const std::string& name) const
+  {
+    fs::remove(folder.Path() / name);
+    fs::create_directory(folder.Path() / name);
+  }
+  void Unblock(const std::string& name) const { fs::remove(folder.Path() / name); }
 
   /// What the copies hold, by name.
   std::vector<std::string> Copies() const
@@ -62,7 +71,7 @@ TEST_F(Former, TheCopyBearsTheNameOfTheFileAndTheTime)
   EXPECT_EQ(copy.parent_path(), state);
   EXPECT_TRUE(std::regex_match(
       copy.filename().string(),
-      std::regex(R"(boat\.[0-9A-F]{16}\.\d{4}-\d\d-\d\dT\d\d-\d\d-\d\d\.\d{3}Z\.xml)")))
+      std::regex(R"(boat\.[0-9A-F]{16}\.000001\.\d{4}-\d\d-\d\dT\d\d-\d\d-\d\d\.\d{3}Z\.xml)")))
       << copy;
   EXPECT_THAT(Copies(), ElementsAre("first"));
 }
@@ -99,22 +108,60 @@ TEST_F(Former, AFileReachedThroughALinkIsTheFileThatTheLinkNames)
   EXPECT_THAT(Copies(), ElementsAre("2", "3", "4", "5", "6"));
 }
 
+TEST_F(Former, CopiesAreInTheOrderOfTheirMakingWhateverTheClockSays)
+{
+  SaveOver("boat.xml", "1");
+  const fs::path first = Utf8FromWide(SaveOver("boat.xml", "2"));
+  std::string future = first.filename().string();
+  future.replace(future.find(".20") + 1, 4, "2099");
+  fs::rename(first, state / future);
+  for (const char* text : {"3", "4", "5", "6", "7", "8"}) SaveOver("boat.xml", text);
+  EXPECT_THAT(Copies(), ElementsAre("3", "4", "5", "6", "7"));
+}
+
 TEST_F(Former, AFileThatLostItsBytesGetsThemBack)
 {
   SaveOver("boat.xml", "good");
   versions.Keep(folder.File("boat.xml"));
   folder.Write("boat.xml", "");
-  EXPECT_TRUE(versions.PutBack());
+  EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
   EXPECT_EQ(folder.Read("boat.xml"), "good");
-  EXPECT_TRUE(versions.PutBack());
+  EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
 }
 
-TEST_F(Former, NothingIsPutBackForAFileThatWasNotThere)
+TEST_F(Former, WhatAFailedSaveLeavesWhereNoFileWasIsTakenAway)
 {
   versions.Keep(folder.File("boat.xml"));
+  EXPECT_EQ(versions.PutBack(), Restored::Nothing);
   folder.Write("boat.xml", "half");
-  EXPECT_FALSE(versions.PutBack());
-  EXPECT_EQ(folder.Read("boat.xml"), "half");
+  EXPECT_EQ(versions.PutBack(), Restored::Nothing);
+  EXPECT_EQ(folder.Read("boat.xml"), "(no file)");
+}
+
+TEST_F(Former, ADamagedFileIsNotKeptInThePlaceOfTheGoodOne)
+{
+  SaveOver("boat.xml", "good");
+  const std::u16string copy = versions.Keep(folder.File("boat.xml"));
+  Block("boat.xml");
+  EXPECT_EQ(versions.PutBack(), Restored::Damaged);
+  Unblock("boat.xml");
+  folder.Write("boat.xml", "torn");
+  EXPECT_EQ(versions.Keep(folder.File("boat.xml")), copy);
+  EXPECT_THAT(Copies(), ElementsAre("good"));
+  EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
+  EXPECT_EQ(folder.Read("boat.xml"), "good");
+}
+
+TEST_F(Former, AfterAWholeSaveADamagedFileIsOneAsAnyOther)
+{
+  SaveOver("boat.xml", "good");
+  versions.Keep(folder.File("boat.xml"));
+  Block("boat.xml");
+  EXPECT_EQ(versions.PutBack(), Restored::Damaged);
+  Unblock("boat.xml");
+  SaveOver("boat.xml", "new");
+  SaveOver("boat.xml", "newer");
+  EXPECT_THAT(Copies(), ElementsAre("good", "new"));
 }
 
 TEST_F(Former, WithoutAFolderToCopyToTheBytesCanStillBePutBack)
@@ -123,8 +170,16 @@ TEST_F(Former, WithoutAFolderToCopyToTheBytesCanStillBePutBack)
   SaveOver("boat.xml", "good");
   EXPECT_EQ(versions.Keep(folder.File("boat.xml")), u"");
   folder.Write("boat.xml", "half");
-  EXPECT_TRUE(versions.PutBack());
+  EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
   EXPECT_EQ(folder.Read("boat.xml"), "good");
+}
+
+TEST_F(Former, FilesTooLargeForADesignAreNotRead)
+{
+  folder.Write("large.xml", "");
+  fs::resize_file(folder.Path() / "large.xml", (256U << 20U) + 1);
+  EXPECT_EQ(versions.Keep(folder.File("large.xml")), u"");
+  EXPECT_EQ(versions.PutBack(), Restored::Damaged);
 }
 
 TEST_F(Former, FoldersAndDevicesAreNoFilesToKeep)
@@ -137,14 +192,23 @@ TEST_F(Former, FoldersAndDevicesAreNoFilesToKeep)
 TEST_F(Former, LongNamesAreCutBetweenCharacters)
 {
   std::string name;
-  for (int i = 0; i < 61; ++i) name += "\xE6\xB8\xAF";  // 183 bytes, and 180 is the limit
+  for (int i = 0; i < 61; ++i) name += "\xE6\xB8\xAF";  // 183 bytes, and 160 is the limit
   folder.Write(name + ".xml", "long");
   const fs::path copy = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
-  EXPECT_TRUE(copy.filename().string().starts_with(name.substr(0, 180) + "."));
+  EXPECT_TRUE(copy.filename().string().starts_with(name.substr(0, 159) + "."));
   name.insert(0, "a");
   folder.Write(name + ".xml", "long");
   const fs::path odd = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
-  EXPECT_TRUE(odd.filename().string().starts_with(name.substr(0, 178) + "."));
+  EXPECT_TRUE(odd.filename().string().starts_with(name.substr(0, 160) + "."));
+}
+
+TEST_F(Former, AnEndingThatIsTooLongForANameIsLeftOff)
+{
+  const std::string name = "boat." + std::string(200, 'x');
+  folder.Write(name, "long");
+  const fs::path copy = Utf8FromWide(versions.Keep(folder.File(name)));
+  EXPECT_EQ(copy.extension().string().back(), 'Z');
+  EXPECT_THAT(Copies(), ElementsAre("long"));
 }
 
 TEST(UserState, FollowsTheRulesForBaseFolders)
