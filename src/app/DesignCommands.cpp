@@ -215,7 +215,7 @@ void CHullwrightApp::ImportDxf()
   ImportTally tally;
   const CShapes* group = FindViewGroup(shapeGroups, activeView);
   const std::size_t before = group == nullptr ? 0 : group->shapes.size();
-  std::u16string note = u"The drawing can't be read, or it is empty";
+  std::u16string note(unreadableDrawing);
   if (ImportDrawing(*path, tally) == 0) {
     group = FindViewGroup(shapeGroups, activeView);
     note = DescribeImport(tally);

@@ -125,7 +125,8 @@ void DocumentLife::NoteNotSaved(const std::u16string& formerVersion) const
   std::u16string note = u"Nothing was saved: " + document_.SaveProblem() + u".";
   if (!formerVersion.empty()) note += u" Former file: " + formerVersion + u".";
   switch (restored_) {
-    case Restored::Nothing: break;
+    case Restored::Nothing:
+    case Restored::Unknown: break;
     case Restored::AsBefore: note += u" The file is as it was."; break;
     case Restored::Damaged: note += u" The file is damaged."; break;
   }

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "dxf/ImportTally.h"
 
 namespace hullwright {
+
+/// Told of a drawing that gives nothing at all.
+inline constexpr std::u16string_view unreadableDrawing =
+    u"the drawing can't be read, or it is empty";
 
 /// What came out of an import: "355 polylines, 12 texts".
 std::u16string DescribeShapes(const ImportTally& tally);

@@ -87,7 +87,7 @@ std::vector<std::string> UnitFindings(CHullwrightApp& app)
   std::string text = "the unit code " + std::to_string(code);
   const std::vector<UnitRecord> units = app.ReadUnits();
   const auto unit = std::ranges::find(units, code, &UnitRecord::numId);
-  // The registry keeps angles and ratios in ranges of their own.
+  // EPSG keeps angles and ratios in ranges of their own.
   const bool isAngle = code / 100 == 91;
   const bool isRatio = code / 100 == 92;
   if (unit != units.end()) {

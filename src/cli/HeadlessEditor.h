@@ -52,9 +52,6 @@ public:
   void EndProgress() override {}
 };
 
-inline constexpr std::u16string_view unreadableDrawing =
-    u"the drawing can't be read, or it is empty";
-
 /// The editor without a window: application, document and view as the window has them, on a drawing
 /// surface of the caller's, or without a picture.
 class HeadlessEditor {

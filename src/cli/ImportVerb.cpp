@@ -151,7 +151,7 @@ int ImportAll(const Options& options)
       !numbers.empty()) {
     Remark(options.output, u"warning: " + numbers);
   }
-  FormerVersions(StateFolder()).Keep(WideFromUtf8(options.output));
+  if (options.output != "-") FormerVersions(StateFolder()).Keep(WideFromUtf8(options.output));
   return output.Commit() ? 0 : Fail(output.Problem());
 }
 

@@ -84,6 +84,7 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
   file.groups = &design_.shapeGroups;
   if (file.Read(path) != 0) {
     openProblem_ = Describe(file.LastReadError());
+    if (openProblem_.empty()) openProblem_ = Reason(0, "It can't be read");
     return false;
   }
   CopyCoordinates(*file.gps, *design_.offsetGps);

@@ -9,7 +9,8 @@ namespace hullwright {
 enum class Restored {
   Nothing,   ///< there was no file, and there is none
   AsBefore,  ///< it holds what it held before
-  Damaged    ///< it could not be given its bytes back
+  Damaged,   ///< it could not be given its bytes back
+  Unknown    ///< what it held could not be read
 };
 
 /// Keeps what a file held before it is saved over.

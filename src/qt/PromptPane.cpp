@@ -29,7 +29,8 @@ void PromptPane::Elide()
 {
   const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, width() - 2 * margin());
   setText(shown);
-  setToolTip(shown == text_ ? QString() : text_);
+  // Escaped: a tooltip takes a name such as "<b>.xml" for rich text.
+  setToolTip(shown == text_ ? QString() : text_.toHtmlEscaped());
 }
 
 }  // namespace hullwright

@@ -133,7 +133,7 @@ std::u16string FormerVersions::Keep(std::u16string_view path)
   if (!failed) file = real;
   if (!isDamaged_ || file != file_) {
     file_ = file;
-    wasAbsent_ = !fs::exists(file, failed);
+    wasAbsent_ = !fs::exists(file, failed) && !failed;
     isDamaged_ = false;
     bytes_ = ReadWhole(file);
     copy_ = bytes_ && !folder_.empty() ? WriteCopy() : fs::path();
@@ -177,7 +177,7 @@ Restored FormerVersions::PutBack()
     if (fs::is_regular_file(file_, failed)) fs::remove(file_, failed);
     return fs::exists(file_, failed) ? Restored::Damaged : Restored::Nothing;
   }
-  if (!bytes_) return fs::is_regular_file(file_, failed) ? Restored::Damaged : Restored::Nothing;
+  if (!bytes_) return Restored::Unknown;
   isDamaged_ = ReadWhole(file_) != bytes_ && !WriteWhole(file_, *bytes_);
   return isDamaged_ ? Restored::Damaged : Restored::AsBefore;
 }

@@ -7,7 +7,7 @@ namespace {
 
 double Snapped(double value, double spacing)
 {
-  if (spacing == 0.0) return value;  // cut off or typed so: an axis without snapping
+  if (spacing == 0.0) return value;  // a spacing below a hundredth is stored as 0
   const double r = std::fmod(value, spacing);
   if (std::abs(r) <= spacing * 0.5) return value - r;
   return r > 0 ? (spacing - r) + value : value - (spacing + r);

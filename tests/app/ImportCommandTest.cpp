@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "app/ImportText.h"
 #include "base/Text.h"
 #include "model/ShapeText.h"
 #include "resources/CommandIds.h"
@@ -148,7 +149,7 @@ TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
       widgets.notes,
       ElementsAre(u"1 polyline, 1 text", u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
                   u"a binary drawing; only drawings in text form can be imported",
-                  u"The drawing can't be read, or it is empty"));
+                  unreadableDrawing));
 }
 
 TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)

@@ -29,6 +29,10 @@ public:
       : socket_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
   {
     place_.sun_family = AF_UNIX;
+    if (name.size() > sizeof place_.sun_path) {
+      ADD_FAILURE() << name << " is too long for a socket";
+      return;
+    }
     std::copy(name.begin(), name.end(), place_.sun_path);
     length_ = socklen_t(sizeof place_ - sizeof place_.sun_path + name.size());
     EXPECT_EQ(bind(socket_, Place(), length_), 0);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/Numbers.h"
 #include "support/DxfFixture.h"
 
 /// The records of polylines.
@@ -13,7 +14,7 @@ inline std::string Header(const std::string& more = {}) { return Lines({{0, "POL
 /// One vertex. Its layer is frozen in some drawings, which plays no part.
 inline std::string Vertex(double x, double y, const std::string& more = {})
 {
-  return Lines({{0, "VERTEX"}, {8, "frozen"}, {10, std::to_string(x)}, {20, std::to_string(y)}}) +
+  return Lines({{0, "VERTEX"}, {8, "frozen"}, {10, FormatFixed(x, 6)}, {20, FormatFixed(y, 6)}}) +
          more;
 }
 

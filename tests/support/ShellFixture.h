@@ -22,6 +22,8 @@ protected:
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                        QString::fromStdString((folder.Path() / "config").string()));
     qputenv("XDG_STATE_HOME", (folder.Path() / "state").c_str());
+    qputenv("XDG_DATA_HOME", (folder.Path() / "data").c_str());
+    qputenv("XDG_DATA_DIRS", (folder.Path() / "data").c_str());
   }
 
   /// Calls `act` with the next modal dialog as soon as it is open, if it opens before the test
