@@ -76,7 +76,10 @@ std::u16string DescribePassedOver(const ImportTally& tally)
       ListOf({{tally.onHiddenLayers, "on a hidden layer", "on hidden layers"},
               {tally.inPaperSpace, "in paper space", "in paper space"},
               {tally.unknownBlocks, "insert of an unknown block", "inserts of unknown blocks"},
-              {tally.cutInserts, "insert for want of memory", "inserts for want of memory"}});
+              {tally.cutInserts, "insert for want of memory", "inserts for want of memory"},
+              {tally.withoutMemory, "part for want of memory", "parts for want of memory"},
+              {tally.cutParts, "part behind a line that is too long",
+               "parts behind lines that are too long"}});
   if (!dropped.empty()) parts.push_back("left out: " + dropped);
   return WideFromAscii(Join(parts, "; "));
 }

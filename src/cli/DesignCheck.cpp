@@ -29,7 +29,7 @@ constexpr auto knownElements = std::to_array<KnownElement>({
     {"gps", "vessel", "x y z", true},
     {"txd", "vessel", "x y z", true},
     {"piv", "vessel", "x y z", true},
-    {"anchors", "vessel", "", true},
+    {"anchors", "vessel", "", false},
     {"anchor", "anchors", "", false},
     {"id", "anchor", "", false},
     {"name", "anchor", "", false},

@@ -75,6 +75,7 @@ void CFileDxf::TakeEntityLine(const DxfLine& line, bool inBlock, CShapes& target
     if (keyword != nullptr) keyword->read(*this, target);
   } catch (const std::bad_alloc&) {
     // There is no memory for this entity; the next one may be smaller.
+    ++tally.withoutMemory;
   }
 }
 

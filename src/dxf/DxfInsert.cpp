@@ -75,6 +75,7 @@ void CFileDxf::ReadInsert(CShapes& target)
       AddCopy(*shape, entity, target);
     } catch (const std::bad_alloc&) {
       // There is no memory for this copy; the next one may be smaller.
+      ++tally.withoutMemory;
     }
   }
 }

@@ -52,9 +52,12 @@ void CFileDxf::ProcessBlock()
   block->colour = header.colour;
 
   DxfLine line;
-  while (GetLine(line, shortLine) && line.Text().find("ENDBLK") == std::string_view::npos) {
+  bool isWhole = false;
+  while ((isWhole = GetLine(line, shortLine)) &&
+         line.Text().find("ENDBLK") == std::string_view::npos) {
     TakeEntityLine(line, true, *block);
   }
+  NoteEnd(isWhole);
   if (header.paperSpace == 1) {
     tally.inPaperSpace += block->shapes.size();
     return;

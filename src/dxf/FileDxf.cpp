@@ -88,6 +88,7 @@ int CFileDxf::ProcessFile()
   } catch (const std::bad_alloc&) {
     // There is no memory for a layer or a block. Without it the entities behind would come out in
     // other colours, or hidden ones would come out at all.
+    ++tally.withoutMemory;
   }
   frame_->Notify(Notification::ImportEnd, 0);
   return 0;
@@ -168,14 +169,21 @@ int CFileDxf::ProcessEntities()
   Log(TraceLevel::Progress, processing, u"[DXF] Processing 'ENTITIES' section...");
   DxfLine line;
   afterGroupZero_ = false;
-  while (GetLine(line, shortLine) && !Contains(line.Text(), "ENDSEC")) {
+  bool isWhole = false;
+  while ((isWhole = GetLine(line, shortLine)) && !Contains(line.Text(), "ENDSEC")) {
     TakeEntityLine(line, false, target);
     ReportProgress();
   }
+  NoteEnd(isWhole);
   Log(TraceLevel::Success, processing,
       u"[DXF] 'ENTITIES' section processed, added " + Count(target.shapes.size()) +
           u" map features to map layer.");
   return 0;
+}
+
+void CFileDxf::NoteEnd(bool isWhole)
+{
+  if (!isWhole && position < size) ++tally.cutParts;
 }
 
 void CFileDxf::SkipPast(std::string_view word)

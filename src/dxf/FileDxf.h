@@ -184,6 +184,9 @@ private:
     ReadGroups(entity, [](std::int32_t, std::string_view) {});
   }
 
+  /// Counts a part that ended early: at a line that is too long, with text behind it.
+  void NoteEnd(bool isWhole);
+
   bool HasTarget() const;
   void ProcessSections();
   bool ProcessSection();

@@ -43,6 +43,10 @@ struct ImportTally {
   std::size_t unknownBlocks = 0;  ///< inserts of a block that is not there
   std::size_t cutInserts = 0;     ///< inserts whose copies would have taken too much memory
 
+  std::size_t withoutMemory =
+      0;                     ///< entities, copies, or the rest of the drawing, once memory ended
+  std::size_t cutParts = 0;  ///< sections and blocks that a line too long ended before their time
+
   bool isBinary = false;     ///< the file is a drawing in its binary form, which nobody reads
   bool hasSections = false;  ///< the file has a line that begins a section
 };

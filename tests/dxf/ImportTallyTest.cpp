@@ -150,5 +150,24 @@ TEST_F(Tally, AFileWithoutSectionsIsNoDrawing)
   EXPECT_TRUE(file->tally.IsDrawing()) << "shapes came out";
 }
 
+TEST_F(Tally, APartThatALineTooLongEndsIsCounted)
+{
+  const std::string tooLong(300, 'x');
+  ImportEntities(Lines({{0, "LINE"}, {0, "MLINE"}, {2, tooLong}, {0, "LINE"}}));
+  EXPECT_EQ(file->tally.polylines, 1U);
+  EXPECT_EQ(file->tally.cutParts, 1U);
+  Import(Blocks(Block("a", Lines({{0, "MLINE"}, {2, tooLong}, {0, "LINE"}}))) +
+         Entities(Lines({{0, "LINE"}})));
+  EXPECT_EQ(file->tally.cutParts, 1U);
+}
+
+TEST_F(Tally, ADrawingThatSimplyEndsIsNotCutShort)
+{
+  Import("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHull\n");
+  EXPECT_EQ(file->tally.cutParts, 0U);
+  Import("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHull\n0");
+  EXPECT_EQ(file->tally.cutParts, 0U);
+}
+
 }  // namespace
 }  // namespace hullwright
