@@ -113,7 +113,8 @@ TEST_F(Former, CopiesAreInTheOrderOfTheirMakingWhateverTheClockSays)
   SaveOver("boat.xml", "1");
   const fs::path first = Utf8FromWide(SaveOver("boat.xml", "2"));
   std::string future = first.filename().string();
-  future.replace(future.find(".20") + 1, 4, "2099");
+  const std::string count = ".000001.";
+  future.replace(future.find(count) + count.size(), 4, "2099");
   fs::rename(first, state / future);
   for (const char* text : {"3", "4", "5", "6", "7", "8"}) SaveOver("boat.xml", text);
   EXPECT_THAT(Copies(), ElementsAre("3", "4", "5", "6", "7"));
