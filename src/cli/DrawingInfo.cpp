@@ -15,7 +15,7 @@
 namespace hullwright {
 namespace {
 
-/// The counts, with those that have no name of their own at the end.
+/// The counts, with those that are counted together.
 std::map<std::string, std::size_t> Named(const KeywordCounts& counts)
 {
   std::map<std::string, std::size_t> named(counts.ByKeyword().begin(), counts.ByKeyword().end());

@@ -35,6 +35,33 @@ TEST_F(Tallies, SkippedAndUnknownEntitiesAreCounted)
   EXPECT_EQ(Tally().Shapes(), 1U);
 }
 
+TEST_F(Tallies, EntitiesOfTheSectionsAreCountedAndThoseOfBlocksAreNot)
+{
+  Import(Blocks(Block("b", Entity("ARC") + Entity("RAY"))) +
+         Entities(Entity("LINE") + Entity("RAY", {{8, "LINE"}, {70, "0"}}) + Entity("HATCH")) +
+         Entities(Entity("POLYLINE") + Entity("VERTEX") + Entity("SEQEND") + Entity("LINE")));
+  EXPECT_THAT(Tally().entities.ByKeyword(),
+              ElementsAre(Pair("HATCH", 1), Pair("LINE", 2), Pair("POLYLINE", 1), Pair("RAY", 1),
+                          Pair("SEQEND", 1), Pair("VERTEX", 1)));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("HATCH", 1), Pair("RAY", 2)));
+}
+
+TEST_F(Tallies, HaveTheExtentsOfTheShapes)
+{
+  ImportEntities(Entity("LINE", {{10, "1"}, {20, "-7"}, {11, "-2"}, {21, "3"}}) +
+                 Entity("POINT", {{10, "1e30"}, {20, "2"}}) + Entity("SPLINE", {{10, "-9"}}));
+  EXPECT_EQ(Tally().minX, -2.0);
+  EXPECT_EQ(Tally().minY, -7.0);
+  EXPECT_EQ(Tally().maxX, 1e30);
+  EXPECT_EQ(Tally().maxY, 3.0);
+  ImportEntities(Entity("POINT", {{10, "1e30"}, {20, "-1e30"}}));
+  EXPECT_EQ(Tally().minX, 1e30);
+  EXPECT_EQ(Tally().maxY, -1e30);
+  ImportEntities("");
+  EXPECT_GT(Tally().minX, Tally().maxX);
+  EXPECT_GT(Tally().minY, Tally().maxY);
+}
+
 TEST_F(Tallies, AValueThatReadsLikeAKeywordIsNone)
 {
   // In an entity without a reader such a value starts one, but only its own keyword was ignored.

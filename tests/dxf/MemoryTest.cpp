@@ -155,6 +155,21 @@ TEST_F(Memory, ThatEndsWhereAPolylineEndsLeavesNothingOfItForTheNextEnd)
   EXPECT_EQ(cameOut, (std::set<bool>{false, true}));
 }
 
+TEST_F(Memory, ThatEndsInTheNameOfAKeywordStillCountsIt)
+{
+  for (std::size_t which = 1, failed = 1; failed != 0; ++which) {
+    KeywordCounts counts;
+    const std::string keyword = "ACAD_PROXY_ENTITY";
+    {
+      const FailingNew memory(which);
+      counts.Count(keyword);
+      failed = FailingNew::Stop() ? 1 : 0;
+    }
+    EXPECT_EQ(counts.Others(), failed);
+    EXPECT_EQ(counts.ByKeyword().count(keyword), 1 - failed);
+  }
+}
+
 TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
 {
   const std::string a = "a name that is long: a";
