@@ -32,7 +32,6 @@ std::int64_t CopyCost(const CShape& shape)
 
 bool CopyBudget::Take(const CShape& shape)
 {
-  if (IsUsedUp()) return false;
   left_ -= CopyCost(shape);
   return !IsUsedUp();
 }
