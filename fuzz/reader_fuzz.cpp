@@ -1,8 +1,9 @@
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <string_view>
 
-#include "dxf/FileDxf.h"
+#include "dxf/DxfSections.h"
+#include "model/Layer.h"
 
 // Any bytes are a drawing: reading them must end, in bounded memory, and what they give must be
 // shapes that can be worked with.
@@ -26,23 +27,19 @@ public:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-  constexpr std::int64_t smallBudget = 1 << 22;
   Window window;
   const Log log;
+  DxfLines lines({reinterpret_cast<const char*>(data), size});
+  DxfContext context(log, {.copyBudget = 1 << 22});
   CLayer layer;
-  CFileDxf drawing(&window, log);
-  drawing.copyBudget = smallBudget;
-  drawing.targetLayer = &layer;
-  drawing.buffer.reset(new char[size + 1]);
-  if (size != 0) std::memcpy(drawing.buffer.get(), data, size);
-  drawing.buffer[size] = '\0';
-  drawing.size = static_cast<std::int64_t>(size);
-  if (drawing.ProcessFile() != 0) __builtin_trap();
+  ProcessSections(lines, context, *layer.shapes, window);
+  context.tally.CountShapes(*layer.shapes);
   layer.UpdateExtents();
 
   CShapes copies;
   copies.AppendClones(layer.shapes.get());
   if (copies.shapes.size() != layer.shapes->shapes.size()) __builtin_trap();
+  if (context.tally.Shapes() != copies.shapes.size()) __builtin_trap();
   std::vector<CShapeVertex*> vertices;
   for (const auto& shape : copies.shapes) {
     shape->Scale(2.0, -1.0, 0.5);

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <limits>
 #include <utility>
 
 #include "app/Dialogs.h"
@@ -56,20 +55,12 @@ std::int32_t ToolOf(int command)
   }
 }
 
-/// Whether there are shapes from number `first` on and the view shows no part of the box around
-/// them.
-bool AreOutOfView(const CShapes& group, std::size_t first, const CViewPort& view)
+/// Whether shapes were imported and the view shows no part of the box around them.
+bool AreOutOfView(const ImportTally& imported, const CViewPort& view)
 {
-  constexpr double largest = std::numeric_limits<double>::max();
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
-  for (std::size_t i = first; i < group.shapes.size(); ++i) {
-    if (group.shapes[i]) group.shapes[i]->GetExtents(minX, minY, maxX, maxY);
-  }
-  return minX <= maxX && minY <= maxY &&
-         (minX > view.right || maxX < view.left || minY > view.top || maxY < view.bottom);
+  return imported.minX <= imported.maxX && imported.minY <= imported.maxY &&
+         (imported.minX > view.right || imported.maxX < view.left || imported.minY > view.top ||
+          imported.maxY < view.bottom);
 }
 
 }  // namespace
@@ -213,13 +204,10 @@ void CHullwrightApp::ImportDxf()
   const auto path = ports_.fileDialogs.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
   if (!path) return;
   ImportTally tally;
-  const CShapes* group = FindViewGroup(shapeGroups, activeView);
-  const std::size_t before = group == nullptr ? 0 : group->shapes.size();
   std::u16string note(unreadableDrawing);
   if (ImportDrawing(*path, tally) == 0) {
-    group = FindViewGroup(shapeGroups, activeView);
     note = DescribeImport(tally);
-    if (AreOutOfView(*group, before, *viewPort)) note += u"; outside the view: Show All";
+    if (AreOutOfView(tally, *viewPort)) note += u"; outside the view: Show All";
   }
   if (mainFrame != nullptr) mainFrame->ShowNote(note);
 }
@@ -230,7 +218,7 @@ int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
   {
     CFileDxf drawing(mainFrame, *this);
     const int result = drawing.Import(path, &layer);
-    tally = std::move(drawing.tally);
+    tally = drawing.TakeTally();
     if (result != 0) return -1;
   }
   CShapes* group = FindViewGroup(shapeGroups, activeView);

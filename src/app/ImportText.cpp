@@ -44,14 +44,15 @@ std::string ListOf(std::initializer_list<Counted> all)
 /// The keywords with their counts, the largest first.
 std::string IgnoredOf(const ImportTally& tally)
 {
-  std::vector<std::pair<std::string, std::size_t>> kinds(tally.ignored.begin(),
-                                                         tally.ignored.end());
+  const KeywordCounts::Map& counts = tally.ignored.ByKeyword();
+  std::vector<std::pair<std::string, std::size_t>> kinds(counts.begin(), counts.end());
   std::ranges::stable_sort(kinds, std::ranges::greater(),
                            &std::pair<std::string, std::size_t>::second);
   List parts;
   for (const auto& [keyword, count] : kinds)
     parts.push_back(std::to_string(count).append(" ").append(keyword));
-  if (tally.ignoredOthers != 0) parts.push_back(std::to_string(tally.ignoredOthers) + " others");
+  const std::size_t others = tally.ignored.Others();
+  if (others != 0) parts.push_back(std::to_string(others) + " others");
   return Join(parts, ", ");
 }
 

@@ -3,31 +3,24 @@
 #include <algorithm>
 #include <cinttypes>
 #include <cstdio>
+#include <iterator>
 
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
+#include "dxf/DxfKeywords.h"
+#include "dxf/FileDxf.h"
 
 namespace hullwright {
 namespace {
 
-/// Counts the keywords of the entities section, pair by pair as the format has it: the import's own
-/// walk sees lines and would count values.
-void CountEntities(CFileDxf& reader, std::map<std::string, std::size_t>& counts)
+/// The counts, with those that are counted together.
+std::map<std::string, std::size_t> Named(const KeywordCounts& counts)
 {
-  reader.position = 0;
-  DxfLine code;
-  DxfLine value;
-  std::string section;
-  bool named = false;  // the name of a section comes next
-  while (reader.GetLine(code, DxfLine::capacity) && reader.GetLine(value, DxfLine::capacity)) {
-    const std::int32_t group = ParseInt32(code.Text(), 10);
-    if (named && group == 2) section = value.Text();
-    named = group == 0 && value.Text() == "SECTION";
-    if (group == 0 && value.Text() == "ENDSEC") section.clear();
-    if (group == 0 && section == "ENTITIES" && !named) ++counts[std::string(value.Text())];
-  }
+  std::map<std::string, std::size_t> named(counts.ByKeyword().begin(), counts.ByKeyword().end());
+  if (counts.Others() != 0) named["~others"] = counts.Others();
+  return named;
 }
 
 void WriteCounts(JsonWriter& json, std::string_view key,
@@ -61,19 +54,20 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
   CLayer layer;
   CFileDxf reader(&window, log);
   if (reader.Import(path, &layer) != 0) return std::u16string(unreadableDrawing);
-  if (!reader.tally.IsDrawing()) return DescribeImport(reader.tally);
-  for (const auto& [name, known] : reader.layers) {
-    summary.layers[name] = {known->colour, known->off, known->frozen};
+  if (!reader.Tally().IsDrawing()) return DescribeImport(reader.Tally());
+  for (const auto& [name, known] : reader.Drawing().layers.All()) {
+    summary.layers[name] = {known.colour, known.off, known.frozen};
   }
-  for (const auto& [name, block] : reader.blocks) summary.blocks[name] = block->shapes.size();
+  for (const auto& [name, block] : reader.Drawing().blocks)
+    summary.blocks[name] = block->shapes.size();
   summary.shapes = layer.shapes->shapes.size();
   summary.minX = layer.minX;
   summary.minY = layer.minY;
   summary.maxX = layer.maxX;
   summary.maxY = layer.maxY;
-  CountEntities(reader, summary.entities);
+  summary.entities = Named(reader.Tally().entities);
   std::ranges::copy_if(summary.entities, std::inserter(summary.ignored, summary.ignored.end()),
-                       [](const auto& entry) { return !CFileDxf::IsImported(entry.first); });
+                       [](const auto& entry) { return !IsImported(entry.first); });
   return {};
 }
 

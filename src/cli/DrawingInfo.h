@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "cli/Json.h"
-#include "dxf/FileDxf.h"
 
 namespace hullwright {
 

@@ -111,10 +111,10 @@ int PrintJson(const Options& options)
     const int result = reader.Import(path, &layer);
     WriteImportJson(json, result, log, path, layer);
     if (!tells || result != 0) continue;
-    if (reader.tally.IsDrawing()) {
-      TellTally(input.Name(), reader.tally, true);
+    if (reader.Tally().IsDrawing()) {
+      TellTally(input.Name(), reader.Tally(), true);
     } else {
-      Remark(input.Name(), DescribeImport(reader.tally));
+      Remark(input.Name(), DescribeImport(reader.Tally()));
     }
   }
   return 0;

@@ -1,14 +1,15 @@
+#include "dxf/DxfCurves.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <numbers>
 #include <utility>
 
-#include "dxf/FileDxf.h"
 #include "model/Angle.h"
 
-// Curves become polylines with fixed numbers of vertices. The formulas, and the order of their
-// operations, are what the drawings of many years were imported with.
+// The operations of the formulas stand in the order that they are carried out in: another order
+// would round the vertices differently.
 namespace hullwright {
 namespace {
 
@@ -56,36 +57,25 @@ BulgeArc ArcOfBulge(const DxfPoint& p, const DxfPoint& q, double bulge)
 
 }  // namespace
 
-Extrusion CFileDxf::ExtrusionAlong(const DxfPoint& normal) const
+void AddWorldVertex(CShapePolyline& line, const DxfPoint& point, const Extrusion& toWorld)
 {
-  return Extrusion(ignoreExtrusion ? DxfPoint{0.0, 0.0, 1.0} : normal);
+  const DxfPoint p = toWorld(point);
+  line.AddVertex(p.x, p.y, p.z);
 }
 
-void CFileDxf::ApplyExtrusion(DxfPoint& point, const DxfPoint& normal) const
-{
-  point = ExtrusionAlong(normal)(point);
-}
-
-void CFileDxf::AddWorldVertex(CShapePolyline& line, DxfPoint point, const DxfPoint& normal) const
-{
-  ApplyExtrusion(point, normal);
-  line.AddVertex(point.x, point.y, point.z);
-}
-
-std::unique_ptr<CShapePolyline> CFileDxf::MakeArc(const DxfPoint& centre, const DxfPoint& normal,
-                                                  double radius, double startDegrees,
-                                                  double endDegrees, bool clockwise) const
+std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion& toWorld,
+                                        double radius, double startDegrees, double endDegrees,
+                                        bool clockwise)
 {
   constexpr double nearlyEqual = 1e-10;
   constexpr double steps = 180.0;
   constexpr std::size_t usualVertices = 182;
-  const Extrusion toWorld = ExtrusionAlong(normal);
   auto arc = std::make_unique<CShapePolyline>();
   arc->vertices.reserve(usualVertices);
   const auto emit = [&](double t) {
-    const DxfPoint p =
-        toWorld({centre.x + radius * std::cos(t), centre.y + radius * std::sin(t), centre.z});
-    arc->AddVertex(p.x, p.y, p.z);
+    AddWorldVertex(*arc,
+                   {centre.x + radius * std::cos(t), centre.y + radius * std::sin(t), centre.z},
+                   toWorld);
   };
 
   const double a = startDegrees * radiansPerDegree;
@@ -103,14 +93,11 @@ std::unique_ptr<CShapePolyline> CFileDxf::MakeArc(const DxfPoint& centre, const 
   return arc;
 }
 
-std::unique_ptr<CShapePolyline> CFileDxf::MakeEllipse(const DxfPoint& centre,
-                                                      const DxfPoint& normal,
-                                                      double rotationDegrees, double majorLength,
-                                                      double minorLength, double start,
-                                                      double end) const
+std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrusion& toWorld,
+                                            double rotationDegrees, double majorLength,
+                                            double minorLength, double start, double end)
 {
   constexpr int lastVertex = 60;
-  const Extrusion toWorld = ExtrusionAlong(normal);
   auto ellipse = std::make_unique<CShapePolyline>();
   const double c = std::cos(rotationDegrees * radiansPerDegree);
   const double s = std::sin(rotationDegrees * radiansPerDegree);
@@ -119,30 +106,40 @@ std::unique_ptr<CShapePolyline> CFileDxf::MakeEllipse(const DxfPoint& centre,
     const double t = i * step + start;  // the start in degrees, among steps in radians
     const double major = majorLength * std::cos(t);
     const double minor = minorLength * std::sin(t);
-    const DxfPoint p =
-        toWorld({centre.x + major * c + minor * s, centre.y - (major * s + minor * c), centre.z});
-    ellipse->AddVertex(p.x, p.y, p.z);
+    AddWorldVertex(*ellipse,
+                   {centre.x + major * c + minor * s, centre.y - (major * s + minor * c), centre.z},
+                   toWorld);
   }
   return ellipse;
 }
 
-std::unique_ptr<CShapePolyline> CFileDxf::FlattenVertices(std::vector<CFileDxfVertex>& list) const
+std::unique_ptr<CShapePolyline> FlattenVertices(std::vector<CFileDxfVertex>& vertices,
+                                                const Extrusion& toWorld)
 {
-  const std::vector<CFileDxfVertex> route = std::exchange(list, {});
+  const std::vector<CFileDxfVertex> route = std::exchange(vertices, {});
   if (route.empty()) return nullptr;
   auto flat = std::make_unique<CShapePolyline>();
   for (std::size_t i = 0; i < route.size(); ++i) {
     const CFileDxfVertex& p = route[i];
     if (p.bulge == 0.0) {
-      AddWorldVertex(*flat, p.Point(), polylineExtrusion);
+      AddWorldVertex(*flat, p.Point(), toWorld);
     } else if (i + 1 < route.size()) {
       const BulgeArc arc = ArcOfBulge(p.Point(), route[i + 1].Point(), p.bulge);
-      const auto vertices = MakeArc(arc.centre, polylineExtrusion, arc.radius, arc.startDegrees,
-                                    arc.endDegrees, p.bulge < 0.0);
-      std::ranges::move(vertices->vertices, std::back_inserter(flat->vertices));
+      const auto curve =
+          MakeArc(arc.centre, toWorld, arc.radius, arc.startDegrees, arc.endDegrees, p.bulge < 0.0);
+      std::ranges::move(curve->vertices, std::back_inserter(flat->vertices));
     }  // the last vertex has no segment of its own, so with a bulge it is lost
   }
   return flat;
+}
+
+void AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& vertices,
+                     const Extrusion& toWorld)
+{
+  // The flattened polyline goes at once, so its vertices move over instead of being copied.
+  if (const auto flat = FlattenVertices(vertices, toWorld)) {
+    std::ranges::move(flat->vertices, std::back_inserter(shape.vertices));
+  }
 }
 
 }  // namespace hullwright

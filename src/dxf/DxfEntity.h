@@ -3,66 +3,83 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
-#include "base/Numbers.h"
+#include "dxf/DxfCode.h"
+#include "dxf/DxfLines.h"
+#include "dxf/DxfPoint.h"
 
 namespace hullwright {
 
-/// A position or direction of a drawing.
-struct DxfPoint {
-  double x = 0.0;
-  double y = 0.0;
-  double z = 0.0;
-};
-
+// Colours that are no index of the table of colours.
+inline constexpr std::int32_t colourByBlock = 0;
 inline constexpr std::int32_t colourByLayer = 256;
 
-/// What the groups of one entity say, by their codes. A group that comes again replaces its value;
-/// groups that no entity has a use for are not kept.
+/// What the groups of one record say, by their codes. A group that comes again replaces its value;
+/// groups that no record has a use for are not kept. Texts are views of the lines they came in.
 class DxfEntity {
 public:
-  DxfEntity() { SetDefault(230, 1.0); }
+  /// `colour` is that of a record that names none.
+  explicit DxfEntity(std::int32_t colour = colourByLayer);
 
   /// Takes a group in.
-  void Take(std::int32_t code, std::string_view value)
-  {
-    switch (code) {
-      case 2: name = value; return;
-      case 5: handle = value; return;
-      case 8: layerName = value; return;
-      case 62: colour = ParseInt32(value, 10); return;
-      case 67: paperSpace = ParseInt32(value, 10); return;
-      case 70: flags = ParseInt32(value, 10); return;
-      default: break;
-    }
-    if ((code >= 10 && code < 60) || (code >= 210 && code < 240)) {
-      numbers_[static_cast<std::size_t>(code)] = ParseDouble(value);
-    }
-  }
+  void Take(DxfCode code, std::string_view value);
 
-  /// Value of a group from 10 to 59 or 210 to 239; 0.0 if the entity has none.
-  double Number(int code) const { return numbers_[static_cast<std::size_t>(code)]; }
+  /// Value of a group from 10 to 59 or 210 to 239; 0.0 if the record has none.
+  double Number(DxfCode code) const { return numbers_[static_cast<std::size_t>(code)]; }
 
   /// Gives a group a default other than 0.0.
-  void SetDefault(int code, double value) { numbers_[static_cast<std::size_t>(code)] = value; }
+  void SetDefault(DxfCode code, double value) { numbers_[static_cast<std::size_t>(code)] = value; }
 
-  /// Three groups whose codes are ten apart.
-  DxfPoint Point(int code) const { return {Number(code), Number(code + 10), Number(code + 20)}; }
+  /// The point whose x has this code.
+  DxfPoint Point(DxfCode x) const;
 
   /// The extrusion direction, by default straight up.
-  DxfPoint Normal() const { return Point(210); }
+  DxfPoint Normal() const { return Point(DxfCode::NormalX); }
 
-  std::string name;                     ///< group 2
-  std::string handle;                   ///< group 5
-  std::string layerName;                ///< group 8
-  std::int32_t colour = colourByLayer;  ///< group 62
-  std::int32_t paperSpace = 0;          ///< group 67
-  std::int32_t flags = 0;               ///< group 70
+  std::string_view Name() const { return name_; }
+  std::string_view Handle() const { return handle_; }
+  std::string_view LayerName() const { return layerName_; }
+  std::int32_t Colour() const { return colour_; }
+  std::int32_t Flags() const { return flags_; }
+  bool HasFlag(std::int32_t bit) const { return (flags_ & bit) != 0; }
+
+  /// Exactly 1 marks the paper space; any other value does not.
+  bool IsInPaperSpace() const { return paperSpace_ == 1; }
 
 private:
+  std::string_view name_;
+  std::string_view handle_;
+  std::string_view layerName_;
+  std::int32_t colour_;
+  std::int32_t paperSpace_ = 0;
+  std::int32_t flags_ = 0;
   std::array<double, 240> numbers_{};
 };
+
+/// Reads the groups of a record into `entity` and passes each on to `visit`. Application data is
+/// walked past.
+template <class Visit>
+void ReadGroups(DxfLines& lines, DxfEntity& entity, Visit visit,
+                std::size_t valueLimit = DxfLines::longLine)
+{
+  const auto take = [&](DxfCode code, std::string_view value) {
+    if (code == DxfCode::ApplicationData) {
+      lines.SkipGroupBlock();
+    } else {
+      entity.Take(code, value);
+      visit(code, value);
+    }
+  };
+  lines.WalkPairs(take, valueLimit);
+}
+
+inline void ReadGroups(DxfLines& lines, DxfEntity& entity)
+{
+  ReadGroups(lines, entity, [](DxfCode, std::string_view) {});
+}
+
+/// Reads the pairs of a record into `entity`, those of application data like any others.
+void ReadPairs(DxfLines& lines, DxfEntity& entity, std::size_t valueLimit = DxfLines::longLine);
 
 }  // namespace hullwright

@@ -1,81 +1,63 @@
 #include <new>
 #include <utility>
 
-#include "dxf/FileDxf.h"
-#include "model/ShapePolygon.h"
-#include "model/ShapeText.h"
+#include "dxf/DxfReaders.h"
+#include "dxf/DxfShapes.h"
+#include "dxf/ImportLog.h"
 
 // Inserted blocks are copied at once; no reference to them is kept.
 namespace hullwright {
 namespace {
 
-/// Roughly the bytes that a copy of a shape takes.
-std::int64_t CopyCost(const CShape& shape)
-{
-  constexpr std::size_t shapeItself = 400;
-  constexpr std::size_t vertex = sizeof(CShapeVertex) + sizeof(void*);
-  constexpr std::size_t attribute = sizeof(ShapeAttribute) + 2 * sizeof(void*);
-  std::size_t cost = shapeItself + shape.vertices.size() * vertex;
-  if (shape.type == ShapeType::Polygon) {
-    ForEachEntry(static_cast<const CShapePolygon&>(shape).rings,
-                 [&](const CShapePolygonRing& ring) { cost += ring.vertices.size() * vertex; });
-  }
-  if (shape.type == ShapeType::Text) {
-    cost += static_cast<const CShapeText&>(shape).text.size() * sizeof(char16_t);
-  }
-  if (shape.attributes) {
-    ForEachEntry(shape.attributes->items, [&](const ShapeAttribute& pair) {
-      cost += attribute + pair.value.size() * sizeof(char16_t);
-    });
-  }
-  return static_cast<std::int64_t>(cost);
-}
+constexpr std::u16string_view tooManyCopies =
+    u"[DXF] The inserted blocks of this drawing take too much memory; the rest of their copies is "
+    u"left out.";
 
-}  // namespace
-
-bool CFileDxf::TakeCopyBudget(const CShape& shape)
+/// Pays for a copy; the one that the budget does not suffice for is told in the log.
+bool TakeCopyBudget(const CShape& shape, DxfContext& context)
 {
-  if (copyBudget < 0) return false;
-  copyBudget -= CopyCost(shape);
-  if (copyBudget >= 0) return true;
-  Log(TraceLevel::Failure, u"General",
-      u"[DXF] The inserted blocks of this drawing take too much memory; the rest of their copies "
-      u"is "
-      u"left out.");
+  const bool toldBefore = context.copyBudget.IsUsedUp();
+  if (context.copyBudget.Take(shape)) return true;
+  if (!toldBefore) LogRecord(context.log, TraceLevel::Failure, generalLog, tooManyCopies);
   return false;
 }
 
-void CFileDxf::AddCopy(const CShape& shape, const DxfEntity& insert, CShapes& target) const
+void AddCopy(const CShape& shape, const DxfEntity& insert, CShapes& target)
 {
   auto copy = shape.Clone();
-  copy->Scale(insert.Number(41), insert.Number(42), insert.Number(43));
-  copy->Rotate(insert.Number(50));
-  const DxfPoint place = insert.Point(10);
+  copy->Scale(insert.Number(DxfCode::ScaleX), insert.Number(DxfCode::ScaleY),
+              insert.Number(DxfCode::ScaleZ));
+  copy->Rotate(insert.Number(DxfCode::Rotation));
+  const DxfPoint place = insert.Point(DxfCode::X);
   copy->Translate(place.x, place.y, place.z);
   Identify(*copy, insert);
   target.shapes.push_back(std::move(copy));
 }
 
-void CFileDxf::ReadInsert(CShapes& target)
+}  // namespace
+
+void ReadInsert(DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  DxfEntity entity;
-  for (const int scale : {41, 42, 43}) entity.SetDefault(scale, 1.0);
-  if (!ReadEntity(entity)) return;
-  const auto block = blocks.find(entity.name);
-  if (block == blocks.end()) {
-    ++tally.unknownBlocks;
+  DxfEntity insert;
+  for (const DxfCode scale : {DxfCode::ScaleX, DxfCode::ScaleY, DxfCode::ScaleZ}) {
+    insert.SetDefault(scale, 1.0);
+  }
+  if (!ReadEntity(lines, context, insert)) return;
+  const auto block = context.blocks.find(insert.Name());
+  if (block == context.blocks.end()) {
+    ++context.tally.unknownBlocks;
     return;
   }
   for (const auto& shape : block->second->shapes) {
-    if (!TakeCopyBudget(*shape)) {
-      ++tally.cutInserts;
+    if (!TakeCopyBudget(*shape, context)) {
+      ++context.tally.cutInserts;
       return;
     }
     try {
-      AddCopy(*shape, entity, target);
+      AddCopy(*shape, insert, target);
     } catch (const std::bad_alloc&) {
       // There is no memory for this copy; the next one may be smaller.
-      ++tally.withoutMemory;
+      ++context.tally.withoutMemory;
     }
   }
 }

@@ -1,67 +1,12 @@
-#include <algorithm>
-#include <iterator>
 #include <utility>
+#include <vector>
 
-#include "dxf/FileDxf.h"
+#include "dxf/DxfCurves.h"
+#include "dxf/DxfReaders.h"
+#include "dxf/DxfShapes.h"
 
-// Polylines, the one kind of entity that is spread over several records.
+// Polylines, of one record or spread over several.
 namespace hullwright {
-
-void CFileDxf::AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& list) const
-{
-  // The flattened polyline goes at once, so its vertices move over instead of being copied.
-  if (const auto flat = FlattenVertices(list)) {
-    std::ranges::move(flat->vertices, std::back_inserter(shape.vertices));
-  }
-}
-
-void CFileDxf::ReadPolyline()
-{
-  // The vertices of one that never ended stay and pass into this one; so do its flags, if this one
-  // has none.
-  pendingPolyline.reset();
-  auto shape = std::make_unique<CShapePolyline>();
-  DxfEntity entity;
-  float width = 1.0F;
-  ReadGroups(entity, [&](std::int32_t code, std::string_view value) {
-    if (code == 40) width = static_cast<float>(entity.Number(code) * 2.0);
-    if (code == 70) polylineFlags = entity.flags;
-    if (code == 75) polylineCurveType = ParseInt32(value, 10);
-  });
-  polylineExtrusion = entity.Normal();
-  if (IsOnHiddenLayer(entity)) return;
-  shape->attributes = std::make_unique<CShapeAttributes>();
-  shape->attributes->Append(u"FEATURE", u"POLYLINE");
-  Identify(*shape, entity);
-  Colour(*shape, entity);
-  shape->style->lineWidth = width;
-  pendingPolyline = std::move(shape);
-}
-
-void CFileDxf::ReadVertex()
-{
-  constexpr std::int32_t splineControlPoint = 16;
-  DxfEntity groups;
-  ForEachPair([&](std::int32_t code, std::string_view value) { groups.Take(code, value); });
-  if (groups.flags == splineControlPoint) return;
-  const DxfPoint p = groups.Point(10);
-  polylineVertices.push_back({p.x, p.y, p.z, groups.Number(42), groups.flags});
-}
-
-void CFileDxf::ReadSeqEnd(CShapes& target)
-{
-  constexpr std::int32_t closed = 1;  // the whole value: 9, a closed line in space, stays open
-  SkipEntity();
-  if (pendingPolyline) {
-    if (polylineFlags == closed && !polylineVertices.empty()) {
-      polylineVertices.emplace_back(polylineVertices.front());
-    }
-    AppendFlattened(*pendingPolyline, polylineVertices);
-    target.shapes.push_back(std::move(pendingPolyline));
-  }
-  polylineVertices.clear();
-}
-
 namespace {
 
 /// Gathers vertices whose coordinates come one by one. A vertex is complete when the next one
@@ -106,27 +51,72 @@ private:
   bool seenY_ = false;
 };
 
+/// The stroke, in pixels, of a width of the drawing.
+float LineWidth(double width) { return static_cast<float>(width * 2.0); }
+
 }  // namespace
 
-void CFileDxf::ReadLwPolyline(CShapes& target)
+void ReadPolyline(DxfLines& lines, DxfContext& context, CShapes&)
 {
+  OpenPolyline& polyline = context.polyline;
+  polyline.Begin();
+  auto shape = std::make_unique<CShapePolyline>();
+  DxfEntity entity;
+  float width = 1.0F;
+  ReadGroups(lines, entity, [&](DxfCode code, std::string_view value) {
+    if (code == DxfCode::Width) width = LineWidth(entity.Number(code));
+    if (code == DxfCode::Flags) polyline.SetFlags(entity.Flags());
+    if (code == DxfCode::CurveType) polyline.SetCurveType(ParseInt32(value, 10));
+  });
+  polyline.SetExtrusion(ExtrusionAlong(entity.Normal(), context));
+  if (IsOnHiddenLayer(entity, context)) return;
+  Mark(*shape, u"FEATURE", u"POLYLINE");
+  Identify(*shape, entity);
+  Colour(*shape, entity, context);
+  shape->style->lineWidth = width;
+  polyline.Wait(std::move(shape));
+}
+
+void ReadVertex(DxfLines& lines, DxfContext& context, CShapes&)
+{
+  constexpr std::int32_t splineControlPoint = 16;
+  DxfEntity entity;
+  ReadPairs(lines, entity);
+  if (entity.Flags() == splineControlPoint) return;
+  const DxfPoint p = entity.Point(DxfCode::X);
+  context.polyline.AddVertex({p.x, p.y, p.z, entity.Number(DxfCode::Bulge), entity.Flags()});
+}
+
+void ReadSeqEnd(DxfLines& lines, DxfContext& context, CShapes& target)
+{
+  lines.SkipEntity();
+  context.polyline.End(target);
+}
+
+void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
+{
+  constexpr std::int32_t closed = 1;
+  // Neither elevation nor normal nor paper space play a part here, but a polyline that is open
+  // around this one loses its normal.
+  context.polyline.SetExtrusion(Extrusion());
   DxfEntity entity;
   VertexGatherer vertices;
-  const auto gather = [&](std::int32_t code, std::string_view) {
-    if (code == 10) vertices.TakeX(entity.Number(code));
-    if (code == 20) vertices.TakeY(entity.Number(code));
-    if (code == 42) vertices.TakeBulge(entity.Number(code));
+  const auto gather = [&](DxfCode code, std::string_view) {
+    if (code == DxfCode::X) vertices.TakeX(entity.Number(code));
+    if (code == DxfCode::Y) vertices.TakeY(entity.Number(code));
+    if (code == DxfCode::Bulge) vertices.TakeBulge(entity.Number(code));
   };
-  ReadGroups(entity, gather, shortLine);
-  // Neither elevation nor normal nor paper space play a part.
-  polylineExtrusion = {0.0, 0.0, 1.0};
-  if (IsOnHiddenLayer(entity)) return;
+  ReadGroups(lines, entity, gather, DxfLines::shortLine);
+  if (IsOnHiddenLayer(entity, context)) return;
   auto shape = std::make_unique<CShapePolyline>();
-  std::vector<CFileDxfVertex> list = vertices.Finish((entity.flags & 1) != 0);
-  AppendFlattened(*shape, list);
-  AddShape(std::move(shape), entity, target);
-  const double width = entity.Number(43);
-  if (width != 0.0) target.shapes.back()->style->lineWidth = static_cast<float>(width * 2.0);
+  std::vector<CFileDxfVertex> list = vertices.Finish(entity.HasFlag(closed));
+  AppendFlattened(*shape, list, Extrusion());
+  const double width = entity.Number(DxfCode::ConstantWidth);
+  if (width != 0.0) {
+    shape->style = std::make_unique<ShapeStyle>();
+    shape->style->lineWidth = LineWidth(width);
+  }
+  AddShape(std::move(shape), entity, context, target);
 }
 
 }  // namespace hullwright

@@ -1,68 +1,48 @@
+#include "dxf/DxfTables.h"
+
+#include <memory>
+#include <string>
 #include <utility>
 
-#include "dxf/FileDxf.h"
+#include "dxf/DxfEntity.h"
+#include "dxf/DxfKeywords.h"
 
-// Layers and blocks: what the entities look up.
 namespace hullwright {
 
-void CFileDxf::ProcessLayer()
+void ProcessLayer(DxfLines& lines, DxfContext& context)
 {
   // The header of the table begins with the same word. Its record has no name, so it vanishes; but
   // it has shown that there is a table.
-  layerTableSeen = true;
-  DxfEntity groups;
-  groups.colour = 0;
-  ForEachPair([&](std::int32_t code, std::string_view value) { groups.Take(code, value); },
-              shortLine);
-  if (groups.name.empty()) return;
-  auto layer = std::make_unique<CFileDxfLayer>();
-  layer->name = groups.name;
-  layer->colour = groups.colour;
-  layer->frozen = (groups.flags & 1) != 0;
-  layer->off = groups.colour < 0;
-  layers.try_emplace(groups.name, std::move(layer));
+  constexpr std::int32_t frozen = 1;
+  context.layers.NoteTable();
+  DxfEntity record(0);
+  ReadPairs(lines, record, DxfLines::shortLine);
+  CFileDxfLayer layer;
+  layer.name = record.Name();
+  layer.colour = record.Colour();
+  layer.frozen = record.HasFlag(frozen);
+  layer.off = record.Colour() < 0;
+  context.layers.Add(layer);
 }
 
-bool CFileDxf::IsLayerHidden(std::string_view name) const
+void ProcessBlock(DxfLines& lines, DxfContext& context)
 {
-  const auto layer = layers.find(name);
-  return layer != layers.end() && (layer->second->off || layer->second->frozen);
-}
-
-void CFileDxf::AddImplicitLayer(std::string_view name, std::int32_t colour)
-{
-  if (layerTableSeen || layers.contains(name)) return;
-  auto layer = std::make_unique<CFileDxfLayer>();
-  layer->name = name;
-  layer->colour = colour;
-  layers.emplace(name, std::move(layer));
-}
-
-void CFileDxf::ProcessBlock()
-{
-  DxfEntity header;
-  header.colour = 0;
-  ForEachPair([&](std::int32_t code, std::string_view value) { header.Take(code, value); });
+  DxfEntity header(0);
+  ReadPairs(lines, header);
   auto block = std::make_unique<CFileDxfBlock>();
-  block->name = header.name;
-  block->layerName = header.layerName;
-  block->handle = header.handle;
-  block->baseX = header.Number(10);
-  block->baseY = header.Number(20);
-  block->colour = header.colour;
-
-  DxfLine line;
-  bool isWhole = false;
-  while ((isWhole = GetLine(line, shortLine)) &&
-         line.Text().find("ENDBLK") == std::string_view::npos) {
-    TakeEntityLine(line, true, *block);
+  block->name = header.Name();
+  block->layerName = header.LayerName();
+  block->handle = header.Handle();
+  block->baseX = header.Number(DxfCode::X);
+  block->baseY = header.Number(DxfCode::Y);
+  block->colour = header.Colour();
+  while (ReadNextEntity(lines, context, DxfPlace::Block, *block)) {
   }
-  NoteEnd(isWhole);
-  if (header.paperSpace == 1) {
-    tally.inPaperSpace += block->shapes.size();
+  if (header.IsInPaperSpace()) {
+    context.tally.inPaperSpace += block->shapes.size();
     return;
   }
-  blocks.try_emplace(header.name, std::move(block));
+  context.blocks.try_emplace(std::string(header.Name()), std::move(block));
 }
 
 }  // namespace hullwright

@@ -3,56 +3,95 @@
 
 #include "base/Text.h"
 #include "dxf/ColourTable.h"
-#include "dxf/FileDxf.h"
+#include "dxf/DxfReaders.h"
+#include "dxf/DxfShapes.h"
 #include "dxf/TextCodes.h"
 #include "model/Angle.h"
 #include "model/ShapeText.h"
 
 // Texts and attributes become labels of one style.
 namespace hullwright {
+namespace {
 
-void CFileDxf::ReadText(CShapes& target) { ReadAnyText(target, false, false); }
-
-void CFileDxf::ReadMText(CShapes& target) { ReadAnyText(target, true, false); }
-
-void CFileDxf::ReadAttribute(CShapes& target) { ReadAnyText(target, false, true); }
-
-void CFileDxf::ReadAnyText(CShapes& target, bool hasChunks, bool hasFlags)
-{
-  constexpr double wholeTurn = 360.0;
-  constexpr std::int32_t invisible = 1;
-  DxfEntity entity;
-  auto label = std::make_unique<CShapeText>();
-  ReadGroups(entity, [&](std::int32_t code, std::string_view value) {
-    // A line is UTF-8; bytes of an older code page become replacement characters.
-    if (code == 1 || (hasChunks && code == 3)) label->text += WideFromUtf8(value);
-    if (code == 50) label->angle = wholeTurn - entity.Number(code);
-  });
-  if (IsLeftOut(entity) || (hasFlags && (entity.flags & invisible) != 0)) return;
-  if (label->angle == 0.0) {
-    // The other direction, and for a plain text its alignment point: that is how labels stand.
-    label->angle = std::atan2(entity.Number(21), entity.Number(11)) * degreesPerRadian;
-  }
-  label->height = entity.Number(40);
-  DxfPoint place = entity.Point(10);
-  ApplyExtrusion(place, entity.Normal());
-  label->vertices.push_back(std::make_unique<CShapeVertex>(place.x, place.y, place.z));
-  Identify(*label, entity);
-  Colour(*label, entity);
-  CleanTextCodes(*label);
-  target.shapes.push_back(std::move(label));
-}
-
-void CFileDxf::CleanTextCodes(CShapeText& shape) const
+/// Takes the formatting codes out of a shape's text; codes for colours colour it.
+void CleanTextCodes(CShapeText& shape, const DxfLayers& layers)
 {
   if (shape.text.empty()) return;
   CleanedText cleaned = CleanText(std::move(shape.text));
-  if (cleaned.colourIndex) ResolveColour(shape, {}, *cleaned.colourIndex);
+  if (cleaned.colourIndex) ResolveColour(shape, layers, {}, *cleaned.colourIndex);
   if (cleaned.colourValue) {
     const auto value = static_cast<std::uint32_t>(*cleaned.colourValue);
-    ResolveColour(shape, {}, NearestColourIndex(value));
+    ResolveColour(shape, layers, {}, NearestColourIndex(value));
   }
   shape.text = std::move(cleaned.text);
+}
+
+/// Reads the groups of a text into `entity`, its text and its angle into `label`.
+void ReadLabel(DxfLines& lines, DxfEntity& entity, bool hasChunks, CShapeText& label)
+{
+  constexpr double wholeTurn = 360.0;
+  ReadGroups(lines, entity, [&](DxfCode code, std::string_view value) {
+    // A line is UTF-8; bytes of an older code page become replacement characters.
+    if (code == DxfCode::Text || (hasChunks && code == DxfCode::TextChunk)) {
+      label.text += WideFromUtf8(value);
+    }
+    if (code == DxfCode::Rotation) label.angle = wholeTurn - entity.Number(code);
+  });
+}
+
+/// Puts a label where its entity has it, as high as that is, and in its direction if the label has
+/// no angle of its own.
+void PlaceLabel(CShapeText& label, const DxfEntity& entity, const Extrusion& toWorld)
+{
+  if (label.angle == 0.0) {
+    // Not negated as the rotation is, and of a plain text it is the alignment point.
+    const double y = entity.Number(DxfCode::SecondY);
+    label.angle = std::atan2(y, entity.Number(DxfCode::SecondX)) * degreesPerRadian;
+  }
+  label.height = entity.Number(DxfCode::TextHeight);
+  const DxfPoint place = toWorld(entity.Point(DxfCode::X));
+  label.vertices.push_back(std::make_unique<CShapeVertex>(place.x, place.y, place.z));
+}
+
+/// Adds the label of an entity that is not left out.
+void AddLabel(std::unique_ptr<CShapeText> label, const DxfEntity& entity, DxfContext& context,
+              CShapes& target)
+{
+  PlaceLabel(*label, entity, ExtrusionAlong(entity.Normal(), context));
+  Identify(*label, entity);
+  Colour(*label, entity, context);
+  CleanTextCodes(*label, context.layers);
+  target.shapes.push_back(std::move(label));
+}
+
+}  // namespace
+
+void ReadText(DxfLines& lines, DxfContext& context, CShapes& target)
+{
+  DxfEntity entity;
+  auto label = std::make_unique<CShapeText>();
+  ReadLabel(lines, entity, false, *label);
+  if (IsLeftOut(entity, context)) return;
+  AddLabel(std::move(label), entity, context, target);
+}
+
+void ReadMText(DxfLines& lines, DxfContext& context, CShapes& target)
+{
+  DxfEntity entity;
+  auto label = std::make_unique<CShapeText>();
+  ReadLabel(lines, entity, true, *label);
+  if (IsLeftOut(entity, context)) return;
+  AddLabel(std::move(label), entity, context, target);
+}
+
+void ReadAttribute(DxfLines& lines, DxfContext& context, CShapes& target)
+{
+  constexpr std::int32_t invisible = 1;
+  DxfEntity entity;
+  auto label = std::make_unique<CShapeText>();
+  ReadLabel(lines, entity, false, *label);
+  if (IsLeftOut(entity, context) || entity.HasFlag(invisible)) return;
+  AddLabel(std::move(label), entity, context, target);
 }
 
 }  // namespace hullwright

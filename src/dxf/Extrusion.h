@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dxf/DxfEntity.h"
+#include "dxf/DxfPoint.h"
 
 namespace hullwright {
 
@@ -9,12 +9,14 @@ namespace hullwright {
 /// normalised, and the matrix is rounded to single precision.
 class Extrusion {
 public:
+  /// Leaves every point where it is, as the direction straight up does.
+  Extrusion() = default;
   explicit Extrusion(const DxfPoint& normal);
 
   DxfPoint operator()(const DxfPoint& point) const;
 
 private:
-  bool identity_;  ///< straight up: nothing is to be done
+  bool identity_ = true;
   DxfPoint ax_;
   DxfPoint ay_;
   DxfPoint n_;

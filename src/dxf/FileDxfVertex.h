@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "dxf/DxfEntity.h"
+#include "dxf/DxfPoint.h"
 
 namespace hullwright {
 

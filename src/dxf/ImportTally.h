@@ -1,11 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
-#include <map>
-#include <string>
-#include <string_view>
+#include <limits>
 
+#include "dxf/KeywordCounts.h"
 #include "model/Shapes.h"
 
 namespace hullwright {
@@ -13,13 +11,7 @@ namespace hullwright {
 /// What an import took in, and what it passed over. The content of a block counts where the block
 /// is defined, however often it is inserted.
 struct ImportTally {
-  static constexpr std::size_t mostKeywords = 40;
-  static constexpr std::size_t longestKeyword = 32;
-
-  /// Counts an entity that nothing is made of. A line without a letter is no keyword.
-  void CountIgnored(std::string_view keyword);
-
-  /// Counts the shapes of a group.
+  /// Counts the shapes of a group and takes them into the extents.
   void CountShapes(const CShapes& group);
 
   std::size_t Shapes() const { return polylines + points + areas + texts; }
@@ -32,10 +24,14 @@ struct ImportTally {
   std::size_t areas = 0;
   std::size_t texts = 0;
 
-  /// Entities without a reader, by their keywords, of which the file may have any number: behind
-  /// the first ones the others are counted together.
-  std::map<std::string, std::size_t, std::less<>> ignored;
-  std::size_t ignoredOthers = 0;
+  // The extents of the shapes; without any, the least is more than the most.
+  double minX = std::numeric_limits<double>::max();
+  double minY = std::numeric_limits<double>::max();
+  double maxX = -std::numeric_limits<double>::max();
+  double maxY = -std::numeric_limits<double>::max();
+
+  KeywordCounts entities;  ///< what the sections of entities hold
+  KeywordCounts ignored;   ///< entities that nothing is made of, also those in blocks
 
   // Entities that a reader dropped.
   std::size_t onHiddenLayers = 0;
@@ -43,8 +39,8 @@ struct ImportTally {
   std::size_t unknownBlocks = 0;  ///< inserts of a block that is not there
   std::size_t cutInserts = 0;     ///< inserts whose copies would have taken too much memory
 
-  std::size_t withoutMemory =
-      0;                     ///< entities, copies, or the rest of the drawing, once memory ended
+  /// Entities, copies, or the rest of the drawing, once memory ended.
+  std::size_t withoutMemory = 0;
   std::size_t cutParts = 0;  ///< sections and blocks that a line too long ended before their time
 
   bool isBinary = false;     ///< the file is a drawing in its binary form, which nobody reads

@@ -129,9 +129,9 @@ TEST_F(ImportCommand, TellsItsCallerWhatItTookInAndPassedOver)
       folder.Write("splines.dxf", "0\nSECTION\n2\nENTITIES\n0\nSPLINE\n0\nENDSEC\n");
   EXPECT_EQ(app.ImportDrawing(splines, tally), 0);
   EXPECT_EQ(tally.Shapes(), 0U);
-  EXPECT_THAT(tally.ignored, ElementsAre(testing::Pair("SPLINE", 1)));
+  EXPECT_THAT(tally.ignored.ByKeyword(), ElementsAre(testing::Pair("SPLINE", 1)));
   EXPECT_EQ(app.ImportDrawing(folder.File("missing.dxf"), tally), -1);
-  EXPECT_THAT(tally.ignored, IsEmpty());
+  EXPECT_THAT(tally.ignored.ByKeyword(), IsEmpty());
 }
 
 TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)

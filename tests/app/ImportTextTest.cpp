@@ -11,11 +11,10 @@ TEST(ImportText, TellsShapesAndWhatWasIgnoredTheMostFirst)
   tally.polylines = 355;
   tally.texts = 12;
   EXPECT_EQ(DescribeImport(tally), u"355 polylines, 12 texts");
-  tally.ignored = {{"HATCH", 3}, {"RAY", 1}, {"SPLINE", 985}, {"XLINE", 1}};
+  tally.ignored = KeywordCounts({{"HATCH", 3}, {"RAY", 1}, {"SPLINE", 985}, {"XLINE", 1}});
   EXPECT_EQ(DescribeImport(tally),
             u"355 polylines, 12 texts; ignored: 985 SPLINE, 3 HATCH, 1 RAY, 1 XLINE");
-  tally.ignoredOthers = 7;
-  tally.ignored.erase("SPLINE");
+  tally.ignored = KeywordCounts({{"HATCH", 3}, {"RAY", 1}, {"XLINE", 1}}, 7);
   EXPECT_EQ(DescribePassedOver(tally), u"ignored: 3 HATCH, 1 RAY, 1 XLINE, 7 others");
 }
 
@@ -39,7 +38,7 @@ TEST(ImportText, TellsWhatReadersLeftOut)
 {
   ImportTally tally;
   tally.hasSections = true;
-  tally.ignored = {{"SPLINE", 2}};
+  tally.ignored = KeywordCounts({{"SPLINE", 2}});
   tally.onHiddenLayers = 2;
   tally.inPaperSpace = 3;
   tally.unknownBlocks = 4;

@@ -55,6 +55,11 @@ class InfoTest(CliTest):
         self.assertEqual((info["kind"], info["shapes"], info["layers"]),
                          ("drawing", 1, {"": {"colour": 256, "off": False, "frozen": False}}))
 
+    def test_keywords_beyond_the_first_forty_are_counted_together(self):
+        kinds = [word for number in range(45) for word in ("0", f"K{number}")]
+        entities = json.loads(self.succeed("info", "-j", self.drawing("a.dxf", *kinds)))["entities"]
+        self.assertEqual((len(entities), entities["K39"], entities["~others"]), (41, 1, 5))
+
     def test_names_do_not_tell_what_a_file_is(self):
         design = (HEAD + GROUP + TAIL).encode()
         plain = HEAD[HEAD.index("\n") + 1:] + GROUP + TAIL
@@ -221,6 +226,11 @@ class CheckTest(CliTest):
             done = run("check", design, XDG_DATA_HOME=str(self.folder))
             self.assertEqual((done.returncode, done.stdout.decode()),
                              (1, f"{design}: the unit code 9030 {remark}; all lengths count as metres\n"))
+
+    def test_keywords_beyond_the_first_forty_are_counted_together(self):
+        kinds = [word for number in range(45) for word in ("0", f"K{number}")]
+        entities = json.loads(self.succeed("info", "-j", self.drawing("a.dxf", *kinds)))["entities"]
+        self.assertEqual((len(entities), entities["K39"], entities["~others"]), (41, 1, 5))
 
     def test_names_do_not_tell_what_a_file_is(self):
         self.assertEqual(self.succeed("check", self.write("boat.dxf", HEAD + GROUP + TAIL)), b"")

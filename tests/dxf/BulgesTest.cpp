@@ -14,7 +14,7 @@ class Bulges : public DxfFixture {};
 
 std::string TwoVertices(const std::string& bulge)
 {
-  return Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, bulge}, {10, "2"}, {20, "0"}});
+  return Entity("LWPOLYLINE", {{10, "0"}, {20, "0"}, {42, bulge}, {10, "2"}, {20, "0"}});
 }
 
 TEST_F(Bulges, ABulgeOfOneIsAHalfCircleCounterClockwise)
@@ -51,11 +51,11 @@ TEST_F(Bulges, ABulgeAboveOneHasItsCentreOnTheFarSide)
 
 TEST_F(Bulges, TheLastVertexIsLostWithABulge)
 {
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}}));
+  ImportEntities(Entity("LWPOLYLINE", {{10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}}));
   EXPECT_EQ(VerticesOf(0).size(), 1U);
   // So is the closing copy of a first vertex with a bulge.
   ImportEntities(
-      Lines({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
+      Entity("LWPOLYLINE", {{70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}}));
   EXPECT_THAT(VerticesOf(0).back(), ElementsAre(2.0, 0.0, 0.0));
   ImportEntities(Header(Lines({{70, "1"}})) + Vertex(0, 0, Lines({{42, "1"}})) + Vertex(2, 0) +
                  seqEnd);
@@ -64,14 +64,8 @@ TEST_F(Bulges, TheLastVertexIsLostWithABulge)
 
 TEST_F(Bulges, ABulgeBelongsToTheVertexBeforeIt)
 {
-  ImportEntities(Lines({{0, "LWPOLYLINE"},
-                        {10, "0"},
-                        {20, "0"},
-                        {10, "2"},
-                        {20, "0"},
-                        {42, "1"},
-                        {10, "4"},
-                        {20, "0"}}));
+  ImportEntities(Entity(
+      "LWPOLYLINE", {{10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}, {42, "1"}, {10, "4"}, {20, "0"}}));
   EXPECT_THAT(VerticesOf(0).front(), ElementsAre(0.0, 0.0, 0.0));
   EXPECT_NEAR(VerticesOf(0)[1][0], 2.0, 1e-9);
   EXPECT_NEAR(VerticesOf(0)[91][1], -1.0, 1e-9);
@@ -95,7 +89,7 @@ TEST_F(Bulges, TheRadiusOfABulgeIsMeasuredInSpace)
 
 TEST_F(Bulges, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)
 {
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}, {42, "1"}, {10, "1"}, {20, "1"}}));
+  ImportEntities(Entity("LWPOLYLINE", {{10, "1"}, {20, "1"}, {42, "1"}, {10, "1"}, {20, "1"}}));
   EXPECT_TRUE(std::isnan(VerticesOf(0)[0][0]));
   EXPECT_THAT(VerticesOf(0).back(), ElementsAre(1.0, 1.0, 0.0));
 }

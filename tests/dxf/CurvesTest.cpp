@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "dxf/DxfCurves.h"
 #include "support/DxfFixture.h"
 
 namespace hullwright {
@@ -15,7 +16,7 @@ class Curves : public DxfFixture {};
 
 TEST_F(Curves, ACircleRunsClockwiseFromTheWestAndIsFlat)
 {
-  ImportEntities(Lines({{0, "CIRCLE"}, {10, "10"}, {20, "20"}, {30, "5"}, {40, "2"}}));
+  ImportEntities(Entity("CIRCLE", {{10, "10"}, {20, "20"}, {30, "5"}, {40, "2"}}));
   const auto vertices = VerticesOf(0);
   ASSERT_EQ(vertices.size(), 61U);
   EXPECT_THAT(vertices[0], ElementsAre(8.0, 20.0, 0.0));
@@ -27,16 +28,16 @@ TEST_F(Curves, ACircleRunsClockwiseFromTheWestAndIsFlat)
 
 TEST_F(Curves, ARadiusOfZeroOrLessIsTakenAsItIs)
 {
-  ImportEntities(Lines({{0, "CIRCLE"}, {10, "1"}, {40, "0"}}));
+  ImportEntities(Entity("CIRCLE", {{10, "1"}, {40, "0"}}));
   for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 1.0);
-  ImportEntities(Lines({{0, "CIRCLE"}, {40, "-2"}}));
+  ImportEntities(Entity("CIRCLE", {{40, "-2"}}));
   EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
 }
 
 TEST_F(Curves, AnArcGoesCounterClockwiseInSteps)
 {
   ImportEntities(
-      Lines({{0, "ARC"}, {10, "10"}, {20, "20"}, {30, "3"}, {40, "2"}, {50, "0"}, {51, "90"}}));
+      Entity("ARC", {{10, "10"}, {20, "20"}, {30, "3"}, {40, "2"}, {50, "0"}, {51, "90"}}));
   const auto vertices = VerticesOf(0);
   EXPECT_GE(vertices.size(), 181U);
   EXPECT_LE(vertices.size(), 182U);
@@ -51,14 +52,14 @@ TEST_F(Curves, AnArcGoesCounterClockwiseInSteps)
 
 TEST_F(Curves, AWholeArcIsOneTurnOfTwoDegreeSteps)
 {
-  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "0"}, {51, "360"}}));
+  ImportEntities(Entity("ARC", {{40, "1"}, {50, "0"}, {51, "360"}}));
   EXPECT_NEAR(VerticesOf(0)[1][0], std::cos(2.0 * turn), 1e-12);
   EXPECT_NEAR(VerticesOf(0).back()[0], 1.0, 1e-12);
 }
 
 TEST_F(Curves, AnArcThroughZeroAddsAFullTurn)
 {
-  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "350"}, {51, "10"}}));
+  ImportEntities(Entity("ARC", {{40, "1"}, {50, "350"}, {51, "10"}}));
   const auto vertices = VerticesOf(0);
   EXPECT_NEAR(vertices[90][0], 1.0, 1e-12);
   EXPECT_NEAR(vertices.back()[1], std::sin(10.0 * turn), 1e-12);
@@ -66,7 +67,7 @@ TEST_F(Curves, AnArcThroughZeroAddsAFullTurn)
 
 TEST_F(Curves, AnArcThatEndsWhereItStartsIsAFullTurn)
 {
-  ImportEntities(Lines({{0, "ARC"}, {40, "1"}, {50, "90"}, {51, "90"}}));
+  ImportEntities(Entity("ARC", {{40, "1"}, {50, "90"}, {51, "90"}}));
   EXPECT_NEAR(VerticesOf(0)[0][1], 1.0, 1e-12);
   EXPECT_NEAR(VerticesOf(0)[90][1], -1.0, 1e-12);
   EXPECT_NEAR(VerticesOf(0).back()[1], 1.0, 1e-12);
@@ -76,8 +77,7 @@ TEST_F(Curves, AnArcWhoseStepsMeetItsEndHasThatVertexTwice)
 {
   // The steps of most arcs end a rounding error below or above their end; these meet it.
   for (const auto& [start, end] : {std::pair{80.0, 125.0}, {0.0, 205.0}, {55.0, 295.0}}) {
-    CFileDxf reader(&window, log);
-    const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, false);
+    const auto arc = MakeArc({}, Extrusion(), 1.0, start, end, false);
     ASSERT_EQ(arc->vertices.size(), 182U);
     EXPECT_EQ(arc->vertices[180]->x, arc->vertices[181]->x);
     EXPECT_EQ(arc->vertices[180]->y, arc->vertices[181]->y);
@@ -86,9 +86,8 @@ TEST_F(Curves, AnArcWhoseStepsMeetItsEndHasThatVertexTwice)
 
 TEST_F(Curves, AnArcOfNextToNothingIsAFullTurn)
 {
-  CFileDxf reader(&window, log);
-  const auto halfWay = [&reader](double endDegrees, bool clockwise) {
-    return reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, endDegrees, clockwise)->vertices.at(90)->x;
+  const auto halfWay = [](double endDegrees, bool clockwise) {
+    return MakeArc({}, Extrusion(), 1.0, 0.0, endDegrees, clockwise)->vertices.at(90)->x;
   };
   EXPECT_NEAR(halfWay(0.9e-10 / turn, false), -1.0, 1e-9);
   EXPECT_NEAR(halfWay(1.1e-10 / turn, false), 1.0, 1e-9);
@@ -98,8 +97,7 @@ TEST_F(Curves, AnArcOfNextToNothingIsAFullTurn)
 
 TEST_F(Curves, AClockwiseArcMayOvershootByOneStepBeforeItReturns)
 {
-  CFileDxf reader(&window, log);
-  const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 90.0, 0.0, true);
+  const auto arc = MakeArc({}, Extrusion(), 1.0, 90.0, 0.0, true);
   ASSERT_GE(arc->vertices.size(), 182U);
   const CShapeVertex& last = *arc->vertices.back();
   const CShapeVertex& beforeLast = *arc->vertices[arc->vertices.size() - 2];
@@ -112,8 +110,7 @@ TEST_F(Curves, AClockwiseArcWhoseStepsMeetTheStepBehindItsEndHasThatVertex)
 {
   // The steps of most arcs end a rounding error before or behind that place; these meet it.
   for (const auto& [start, end] : {std::pair{0.0, 155.0}, {5.0, 100.0}, {20.0, 175.0}}) {
-    CFileDxf reader(&window, log);
-    const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, true);
+    const auto arc = MakeArc({}, Extrusion(), 1.0, start, end, true);
     ASSERT_EQ(arc->vertices.size(), 183U) << start;
     const double step = (start + 360.0 - end) / 180.0 * turn;
     EXPECT_NEAR(arc->vertices[181]->x, std::cos(end * turn - step), 1e-9);
@@ -124,21 +121,19 @@ TEST_F(Curves, AClockwiseArcWhoseStepsMeetTheStepBehindItsEndHasThatVertex)
 
 TEST_F(Curves, AClockwiseArcWhoseStepsEndBehindThatPlaceStopsAtItsEnd)
 {
-  CFileDxf reader(&window, log);
-  const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, 0.0, 10.0, true);
+  const auto arc = MakeArc({}, Extrusion(), 1.0, 0.0, 10.0, true);
   ASSERT_EQ(arc->vertices.size(), 182U);
   EXPECT_NEAR(arc->vertices[180]->x, arc->vertices[181]->x, 1e-9);
 }
 
 TEST_F(Curves, AnArcAlwaysEnds)
 {
-  CFileDxf reader(&window, log);
   for (const bool clockwise : {false, true}) {
     for (const double start :
          {0.0, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
       for (const double end :
            {0.0, 1e18, -1e18, 1e20, -1e20, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
-        const auto arc = reader.MakeArc({}, {0.0, 0.0, 1.0}, 1.0, start, end, clockwise);
+        const auto arc = MakeArc({}, Extrusion(), 1.0, start, end, clockwise);
         EXPECT_GE(arc->vertices.size(), 1U);
         EXPECT_LE(arc->vertices.size(), 400U) << start << " " << end;
       }
@@ -148,14 +143,13 @@ TEST_F(Curves, AnArcAlwaysEnds)
 
 TEST_F(Curves, AWholeEllipseAlongTheAxesIsExact)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"},
-                        {10, "10"},
-                        {20, "20"},
-                        {30, "3"},
-                        {11, "4"},
-                        {40, "0.5"},
-                        {41, "0"},
-                        {42, "6.283185307179586"}}));
+  ImportEntities(Entity("ELLIPSE", {{10, "10"},
+                                    {20, "20"},
+                                    {30, "3"},
+                                    {11, "4"},
+                                    {40, "0.5"},
+                                    {41, "0"},
+                                    {42, "6.283185307179586"}}));
   const auto vertices = VerticesOf(0);
   ASSERT_EQ(vertices.size(), 61U);
   EXPECT_THAT(vertices[0], ElementsAre(14.0, 20.0, 3.0));
@@ -167,7 +161,7 @@ TEST_F(Curves, AWholeEllipseAlongTheAxesIsExact)
 
 TEST_F(Curves, APartOfAnEllipseRunsTheOtherWayFromItsStartTakenAsRadians)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "1"}, {42, "2"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "1"}, {40, "1"}, {41, "1"}, {42, "2"}}));
   const double start = 57.29577951308232;
   EXPECT_NEAR(VerticesOf(0)[0][0], std::cos(start), 1e-12);
   EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start - 1.0), 1e-12);
@@ -176,7 +170,7 @@ TEST_F(Curves, APartOfAnEllipseRunsTheOtherWayFromItsStartTakenAsRadians)
 
 TEST_F(Curves, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "2"}, {42, "1"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "1"}, {40, "1"}, {41, "2"}, {42, "1"}}));
   const double start = 2.0 * 57.29577951308232;
   const double step = (start - (57.29577951308232 + 360.0)) * turn;
   EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start + step), 1e-9);
@@ -184,28 +178,27 @@ TEST_F(Curves, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)
 
 TEST_F(Curves, AnEllipseThatEndsWhereItStartsHasOneVertexManyTimes)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "1"}, {40, "1"}, {41, "1"}, {42, "1"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "1"}, {40, "1"}, {41, "1"}, {42, "1"}}));
   for (const auto& v : VerticesOf(0)) EXPECT_EQ(v, VerticesOf(0)[0]);
 }
 
 TEST_F(Curves, TheAxisOfAnEllipseIsMeasuredInSpaceAndExtruded)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "3"}, {31, "4"}, {40, "1"}, {42, "6"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "3"}, {31, "4"}, {40, "1"}, {42, "6"}}));
   EXPECT_THAT(VerticesOf(0)[0], ElementsAre(5.0, 0.0, 0.0));
-  ImportEntities(Lines({{0, "ELLIPSE"}, {11, "3"}, {40, "1"}, {42, "6"}, {230, "-1"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "3"}, {40, "1"}, {42, "6"}, {230, "-1"}}));
   EXPECT_NEAR(VerticesOf(0)[0][0], 3.0, 1e-12);  // turned by the extrusion, and turned back
 }
 
 TEST_F(Curves, ASlantedEllipseCollapsesIntoALine)
 {
-  ImportEntities(
-      Lines({{0, "ELLIPSE"}, {11, "3"}, {21, "3"}, {40, "1"}, {42, "6.283185307179586"}}));
+  ImportEntities(Entity("ELLIPSE", {{11, "3"}, {21, "3"}, {40, "1"}, {42, "6.283185307179586"}}));
   for (const auto& v : VerticesOf(0)) EXPECT_NEAR(v[0], v[1], 1e-9);
 }
 
 TEST_F(Curves, AnEllipseWithoutAnAxisLiesInItsCentre)
 {
-  ImportEntities(Lines({{0, "ELLIPSE"}, {10, "5"}, {31, "0"}, {40, "1"}, {42, "6"}}));
+  ImportEntities(Entity("ELLIPSE", {{10, "5"}, {31, "0"}, {40, "1"}, {42, "6"}}));
   for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 5.0);
 }
 

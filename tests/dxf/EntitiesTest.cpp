@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "dxf/Extrusion.h"
 #include "support/DxfFixture.h"
 
 namespace hullwright {
@@ -15,19 +16,18 @@ class PlainEntities : public DxfFixture {};
 
 TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
 {
-  ImportEntities(Lines({{0, "LINE"},
-                        {5, "1F"},
-                        {8,
-                         "D\xE4"
-                         "ck"},
-                        {62, "1"},
-                        {39, "9"},
-                        {10, "1.5"},
-                        {20, "-2"},
-                        {30, "3"},
-                        {11, "4"},
-                        {21, "5"},
-                        {31, "6"}}));
+  ImportEntities(Entity("LINE", {{5, "1F"},
+                                 {8,
+                                  "D\xE4"
+                                  "ck"},
+                                 {62, "1"},
+                                 {39, "9"},
+                                 {10, "1.5"},
+                                 {20, "-2"},
+                                 {30, "3"},
+                                 {11, "4"},
+                                 {21, "5"},
+                                 {31, "6"}}));
   ASSERT_EQ(ShapeCount(), 1U);
   EXPECT_EQ(At(0).type, 2);
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.5, -2.0, 3.0), ElementsAre(4.0, 5.0, 6.0)));
@@ -43,7 +43,7 @@ TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
 
 TEST_F(PlainEntities, GroupsThatAreMissingAreZeroAndEmpty)
 {
-  ImportEntities(Lines({{0, "LINE"}}));
+  ImportEntities(Entity("LINE"));
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(0.0, 0.0, 0.0), ElementsAre(0.0, 0.0, 0.0)));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=", "HANDLE="));
   EXPECT_EQ(At(0).tag, 0);
@@ -58,7 +58,7 @@ TEST_F(PlainEntities, AHandleIsReadAsHexadecimalAndSaturates)
                                     {"12G", 0x12},
                                     {"-1", -1},
                                     {"", 0}}) {
-    ImportEntities(Lines({{0, "LINE"}, {5, handle}}));
+    ImportEntities(Entity("LINE", {{5, handle}}));
     EXPECT_EQ(At(0).tag, tag) << handle;
   }
 }
@@ -67,34 +67,34 @@ TEST_F(PlainEntities, OnlyAPaperSpaceMarkOfExactlyOneDrops)
 {
   for (const auto& [mark, shapes] :
        {std::pair{"1", 0U}, {"0", 1U}, {"2", 1U}, {"-1", 1U}, {" 1x", 0U}}) {
-    ImportEntities(Lines({{0, "LINE"}, {67, mark}}));
+    ImportEntities(Entity("LINE", {{67, mark}}));
     EXPECT_EQ(ShapeCount(), shapes) << mark;
   }
 }
 
 TEST_F(PlainEntities, AGroupThatComesAgainReplacesItsValue)
 {
-  ImportEntities(Lines({{0, "LINE"}, {10, "1"}, {10, "2"}}));
+  ImportEntities(Entity("LINE", {{10, "1"}, {10, "2"}}));
   EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
 }
 
 TEST_F(PlainEntities, KeywordsCountAsWholeLinesInTheirCase)
 {
-  ImportEntities("0\nLINE \n0\nline\n0\nXLINE\n" + Lines({{0, "RAY"}, {10, "1"}}));
+  ImportEntities("0\nLINE \n0\nline\n0\nXLINE\n" + Entity("RAY", {{10, "1"}}));
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
 TEST_F(PlainEntities, AHatchGivesNothingOfItsBoundary)
 {
-  ImportEntities(Lines({{0, "HATCH"}, {8, "A"}, {2, "LINE"}, {10, "1"}}));
+  ImportEntities(Entity("HATCH", {{8, "A"}, {2, "LINE"}, {10, "1"}}));
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
 TEST_F(PlainEntities, AnUnknownEntityIsWalkedLineByLine)
 {
-  ImportEntities(Lines({{0, "3DSOLID"}, {1, "LINE"}, {10, "5"}}));
+  ImportEntities(Entity("3DSOLID", {{1, "LINE"}, {10, "5"}}));
   EXPECT_EQ(ShapeCount(), 1U);
-  ImportEntities(Lines({{0, "3DSOLID"}, {1, "text ENDSEC"}, {0, "LINE"}}));
+  ImportEntities(Entity("3DSOLID", {{1, "text ENDSEC"}}) + Entity("LINE"));
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
@@ -103,25 +103,24 @@ TEST_F(PlainEntities, ANormalStraightDownTurnsEveryEntityOver)
   const Pairs where = {{10, "2"},  {20, "3"},  {30, "4"},  {40, "0"},
                        {210, "0"}, {220, "0"}, {230, "-1"}};
   for (const char* keyword : {"LINE", "ARC", "3DFACE"}) {
-    ImportEntities(Lines({{0, keyword}}) + Lines(where));
+    ImportEntities(Entity(keyword) + Lines(where));
     EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, -4.0)) << keyword;
   }
-  ImportEntities(Lines({{0, "SOLID"}}) + Lines(where));
+  ImportEntities(Entity("SOLID") + Lines(where));
   const CShapeVertex& corner = *At<CShapePolygon>(0).rings.at(0)->vertices.at(0);
   EXPECT_TRUE(corner == CShapeVertex(-2.0, 3.0, -4.0));
-  ImportEntities(Lines({{0, "POINT"}}) + Lines(where));
+  ImportEntities(Entity("POINT") + Lines(where));
   EXPECT_TRUE(At<CShapePoint>(0).position == CShapeVertex(-2.0, 3.0, -4.0));
-  ImportEntities(Lines({{0, "CIRCLE"}}) + Lines(where));
+  ImportEntities(Entity("CIRCLE") + Lines(where));
   EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, 0.0));
-  ImportEntities(Lines({{0, "TEXT"}}) + Lines(where));
+  ImportEntities(Entity("TEXT") + Lines(where));
   EXPECT_THAT(VerticesOf(0).at(0), ElementsAre(-2.0, 3.0, -4.0));
 }
 
 TEST_F(PlainEntities, TheExtrusionIsRoundedToSinglePrecision)
 {
   DxfPoint point{1000000.0, 2000000.0, 0.0};
-  CFileDxf reader(&window, log);
-  reader.ApplyExtrusion(point, {0.6, 0.0, 0.8});
+  point = Extrusion(DxfPoint{0.6, 0.0, 0.8})(point);
   // The x axis is (0, 1, 0) and the y axis (-0.8, 0, 0.6), whose parts are rounded.
   const double minusEightTenths = -0.8F;
   const double sixTenths = 0.6F;
@@ -134,18 +133,17 @@ TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
 {
   // Compilers have been seen to drop some of these roundings in an optimised build.
   const DxfPoint normal = {0.3, 0.1, 0.9};
-  CFileDxf reader(&window, log);
   for (const DxfPoint& unit :
        {DxfPoint{1.0, 0.0, 0.0}, DxfPoint{0.0, 1.0, 0.0}, DxfPoint{0.0, 0.0, 1.0}}) {
     DxfPoint point = unit;
-    reader.ApplyExtrusion(point, normal);
+    point = Extrusion(normal)(point);
     for (const double component : {point.x, point.y, point.z}) {
       volatile float rounded = static_cast<float>(component);
       EXPECT_EQ(component, static_cast<double>(rounded)) << component;
     }
   }
   DxfPoint far = {1000000.0, 2000000.0, 0.0};
-  reader.ApplyExtrusion(far, normal);
+  far = Extrusion(normal)(far);
   EXPECT_EQ(far.x, -2106310.337781906);
   EXPECT_EQ(far.y, 351989.15004730225);
   EXPECT_EQ(far.z, 662993.5503005981);
@@ -154,39 +152,37 @@ TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
 TEST_F(PlainEntities, AnAxisOfTheExtrusionIsRoundedAfterTheNextOneWasMade)
 {
   DxfPoint point{0.0, 1.0, 0.0};
-  CFileDxf reader(&window, log);
-  reader.ApplyExtrusion(point, {0.1, 0.9, 0.5});
+  point = Extrusion(DxfPoint{0.1, 0.9, 0.5})(point);
   EXPECT_EQ(static_cast<float>(point.x), -0.05337909236550331F);
 }
 
 TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
 {
-  CFileDxf reader(&window, log);
   DxfPoint slanted{1.0, 0.0, 0.0};
-  reader.ApplyExtrusion(slanted, {0.015625, 0.0, 1.0});
+  slanted = Extrusion(DxfPoint{0.015625, 0.0, 1.0})(slanted);
   EXPECT_EQ(slanted.y, 1.0);
   DxfPoint upright{1.0, 0.0, 0.0};
-  reader.ApplyExtrusion(upright, {0.015624, 0.0, 1.0});
+  upright = Extrusion(DxfPoint{0.015624, 0.0, 1.0})(upright);
   EXPECT_NEAR(upright.x, 1.0, 1e-3);
   DxfPoint sideways{1.0, 0.0, 0.0};
-  reader.ApplyExtrusion(sideways, {0.0, 0.015625, 1.0});
+  sideways = Extrusion(DxfPoint{0.0, 0.015625, 1.0})(sideways);
   EXPECT_EQ(sideways.x, -1.0);
   DxfPoint hardly{1.0, 0.0, 0.0};
-  reader.ApplyExtrusion(hardly, {0.0, 0.015624, 1.0});
+  hardly = Extrusion(DxfPoint{0.0, 0.015624, 1.0})(hardly);
   EXPECT_EQ(hardly.x, 1.0);
   // Neither the normal nor its length is mended.
   DxfPoint high{0.0, 0.0, 1.0};
-  reader.ApplyExtrusion(high, {0.0, 0.0, 2.0});
+  high = Extrusion(DxfPoint{0.0, 0.0, 2.0})(high);
   EXPECT_EQ(high.z, 2.0);
 }
 
 TEST_F(PlainEntities, TheExtrusionCanBeSwitchedOff)
 {
-  CFileDxf reader(&window, log);
-  reader.ignoreExtrusion = true;
-  DxfPoint point{1.0, 2.0, 3.0};
-  reader.ApplyExtrusion(point, {0.0, 0.0, -1.0});
-  EXPECT_EQ(point.x, 1.0);
+  const std::string turnedOver = Entities(Entity("LINE", {{10, "1"}, {230, "-1"}}));
+  Import(turnedOver, {.ignoreExtrusion = true});
+  EXPECT_EQ(VerticesOf(0).at(0).at(0), 1.0);
+  Import(turnedOver);
+  EXPECT_EQ(VerticesOf(0).at(0).at(0), -1.0);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -200,14 +196,14 @@ TEST_F(PlainEntities, ColoursComeFromTheTableOrAreBlack)
                                       {"-3", 0},
                                       {"257", 0},
                                       {"256", 0}}) {
-    ImportEntities(Lines({{0, "LINE"}, {62, index}}));
+    ImportEntities(Entity("LINE", {{62, index}}));
     EXPECT_EQ(ColourOf(0), colour) << index;
   }
 }
 
 TEST_F(PlainEntities, ALayersColourOutOfRangeIsBlack)
 {
-  Import(LayerTable(LayerRecord("A", 256, 0)) + Entities(Lines({{0, "LINE"}, {8, "A"}})));
+  Import(LayerTable(LayerRecord("A", 256, 0)) + Entities(Entity("LINE", {{8, "A"}})));
   EXPECT_EQ(ColourOf(0), 0U);
 }
 
@@ -216,13 +212,13 @@ TEST_F(PlainEntities, CirclesAndEllipsesAreBlackInsteadOfByLayer)
   const std::string table = LayerTable(LayerRecord("A", 1, 0));
   for (const auto& [keyword, colour] :
        {std::pair<const char*, std::uint32_t>{"CIRCLE", 0}, {"ELLIPSE", 0}, {"ARC", 0xFF}}) {
-    Import(table + Entities(Lines({{0, keyword}, {8, "A"}})));
+    Import(table + Entities(Entity(keyword, {{8, "A"}})));
     EXPECT_EQ(ColourOf(0), colour) << keyword;
-    Import(table + Entities(Lines({{0, keyword}, {8, "A"}, {62, "256"}})));
+    Import(table + Entities(Entity(keyword, {{8, "A"}, {62, "256"}})));
     EXPECT_EQ(ColourOf(0), 0xFFU) << keyword;
   }
-  ImportEntities(Lines({{0, "CIRCLE"}, {8, "A"}}));
-  EXPECT_EQ(file->layers.at("A")->colour, 0);
+  ImportEntities(Entity("CIRCLE", {{8, "A"}}));
+  EXPECT_EQ(Layers().at("A").colour, 0);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -230,7 +226,7 @@ TEST_F(PlainEntities, CirclesAndEllipsesAreBlackInsteadOfByLayer)
 
 TEST_F(PlainEntities, APointHasAPositionAndNoVertices)
 {
-  ImportEntities(Lines({{0, "POINT"}, {10, "1"}, {20, "2"}, {30, "3"}, {8, "A"}, {5, "B"}}));
+  ImportEntities(Entity("POINT", {{10, "1"}, {20, "2"}, {30, "3"}, {8, "A"}, {5, "B"}}));
   EXPECT_EQ(At<CShapePoint>(0).type, 1);
   EXPECT_TRUE(At<CShapePoint>(0).position == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=A", "HANDLE=B"));
@@ -238,17 +234,16 @@ TEST_F(PlainEntities, APointHasAPositionAndNoVertices)
 
 TEST_F(PlainEntities, ASolidIsOneRingOfItsCornersInFileOrder)
 {
-  ImportEntities(Lines({{0, "SOLID"},
-                        {10, "0"},
-                        {20, "0"},
-                        {11, "1"},
-                        {21, "0"},
-                        {12, "0"},
-                        {22, "1"},
-                        {13, "1"},
-                        {23, "1"},
-                        {33, "7"},
-                        {62, "1"}}));
+  ImportEntities(Entity("SOLID", {{10, "0"},
+                                  {20, "0"},
+                                  {11, "1"},
+                                  {21, "0"},
+                                  {12, "0"},
+                                  {22, "1"},
+                                  {13, "1"},
+                                  {23, "1"},
+                                  {33, "7"},
+                                  {62, "1"}}));
   const auto& solid = At<CShapePolygon>(0);
   EXPECT_EQ(solid.type, 3);
   ASSERT_EQ(solid.rings.size(), 1U);
@@ -261,21 +256,15 @@ TEST_F(PlainEntities, ASolidIsOneRingOfItsCornersInFileOrder)
 
 TEST_F(PlainEntities, ASolidOfThreeCornersHasItsFourthAtTheOrigin)
 {
-  ImportEntities(Lines({{0, "SOLID"}, {10, "5"}, {11, "6"}, {12, "7"}}));
+  ImportEntities(Entity("SOLID", {{10, "5"}, {11, "6"}, {12, "7"}}));
   EXPECT_TRUE(*At<CShapePolygon>(0).rings[0]->vertices.at(3) == CShapeVertex(0.0, 0.0, 0.0));
 }
 
 TEST_F(PlainEntities, AFaceIsAClosedLineWithItsMark)
 {
-  ImportEntities(Lines({{0, "3DFACE"},
-                        {10, "1"},
-                        {20, "1"},
-                        {30, "1"},
-                        {11, "2"},
-                        {12, "3"},
-                        {13, "4"},
-                        {70, "15"},
-                        {5, "A1"}}));
+  ImportEntities(Entity(
+      "3DFACE",
+      {{10, "1"}, {20, "1"}, {30, "1"}, {11, "2"}, {12, "3"}, {13, "4"}, {70, "15"}, {5, "A1"}}));
   ASSERT_EQ(VerticesOf(0).size(), 5U);
   EXPECT_EQ(VerticesOf(0).front(), VerticesOf(0).back());
   EXPECT_THAT(AttributesOf(0), ElementsAre("ENTITY=3DFACE", "LAYER=", "HANDLE=A1"));

@@ -9,10 +9,10 @@ using namespace test;
 class ImplicitLayers : public DxfFixture {
 protected:
   /// One entity of groups that each kind can have.
-  static std::string Entity(const std::string& keyword, const std::string& groups)
+  static std::string WithRecords(const std::string& keyword, const std::string& groups)
   {
     const bool hasRecords = keyword == "POLYLINE";
-    return Lines({{0, keyword}}) + groups + (hasRecords ? triangle + seqEnd : "");
+    return Entity(keyword) + groups + (hasRecords ? triangle + seqEnd : "");
   }
 };
 
@@ -20,11 +20,11 @@ TEST_F(ImplicitLayers, EveryKindOfEntityMakesItsLayer)
 {
   for (const char* keyword : {"LINE", "POINT", "ARC", "CIRCLE", "ELLIPSE", "SOLID", "3DFACE",
                               "POLYLINE", "LWPOLYLINE", "TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
-    ImportEntities(Entity(keyword, Lines({{5, "2F"}, {8, "A"}, {62, "3"}})) +
-                   Entity("LINE", Lines({{8, "A"}})));
-    ASSERT_EQ(file->layers.size(), 1U) << keyword;
-    EXPECT_EQ(file->layers.at("A")->colour, 3) << keyword;
-    EXPECT_EQ(file->layers.at("A")->name, "A") << keyword;
+    ImportEntities(WithRecords(keyword, Lines({{5, "2F"}, {8, "A"}, {62, "3"}})) +
+                   WithRecords("LINE", Lines({{8, "A"}})));
+    ASSERT_EQ(Layers().size(), 1U) << keyword;
+    EXPECT_EQ(Layers().at("A").colour, 3) << keyword;
+    EXPECT_EQ(Layers().at("A").name, "A") << keyword;
     EXPECT_EQ(ColourOf(0), 0x00FF00U) << keyword;
     EXPECT_EQ(ColourOf(1), 0x00FF00U) << keyword;
     EXPECT_EQ(At<CShape>(0).tag, 0x2F) << keyword;
@@ -35,8 +35,8 @@ TEST_F(ImplicitLayers, EveryKindOfEntityThatIsByLayerLooksForItsLayerBeforeItMak
 {
   for (const char* keyword :
        {"LINE", "POINT", "ARC", "SOLID", "3DFACE", "POLYLINE", "LWPOLYLINE", "TEXT"}) {
-    ImportEntities(Entity(keyword, Lines({{8, "A"}})));
-    EXPECT_EQ(file->layers.at("A")->colour, 256) << keyword;
+    ImportEntities(WithRecords(keyword, Lines({{8, "A"}})));
+    EXPECT_EQ(Layers().at("A").colour, 256) << keyword;
     EXPECT_EQ(ColourOf(0), 0U) << keyword;
   }
 }
@@ -45,21 +45,21 @@ TEST_F(ImplicitLayers, AnEntityThatIsLeftOutMakesNone)
 {
   for (const char* keyword : {"LINE", "POINT", "ARC", "CIRCLE", "ELLIPSE", "SOLID", "3DFACE",
                               "TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
-    ImportEntities(Entity(keyword, Lines({{8, "A"}, {62, "3"}, {67, "1"}})));
+    ImportEntities(WithRecords(keyword, Lines({{8, "A"}, {62, "3"}, {67, "1"}})));
     EXPECT_EQ(ShapeCount(), 0U) << keyword;
-    EXPECT_TRUE(file->layers.empty()) << keyword;
+    EXPECT_TRUE(Layers().empty()) << keyword;
   }
   for (const char* keyword : {"ATTRIB", "ATTDEF"}) {
-    ImportEntities(Entity(keyword, Lines({{8, "A"}, {62, "3"}, {70, "1"}})));
-    EXPECT_TRUE(file->layers.empty()) << keyword;
+    ImportEntities(WithRecords(keyword, Lines({{8, "A"}, {62, "3"}, {70, "1"}})));
+    EXPECT_TRUE(Layers().empty()) << keyword;
   }
 }
 
 TEST_F(ImplicitLayers, WhatMakesNoShapeMakesNone)
 {
   for (const char* keyword : {"SPLINE", "HATCH", "VIEWPORT", "DIMENSION", "VERTEX", "SEQEND"}) {
-    ImportEntities(Entity(keyword, Lines({{8, "A"}, {62, "3"}})));
-    EXPECT_TRUE(file->layers.empty()) << keyword;
+    ImportEntities(WithRecords(keyword, Lines({{8, "A"}, {62, "3"}})));
+    EXPECT_TRUE(Layers().empty()) << keyword;
   }
 }
 

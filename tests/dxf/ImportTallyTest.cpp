@@ -8,59 +8,82 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-class Tally : public DxfFixture {
+class Tallies : public DxfFixture {
 protected:
-  const auto& Ignored() const { return file->tally.ignored; }
+  const KeywordCounts::Map& Ignored() const { return Tally().ignored.ByKeyword(); }
 };
 
-TEST_F(Tally, ShapesAreCountedByKind)
+TEST_F(Tallies, ShapesAreCountedByKind)
 {
-  ImportEntities(Lines({{0, "LINE"},
-                        {0, "CIRCLE"},
-                        {0, "LWPOLYLINE"},
-                        {0, "POINT"},
-                        {0, "SOLID"},
-                        {0, "SOLID"},
-                        {0, "TEXT"}}));
-  EXPECT_EQ(file->tally.polylines, 3U);
-  EXPECT_EQ(file->tally.points, 1U);
-  EXPECT_EQ(file->tally.areas, 2U);
-  EXPECT_EQ(file->tally.texts, 1U);
-  EXPECT_EQ(file->tally.Shapes(), 7U);
+  ImportEntities(Entity("LINE") + Entity("CIRCLE") + Entity("LWPOLYLINE") + Entity("POINT") +
+                 Entity("SOLID") + Entity("SOLID") + Entity("TEXT"));
+  EXPECT_EQ(Tally().polylines, 3U);
+  EXPECT_EQ(Tally().points, 1U);
+  EXPECT_EQ(Tally().areas, 2U);
+  EXPECT_EQ(Tally().texts, 1U);
+  EXPECT_EQ(Tally().Shapes(), 7U);
   EXPECT_THAT(Ignored(), IsEmpty());
 }
 
-TEST_F(Tally, SkippedAndUnknownEntitiesAreCounted)
+TEST_F(Tallies, SkippedAndUnknownEntitiesAreCounted)
 {
-  ImportEntities(Lines({{0, "SPLINE"}, {8, "A"}, {70, "0"}, {0, "RAY"}, {5, "1F"}, {70, "0"}}) +
+  ImportEntities(Entity("SPLINE", {{8, "A"}, {70, "0"}}) + Entity("RAY", {{5, "1F"}, {70, "0"}}) +
                  Lines({{10, "0"}, {20, "0"}, {0, "RAY"}, {0, "LINE"}, {0, "HATCH"}}) +
                  Lines({{2, "SOLID"}, {0, "SPLINE"}, {0, "3DSOLID"}, {1, "0"}, {310, "00"}}));
   EXPECT_THAT(Ignored(),
               ElementsAre(Pair("3DSOLID", 1), Pair("HATCH", 1), Pair("RAY", 2), Pair("SPLINE", 2)));
-  EXPECT_EQ(file->tally.Shapes(), 1U);
+  EXPECT_EQ(Tally().Shapes(), 1U);
 }
 
-TEST_F(Tally, AValueThatReadsLikeAKeywordIsNone)
+TEST_F(Tallies, EntitiesOfTheSectionsAreCountedAndThoseOfBlocksAreNot)
+{
+  Import(Blocks(Block("b", Entity("ARC") + Entity("RAY"))) +
+         Entities(Entity("LINE") + Entity("RAY", {{8, "LINE"}, {70, "0"}}) + Entity("HATCH")) +
+         Entities(Entity("POLYLINE") + Entity("VERTEX") + Entity("SEQEND") + Entity("LINE")));
+  EXPECT_THAT(Tally().entities.ByKeyword(),
+              ElementsAre(Pair("HATCH", 1), Pair("LINE", 2), Pair("POLYLINE", 1), Pair("RAY", 1),
+                          Pair("SEQEND", 1), Pair("VERTEX", 1)));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("HATCH", 1), Pair("RAY", 2)));
+}
+
+TEST_F(Tallies, HaveTheExtentsOfTheShapes)
+{
+  ImportEntities(Entity("LINE", {{10, "1"}, {20, "-7"}, {11, "-2"}, {21, "3"}}) +
+                 Entity("POINT", {{10, "1e30"}, {20, "2"}}) + Entity("SPLINE", {{10, "-9"}}));
+  EXPECT_EQ(Tally().minX, -2.0);
+  EXPECT_EQ(Tally().minY, -7.0);
+  EXPECT_EQ(Tally().maxX, 1e30);
+  EXPECT_EQ(Tally().maxY, 3.0);
+  ImportEntities(Entity("POINT", {{10, "1e30"}, {20, "-1e30"}}));
+  EXPECT_EQ(Tally().minX, 1e30);
+  EXPECT_EQ(Tally().maxY, -1e30);
+  ImportEntities("");
+  EXPECT_GT(Tally().minX, Tally().maxX);
+  EXPECT_GT(Tally().minY, Tally().maxY);
+}
+
+TEST_F(Tallies, AValueThatReadsLikeAKeywordIsNone)
 {
   // In an entity without a reader such a value starts one, but only its own keyword was ignored.
-  ImportEntities(Lines({{0, "RAY"}, {8, "HATCH"}, {10, "1"}, {0, "RAY"}, {8, "RAY"}, {0, "RAY"}}));
+  ImportEntities(Entity("RAY", {{8, "HATCH"}, {10, "1"}}) + Entity("RAY", {{8, "RAY"}}) +
+                 Entity("RAY"));
   EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 3)));
 }
 
-TEST_F(Tally, ALineBehindWhatOnlyReadsAsZeroIsNoKeyword)
+TEST_F(Tallies, ALineBehindWhatOnlyReadsAsZeroIsNoKeyword)
 {
   // The reader of the line takes the word for a group 0; so the count behind it is not sure.
   ImportEntities("0\nLINE\nword\nRAY\n8\nA\n   0\nRAY\n");
   EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 1)));
 }
 
-TEST_F(Tally, BlanksAroundCodesAndKeywordsDoNotCount)
+TEST_F(Tallies, BlanksAroundCodesAndKeywordsDoNotCount)
 {
   ImportEntities("  0\nRAY\n 0 \nRAY \n");
   EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 2)));
 }
 
-TEST_F(Tally, TheFirstCodeOfASectionIsNoKeyword)
+TEST_F(Tallies, TheFirstCodeOfASectionIsNoKeyword)
 {
   // The section before ends behind a group 0, and this one begins with a word.
   ImportEntities("RAY\n0\nLINE\n");
@@ -68,105 +91,102 @@ TEST_F(Tally, TheFirstCodeOfASectionIsNoKeyword)
   EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 1)));
 }
 
-TEST_F(Tally, TheContentOfABlockCountsOnce)
+TEST_F(Tallies, TheContentOfABlockCountsOnce)
 {
-  const std::string insert = Lines({{0, "INSERT"}, {2, "b"}});
-  Import(Blocks(Block("b", Lines({{0, "ELLIPSE"}, {40, "1"}, {0, "SPLINE"}, {0, "LINE"}}))) +
+  const std::string insert = Entity("INSERT", {{2, "b"}});
+  Import(Blocks(Block("b", Entity("ELLIPSE", {{40, "1"}}) + Entity("SPLINE") + Entity("LINE"))) +
          Entities(insert + insert));
   EXPECT_THAT(Ignored(), ElementsAre(Pair("ELLIPSE", 1), Pair("SPLINE", 1)));
-  EXPECT_EQ(file->tally.polylines, 2U);
+  EXPECT_EQ(Tally().polylines, 2U);
 }
 
-TEST_F(Tally, EntitiesOnHiddenLayersAreCounted)
+TEST_F(Tallies, EntitiesOnHiddenLayersAreCounted)
 {
   Import(LayerTable(LayerRecord("off", -1, 0)) +
-         Entities(Lines({{0, "LINE"}, {8, "off"}, {0, "TEXT"}, {8, "off"}, {0, "LWPOLYLINE"}}) +
+         Entities(Entity("LINE", {{8, "off"}}) + Entity("TEXT", {{8, "off"}}) +
+                  Entity("LWPOLYLINE") +
                   Lines({{8, "off"}, {0, "POLYLINE"}, {8, "off"}, {0, "VERTEX"}, {0, "SEQEND"}}) +
-                  Lines({{0, "INSERT"}, {8, "off"}, {0, "LINE"}, {8, "on"}})));
-  EXPECT_EQ(file->tally.onHiddenLayers, 5U);
-  EXPECT_EQ(file->tally.polylines, 1U);
+                  Entity("INSERT", {{8, "off"}}) + Entity("LINE", {{8, "on"}})));
+  EXPECT_EQ(Tally().onHiddenLayers, 5U);
+  EXPECT_EQ(Tally().polylines, 1U);
 }
 
-TEST_F(Tally, EntitiesOfThePaperSpaceAreCounted)
+TEST_F(Tallies, EntitiesOfThePaperSpaceAreCounted)
 {
-  const std::string header = Lines({{0, "BLOCK"}, {2, "*Paper_Space"}, {67, "1"}});
-  const std::string content = Lines({{0, "LINE"}, {0, "LINE"}, {67, "1"}, {0, "ENDBLK"}});
-  Import(Blocks(header + content) + Entities(Lines({{0, "TEXT"}, {67, "1"}, {0, "POINT"}})));
-  EXPECT_EQ(file->tally.inPaperSpace, 3U);
-  EXPECT_EQ(file->tally.Shapes(), 1U);
+  const std::string header = Entity("BLOCK", {{2, "*Paper_Space"}, {67, "1"}});
+  const std::string content = Entity("LINE") + Entity("LINE", {{67, "1"}}) + Entity("ENDBLK");
+  Import(Blocks(header + content) + Entities(Entity("TEXT", {{67, "1"}}) + Entity("POINT")));
+  EXPECT_EQ(Tally().inPaperSpace, 3U);
+  EXPECT_EQ(Tally().Shapes(), 1U);
 }
 
-TEST_F(Tally, InsertsOfUnknownBlocksAreCounted)
+TEST_F(Tallies, InsertsOfUnknownBlocksAreCounted)
 {
-  Import(Blocks(Block("b", Lines({{0, "LINE"}}))) +
-         Entities(Lines({{0, "INSERT"}, {2, "B"}, {0, "INSERT"}, {2, "b"}, {0, "INSERT"}})));
-  EXPECT_EQ(file->tally.unknownBlocks, 2U);
-  EXPECT_EQ(file->tally.polylines, 1U);
+  Import(Blocks(Block("b", Entity("LINE"))) +
+         Entities(Entity("INSERT", {{2, "B"}}) + Entity("INSERT", {{2, "b"}}) + Entity("INSERT")));
+  EXPECT_EQ(Tally().unknownBlocks, 2U);
+  EXPECT_EQ(Tally().polylines, 1U);
 }
 
-TEST_F(Tally, InsertsThatTheBudgetCutsAreCounted)
+TEST_F(Tallies, InsertsThatTheBudgetCutsAreCounted)
 {
-  layer = std::make_unique<CLayer>();
-  file = std::make_unique<CFileDxf>(&window, log);
-  file->copyBudget = 1000;
-  const std::string insert = Lines({{0, "INSERT"}, {2, "b"}});
-  const std::string text =
-      Blocks(Block("b", Lines({{0, "LINE"}}))) + Entities(insert + insert + insert + insert);
-  EXPECT_EQ(file->Import(folder.Write("drawing.dxf", text), layer.get()), 0);
-  EXPECT_EQ(file->tally.cutInserts + file->tally.polylines, 4U);
-  EXPECT_EQ(file->tally.polylines, 1U);
+  const std::string insert = Entity("INSERT", {{2, "b"}});
+  Import(Blocks(Block("b", Entity("LINE"))) + Entities(insert + insert + insert + insert),
+         {.copyBudget = 1000});
+  EXPECT_EQ(Tally().cutInserts + Tally().polylines, 4U);
+  EXPECT_EQ(Tally().polylines, 1U);
 }
 
-TEST_F(Tally, KeywordsAreFewShortAndPrintable)
+TEST_F(Tallies, KeywordsAreFewShortAndPrintable)
 {
   std::string records;
-  for (std::size_t i = 0; i < ImportTally::mostKeywords + 5; ++i) {
+  for (std::size_t i = 0; i < KeywordCounts::mostKeywords + 5; ++i) {
     records += "0\nK" + std::to_string(i) + "\n";
   }
-  ImportEntities(Lines({{0, std::string(200, 'X')}, {0, "\x1B[2J\xE4"}}) + records + "0\nK3\n");
-  EXPECT_EQ(Ignored().size(), ImportTally::mostKeywords);
-  EXPECT_EQ(file->tally.ignoredOthers, 7U);
+  ImportEntities(Entity(std::string(200, 'X')) + Entity("\x1B[2J\xE4") + records + "0\nK3\n");
+  EXPECT_EQ(Ignored().size(), KeywordCounts::mostKeywords);
+  EXPECT_EQ(Tally().ignored.Others(), 7U);
   EXPECT_EQ(Ignored().at("K3"), 2U);
-  EXPECT_EQ(Ignored().count(std::string(ImportTally::longestKeyword, 'X')), 1U);
+  EXPECT_EQ(Ignored().count(std::string(KeywordCounts::longestKeyword, 'X')), 1U);
   EXPECT_EQ(Ignored().count("?[2J?"), 1U);
 }
 
-TEST_F(Tally, ABinaryDrawingIsKnownByItsFirstWords)
+TEST_F(Tallies, ABinaryDrawingIsKnownByItsFirstWords)
 {
   EXPECT_EQ(Import(std::string("AutoCAD Binary DXF\r\n\x1A\0SECTION\n", 30)), 0);
-  EXPECT_TRUE(file->tally.isBinary);
-  EXPECT_FALSE(file->tally.IsDrawing());
+  EXPECT_TRUE(Tally().isBinary);
+  EXPECT_FALSE(Tally().IsDrawing());
   ImportEntities(Lines({{999, "AutoCAD Binary DXF"}}));
-  EXPECT_FALSE(file->tally.isBinary);
+  EXPECT_FALSE(Tally().isBinary);
 }
 
-TEST_F(Tally, AFileWithoutSectionsIsNoDrawing)
+TEST_F(Tallies, AFileWithoutSectionsIsNoDrawing)
 {
   EXPECT_EQ(Import("Notes on the INTERSECTION\nof hull and deck\n"), 0);
-  EXPECT_FALSE(file->tally.IsDrawing());
+  EXPECT_FALSE(Tally().IsDrawing());
   EXPECT_EQ(Import("0\nSECTION \n2\nHEADER\n0\nENDSEC\n"), 0);
-  EXPECT_TRUE(file->tally.IsDrawing());
+  EXPECT_TRUE(Tally().IsDrawing());
   EXPECT_EQ(Import("0\nMYSECTION\n2\nENTITIES\n0\nLINE\n"), 0);
-  EXPECT_TRUE(file->tally.IsDrawing()) << "shapes came out";
+  EXPECT_TRUE(Tally().IsDrawing()) << "shapes came out";
 }
 
-TEST_F(Tally, APartThatALineTooLongEndsIsCounted)
+TEST_F(Tallies, APartThatALineTooLongEndsIsCounted)
 {
   const std::string tooLong(300, 'x');
-  ImportEntities(Lines({{0, "LINE"}, {0, "MLINE"}, {2, tooLong}, {0, "LINE"}}));
-  EXPECT_EQ(file->tally.polylines, 1U);
-  EXPECT_EQ(file->tally.cutParts, 1U);
-  Import(Blocks(Block("a", Lines({{0, "MLINE"}, {2, tooLong}, {0, "LINE"}}))) +
-         Entities(Lines({{0, "LINE"}})));
-  EXPECT_EQ(file->tally.cutParts, 1U);
+  ImportEntities(Entity("LINE") + Entity("MLINE", {{2, tooLong}}) + Entity("LINE"));
+  EXPECT_EQ(Tally().polylines, 1U);
+  EXPECT_EQ(Tally().cutParts, 1U);
+  Import(Blocks(Block("a", Entity("MLINE", {{2, tooLong}}) + Entity("LINE"))) +
+         Entities(Entity("LINE")));
+  EXPECT_EQ(Tally().cutParts, 1U);
 }
 
-TEST_F(Tally, ADrawingThatSimplyEndsIsNotCutShort)
+TEST_F(Tallies, ADrawingThatSimplyEndsIsNotCutShort)
 {
   Import("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHull\n");
-  EXPECT_EQ(file->tally.cutParts, 0U);
+  EXPECT_EQ(Tally().cutParts, 0U);
   Import("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHull\n0");
-  EXPECT_EQ(file->tally.cutParts, 0U);
+  EXPECT_EQ(Tally().cutParts, 0U);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ const std::string unitLine = Lines(
 
 std::string Insert(const std::string& name, const std::string& more = {})
 {
-  return Lines({{0, "INSERT"}, {2, name}}) + more;
+  return Entity("INSERT", {{2, name}}) + more;
 }
 
 class Inserts : public DxfFixture {};
@@ -32,7 +32,7 @@ TEST_F(Inserts, CopyEveryShapeWithTheNamesOfBoth)
     EXPECT_EQ(ColourOf(i), 0xFFU);  // as it was resolved in the block
   }
   EXPECT_THAT(log.records, Contains(HasSubstr("added 2 map features")));
-  EXPECT_EQ(file->blocks.at("B")->shapes[0]->tag, 0xA1);
+  EXPECT_EQ(BlockOf("B").shapes[0]->tag, 0xA1);
 }
 
 TEST_F(Inserts, ScaleThenTurnThenMove)
@@ -65,8 +65,7 @@ TEST_F(Inserts, AnArrayGivesOneCopyAndTheNormalPlaysNoPart)
 
 TEST_F(Inserts, WithoutAScaleKeepTheSizeAndEachScaleIsForItsOwnAxis)
 {
-  const std::string block =
-      Blocks(Block("B", Lines({{0, "LINE"}, {10, "1"}, {20, "2"}, {30, "3"}})));
+  const std::string block = Blocks(Block("B", Entity("LINE", {{10, "1"}, {20, "2"}, {30, "3"}})));
   const auto firstVertex = [&](const std::string& scale) {
     Import(block + Entities(Insert("B", scale)));
     return VerticesOf(0).at(0);
@@ -89,7 +88,7 @@ TEST_F(Inserts, HaveTheirPlaceInTheWorldWhateverTheirNormal)
 
 TEST_F(Inserts, OfEntitiesByBlockStayBlack)
 {
-  const std::string byBlock = Lines({{0, "LINE"}, {8, "0"}, {62, "0"}});
+  const std::string byBlock = Entity("LINE", {{8, "0"}, {62, "0"}});
   Import(LayerTable(LayerRecord("0", 3, 0) + LayerRecord("deck", 2, 0)) +
          Blocks(Block("B", byBlock)) + Entities(Insert("B", Lines({{8, "deck"}, {62, "1"}}))));
   EXPECT_EQ(ColourOf(0), 0U);
@@ -98,15 +97,15 @@ TEST_F(Inserts, OfEntitiesByBlockStayBlack)
 
 TEST_F(Inserts, TheBasePointOfTheBlockPlaysNoPart)
 {
-  Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}, {10, "100"}, {20, "100"}}) + unitLine +
-                Lines({{0, "ENDBLK"}})) +
-         Entities(Insert("B")));
+  Import(
+      Blocks(Entity("BLOCK", {{2, "B"}, {10, "100"}, {20, "100"}}) + unitLine + Entity("ENDBLK")) +
+      Entities(Insert("B")));
   EXPECT_EQ(VerticesOf(0)[0][0], 1.0);
 }
 
 TEST_F(Inserts, AnInsertedTextKeepsItsHeightAndItsAngle)
 {
-  Import(Blocks(Block("B", Lines({{0, "TEXT"}, {1, "Crane"}, {10, "1"}, {40, "2"}, {50, "30"}}))) +
+  Import(Blocks(Block("B", Entity("TEXT", {{1, "Crane"}, {10, "1"}, {40, "2"}, {50, "30"}}))) +
          Entities(Insert("B", Lines({{41, "3"}, {42, "3"}, {50, "90"}}))));
   const auto& label = At<CShapeText>(0);
   EXPECT_EQ(label.height, 2.0);
@@ -131,10 +130,9 @@ TEST_F(Inserts, OnAHiddenLayerOrInPaperSpaceAddNothing)
 
 TEST_F(Inserts, OfABlockWhoseHeaderIsOnAFrozenLayerAreMade)
 {
-  Import(
-      LayerTable(LayerRecord("frozen", 1, 1)) +
-      Blocks(Lines({{0, "BLOCK"}, {8, "frozen"}, {2, "B"}}) + unitLine + Lines({{0, "ENDBLK"}})) +
-      Entities(Insert("B")));
+  Import(LayerTable(LayerRecord("frozen", 1, 1)) +
+         Blocks(Entity("BLOCK", {{8, "frozen"}, {2, "B"}}) + unitLine + Entity("ENDBLK")) +
+         Entities(Insert("B")));
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
@@ -143,8 +141,8 @@ TEST_F(Inserts, MakeNoLayer)
   Import(Blocks(Block("empty", "") + Block("B", unitLine)) +
          Entities(Insert("empty", Lines({{8, "deck"}})) + Insert("B", Lines({{8, "deck"}}))));
   EXPECT_EQ(ShapeCount(), 1U);
-  EXPECT_EQ(file->layers.size(), 1U);
-  EXPECT_TRUE(file->layers.contains("part"));
+  EXPECT_EQ(Layers().size(), 1U);
+  EXPECT_TRUE(Layers().contains("part"));
 }
 
 TEST_F(Inserts, NestAndComposeTheirTransforms)
@@ -168,7 +166,7 @@ TEST_F(Inserts, AttributesThatFollowAreTextsOfTheirOwn)
 {
   Import(Blocks(Block("B", unitLine)) +
          Entities(Insert("B", Lines({{66, "1"}, {10, "5"}})) +
-                  Lines({{0, "ATTRIB"}, {1, "No. 7"}, {10, "1"}, {0, "SEQEND"}}) + unitLine));
+                  Entity("ATTRIB", {{1, "No. 7"}, {10, "1"}}) + Entity("SEQEND") + unitLine));
   ASSERT_EQ(ShapeCount(), 3U);
   EXPECT_EQ(At<CShapeText>(1).text, u"No. 7");
   EXPECT_EQ(VerticesOf(1)[0][0], 1.0);
@@ -197,16 +195,12 @@ std::ptrdiff_t FailuresIn(const FakeTrace& log)
 
 TEST_F(Inserts, StopCopyingAtABudgetAndTellSoOnce)
 {
-  layer = std::make_unique<CLayer>();
-  file = std::make_unique<CFileDxf>(&window, log);
-  file->copyBudget = 1000000;
-  const auto path = folder.Write(
-      "many.dxf", Multiplying(30) + Entities(unitLine + Insert("b30") + Insert("b0") + unitLine));
-  EXPECT_EQ(file->Import(path, layer.get()), 0);
+  const std::string inserts = unitLine + Insert("b30") + Insert("b0") + unitLine;
+  EXPECT_EQ(Import(Multiplying(30) + Entities(inserts), {.copyBudget = 1000000}), 0);
   EXPECT_EQ(ShapeCount(), 2U);  // the lines; blocks and copies made before stay
   EXPECT_EQ(FailuresIn(log), 1);
   EXPECT_THAT(log.records, Contains(StartsWith("1 General: [DXF] The inserted blocks")));
-  EXPECT_EQ(file->blocks.at("b2")->shapes.size(), 100U);
+  EXPECT_EQ(BlockOf("b2").shapes.size(), 100U);
 }
 
 TEST_F(Inserts, OfAnOrdinaryDrawingStayFarBelowTheBudget)
@@ -214,19 +208,19 @@ TEST_F(Inserts, OfAnOrdinaryDrawingStayFarBelowTheBudget)
   Import(Multiplying(4) + Entities(Insert("b4")));
   EXPECT_EQ(ShapeCount(), 10000U);
   EXPECT_EQ(FailuresIn(log), 0);
-  EXPECT_GT(file->copyBudget, (std::int64_t{1} << 30) * 9 / 10);
+  EXPECT_GT(file->Drawing().copyBudget.Left(), (std::int64_t{1} << 30) * 9 / 10);
 }
 
 TEST_F(Inserts, PayForVerticesRingsTextsAndAttributes)
 {
   const std::string lwpolyline =
-      Lines({{0, "LWPOLYLINE"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "9"}, {20, "0"}});
+      Entity("LWPOLYLINE", {{10, "0"}, {20, "0"}, {42, "1"}, {10, "9"}, {20, "0"}});
   for (const auto& [entity, least] : {std::pair<std::string, std::int64_t>{lwpolyline, 180 * 56},
-                                      {Lines({{0, "SOLID"}}), 4 * 56},
-                                      {Lines({{0, "TEXT"}, {1, std::string(500, 'x')}}), 1000},
-                                      {Lines({{0, "POINT"}, {8, std::string(500, 'x')}}), 1000}}) {
+                                      {Entity("SOLID"), 4 * 56},
+                                      {Entity("TEXT", {{1, std::string(500, 'x')}}), 1000},
+                                      {Entity("POINT", {{8, std::string(500, 'x')}}), 1000}}) {
     Import(Blocks(Block("B", entity)) + Entities(Insert("B")));
-    const std::int64_t paid = (std::int64_t{1} << 30) - file->copyBudget;
+    const std::int64_t paid = (std::int64_t{1} << 30) - file->Drawing().copyBudget.Left();
     EXPECT_GE(paid, least + 400);
     EXPECT_LE(paid, least + 2000);
   }

@@ -5,8 +5,7 @@ namespace {
 
 using namespace test;
 
-const std::string aLine =
-    Lines({{0, "LINE"}, {8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
+const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
 /// How long a line may be depends on who reads it: 255 bytes or 511. A longer one ends what is
 /// being read.
@@ -19,7 +18,7 @@ protected:
 TEST_F(LineLimits, ACodeHas255Bytes)
 {
   const auto yBehind = [this](std::size_t length) {
-    ImportEntities(Lines({{0, "LINE"}, {10, "1"}}) + std::string(length - 2, ' ') + "20\n5\n");
+    ImportEntities(Entity("LINE", {{10, "1"}}) + std::string(length - 2, ' ') + "20\n5\n");
     return VerticesOf(0).at(0).at(1);
   };
   EXPECT_EQ(yBehind(255), 5.0);
@@ -30,7 +29,7 @@ TEST_F(LineLimits, ALineOfTheTablesHas255Bytes)
 {
   const auto layersBehind = [this](std::size_t length) {
     Import(Section("TABLES", Filler(length) + LayerRecord("A", 1, 0)));
-    return file->layers.size();
+    return Layers().size();
   };
   EXPECT_EQ(layersBehind(255), 1U);
   EXPECT_EQ(layersBehind(256), 0U);
@@ -40,7 +39,7 @@ TEST_F(LineLimits, ALineInsideABlockHas255Bytes)
 {
   const auto shapesBehind = [this](std::size_t length) {
     Import(Blocks(Block("B", "0\n" + Filler(length) + aLine)));
-    return file->blocks.at("B")->shapes.size();
+    return BlockOf("B").shapes.size();
   };
   EXPECT_EQ(shapesBehind(255), 1U);
   EXPECT_EQ(shapesBehind(256), 0U);
@@ -61,7 +60,7 @@ TEST_F(LineLimits, CodeAndNameOfASectionHave511BytesAndALongerOneEndsTheImport)
 TEST_F(LineLimits, ALineOfApplicationDataHas255Bytes)
 {
   const auto shapesWith = [this](std::size_t length) {
-    ImportEntities(Lines({{0, "LINE"}, {102, "{A"}}) + Filler(length) + aLine);
+    ImportEntities(Entity("LINE", {{102, "{A"}}) + Filler(length) + aLine);
     return ShapeCount();
   };
   EXPECT_EQ(shapesWith(255), 1U);  // no brace comes any more, so that everything belongs to it
@@ -73,7 +72,7 @@ TEST_F(LineLimits, AValueOfAnEntityHas511Bytes)
   for (const char* keyword : {"LINE", "POINT", "ARC", "CIRCLE", "ELLIPSE", "SOLID", "3DFACE",
                               "TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
     const auto colourBehind = [&](std::size_t length) {
-      ImportEntities(Lines({{0, keyword}}) + "999\n" + Filler(length) + Lines({{62, "1"}}));
+      ImportEntities(Entity(keyword) + "999\n" + Filler(length) + Lines({{62, "1"}}));
       return ColourOf(0);
     };
     EXPECT_EQ(colourBehind(511), 0xFFU) << keyword;
@@ -84,8 +83,8 @@ TEST_F(LineLimits, AValueOfAnEntityHas511Bytes)
 TEST_F(LineLimits, AValueOfAVertexHas511Bytes)
 {
   const auto xBehind = [this](std::size_t length) {
-    ImportEntities(Header() + Lines({{0, "VERTEX"}}) + "999\n" + Filler(length) +
-                   Lines({{10, "5"}}) + seqEnd);
+    ImportEntities(Header() + Entity("VERTEX") + "999\n" + Filler(length) + Lines({{10, "5"}}) +
+                   seqEnd);
     return VerticesOf(0).at(0).at(0);
   };
   EXPECT_EQ(xBehind(511), 5.0);
@@ -105,7 +104,7 @@ TEST_F(LineLimits, AValueOfThePolylinesHeaderHas511Bytes)
 TEST_F(LineLimits, AValueOfThePolylinesEndHas511Bytes)
 {
   const auto shapesBehind = [this](std::size_t length) {
-    ImportEntities(Header() + triangle + Lines({{0, "SEQEND"}}) + "999\n" + Filler(length) +
+    ImportEntities(Header() + triangle + Entity("SEQEND") + "999\n" + Filler(length) +
                    Lines({{1000, "LINE"}}));
     return ShapeCount();
   };
@@ -116,9 +115,9 @@ TEST_F(LineLimits, AValueOfThePolylinesEndHas511Bytes)
 TEST_F(LineLimits, AValueOfABlocksHeaderAndOfAnInsertionHas511Bytes)
 {
   const auto shapesBehind = [this](std::size_t inHeader, std::size_t inInsert) {
-    Import(Blocks(Lines({{0, "BLOCK"}}) + "999\n" + Filler(inHeader) + Lines({{2, "B"}}) + aLine +
-                  Lines({{0, "ENDBLK"}})) +
-           Entities(Lines({{0, "INSERT"}}) + "999\n" + Filler(inInsert) + Lines({{2, "B"}})));
+    Import(Blocks(Entity("BLOCK") + "999\n" + Filler(inHeader) + Lines({{2, "B"}}) + aLine +
+                  Entity("ENDBLK")) +
+           Entities(Entity("INSERT") + "999\n" + Filler(inInsert) + Lines({{2, "B"}})));
     return ShapeCount();
   };
   EXPECT_EQ(shapesBehind(511, 511), 1U);

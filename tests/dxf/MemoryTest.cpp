@@ -12,7 +12,7 @@ using namespace test;
 
 std::string LineAt(const std::string& x)
 {
-  return Lines({{0, "LINE"}, {5, "A1"}, {8, "0"}, {62, "3"}, {10, x}});
+  return Entity("LINE", {{5, "A1"}, {8, "0"}, {62, "3"}, {10, x}});
 }
 
 /// Imports in which memory ends at one place after the other.
@@ -29,9 +29,13 @@ protected:
     bool failed = true;
     for (std::size_t which = 1; failed; ++which) {
       window = {};
-      // The window of a test shall not be what fails.
+      log.records.clear();
+      log.seconds.clear();
+      // What a test keeps shall not be what fails, nor need memory in one import alone.
       window.codes.reserve(plenty);
       window.values.reserve(plenty);
+      log.records.reserve(plenty);
+      log.seconds.reserve(plenty);
       layer = std::make_unique<CLayer>();
       file = std::make_unique<CFileDxf>(&window, log);
       int result = 0;
@@ -63,14 +67,14 @@ protected:
 
 TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
 {
-  const std::string insert = Lines({{0, "INSERT"}, {2, "B"}, {5, "C3"}});
+  const std::string insert = Entity("INSERT", {{2, "B"}, {5, "C3"}});
   std::set<std::string> seen;
   ImportWithEachFailure(Blocks(Block("B", LineAt("1") + LineAt("2") + LineAt("3"))) +
                             Entities(insert + insert + LineAt("4")),
                         [&] {
                           seen.insert(Places());
                           // Whatever is missing is counted.
-                          EXPECT_TRUE(Places() == "1231234" || file->tally.withoutMemory > 0);
+                          EXPECT_TRUE(Places() == "1231234" || Tally().withoutMemory > 0);
                           for (std::size_t i = 0; i < ShapeCount(); ++i) {
                             // A copy is whole or not there.
                             const bool isCopy = At(i).tag == 0xC3;
@@ -116,16 +120,54 @@ TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextAsItIsAtThatStep)
       {u"\nA\t\u2300\u00B0\u00B1\u2300\u00B0\u00B1, a long text", blue}};
   std::set<std::pair<std::u16string, std::uint32_t>> seen;
   int leftOutBehindItsLayer = 0;
-  ImportWithEachFailure(Entities(Lines({{0, "MTEXT"}, {8, "A"}, {62, "3"}, {1, text}})), [&] {
+  ImportWithEachFailure(Entities(Entity("MTEXT", {{8, "A"}, {62, "3"}, {1, text}})), [&] {
     if (ShapeCount() > 0) {
       seen.emplace(At<CShapeText>(0).text, ColourOf(0));
-    } else if (file->layers.contains("A")) {
+    } else if (Layers().contains("A")) {
       ++leftOutBehindItsLayer;
     }
   });
   EXPECT_EQ(seen, steps);
   // The layer is made just before the cleaning; behind that only the list of shapes may fail.
   EXPECT_LE(leftOutBehindItsLayer, 1);
+}
+
+TEST_F(Memory, ThatEndsWhereAPolylineEndsLeavesNothingOfItForTheNextEnd)
+{
+  constexpr std::int32_t polylineTag = 0xB2;
+  const std::string polyline = Entity("POLYLINE", {{5, "B2"}, {70, "1"}}) +
+                               Entity("VERTEX", {{10, "1"}, {42, "1"}}) +
+                               Entity("VERTEX", {{10, "2"}}) + Entity("SEQEND");
+  const std::string insert = Entity("INSERT", {{2, "B"}, {66, "1"}}) + Entity("SEQEND");
+  std::set<bool> cameOut;
+  ImportWithEachFailure(Blocks(Block("B", LineAt("5"))) + Entities(polyline + insert + LineAt("3")),
+                        [&] {
+                          bool hasPolyline = false;
+                          for (std::size_t i = 0; i < ShapeCount(); ++i) {
+                            if (At(i).tag != polylineTag) continue;
+                            hasPolyline = true;
+                            EXPECT_EQ(i, 0U) << "the end behind the insertion has made it";
+                            EXPECT_THAT(VerticesOf(i), testing::Not(testing::IsEmpty()));
+                          }
+                          cameOut.insert(hasPolyline);
+                          EXPECT_TRUE(hasPolyline || Tally().withoutMemory > 0);
+                        });
+  EXPECT_EQ(cameOut, (std::set<bool>{false, true}));
+}
+
+TEST_F(Memory, ThatEndsInTheNameOfAKeywordStillCountsIt)
+{
+  for (std::size_t which = 1, failed = 1; failed != 0; ++which) {
+    KeywordCounts counts;
+    const std::string keyword = "ACAD_PROXY_ENTITY";
+    {
+      const FailingNew memory(which);
+      counts.Count(keyword);
+      failed = FailingNew::Stop() ? 1 : 0;
+    }
+    EXPECT_EQ(counts.Others(), failed);
+    EXPECT_EQ(counts.ByKeyword().count(keyword), 1 - failed);
+  }
 }
 
 TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
@@ -138,9 +180,9 @@ TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
           Blocks(Block(a, LineAt("2")) + Block(b, LineAt("3"))) + Entities(LineAt("4")),
       [&] {
         std::string names;
-        for (const auto& entry : file->layers) names += entry.first.back();
+        for (const auto& entry : Layers()) names += entry.first.back();
         names += " ";
-        for (const auto& entry : file->blocks) names += entry.first.back();
+        for (const auto& entry : file->Drawing().blocks) names += entry.first.back();
         seen.insert(names + " " + Places());
       });
   const std::set<std::string> whereItEnds = {

@@ -1,3 +1,4 @@
+#include "dxf/DxfCurves.h"
 #include "support/DxfPolylines.h"
 
 namespace hullwright {
@@ -80,7 +81,7 @@ TEST_F(Polylines, TheClosingCopyKeepsItsHeight)
 TEST_F(Polylines, TheCurveTypeIsKeptAndNotUsed)
 {
   ImportEntities(Header(Lines({{75, "6"}})) + triangle + seqEnd);
-  EXPECT_EQ(file->polylineCurveType, 6);
+  EXPECT_EQ(file->Drawing().polyline.CurveType(), 6);
   EXPECT_EQ(CountOf(0), 3U);
 }
 
@@ -116,7 +117,8 @@ TEST_F(Polylines, OnAFrozenLayerEndTheOneBefore)
 
 TEST_F(Polylines, TheirEndHasApplicationDataReadAsPairs)
 {
-  ImportEntities(Header() + triangle + Lines({{0, "SEQEND"}, {102, "{A"}, {0, "LINE"}, {10, "1"}}));
+  ImportEntities(Header() + triangle + Entity("SEQEND", {{102, "{A"}}) +
+                 Entity("LINE", {{10, "1"}}));
   EXPECT_EQ(ShapeCount(), 2U);
 }
 
@@ -130,7 +132,7 @@ TEST_F(Polylines, ControlPointsOfSplinesAreDroppedByFlagsOfExactlySixteen)
 TEST_F(Polylines, AVertexIsPairsOnlyEvenWithApplicationData)
 {
   // The brace does not hide the group behind it.
-  ImportEntities(Header() + Lines({{0, "VERTEX"}, {102, "{A"}, {10, "5"}, {102, "}"}}) + seqEnd);
+  ImportEntities(Header() + Entity("VERTEX", {{102, "{A"}, {10, "5"}, {102, "}"}}) + seqEnd);
   EXPECT_EQ(VerticesOf(0)[0][0], 5.0);
 }
 
@@ -161,7 +163,7 @@ TEST_F(Polylines, AnEndWithoutABeginningThrowsStrayVerticesAway)
 
 TEST_F(Polylines, WithoutVerticesAreEmptyShapes)
 {
-  ImportEntities(Header(Lines({{70, "1"}})) + seqEnd + Lines({{0, "LWPOLYLINE"}, {70, "1"}}));
+  ImportEntities(Header(Lines({{70, "1"}})) + seqEnd + Entity("LWPOLYLINE", {{70, "1"}}));
   ASSERT_EQ(ShapeCount(), 2U);
   EXPECT_EQ(CountOf(0), 0U);
   EXPECT_EQ(CountOf(1), 0U);
@@ -174,13 +176,13 @@ TEST_F(Polylines, AnOpenOneCrossesBlocksAndSections)
       Entities(Vertex(3, 3) + seqEnd));
   ASSERT_EQ(ShapeCount(), 1U);
   EXPECT_EQ(CountOf(0), 3U);
-  EXPECT_THAT(file->blocks.at("A")->shapes, IsEmpty());
+  EXPECT_THAT(BlockOf("A").shapes, IsEmpty());
 }
 
 TEST_F(Polylines, OfABlockGoToTheBlockThatSeesTheirEnd)
 {
   Import(Blocks(Block("A", Header() + Vertex(1, 1)) + Block("B", seqEnd)));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+  EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
 }
 
 TEST_F(Polylines, AnExtrusionTurnsTheVertices)
@@ -194,7 +196,7 @@ TEST_F(Polylines, ALightweightOneInBetweenResetsTheExtrusion)
   for (const char* name : {"seen", "frozen"}) {
     Import(LayerTable(LayerRecord("frozen", 1, 1)) +
            Entities(Header(Lines({{230, "-1"}})) + Vertex(2, 3) +
-                    Lines({{0, "LWPOLYLINE"}, {8, name}, {10, "1"}, {20, "1"}}) + seqEnd));
+                    Entity("LWPOLYLINE", {{8, name}, {10, "1"}, {20, "1"}}) + seqEnd));
     EXPECT_THAT(VerticesOf(ShapeCount() - 1), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
   }
 }
@@ -204,22 +206,21 @@ TEST_F(Polylines, ALightweightOneInBetweenResetsTheExtrusion)
 
 TEST_F(Polylines, ALightweightRectangleIsClosedByItsFirstVertex)
 {
-  ImportEntities(Lines({{0, "LWPOLYLINE"},
-                        {5, "C"},
-                        {8, "A"},
-                        {90, "4"},
-                        {70, "1"},
-                        {38, "7"},
-                        {10, "0"},
-                        {20, "0"},
-                        {10, "4"},
-                        {20, "0"},
-                        {10, "4"},
-                        {20, "3"},
-                        {10, "0"},
-                        {20, "3"},
-                        {230, "-1"},
-                        {67, "1"}}));
+  ImportEntities(Entity("LWPOLYLINE", {{5, "C"},
+                                       {8, "A"},
+                                       {90, "4"},
+                                       {70, "1"},
+                                       {38, "7"},
+                                       {10, "0"},
+                                       {20, "0"},
+                                       {10, "4"},
+                                       {20, "0"},
+                                       {10, "4"},
+                                       {20, "3"},
+                                       {10, "0"},
+                                       {20, "3"},
+                                       {230, "-1"},
+                                       {67, "1"}}));
   ASSERT_EQ(CountOf(0), 5U);
   EXPECT_EQ(VerticesOf(0).front(), VerticesOf(0).back());
   EXPECT_THAT(VerticesOf(0)[2], ElementsAre(4.0, 3.0, 0.0));
@@ -230,7 +231,7 @@ TEST_F(Polylines, ALightweightRectangleIsClosedByItsFirstVertex)
 TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
 {
   for (const auto& [flags, vertices] : {std::pair{"129", 2U}, {"128", 1U}, {"3", 2U}}) {
-    ImportEntities(Lines({{0, "LWPOLYLINE"}, {70, flags}, {10, "1"}, {20, "2"}}));
+    ImportEntities(Entity("LWPOLYLINE", {{70, flags}, {10, "1"}, {20, "2"}}));
     EXPECT_EQ(CountOf(0), vertices) << flags;
   }
 }
@@ -238,23 +239,23 @@ TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
 TEST_F(Polylines, TheWidthOfALightweightOneIsDoubledUnlessZero)
 {
   for (const auto& [width, line] : {std::pair{"2.5", 5.0F}, {"0", 1.0F}, {"-1", -2.0F}}) {
-    ImportEntities(Lines({{0, "LWPOLYLINE"}, {43, width}, {10, "1"}, {20, "2"}}));
+    ImportEntities(Entity("LWPOLYLINE", {{43, width}, {10, "1"}, {20, "2"}}));
     EXPECT_EQ(At(0).style->lineWidth, line);
   }
 }
 
 TEST_F(Polylines, CoordinatesOfALightweightOnePairUpInAnyOrder)
 {
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {20, "1"}, {10, "2"}, {20, "3"}, {10, "4"}}));
+  ImportEntities(Entity("LWPOLYLINE", {{20, "1"}, {10, "2"}, {20, "3"}, {10, "4"}}));
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(2.0, 1.0, 0.0), ElementsAre(4.0, 3.0, 0.0)));
   // A coordinate that comes twice replaces the first; one that is missing makes no vertex.
-  ImportEntities(Lines({{0, "LWPOLYLINE"}, {10, "1"}, {10, "2"}, {20, "3"}, {10, "9"}}));
+  ImportEntities(Entity("LWPOLYLINE", {{10, "1"}, {10, "2"}, {20, "3"}, {10, "9"}}));
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(2.0, 3.0, 0.0)));
 }
 
 TEST_F(Polylines, ValuesOfALightweightOneHaveTheShortLimit)
 {
-  const std::string head = Lines({{0, "LWPOLYLINE"}, {10, "1"}, {20, "1"}});
+  const std::string head = Entity("LWPOLYLINE", {{10, "1"}, {20, "1"}});
   ImportEntities(head + "999\n" + std::string(255, 'x') + "\n" + Lines({{10, "2"}, {20, "2"}}));
   EXPECT_EQ(CountOf(0), 2U);
   ImportEntities(head + "999\n" + std::string(256, 'x') + "\n" + Lines({{10, "2"}, {20, "2"}}));
@@ -264,18 +265,16 @@ TEST_F(Polylines, ValuesOfALightweightOneHaveTheShortLimit)
 TEST_F(Polylines, ALightweightOneOnAHiddenLayerIsDropped)
 {
   Import(LayerTable(LayerRecord("A", -1, 0)) +
-         Entities(Lines({{0, "LWPOLYLINE"}, {8, "A"}, {10, "1"}, {20, "2"}})));
+         Entities(Entity("LWPOLYLINE", {{8, "A"}, {10, "1"}, {20, "2"}})));
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
 TEST_F(Polylines, FlatteningEmptiesTheList)
 {
-  CFileDxf reader(&window, log);
   std::vector<CFileDxfVertex> list;
-  EXPECT_EQ(reader.FlattenVertices(list), nullptr);
+  EXPECT_EQ(FlattenVertices(list, Extrusion()), nullptr);
   list.push_back({1.0, 2.0, 3.0, 0.0, 0});
-  reader.polylineExtrusion = {0.0, 0.0, 1.0};
-  EXPECT_EQ(reader.FlattenVertices(list)->vertices.size(), 1U);
+  EXPECT_EQ(FlattenVertices(list, Extrusion())->vertices.size(), 1U);
   EXPECT_THAT(list, IsEmpty());
 }
 

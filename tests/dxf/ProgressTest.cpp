@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "dxf/DxfLines.h"
 #include "support/DxfFixture.h"
 
 namespace hullwright {
@@ -9,8 +10,7 @@ using namespace test;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::string aLine =
-    Lines({{0, "LINE"}, {8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
+const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
 class Progress : public DxfFixture {
 protected:
@@ -23,6 +23,24 @@ protected:
     window.codes.clear();
     window.values.clear();
     return percents;
+  }
+
+  /// Reads a text up to each of the places, the last of which is its end, and tells the progress
+  /// there.
+  void TellAfterEach(const std::vector<std::size_t>& places)
+  {
+    std::string text(places.back(), 'x');
+    for (const std::size_t place : places) {
+      if (place != 0) text[place - 1] = '\n';
+    }
+    DxfLines lines(text);
+    std::size_t position = 0;
+    for (const std::size_t place : places) {
+      std::string_view line;
+      EXPECT_EQ(place != position && lines.GetLine(line, DxfLines::longLine), place != position);
+      position = place;
+      lines.ReportProgress(window);
+    }
   }
 };
 
@@ -43,20 +61,14 @@ TEST_F(Progress, ProgressBeginsRisesAndEnds)
 
 TEST_F(Progress, PercentIsTruncatedAndToldOnce)
 {
-  CFileDxf& reader = Loaded(std::string(400, 'x'));
-  for (const std::int64_t position : {0, 3, 4, 7, 8, 8, 199, 400}) {
-    reader.position = position;
-    reader.ReportProgress();
-  }
+  TellAfterEach({0, 3, 4, 7, 8, 8, 199, 400});
   EXPECT_THAT(window.values, ElementsAre(1, 2, 49, 100));
 }
 
 TEST_F(Progress, PercentIsReckonedInSinglePrecision)
 {
-  CFileDxf& reader = Loaded(std::string(100, 'x'));
-  reader.position = 29;  // in double precision a hair below 29 per cent
-  reader.ReportProgress();
-  EXPECT_THAT(window.values, ElementsAre(29));
+  TellAfterEach({29, 100});  // in double precision a hair below 29 per cent
+  EXPECT_THAT(window.values, ElementsAre(29, 100));
 }
 
 TEST_F(Progress, AnImportThatFailsShowsNoProgress)

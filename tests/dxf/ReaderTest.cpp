@@ -9,59 +9,9 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string aLine =
-    Lines({{0, "LINE"}, {8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
+const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
 class Reader : public DxfFixture {};
-
-// ---------------------------------------------------------------------------------------------------
-// Lines
-
-TEST_F(Reader, GetLineGivesLineAfterLineWithoutTrimming)
-{
-  CFileDxf& reader = Loaded("  0\n\nLINE \r\nx\ry\n");
-  DxfLine line;
-  for (const std::string expected : {"  0", "", "LINE ", "x\ry"}) {
-    EXPECT_TRUE(reader.GetLine(line, 256));
-    EXPECT_EQ(line.Text(), expected);
-  }
-  EXPECT_FALSE(reader.GetLine(line, 256));
-}
-
-TEST_F(Reader, GetLineAtTheEndOfTheTextKeepsThePartOverWhatWasThere)
-{
-  CFileDxf& reader = Loaded("ENTITIES\nXY");
-  DxfLine line;
-  EXPECT_TRUE(reader.GetLine(line, 256));
-  EXPECT_FALSE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text(), "XYTITIES");
-  EXPECT_EQ(reader.position, reader.size);
-  EXPECT_FALSE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text(), "XYTITIES");
-}
-
-TEST_F(Reader, GetLineGivesUpBehindTheLastByteThatFits)
-{
-  CFileDxf& reader = Loaded(std::string(255, 'a') + "\n" + std::string(256, 'b') + "\nrest\n");
-  DxfLine line;
-  EXPECT_TRUE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text().size(), 255U);
-  EXPECT_FALSE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text(), std::string(256, 'b'));
-  EXPECT_EQ(reader.position, 256 + 256);
-  EXPECT_TRUE(reader.GetLine(line, 256));  // what is left of it: nothing but its end
-  EXPECT_EQ(line.Text(), "");
-  EXPECT_TRUE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text(), "rest");
-}
-
-TEST_F(Reader, TextEndsAtANul)
-{
-  CFileDxf& reader = Loaded(std::string("EOF\0x\n", 6));
-  DxfLine line;
-  EXPECT_TRUE(reader.GetLine(line, 256));
-  EXPECT_EQ(line.Text(), "EOF");
-}
 
 // ---------------------------------------------------------------------------------------------------
 // The file
@@ -137,7 +87,6 @@ TEST_F(Reader, WithoutAGroupTheFileIsNotWalked)
   target.shapes.reset();
   CFileDxf reader(&window, log);
   EXPECT_EQ(reader.Import(folder.Write("a.dxf", Entities(aLine)), &target), -1);
-  EXPECT_EQ(reader.ProcessEntities(), -1);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -198,7 +147,7 @@ TEST_F(Reader, EachSectionOfEntitiesTellsAllTheShapesSoFar)
 
 TEST_F(Reader, ARecordThatIsNotImportedHasItsApplicationDataReadAsPairs)
 {
-  ImportEntities(Lines({{0, "SPLINE"}, {102, "{A"}, {0, "LINE"}, {10, "1"}, {102, "}"}}));
+  ImportEntities(Entity("SPLINE", {{102, "{A"}}) + Entity("LINE", {{10, "1"}, {102, "}"}}));
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
@@ -210,7 +159,7 @@ TEST_F(Reader, NamesOfSectionsAreFoundInsideALine)
   Import("SECTION\n2\nBLOCKS TABLES ENTITIES\n" + aLine + "0\nENDSEC\n");
   EXPECT_EQ(ShapeCount(), 1U);
   Import("SECTION\n2\nBLOCKS TABLES\n0\nLAYER\n2\nA\n0\nENDSEC\n");
-  EXPECT_EQ(file->layers.size(), 1U);
+  EXPECT_EQ(Layers().size(), 1U);
 }
 
 TEST_F(Reader, ACommentWithTheWordStartsASection)
@@ -290,16 +239,16 @@ TEST_F(Reader, AValueThatIsTooLongStillCounts)
 {
   // Its first 512 bytes count, the rest of the line is read as a code.
   const std::string text(520, 'a');
-  ImportEntities(Lines({{0, "TEXT"}}) + "1\n" + text + "\n" + aLine);
+  ImportEntities(Entity("TEXT") + "1\n" + text + "\n" + aLine);
   EXPECT_EQ(At<CShapeText>(0).text.size(), 512U);
   EXPECT_EQ(ShapeCount(), 2U);
-  ImportEntities(Lines({{0, "TEXT"}}) + "1\n" + text.substr(0, 511) + "\n" + aLine);
+  ImportEntities(Entity("TEXT") + "1\n" + text.substr(0, 511) + "\n" + aLine);
   EXPECT_EQ(At<CShapeText>(0).text.size(), 511U);
 }
 
 TEST_F(Reader, ACodeThatIsNoNumberEndsTheRecord)
 {
-  ImportEntities(Lines({{0, "LINE"}, {10, "1"}}) + "abc\n20\n5\n" + aLine);
+  ImportEntities(Entity("LINE", {{10, "1"}}) + "abc\n20\n5\n" + aLine);
   ASSERT_EQ(ShapeCount(), 2U);
   EXPECT_EQ(VerticesOf(0).at(0), (std::vector<double>{1.0, 0.0, 0.0}));
 }
@@ -314,16 +263,15 @@ TEST_F(Reader, NumbersAreReadLeniently)
 
 TEST_F(Reader, ApplicationDataIsReadPastWithoutPairs)
 {
-  ImportEntities(Lines({{0, "LINE"}}) +
-                 "102\n{ACAD_REACTORS\n330\n10\n0\nnot a pair\n102\n}\n10\n3\n");
+  ImportEntities(Entity("LINE") + "102\n{ACAD_REACTORS\n330\n10\n0\nnot a pair\n102\n}\n10\n3\n");
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 3.0);
 }
 
 TEST_F(Reader, ApplicationDataEndsAtAnyLineWithABraceOrALineTooLong)
 {
-  ImportEntities(Lines({{0, "LINE"}}) + "102\n{A\nx}x\n10\n3\n");
+  ImportEntities(Entity("LINE") + "102\n{A\nx}x\n10\n3\n");
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 3.0);
-  ImportEntities(Lines({{0, "LINE"}}) + "102\n{A\n" + std::string(256, 'x') + "\n10\n4\n");
+  ImportEntities(Entity("LINE") + "102\n{A\n" + std::string(256, 'x') + "\n10\n4\n");
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 0.0);  // the empty rest of that line ends the record
 }
 

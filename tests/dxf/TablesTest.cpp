@@ -13,7 +13,7 @@ constexpr std::uint32_t green = 0x00FF00;
 
 std::string LineOn(const std::string& layer, int colour = 256)
 {
-  return Lines({{0, "LINE"}, {8, layer}, {62, std::to_string(colour)}, {11, "1"}});
+  return Entity("LINE", {{8, layer}, {62, std::to_string(colour)}, {11, "1"}});
 }
 
 class Tables : public DxfFixture {};
@@ -21,12 +21,12 @@ class Tables : public DxfFixture {};
 TEST_F(Tables, ALayerKeepsNameColourAndFlags)
 {
   Import(LayerTable(LayerRecord("Hull", 3, 5) + LayerRecord("hull", -7, 0)));
-  ASSERT_EQ(file->layers.size(), 2U);
-  const CFileDxfLayer& frozen = *file->layers.at("Hull");
+  ASSERT_EQ(Layers().size(), 2U);
+  const CFileDxfLayer& frozen = Layers().at("Hull");
   EXPECT_EQ(frozen.colour, 3);
   EXPECT_TRUE(frozen.frozen);
   EXPECT_FALSE(frozen.off);
-  const CFileDxfLayer& off = *file->layers.at("hull");
+  const CFileDxfLayer& off = Layers().at("hull");
   EXPECT_EQ(off.colour, -7);
   EXPECT_TRUE(off.off);
   EXPECT_FALSE(off.frozen);
@@ -51,7 +51,7 @@ TEST_F(Tables, EntitiesOnALayerThatIsOffOrFrozenAreLeftOut)
 TEST_F(Tables, ALayerOfColourZeroIsNotOff)
 {
   Import(LayerTable(LayerRecord("A", 0, 0)) + Entities(LineOn("A")));
-  EXPECT_FALSE(file->layers.at("A")->off);
+  EXPECT_FALSE(Layers().at("A").off);
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
@@ -71,8 +71,8 @@ TEST_F(Tables, NamesDifferByCaseAndByABlank)
 TEST_F(Tables, TheHeaderOfTheTableIsNoLayerButShowsThatThereIsATable)
 {
   Import(LayerTable("") + Entities(LineOn("A", 3) + LineOn("A")));
-  EXPECT_TRUE(file->layerTableSeen);
-  EXPECT_TRUE(file->layers.empty());
+  EXPECT_TRUE(file->Drawing().layers.LayerTableSeen());
+  EXPECT_TRUE(Layers().empty());
   EXPECT_EQ(ColourOf(1), 0U);
 }
 
@@ -82,13 +82,13 @@ TEST_F(Tables, WithoutATableTheFirstEntityMakesItsLayer)
   EXPECT_EQ(ColourOf(0), green);
   EXPECT_EQ(ColourOf(1), green);
   EXPECT_EQ(ColourOf(2), red);
-  EXPECT_EQ(file->layers.at("A")->colour, 3);
+  EXPECT_EQ(Layers().at("A").colour, 3);
 }
 
 TEST_F(Tables, AnEntityByLayerMakesABlackLayer)
 {
   ImportEntities(LineOn("A") + LineOn("A", 1) + LineOn("A"));
-  EXPECT_EQ(file->layers.at("A")->colour, 256);
+  EXPECT_EQ(Layers().at("A").colour, 256);
   EXPECT_EQ(ColourOf(2), 0U);
 }
 
@@ -96,7 +96,7 @@ TEST_F(Tables, AnImplicitLayerIsNeverHidden)
 {
   ImportEntities(LineOn("A", -3) + LineOn("A"));
   EXPECT_EQ(ShapeCount(), 2U);
-  EXPECT_FALSE(file->layers.at("A")->off);
+  EXPECT_FALSE(Layers().at("A").off);
   EXPECT_EQ(ColourOf(0), 0U);
 }
 
@@ -111,7 +111,7 @@ TEST_F(Tables, EntitiesBeforeTheTableSeeNoLayers)
 TEST_F(Tables, AnyLineThatBeginsWithTheWordStartsARecord)
 {
   Import(Section("TABLES", "LAYERED\n2\nA\n62\n1\n0\n xLAYER\n2\nB\n") + Entities(LineOn("A")));
-  EXPECT_EQ(file->layers.size(), 1U);
+  EXPECT_EQ(Layers().size(), 1U);
   EXPECT_EQ(ColourOf(0), red);
 }
 
@@ -125,23 +125,18 @@ TEST_F(Tables, ValuesOfALayerHaveTheShortLimit)
 {
   const std::string name(255, 'n');
   Import(LayerTable(LayerRecord(name, 1, 0)));
-  EXPECT_TRUE(file->layers.contains(name));
+  EXPECT_TRUE(Layers().contains(name));
   // One byte more: the value counts as it stands, and its empty rest ends the record.
   Import(LayerTable(LayerRecord(name + "n", 1, 0)));
-  EXPECT_EQ(file->layers.at(name + "n")->colour, 0);
+  EXPECT_EQ(Layers().at(name + "n").colour, 0);
 }
 
 TEST_F(Tables, OtherGroupsOfALayerPlayNoPart)
 {
-  Import(LayerTable(Lines({{0, "LAYER"},
-                           {5, "1F"},
-                           {102, "{A"},
-                           {2, "A"},
-                           {290, "0"},
-                           {62, "1"},
-                           {6, "CONTINUOUS"},
-                           {370, "-3"}})));
-  EXPECT_EQ(file->layers.at("A")->colour, 1);
+  Import(LayerTable(Entity(
+      "LAYER",
+      {{5, "1F"}, {102, "{A"}, {2, "A"}, {290, "0"}, {62, "1"}, {6, "CONTINUOUS"}, {370, "-3"}})));
+  EXPECT_EQ(Layers().at("A").colour, 1);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -151,17 +146,16 @@ class BlockTable : public DxfFixture {};
 
 TEST_F(BlockTable, ABlockKeepsItsHeaderAndItsShapes)
 {
-  Import(Blocks(Lines({{0, "BLOCK"},
-                       {5, "2A"},
-                       {8, "Deck"},
-                       {2, "Bollard"},
-                       {70, "0"},
-                       {10, "4"},
-                       {20, "5"},
-                       {30, "6"},
-                       {62, "3"}}) +
-                LineOn("A") + LineOn("B") + Lines({{0, "ENDBLK"}})));
-  const CFileDxfBlock& block = *file->blocks.at("Bollard");
+  Import(Blocks(Entity("BLOCK", {{5, "2A"},
+                                 {8, "Deck"},
+                                 {2, "Bollard"},
+                                 {70, "0"},
+                                 {10, "4"},
+                                 {20, "5"},
+                                 {30, "6"},
+                                 {62, "3"}}) +
+                LineOn("A") + LineOn("B") + Entity("ENDBLK")));
+  const CFileDxfBlock& block = BlockOf("Bollard");
   EXPECT_EQ(block.name, "Bollard");
   EXPECT_EQ(block.handle, "2A");
   EXPECT_EQ(block.layerName, "Deck");
@@ -175,19 +169,19 @@ TEST_F(BlockTable, ABlockKeepsItsHeaderAndItsShapes)
 TEST_F(BlockTable, TheFirstBlockOfANameStays)
 {
   Import(Blocks(Block("B", LineOn("A")) + Block("B", LineOn("A") + LineOn("A"))));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+  EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
   EXPECT_THAT(log.records, Contains(HasSubstr("cached 1 blocks.")));
 }
 
 TEST_F(BlockTable, PaperSpaceIsNotKeptButModelSpaceAndTheNamelessAre)
 {
-  Import(Blocks(Lines({{0, "BLOCK"}, {67, "1"}, {2, "*Paper_Space"}, {0, "ENDBLK"}}) +
-                Lines({{0, "BLOCK"}, {67, "3"}, {2, "*Model_Space"}, {0, "ENDBLK"}}) +
-                Lines({{0, "BLOCK"}, {2, "*U1"}, {0, "ENDBLK"}}) +
-                Lines({{0, "BLOCK"}, {70, "1"}, {0, "ENDBLK"}})));
-  EXPECT_EQ(file->blocks.size(), 3U);
-  EXPECT_TRUE(file->blocks.contains(""));
-  EXPECT_FALSE(file->blocks.contains("*Paper_Space"));
+  Import(Blocks(Entity("BLOCK", {{67, "1"}, {2, "*Paper_Space"}}) + Entity("ENDBLK") +
+                Entity("BLOCK", {{67, "3"}, {2, "*Model_Space"}}) + Entity("ENDBLK") +
+                Entity("BLOCK", {{2, "*U1"}}) + Entity("ENDBLK") + Entity("BLOCK", {{70, "1"}}) +
+                Entity("ENDBLK")));
+  EXPECT_EQ(file->Drawing().blocks.size(), 3U);
+  EXPECT_TRUE(file->Drawing().blocks.contains(""));
+  EXPECT_FALSE(file->Drawing().blocks.contains("*Paper_Space"));
 }
 
 /// Whether a keyword starts a reader inside a block: its pair of one blind group swallows the line
@@ -199,7 +193,7 @@ struct KeywordCase {
 
 class EachKeyword : public DxfFixture, public testing::WithParamInterface<KeywordCase> {
 protected:
-  static std::string Trap() { return Lines({{0, GetParam().word}, {1000, "LINE"}}); }
+  static std::string Trap() { return Entity(GetParam().word, {{1000, "LINE"}}); }
 };
 
 TEST_P(EachKeyword, OfTheEntitiesKeepsItsPairsTogether)
@@ -214,7 +208,7 @@ TEST_P(EachKeyword, OfTheEntitiesKeepsItsPairsTogether)
 TEST_P(EachKeyword, InABlockIsKnownOrWalkedLineByLine)
 {
   Import(Blocks(Block("B", Trap())));
-  const auto& shapes = file->blocks.at("B")->shapes;
+  const auto& shapes = BlockOf("B").shapes;
   const bool trapped = !shapes.empty() && shapes.back()->type == ShapeType::Polyline &&
                        shapes.back()->vertices.size() == 2 &&
                        std::string(GetParam().word) != "LINE";
@@ -237,56 +231,55 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(BlockTable, AnEllipseInABlockIsLost)
 {
-  const std::string ellipse =
-      Lines({{0, "ELLIPSE"}, {11, "5"}, {40, "1"}, {42, "6.283185307179586"}});
+  const std::string ellipse = Entity("ELLIPSE", {{11, "5"}, {40, "1"}, {42, "6.283185307179586"}});
   Import(Blocks(Block("B", ellipse)) + Entities(ellipse));
-  EXPECT_TRUE(file->blocks.at("B")->shapes.empty());
+  EXPECT_TRUE(BlockOf("B").shapes.empty());
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
 TEST_F(BlockTable, AnyLineWithTheWordEndsABlock)
 {
-  Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}}) + LineOn("A") + "0\nxENDBLKx\n" + LineOn("A")));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+  Import(Blocks(Entity("BLOCK", {{2, "B"}}) + LineOn("A") + "0\nxENDBLKx\n" + LineOn("A")));
+  EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
 }
 
 TEST_F(BlockTable, TheEndOfASectionDoesNotEndABlock)
 {
   Import(Blocks(Block("B", LineOn("A") + "0\nENDSEC\n" + LineOn("A"))));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 2U);
+  EXPECT_EQ(BlockOf("B").shapes.size(), 2U);
 }
 
 TEST_F(BlockTable, ItsHeaderReadsApplicationDataAsPairs)
 {
-  Import(Blocks(Lines({{0, "BLOCK"}, {2, "B"}, {102, "{X"}, {2, "C"}, {102, "}"}, {0, "ENDBLK"}})));
-  EXPECT_TRUE(file->blocks.contains("C"));
+  Import(Blocks(Entity("BLOCK", {{2, "B"}, {102, "{X"}, {2, "C"}, {102, "}"}}) + Entity("ENDBLK")));
+  EXPECT_TRUE(file->Drawing().blocks.contains("C"));
 }
 
 TEST_F(BlockTable, AnyLineThatBeginsWithTheWordStartsABlock)
 {
   Import(Section("BLOCKS", "BLOCK_X\n2\nB\n0\nENDBLK\n"));
-  EXPECT_TRUE(file->blocks.contains("B"));
+  EXPECT_TRUE(file->Drawing().blocks.contains("B"));
 }
 
 TEST_F(BlockTable, ABlockThatTheTextEndsInIsKept)
 {
   Import("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n" + LineOn("A"));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+  EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
   EXPECT_THAT(log.records, Contains(HasSubstr("cached 1 blocks.")));
 }
 
 TEST_F(BlockTable, ABlockOnAFrozenLayerStillHasItsShapes)
 {
   Import(LayerTable(LayerRecord("frozen", 1, 1)) +
-         Blocks(Lines({{0, "BLOCK"}, {8, "frozen"}, {2, "B"}}) + LineOn("A") + LineOn("frozen") +
-                Lines({{0, "ENDBLK"}})));
-  EXPECT_EQ(file->blocks.at("B")->shapes.size(), 1U);
+         Blocks(Entity("BLOCK", {{8, "frozen"}, {2, "B"}}) + LineOn("A") + LineOn("frozen") +
+                Entity("ENDBLK")));
+  EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
 }
 
 TEST_F(BlockTable, NothingIsLeftForTheNextImport)
 {
   Import(LayerTable(LayerRecord("A", 1, 0)) + Blocks(Block("B", LineOn("A"))));
-  ImportEntities(LineOn("A") + Lines({{0, "INSERT"}, {2, "B"}}));
+  ImportEntities(LineOn("A") + Entity("INSERT", {{2, "B"}}));
   EXPECT_EQ(ShapeCount(), 1U);
   EXPECT_EQ(ColourOf(0), 0U);
 }

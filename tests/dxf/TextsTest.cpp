@@ -13,7 +13,7 @@ protected:
   /// The label that a text entity of these groups gives.
   const CShapeText& Label(const char* keyword, Pairs pairs)
   {
-    ImportEntities(Lines({{0, keyword}}) + Lines(pairs));
+    ImportEntities(Entity(keyword) + Lines(pairs));
     return At<CShapeText>(0);
   }
 };
@@ -101,11 +101,11 @@ TEST_F(Texts, AnAttributeIsDroppedByTheLowestBitOfItsFlags)
 {
   for (const char* keyword : {"ATTRIB", "ATTDEF"}) {
     for (const auto& [flags, shapes] : {std::pair{"1", 0U}, {"8", 1U}, {"9", 0U}, {"0", 1U}}) {
-      ImportEntities(Lines({{0, keyword}, {1, "x"}, {70, flags}}));
+      ImportEntities(Entity(keyword, {{1, "x"}, {70, flags}}));
       EXPECT_EQ(ShapeCount(), shapes) << keyword << flags;
     }
   }
-  ImportEntities(Lines({{0, "TEXT"}, {1, "x"}, {70, "1"}}));
+  ImportEntities(Entity("TEXT", {{1, "x"}, {70, "1"}}));
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
@@ -117,8 +117,8 @@ TEST_F(Texts, TagAndPromptOfADefinitionAreNotRead)
 TEST_F(Texts, OnAHiddenLayerOrInPaperSpaceAreLeftOut)
 {
   Import(LayerTable(LayerRecord("off", -1, 0)) +
-         Entities(
-             Lines({{0, "TEXT"}, {8, "off"}, {0, "MTEXT"}, {67, "1"}, {0, "ATTRIB"}, {8, "off"}})));
+         Entities(Entity("TEXT", {{8, "off"}}) + Entity("MTEXT", {{67, "1"}}) +
+                  Entity("ATTRIB", {{8, "off"}})));
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
@@ -130,7 +130,7 @@ TEST_F(Texts, AreReadAsUtf8WithReplacements)
 
 TEST_F(Texts, WithoutTextAreEmptyShapes)
 {
-  ImportEntities(Lines({{0, "TEXT"}, {8, "A"}, {0, "MTEXT"}, {1, "\\L"}}));
+  ImportEntities(Entity("TEXT", {{8, "A"}}) + Entity("MTEXT", {{1, "\\L"}}));
   EXPECT_EQ(ShapeCount(), 2U);
   EXPECT_TRUE(At<CShapeText>(1).text.empty());
 }
@@ -160,8 +160,8 @@ TEST_F(Texts, ATrueColourCountsLastAndIsTakenToTheNearestIndex)
 
 TEST_F(Texts, IndexByLayerInATextLooksForTheLayerWithoutAName)
 {
-  Import(Entities(Lines({{0, "LINE"}, {62, "3"}}) +
-                  Lines({{0, "TEXT"}, {8, "A"}, {62, "1"}, {1, "\\C256;X"}})));
+  Import(Entities(Entity("LINE", {{62, "3"}}) +
+                  Entity("TEXT", {{8, "A"}, {62, "1"}, {1, "\\C256;X"}})));
   EXPECT_EQ(ColourOf(1), 0x00FF00U);
   Label("TEXT", {{8, "A"}, {62, "1"}, {1, "\\C256;X"}});
   EXPECT_EQ(ColourOf(0), 0U);
@@ -177,15 +177,15 @@ TEST_F(Texts, IndexByLayerInATextFindsTheLayerThatTheTextItselfHasMade)
 
 TEST_F(Texts, IndexByLayerInATextFindsTheNamelessLayerOfAnEarlierOne)
 {
-  ImportEntities(Lines({{0, "TEXT"}, {62, "3"}, {1, "first"}}) +
-                 Lines({{0, "MTEXT"}, {8, "A"}, {62, "1"}, {1, "\\C256;X"}}));
+  ImportEntities(Entity("TEXT", {{62, "3"}, {1, "first"}}) +
+                 Entity("MTEXT", {{8, "A"}, {62, "1"}, {1, "\\C256;X"}}));
   EXPECT_EQ(ColourOf(1), 0x00FF00U);
 }
 
 TEST_F(Texts, TheLayerOfATextGetsTheColourOfTheEntityNotOfTheCode)
 {
   Label("TEXT", {{8, "A"}, {62, "3"}, {1, "\\C1;X"}});
-  EXPECT_EQ(file->layers.at("A")->colour, 3);
+  EXPECT_EQ(Layers().at("A").colour, 3);
 }
 
 }  // namespace

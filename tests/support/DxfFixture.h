@@ -43,10 +43,16 @@ inline std::string Lines(Pairs pairs)
   return text;
 }
 
+/// One record of a drawing.
+inline std::string Entity(const std::string& keyword, Pairs groups = {})
+{
+  return Lines({{0, keyword}}) + Lines(groups);
+}
+
 /// A section around its records, each of which begins with a group 0.
 inline std::string Section(const std::string& name, const std::string& records)
 {
-  return "0\nSECTION\n2\n" + name + "\n" + records + "0\nENDSEC\n";
+  return Lines({{0, "SECTION"}, {2, name}}) + records + Lines({{0, "ENDSEC"}});
 }
 
 inline std::string Entities(const std::string& records) { return Section("ENTITIES", records); }
@@ -54,19 +60,17 @@ inline std::string Entities(const std::string& records) { return Section("ENTITI
 /// One layer of the table.
 inline std::string LayerRecord(const std::string& name, int colour, int flags)
 {
-  return Lines(
-      {{0, "LAYER"}, {2, name}, {70, std::to_string(flags)}, {62, std::to_string(colour)}});
+  return Entity("LAYER", {{2, name}, {70, std::to_string(flags)}, {62, std::to_string(colour)}});
 }
 
 inline std::string LayerTable(const std::string& records)
 {
-  return Section("TABLES",
-                 Lines({{0, "TABLE"}, {2, "LAYER"}, {70, "3"}}) + records + Lines({{0, "ENDTAB"}}));
+  return Section("TABLES", Entity("TABLE", {{2, "LAYER"}, {70, "3"}}) + records + Entity("ENDTAB"));
 }
 
 inline std::string Block(const std::string& name, const std::string& records)
 {
-  return Lines({{0, "BLOCK"}, {8, "0"}, {2, name}}) + records + Lines({{0, "ENDBLK"}, {8, "0"}});
+  return Entity("BLOCK", {{8, "0"}, {2, name}}) + records + Entity("ENDBLK", {{8, "0"}});
 }
 
 inline std::string Blocks(const std::string& blocks) { return Section("BLOCKS", blocks); }
@@ -76,23 +80,23 @@ inline constexpr const char* endOfFile = "0\nEOF\n";
 /// Imports drawings that a test writes, and looks at what they give.
 class DxfFixture : public testing::Test {
 protected:
-  int Import(const std::string& text)
+  int Import(const std::string& text, const DxfOptions& options = {})
   {
     layer = std::make_unique<CLayer>();
-    file = std::make_unique<CFileDxf>(&window, log);
+    file = std::make_unique<CFileDxf>(&window, log, options);
     return file->Import(folder.Write("drawing.dxf", text), layer.get());
-  }
-
-  /// Loads text without walking it.
-  CFileDxf& Loaded(const std::string& text)
-  {
-    file = std::make_unique<CFileDxf>(&window, log);
-    EXPECT_EQ(file->Load(folder.Write("lines.dxf", text)), 0);
-    return *file;
   }
 
   /// Imports the records as the only section.
   void ImportEntities(const std::string& records) { ASSERT_EQ(Import(Entities(records)), 0); }
+
+  const ImportTally& Tally() const { return file->Tally(); }
+  const DxfLayers::Map& Layers() const { return file->Drawing().layers.All(); }
+
+  const CFileDxfBlock& BlockOf(const std::string& name) const
+  {
+    return *file->Drawing().blocks.at(name);
+  }
 
   std::size_t ShapeCount() const { return layer->shapes->shapes.size(); }
 

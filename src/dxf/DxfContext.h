@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "dxf/CopyBudget.h"
+#include "dxf/DxfLayers.h"
+#include "dxf/FileDxfBlock.h"
+#include "dxf/ImportTally.h"
+#include "dxf/OpenPolyline.h"
+#include "platform/Trace.h"
+
+namespace hullwright {
+
+/// How a drawing is read.
+struct DxfOptions {
+  std::int64_t copyBudget = std::int64_t{1} << 30;  ///< bytes for the copies of inserted shapes
+  bool ignoreExtrusion = false;                     ///< takes points as they are
+};
+
+/// The blocks of a drawing by their names, which are compared byte by byte.
+using DxfBlocks = std::map<std::string, std::unique_ptr<CFileDxfBlock>, std::less<>>;
+
+/// What a drawing has told so far, for the readers of its records.
+struct DxfContext {
+  DxfContext(const ITrace& trace, const DxfOptions& options)
+      : log(trace), copyBudget(options.copyBudget), ignoreExtrusion(options.ignoreExtrusion)
+  {
+  }
+
+  const ITrace& log;
+  DxfLayers layers;
+  DxfBlocks blocks;
+  OpenPolyline polyline;
+  CopyBudget copyBudget;
+  ImportTally tally;
+  const bool ignoreExtrusion;
+};
+
+}  // namespace hullwright

@@ -1,0 +1,108 @@
+#include "dxf/DxfKeywords.h"
+
+#include <algorithm>
+#include <array>
+#include <new>
+
+#include "dxf/DxfReaders.h"
+
+namespace hullwright {
+namespace {
+
+/// Takes a record of a keyword in; null passes it over.
+using Reader = void (*)(DxfLines& lines, DxfContext& context, CShapes& target);
+
+struct Keyword {
+  std::string_view word;
+  bool inBlocks;
+  Reader read;
+};
+
+constexpr Reader skipped = nullptr;
+
+/// Null for a line that starts no reader: its record is walked line by line.
+const Keyword* FindKeyword(std::string_view line, DxfPlace place)
+{
+  static constexpr auto keywords = std::to_array<Keyword>({
+      {"VERTEX", true, ReadVertex},
+      {"SPLINE", false, skipped},
+      {"LWPOLYLINE", true, ReadLwPolyline},
+      {"POLYLINE", true, ReadPolyline},
+      {"MTEXT", true, ReadMText},
+      {"ELLIPSE", false, ReadEllipse},
+      {"TEXT", true, ReadText},
+      {"SOLID", true, ReadSolid},
+      {"POINT", true, ReadPoint},
+      {"LINE", true, ReadLine},
+      {"ARC", true, ReadArc},
+      {"CIRCLE", true, ReadCircle},
+      {"SEQEND", true, ReadSeqEnd},
+      {"HATCH", true, skipped},
+      {"INSERT", true, ReadInsert},
+      {"ATTRIB", true, ReadAttribute},
+      {"ATTDEF", true, ReadAttribute},
+      {"3DFACE", true, Read3DFace},
+      {"VIEWPORT", true, skipped},
+      {"LEADER", true, skipped},
+      {"WIPEOUT", false, skipped},
+      {"MULTILEADER", false, skipped},
+      {"DIMENSION", true, skipped},
+      {"ARC_DIMENSION", false, skipped},
+      {"OLE2FRAME", false, skipped},
+      {"IMAGE", false, skipped},
+  });
+  const auto* const found = std::ranges::find(keywords, line, &Keyword::word);
+  if (found == keywords.end()) return nullptr;
+  return place == DxfPlace::Block && !found->inBlocks ? nullptr : found;
+}
+
+bool IsRead(const Keyword* keyword) { return keyword != nullptr && keyword->read != skipped; }
+
+/// Takes a line of the walk, with its record if it starts a reader.
+void TakeLine(std::string_view line, DxfPlace place, DxfLines& lines, DxfContext& context,
+              CShapes& target)
+{
+  const Keyword* const keyword = FindKeyword(line, place);
+  if (IsRead(keyword)) {
+    keyword->read(lines, context, target);
+  } else if (keyword != nullptr) {
+    lines.SkipEntity();
+  }
+}
+
+/// Counts a record by its keyword.
+void CountKeyword(std::string_view line, DxfPlace place, ImportTally& tally)
+{
+  if (place == DxfPlace::Section) tally.entities.Count(Trimmed(line));
+  if (!IsRead(FindKeyword(line, place))) tally.ignored.Count(Trimmed(line));
+}
+
+}  // namespace
+
+bool ReadNextEntity(DxfLines& lines, DxfContext& context, DxfPlace place, CShapes& target)
+{
+  // A record without a reader is walked line by line, codes and values alike, and a value that
+  // reads like a keyword starts a reader there; only a line behind a code 0 is counted as one.
+  const bool isKeyword = lines.IsAtKeyword();
+  std::string_view line;
+  if (!lines.GetLine(line, DxfLines::shortLine)) {
+    if (!lines.IsAtEnd()) ++context.tally.cutParts;
+    return false;
+  }
+  if (Contains(line, place == DxfPlace::Section ? "ENDSEC" : "ENDBLK")) return false;
+  if (isKeyword) CountKeyword(line, place, context.tally);
+  try {
+    TakeLine(line, place, lines, context, target);
+  } catch (const std::bad_alloc&) {
+    // There is no memory for this entity; the next one may be smaller.
+    ++context.tally.withoutMemory;
+  }
+  return true;
+}
+
+bool IsImported(std::string_view keyword)
+{
+  return IsRead(FindKeyword(keyword, DxfPlace::Section));
+}
+
+}  // namespace hullwright

@@ -1,0 +1,73 @@
+#include "dxf/DxfShapes.h"
+
+#include <utility>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "dxf/ColourTable.h"
+
+namespace hullwright {
+
+bool IsLeftOut(const DxfEntity& entity, DxfContext& context)
+{
+  if (!entity.IsInPaperSpace()) return IsOnHiddenLayer(entity, context);
+  ++context.tally.inPaperSpace;
+  return true;
+}
+
+bool IsOnHiddenLayer(const DxfEntity& entity, DxfContext& context)
+{
+  if (!context.layers.IsLayerHidden(entity.LayerName())) return false;
+  ++context.tally.onHiddenLayers;
+  return true;
+}
+
+bool ReadEntity(DxfLines& lines, DxfContext& context, DxfEntity& entity)
+{
+  ReadGroups(lines, entity);
+  return !IsLeftOut(entity, context);
+}
+
+Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context)
+{
+  return context.ignoreExtrusion ? Extrusion() : Extrusion(normal);
+}
+
+void Mark(CShape& shape, std::u16string_view name, std::u16string_view value)
+{
+  if (!shape.attributes) shape.attributes = std::make_unique<CShapeAttributes>();
+  shape.attributes->Append(name, value);
+}
+
+void Identify(CShape& shape, const DxfEntity& entity)
+{
+  constexpr int hexadecimal = 16;
+  shape.tag = ParseInt32(entity.Handle(), hexadecimal);
+  Mark(shape, u"LAYER", WideFromAnsi(entity.LayerName()));
+  Mark(shape, u"HANDLE", WideFromAnsi(entity.Handle()));
+}
+
+void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
+                   std::int32_t colour)
+{
+  if (!shape.style) shape.style = std::make_unique<ShapeStyle>();
+  const std::int32_t index = colour == colourByLayer ? layers.ColourOf(layerName) : colour;
+  shape.style->lineColour = ColourOfIndex(index);
+  shape.style->fillColour = shape.style->lineColour;
+}
+
+void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context)
+{
+  ResolveColour(shape, context.layers, entity.LayerName(), entity.Colour());
+  context.layers.AddImplicitLayer(entity.LayerName(), entity.Colour());
+}
+
+void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, DxfContext& context,
+              CShapes& target)
+{
+  Identify(*shape, entity);
+  Colour(*shape, entity, context);
+  target.shapes.push_back(std::move(shape));
+}
+
+}  // namespace hullwright

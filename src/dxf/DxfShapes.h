@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "dxf/DxfContext.h"
+#include "dxf/DxfEntity.h"
+#include "dxf/DxfLines.h"
+#include "dxf/Extrusion.h"
+#include "model/Shapes.h"
+
+/// What all readers of entities do between the groups and the shape.
+namespace hullwright {
+
+/// Whether an entity is in paper space or on a hidden layer, which is counted.
+bool IsLeftOut(const DxfEntity& entity, DxfContext& context);
+bool IsOnHiddenLayer(const DxfEntity& entity, DxfContext& context);
+
+/// Reads the groups of an entity; false for one that is left out.
+bool ReadEntity(DxfLines& lines, DxfContext& context, DxfEntity& entity);
+
+/// The way into the world along an extrusion direction.
+Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context);
+
+/// Appends an attribute.
+void Mark(CShape& shape, std::u16string_view name, std::u16string_view value);
+
+/// Gives a shape the layer and the handle of its entity, as attributes, and the handle as its tag.
+void Identify(CShape& shape, const DxfEntity& entity);
+
+/// Gives a shape the colour of an index; that by layer stands for the colour of the layer.
+void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
+                   std::int32_t colour);
+
+/// Gives a shape the colour of its entity, and the entity a layer.
+void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context);
+
+/// Identifies and colours a shape and appends it to `target`.
+void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, DxfContext& context,
+              CShapes& target);
+
+}  // namespace hullwright
