@@ -119,19 +119,20 @@ void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& a
 {
   std::string text;
   for (const auto& [key, value] : attributes) text += AttributeText(key, value);
-  const std::string tag = Utf8FromWide(name);
   if (body.empty()) {
-    WriteEmptyElementText(tag, text);
+    WriteEmptyElementText(name, text);
     return;
   }
+  const std::string tag = Utf8FromWide(name);
   const std::string content = Escape(body);
   WriteLine(elementMargin + text.size() + content.size(),
             Joined({"<", tag, " ", text, ">", content, "</", tag, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view attributeText)
+void CFileSax::WriteEmptyElementText(std::u16string_view name, std::string_view attributeText)
 {
-  WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
+  WriteLine(elementMargin + attributeText.size(),
+            Joined({"<", Utf8FromWide(name), " ", attributeText, "/>\n"}));
 }
 
 bool CFileSax::WriteLine(std::size_t margin, std::string_view line)

@@ -91,7 +91,7 @@ protected:
   virtual void* Reallocate(void* block, std::size_t size);
 
   /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
-  void WriteEmptyElementText(std::string_view name, std::string_view attributeText);
+  void WriteEmptyElementText(std::u16string_view name, std::string_view attributeText);
 
 private:
   struct FreeBlock {
