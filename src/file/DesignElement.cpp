@@ -25,7 +25,10 @@ void ReadValue(Value& value, ValueFormat format, std::u16string_view text)
 }
 
 // A text ends at a NUL, which no XML text can hold.
-std::u16string ValueText(const std::u16string& value, ValueFormat) { return value.c_str(); }
+std::u16string ValueText(const std::u16string& value, ValueFormat)
+{
+  return value.substr(0, value.find(u'\0'));
+}
 
 template <class Value>
 std::u16string ValueText(Value value, ValueFormat format)

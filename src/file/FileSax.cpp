@@ -70,6 +70,13 @@ std::u16string Describe(const ReadError& error)
          error.message;
 }
 
+std::u16string DescribeBriefly(const ReadError& error)
+{
+  if (error.line == 0) return error.message;
+  return WideFromAscii(std::to_string(error.line) + ":" + std::to_string(error.column) + ": ") +
+         error.message;
+}
+
 void CFileSax::ResetOutput()
 {
   indent = 0;

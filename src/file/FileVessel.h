@@ -44,6 +44,13 @@ public:
   std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
   OwnedArray<CShapes>* groups = nullptr;  ///< set before reading
 
+protected:
+  /// The anchor being read; null outside any.
+  const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
+
+  /// The element that started or ended last.
+  const std::u16string& LastElement() const { return element_; }
+
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
   /// state from any other.
@@ -56,7 +63,7 @@ private:
   void WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex);
   void WriteAnchor(const CAnchor& anchor);
 
-  std::u16string element_;  ///< the element that started or ended last
+  std::u16string element_;
   State state_ = State::Start;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;

@@ -81,6 +81,7 @@ void CHullwrightDoc::DeleteContents()
 
 bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
+  openError_ = {};
   errno = 0;
   if (!OpenToRead(path)) {
     openProblem_ = Reason(errno, "It is not a file");
@@ -95,8 +96,9 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
   file.anchors->Clear();
   file.groups = &design_.shapeGroups;
   if (file.Read(path) != 0) {
-    openProblem_ = Describe(file.LastReadError());
-    if (openProblem_.empty()) openProblem_ = Reason(0, "It can't be read");
+    openError_ = file.LastReadError();
+    if (openError_.message.empty()) openError_.message = Reason(0, "It can't be read");
+    openProblem_ = Describe(openError_);
     return false;
   }
   ForEachOffset(file, design_, [](const CShapeVertex& inFile, CShapeVertex& inDesign) {
