@@ -1,11 +1,8 @@
 #include "app/FiniteNumbers.h"
 
-#include <cmath>
-#include <initializer_list>
-#include <utility>
-
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "file/DesignNumbers.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -18,63 +15,30 @@ std::string SideName(std::int32_t viewCode)
                                    : "view " + FormatHex(static_cast<std::uint32_t>(viewCode), 2);
 }
 
-/// Gathers what is found; the place is made for the first one alone.
-class Finder {
-public:
-  template <class Place>
-  void Look(std::initializer_list<double> numbers, Place place)
-  {
-    for (const double number : numbers) {
-      if (std::isfinite(number)) continue;
-      if (found.count++ == 0) found.first = WideFromAscii(place());
-    }
-  }
-
-  NonFiniteNumbers found;
-};
-
-void LookThrough(const CShapes& group, Finder& finder)
+/// What the offset of an element is called.
+std::string OffsetName(const DesignElement& element)
 {
-  std::size_t polyline = 0;
-  for (const auto& shape : group.shapes) {
-    if (!shape) break;
-    if (shape->type != ShapeType::Polyline) continue;
-    ++polyline;
-    std::size_t point = 0;
-    for (const auto& vertex : shape->vertices) {
-      if (!vertex) break;
-      ++point;
-      finder.Look({vertex->x, vertex->y, vertex->z}, [&] {
-        return "polyline " + std::to_string(polyline) + " (" + SideName(group.viewCode) +
-               "), point " + std::to_string(point);
-      });
-    }
-  }
+  if (element.name == u"gps") return "GNSS antenna offset";
+  return element.name == u"txd" ? "transducer offset" : "pivot point offset";
+}
+
+std::string Place(const DesignNumber& number)
+{
+  if (number.anchor != nullptr) return "anchor #" + std::to_string(number.anchor->id);
+  if (number.group == nullptr) return OffsetName(number.element);
+  return "polyline " + std::to_string(number.polylineNumber) + " (" +
+         SideName(number.group->viewCode) + "), point " + std::to_string(number.vertexNumber);
 }
 
 }  // namespace
 
 NonFiniteNumbers FindNonFiniteNumbers(const DesignState& design)
 {
-  Finder finder;
-  for (const auto& group : design.shapeGroups) {
-    if (!group) break;
-    LookThrough(*group, finder);
-  }
-  const std::initializer_list<std::pair<const CShapeVertex*, const char*>> offsets = {
-      {design.offsetGps.get(), "GNSS antenna offset"},
-      {design.offsetTransducer.get(), "transducer offset"},
-      {design.offsetPivot.get(), "pivot point offset"}};
-  for (const auto& [offset, name] : offsets) {
-    if (offset != nullptr) {
-      finder.Look({offset->x, offset->y, offset->z}, [name = name] { return std::string(name); });
-    }
-  }
-  ForEachEntry(design.anchors->items, [&](const CAnchor& anchor) {
-    finder.Look({anchor.attachmentX, anchor.attachmentY},
-                [&] { return "anchor #" + std::to_string(anchor.id); });
+  NonFiniteNumbers found;
+  ForEachNonFiniteNumber(design, [&found](const DesignNumber& number) {
+    if (found.count++ == 0) found.first = WideFromAscii(Place(number));
   });
-  return finder.found;
+  return found;
 }
 
 std::u16string Describe(const NonFiniteNumbers& numbers)

@@ -4,10 +4,10 @@
 
 #include "base/Text.h"
 #include "cli/CommandLine.h"
-#include "cli/DesignCheck.h"
 #include "cli/DesignFindings.h"
 #include "cli/Files.h"
 #include "cli/HeadlessEditor.h"
+#include "file/SaveLosses.h"
 
 namespace hullwright {
 namespace {
@@ -28,7 +28,7 @@ int Check(const std::string& word)
   const InputFile input(word);
   const std::string problem = input.Problem();
   KeptMessages messages;
-  CDesignCheck check(messages);
+  CSaveLosses losses(messages);
   if (!problem.empty()) {
     Fail(problem);
     return exitUnreadable;
@@ -39,8 +39,8 @@ int Check(const std::string& word)
   }
   const std::u16string path = WideFromUtf8(input.Path());
   HeadlessEditor editor;
-  if (check.Read(path) != 0) {
-    Fail(input.Name() + ":" + check.Problem());
+  if (losses.Read(path) != 0) {
+    Fail(input.Name() + ":" + Utf8FromWide(DescribeBriefly(losses.LastReadError())));
     return exitUnreadable;
   }
   if (!editor.Open(path)) {
@@ -49,7 +49,7 @@ int Check(const std::string& word)
   }
   int status = 0;
   for (const auto& findings :
-       {check.Findings(), UnitFindings(editor.App()), NumberFindings(editor.App())}) {
+       {LossFindings(losses), UnitFindings(editor.App()), NumberFindings(editor.App())}) {
     for (const std::string& finding : findings) {
       std::printf("%s: %s\n", input.Name().c_str(), finding.c_str());
       status = exitFailed;

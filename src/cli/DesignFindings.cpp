@@ -1,53 +1,121 @@
 #include "cli/DesignFindings.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <initializer_list>
-#include <map>
-#include <utility>
+#include <string_view>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "file/DesignNumbers.h"
 #include "model/Units.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
 
-using Numbers = std::initializer_list<std::pair<const char*, double>>;
+/// How the place of a loss is told.
+enum class Example {
+  Element,             ///< <name>
+  ElementInParent,     ///< <name> in <anchor>
+  ElementAndText,      ///< <id> x7
+  Text,                ///< "text"
+  TextInElement,       ///< "text" in <name>
+  Attribute,           ///< view="03"
+  AttributeOfElement,  ///< colour="1" of <vertex>
+  Saved,               ///< x of <vertex>="1.2345", saved as 1.234
+};
 
-/// Adds those of the numbers of one place that are not finite.
-void AddNotFinite(std::vector<std::string>& findings, const std::string& place, Numbers numbers)
+struct LossWords {
+  LossKind kind;
+  const char* words;
+  Example example;
+};
+
+/// In the order in which they are told.
+constexpr auto lossWords = std::to_array<LossWords>({
+    {LossKind::GroupBehindOneOfAllSides,
+     "a group of all sides hides groups behind it; they are never seen", Example::Attribute},
+    {LossKind::UnitIsZero, "a unit of code 0 is not saved; it opens as 9001", Example::Element},
+    {LossKind::AnchorWithoutNumber, "anchors without a number get the number 0", Example::Element},
+    {LossKind::NameThatDoesNotOpen, "characters beyond U+FFFF make the saved design unreadable",
+     Example::TextInElement},
+    {LossKind::Comment, "comments and processing instructions are lost", Example::Text},
+    {LossKind::CoordinateIsNoNumber, "coordinates are missing or are no numbers", Example::Saved},
+    {LossKind::Decimals, "decimals past the third are lost", Example::Saved},
+    {LossKind::MisplacedElement, "elements stand where they are not expected",
+     Example::ElementInParent},
+    {LossKind::RepeatedElement, "elements that should come once come again; the last one counts",
+     Example::Element},
+    {LossKind::RepeatedAnchorField, "fields of an anchor come again; the last one counts",
+     Example::Element},
+    {LossKind::GroupOfNoSide, "groups have a view code of no side, so they are never seen",
+     Example::Attribute},
+    {LossKind::GroupWithoutView, "groups without a view code become the top side",
+     Example::Attribute},
+    {LossKind::NameOfBlanks, "names of blanks alone are lost", Example::Element},
+    {LossKind::NameBehindLineBreak, "names that begin with a line break are lost",
+     Example::Element},
+    {LossKind::AnchorNumberChanges, "numbers of anchors change", Example::ElementAndText},
+    {LossKind::GroupsOfOneView,
+     "several groups have one view code; only the first is seen and edited", Example::Attribute},
+    {LossKind::ReplacedAnchorField, "tabs behind fields of anchors replace what they hold",
+     Example::Saved},
+    {LossKind::TextBetweenElements, "text between elements is lost", Example::TextInElement},
+    {LossKind::TextAfterLineBreak, "text that follows a line break is lost",
+     Example::TextInElement},
+    {LossKind::AnchorVessel, "the vessel of an anchor is read but not written",
+     Example::ElementInParent},
+    {LossKind::UnitChanges, "unit codes change", Example::Attribute},
+    {LossKind::UnknownAttribute, "unknown attributes are lost", Example::AttributeOfElement},
+    {LossKind::UnknownElement, "unknown elements are lost", Example::ElementInParent},
+});
+
+static_assert(lossWords.size() == static_cast<std::size_t>(LossKind::NameThatDoesNotOpen) + 1);
+static_assert(std::ranges::is_sorted(lossWords, {}, [](const LossWords& row) {
+  return std::string_view(row.words);
+}));
+
+/// The beginning of a text on one line, in quotation marks.
+std::string Quoted(std::u16string_view text)
 {
-  for (const auto& [name, number] : numbers) {
-    if (std::isfinite(number)) continue;
-    const char* const value = std::isnan(number) ? "nan" : number < 0.0 ? "-inf" : "inf";
-    findings.push_back(place + ": " + name + " is not finite (" + value + ")");
+  constexpr std::size_t longest = 60;
+  std::u16string line(text.substr(text.find_first_not_of(u" \t\r\n")));
+  if (line.size() > longest) line = line.substr(0, longest) + u"\u2026";
+  std::ranges::replace_if(
+      line, [](char16_t c) { return c < u' '; }, u' ');
+  return '"' + Utf8FromWide(line) + '"';
+}
+
+std::string ExampleText(Example example, const LossPlace& place)
+{
+  std::string element = "<" + Utf8FromWide(place.element) + ">";
+  const std::string attribute = Utf8FromWide(place.attribute);
+  const std::string value = "=\"" + Utf8FromWide(place.text) + "\"";
+  switch (example) {
+    case Example::Element: break;
+    case Example::ElementInParent: return element + " in <" + Utf8FromWide(place.parent) + ">";
+    case Example::ElementAndText: return element + " " + Utf8FromWide(place.text);
+    case Example::Text: return Quoted(place.text);
+    case Example::TextInElement: return Quoted(place.text) + " in " + element;
+    case Example::Attribute: return attribute + value;
+    case Example::AttributeOfElement: return attribute + value + " of " + element;
+    case Example::Saved:
+      return (attribute.empty() ? element : attribute + " of " + element) + value + ", saved as " +
+             Utf8FromWide(place.saved);
   }
+  return element;
 }
 
-bool IsFinite(const CShapeVertex& vertex)
+/// Where a number stands.
+std::string PlaceOf(const DesignNumber& number)
 {
-  return std::isfinite(vertex.x) && std::isfinite(vertex.y) && std::isfinite(vertex.z);
-}
-
-void AddNotFinite(std::vector<std::string>& findings, const std::string& place,
-                  const CShapeVertex& vertex)
-{
-  AddNotFinite(findings, place, {{"x", vertex.x}, {"y", vertex.y}, {"z", vertex.z}});
-}
-
-void AddGroup(std::vector<std::string>& findings, const std::string& name, const CShapes& group)
-{
-  std::size_t polyline = 0;
-  ForEachEntry(group.shapes, [&](const CShape& shape) {
-    const std::string place = name + ", polyline " + std::to_string(++polyline) + ", vertex ";
-    std::size_t number = 0;
-    ForEachEntry(shape.vertices, [&](const CShapeVertex& vertex) {
-      ++number;
-      if (!IsFinite(vertex)) AddNotFinite(findings, place + std::to_string(number), vertex);
-    });
-  });
+  if (number.anchor != nullptr) return "anchor " + std::to_string(number.anchor->id);
+  if (number.group == nullptr) return "offset " + Utf8FromWide(number.element.name);
+  std::string place = GroupName(number.group->viewCode);
+  if (number.groupNumber != 1) place += " (group " + std::to_string(number.groupNumber) + ")";
+  return place + ", polyline " + std::to_string(number.polylineNumber) + ", vertex " +
+         std::to_string(number.vertexNumber);
 }
 
 }  // namespace
@@ -59,22 +127,31 @@ std::string GroupName(std::int32_t viewCode)
   return "view " + FormatHex(static_cast<std::uint32_t>(viewCode), 2);
 }
 
-std::vector<std::string> NumberFindings(const CHullwrightApp& app)
+std::vector<std::string> LossFindings(const CSaveLosses& losses)
 {
   std::vector<std::string> findings;
-  std::map<std::int32_t, int> groups;
-  ForEachEntry(app.shapeGroups, [&](const CShapes& group) {
-    const int number = ++groups[group.viewCode];
-    const std::string name = GroupName(group.viewCode);
-    AddGroup(findings, number == 1 ? name : name + " (group " + std::to_string(number) + ")",
-             group);
-  });
-  AddNotFinite(findings, "offset gps", *app.offsetGps);
-  AddNotFinite(findings, "offset txd", *app.offsetTransducer);
-  AddNotFinite(findings, "offset piv", *app.offsetPivot);
-  ForEachEntry(app.anchors->items, [&](const CAnchor& anchor) {
-    AddNotFinite(findings, "anchor " + std::to_string(anchor.id),
-                 {{"attachmentX", anchor.attachmentX}, {"attachmentY", anchor.attachmentY}});
+  for (const LossWords& row : lossWords) {
+    const auto found = losses.Found().find(row.kind);
+    if (found == losses.Found().end()) continue;
+    const Loss& loss = found->second;
+    findings.push_back(row.words + (" (" + std::to_string(loss.count)) +
+                       "): " + ExampleText(row.example, loss.first));
+  }
+  for (const std::u16string_view name : losses.Missing()) {
+    findings.push_back("there is no <" + Utf8FromWide(name) + ">; a save writes one of its own");
+  }
+  return findings;
+}
+
+std::vector<std::string> NumberFindings(const DesignState& design)
+{
+  std::vector<std::string> findings;
+  ForEachNonFiniteNumber(design, [&findings](const DesignNumber& number) {
+    const char* const value = std::isnan(number.value) ? "nan"
+                              : number.value < 0.0     ? "-inf"
+                                                       : "inf";
+    findings.push_back(PlaceOf(number) + ": " + Utf8FromWide(number.name) + " is not finite (" +
+                       value + ")");
   });
   return findings;
 }

@@ -8,7 +8,6 @@
 #include "app/CommonDataFolder.h"
 #include "app/ImportText.h"
 #include "base/Text.h"
-#include "cli/DesignCheck.h"
 
 namespace hullwright {
 
@@ -83,15 +82,11 @@ HeadlessEditor::~HeadlessEditor()
 
 bool HeadlessEditor::Open(std::u16string_view path)
 {
-  messages_.last.clear();
   if (document_.OnOpenDocument(path)) return true;
-  if (messages_.last.empty()) {
-    CDesignCheck check(messages_);
-    check.Read(path);
-    problem_ = u"not a well-formed design file (" + WideFromUtf8(check.Problem()) + u")";
-  } else {
-    problem_ = messages_.last;
-  }
+  const ReadError& error = document_.OpenError();
+  problem_ = error.message.empty()
+                 ? messages_.last
+                 : u"not a well-formed design file (" + DescribeBriefly(error) + u")";
   return false;
 }
 

@@ -70,6 +70,13 @@ std::u16string Describe(const ReadError& error)
          error.message;
 }
 
+std::u16string DescribeBriefly(const ReadError& error)
+{
+  if (error.line == 0) return error.message;
+  return WideFromAscii(std::to_string(error.line) + ":" + std::to_string(error.column) + ": ") +
+         error.message;
+}
+
 void CFileSax::ResetOutput()
 {
   indent = 0;
@@ -119,19 +126,20 @@ void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& a
 {
   std::string text;
   for (const auto& [key, value] : attributes) text += AttributeText(key, value);
-  const std::string tag = Utf8FromWide(name);
   if (body.empty()) {
-    WriteEmptyElementText(tag, text);
+    WriteEmptyElementText(name, text);
     return;
   }
+  const std::string tag = Utf8FromWide(name);
   const std::string content = Escape(body);
   WriteLine(elementMargin + text.size() + content.size(),
             Joined({"<", tag, " ", text, ">", content, "</", tag, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view attributeText)
+void CFileSax::WriteEmptyElementText(std::u16string_view name, std::string_view attributeText)
 {
-  WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
+  WriteLine(elementMargin + attributeText.size(),
+            Joined({"<", Utf8FromWide(name), " ", attributeText, "/>\n"}));
 }
 
 bool CFileSax::WriteLine(std::size_t margin, std::string_view line)

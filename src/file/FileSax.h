@@ -27,6 +27,9 @@ struct ReadError {
 /// The place and the reason as "line 3, column 7: mismatched tag".
 std::u16string Describe(const ReadError& error);
 
+/// The place and the reason as "3:7: mismatched tag".
+std::u16string DescribeBriefly(const ReadError& error);
+
 /// Base of the XML files. Reading pushes the file's elements and texts through the callbacks;
 /// writing composes a document in a growing block that goes to the disk in one piece.
 class CFileSax {
@@ -91,7 +94,7 @@ protected:
   virtual void* Reallocate(void* block, std::size_t size);
 
   /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
-  void WriteEmptyElementText(std::string_view name, std::string_view attributeText);
+  void WriteEmptyElementText(std::u16string_view name, std::string_view attributeText);
 
 private:
   struct FreeBlock {

@@ -12,6 +12,8 @@
 
 namespace hullwright {
 
+struct DesignElement;
+
 /// The design file, for one open or one save. It has its own copies of offsets, unit and anchors;
 /// the groups it reads go straight into the array that `groups` points at. Elements are told apart
 /// by name alone: any may stand anywhere, and unknown ones are ignored.
@@ -27,7 +29,8 @@ public:
   void Compose(const OwnedArray<CShapes>& shapeGroups,
                EmptyGroups emptyGroups = EmptyGroups::Written);
 
-  /// Composes the document and writes it. 0 on success, -1 as `Flush`.
+  /// Composes the document and writes it. 0 on success, -1 as `Flush`, and -1 with nothing written
+  /// where memory ended (`LostBlock`).
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
 
   void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
@@ -41,18 +44,26 @@ public:
   std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
   OwnedArray<CShapes>* groups = nullptr;  ///< set before reading
 
+protected:
+  /// The anchor being read; null outside any.
+  const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
+
+  /// The element that started or ended last.
+  const std::u16string& LastElement() const { return element_; }
+
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
   /// state from any other.
   enum class State { Start = 0, Between = 1, InGroup = 2, InPolyline = 3, InAnchor = 5 };
 
-  void ReadAnchorField(std::u16string_view text);
-  void WriteGroup(const CShapes& group);
+  void WritePart(const DesignElement& element, const OwnedArray<CShapes>& shapeGroups,
+                 EmptyGroups emptyGroups);
+  void WriteGroup(const DesignElement& element, const CShapes& group);
   void WritePolyline(const CShape& polyline);
-  void WriteCoordinates(std::string_view element, const CShapeVertex& vertex);
-  void WriteAnchors();
+  void WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex);
+  void WriteAnchor(const CAnchor& anchor);
 
-  std::u16string element_;  ///< the element that started or ended last
+  std::u16string element_;
   State state_ = State::Start;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;

@@ -4,6 +4,7 @@
 
 #include "base/ErrorText.h"
 #include "base/Text.h"
+#include "file/DesignElements.h"
 #include "file/FileVessel.h"
 #include "file/OpenFile.h"
 
@@ -13,9 +14,20 @@ namespace {
 /// x, y and z, without the carried fields.
 void CopyCoordinates(const CShapeVertex& from, CShapeVertex& to)
 {
-  to.x = from.x;
-  to.y = from.y;
-  to.z = from.z;
+  for (const Coordinate& coordinate : coordinates) {
+    to.*coordinate.member = from.*coordinate.member;
+  }
+}
+
+/// Calls `visit` with each offset in the file object and in the design.
+template <class Visit>
+void ForEachOffset(CFileVessel& file, const DesignState& design, Visit visit)
+{
+  for (const DesignElement& element : designElements) {
+    if (const auto* const offset = std::get_if<OffsetMember>(&element.member)) {
+      visit(*(file.*offset->inFile), *(design.*offset->inDesign));
+    }
+  }
 }
 
 /// Why a file could not be opened or written; `unknown` where there is no `errno`.
@@ -69,6 +81,7 @@ void CHullwrightDoc::DeleteContents()
 
 bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
+  openError_ = {};
   errno = 0;
   if (!OpenToRead(path)) {
     openProblem_ = Reason(errno, "It is not a file");
@@ -83,13 +96,14 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
   file.anchors->Clear();
   file.groups = &design_.shapeGroups;
   if (file.Read(path) != 0) {
-    openProblem_ = Describe(file.LastReadError());
-    if (openProblem_.empty()) openProblem_ = Reason(0, "It can't be read");
+    openError_ = file.LastReadError();
+    if (openError_.message.empty()) openError_.message = Reason(0, "It can't be read");
+    openProblem_ = Describe(openError_);
     return false;
   }
-  CopyCoordinates(*file.gps, *design_.offsetGps);
-  CopyCoordinates(*file.txd, *design_.offsetTransducer);
-  CopyCoordinates(*file.piv, *design_.offsetPivot);
+  ForEachOffset(file, design_, [](const CShapeVertex& inFile, CShapeVertex& inDesign) {
+    CopyCoordinates(inFile, inDesign);
+  });
   design_.anchors->AppendClones(*file.anchors);
   design_.unitCode = file.unitCode;
   mainWindow_.NotifyDesignChanged();
@@ -100,9 +114,9 @@ void CHullwrightDoc::FillFile(CFileVessel& file) const
 {
   file.unitCode = design_.unitCode;
   file.anchors->AppendClones(*design_.anchors);
-  CopyCoordinates(*design_.offsetGps, *file.gps);
-  CopyCoordinates(*design_.offsetTransducer, *file.txd);
-  CopyCoordinates(*design_.offsetPivot, *file.piv);
+  ForEachOffset(file, design_, [](CShapeVertex& inFile, const CShapeVertex& inDesign) {
+    CopyCoordinates(inDesign, inFile);
+  });
 }
 
 bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
@@ -110,12 +124,10 @@ bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
   MessageForLater message;
   CFileVessel file(message);
   FillFile(file);
-  file.Compose(design_.shapeGroups);
   saveProblem_.clear();
-  if (file.LostBlock()) {
-    saveProblem_ = Reason(ENOMEM, "");
-  } else if (file.Flush(path) != 0) {
-    saveProblem_ = Reason(file.WriteError(), "There is nothing to write");
+  if (file.Save(path, design_.shapeGroups) != 0) {
+    saveProblem_ =
+        Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
   }
   // Before anybody reads a message: the file may be torn until then.
   if (!SavedWhole() && onSaveFailed) onSaveFailed();

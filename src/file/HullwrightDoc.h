@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "file/FileSax.h"
 #include "model/DesignState.h"
 #include "platform/MainWindow.h"
 #include "platform/MessageBoxes.h"
@@ -44,6 +45,10 @@ public:
   /// it did not.
   const std::u16string& OpenProblem() const { return openProblem_; }
 
+  /// The same of a file that was opened and could not be read as a design; without a message
+  /// otherwise.
+  const ReadError& OpenError() const { return openError_; }
+
   /// Stands for the bytes that a save would write now, but for groups without polylines, which come
   /// to be when a side is merely looked at: equal texts have equal fingerprints. Nothing where
   /// there is no memory to compose them.
@@ -69,6 +74,7 @@ private:
   bool modified_ = false;
   std::u16string saveProblem_;
   std::u16string openProblem_;
+  ReadError openError_;
 };
 
 }  // namespace hullwright

@@ -88,7 +88,8 @@ class InfoTest(CliTest):
         self.assertIn(b"dredger.xml: design", done.stdout)
 
     def test_failures(self):
-        self.fail_with(1, ("bad.xml", "(1:"), "info", self.write("bad.xml", "<vessel>"))
+        self.fail_with(1, ("bad.xml: not a well-formed design file (1:9: no element found)\n",), "info",
+                       self.write("bad.xml", "<vessel>"))
         self.fail_with(1, ("empty.dxf",), "info", self.write("empty.dxf", ""))
         pipe = self.folder / "pipe"
         os.mkfifo(pipe)
@@ -138,6 +139,18 @@ class CheckTest(CliTest):
             'groups have a view code of no side, so they are never seen (1): view="03"',
             'groups without a view code become the top side (1): view="x"',
             'several groups have one view code; only the first is seen and edited (1): view="01"'])
+
+    def test_a_group_of_all_sides_hides_those_behind_it(self):
+        groups = "".join(GROUP.replace("01", view) for view in ("01", "3F", "20", "10"))
+        self.assertEqual(self.findings(HEAD + groups + TAIL), [
+            'a group of all sides hides groups behind it; they are never seen (2): view="20"'])
+
+    def test_tabs_and_line_breaks_that_wipe_fields_of_anchors(self):
+        anchor = ("<anchor><id>7</id>\t<name>Bow</name>\t<attachmentX>1.5</attachmentX>\n</anchor>"
+                  "<anchor><id>8</id><name>&#10;</name></anchor>")
+        self.assertEqual(self.findings(HEAD + TAIL.replace("<anchors>", "<anchors>" + anchor)), [
+            "names that begin with a line break are lost (1): <name>",
+            'tabs behind fields of anchors replace what they hold (2): <id>="7", saved as 0'])
 
     def test_anchors(self):
         anchor = ("<anchor><id>x7</id><name>Bow</name><vessel>2</vessel><attachmentX>1.23456</attachmentX>"
@@ -245,7 +258,7 @@ class CheckTest(CliTest):
             self.fail_with(2, (f"{path.name}: not a design: it does not begin as XML does",), "check", path)
 
     def test_designs_that_cannot_be_read(self):
-        self.fail_with(2, ("bad.xml:2:", "hullwright-cli"), "check", self.write("bad.xml", "<vessel>\n</wessel>"))
+        self.fail_with(2, ("bad.xml:2:3: mismatched tag\n", "hullwright-cli"), "check", self.write("bad.xml", "<vessel>\n</wessel>"))
         self.fail_with(2, ("missing.xml", "No such file"), "check", self.folder / "missing.xml")
         done = run("check", self.folder / "missing.xml", self.write("a.xml", HEAD + GROUP + GROUP + TAIL))
         self.assertEqual(done.returncode, 2)

@@ -129,6 +129,23 @@ TEST_F(Document, AnEmptyFileEmptiesTheDesignWithoutAWord)
   EXPECT_TRUE(messages.shown.empty());
 }
 
+TEST_F(Document, TellsWhyAndWhereAnOpenFailed)
+{
+  EXPECT_FALSE(Open("<vessel>\n</wessel>"));
+  EXPECT_EQ(document.OpenProblem(), u"line 2, column 3: mismatched tag");
+  EXPECT_EQ(document.OpenError().message, u"mismatched tag");
+  EXPECT_EQ(document.OpenError().line, 2);
+  EXPECT_EQ(document.OpenError().column, 3);
+  EXPECT_FALSE(document.OnOpenDocument(folder.File("missing.xml")));
+  EXPECT_EQ(document.OpenProblem(), u"No such file or directory");
+  EXPECT_EQ(document.OpenError().message, u"");
+  EXPECT_FALSE(Open(""));
+  EXPECT_EQ(document.OpenError().message, u"no element found");
+  ASSERT_TRUE(Open(good));
+  EXPECT_EQ(document.OpenProblem(), u"");
+  EXPECT_EQ(document.OpenError().message, u"");
+}
+
 TEST_F(Document, NewKeepsOffsetsUnitAndSide)
 {
   ASSERT_TRUE(Open(good));

@@ -5,6 +5,7 @@
 #include "file/FileVessel.h"
 #include "model/ShapePolyline.h"
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 namespace hullwright {
 namespace {
@@ -35,6 +36,7 @@ protected:
   }
 
   test::FakeMessages messages;
+  test::TempFolder folder;
   ShortOfMemory file{messages};
   OwnedArray<CShapes> groups;
 };
@@ -61,6 +63,18 @@ TEST_F(LostBlock, IsForgottenByTheNextDocument)
   EXPECT_FALSE(file.LostBlock());
   EXPECT_TRUE(file.Output().ends_with("</vessel>\n"));
   EXPECT_EQ(file.Output().find('\0'), std::string_view::npos);
+}
+
+TEST_F(LostBlock, ReachesNoFile)
+{
+  const std::u16string path = folder.Write("boat.xml", "before");
+  file.until = 1;
+  EXPECT_EQ(file.Save(path, groups), -1);
+  EXPECT_EQ(folder.Read("boat.xml"), "before");
+  EXPECT_EQ(file.WriteError(), 0);
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(file.Save(path, groups), 0);
+  EXPECT_TRUE(folder.Read("boat.xml").ends_with("</vessel>\n"));
 }
 
 }  // namespace

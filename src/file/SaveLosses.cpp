@@ -1,0 +1,238 @@
+#include "file/SaveLosses.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "file/DesignElements.h"
+
+namespace hullwright {
+namespace {
+
+constexpr std::u16string_view whiteSpace = u" \t\r\n";
+
+bool IsWhite(std::u16string_view text)
+{
+  return text.find_first_not_of(whiteSpace) == std::u16string_view::npos;
+}
+
+/// Whether a text is a number from its first character to its last.
+bool IsNumber(std::u16string_view text)
+{
+  std::string number = Utf8FromWide(text);
+  number.erase(0, number.find_first_not_of(" \t\r\n"));
+  if (number.starts_with('+')) number.erase(0, 1);
+  double value = 0.0;
+  const char* const end = number.data() + number.size();
+  return std::from_chars(number.data(), end, value).ptr == end && !number.empty();
+}
+
+bool HasAttribute(const DesignElement& element, std::u16string_view attribute)
+{
+  if (!HasCoordinates(element)) return element.attribute == attribute;
+  return std::ranges::find(coordinates, attribute, &Coordinate::Name) != coordinates.end();
+}
+
+/// Whether a unit is half of a character beyond U+FFFF; a save writes two references for it, and no
+/// reader takes them.
+bool IsSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+
+bool IsSide(std::int32_t viewCode)
+{
+  return std::ranges::find(ViewSide::each, viewCode) != ViewSide::each.end();
+}
+
+constexpr std::u16string_view anchorName = ElementOf(ElementKind::Anchor).name;
+constexpr const DesignElement& numberField = *FindAnchorField(u"id");
+constexpr const DesignElement& nameField = *FindAnchorField(u"name");
+
+/// The place of an attribute's value.
+LossPlace AttributePlace(const DesignElement& element, std::u16string_view text)
+{
+  return {.element = std::u16string(element.name),
+          .attribute = std::u16string(element.attribute),
+          .text = std::u16string(text)};
+}
+
+}  // namespace
+
+void CSaveLosses::Add(LossKind kind, const LossPlace& place)
+{
+  Loss& loss = found_[kind];
+  if (loss.count++ == 0) loss.first = place;
+}
+
+std::u16string_view CSaveLosses::Parent() const
+{
+  return path_.size() < 2 ? std::u16string_view() : path_[path_.size() - 2];
+}
+
+void CSaveLosses::StartElement(std::u16string_view name, const AttributeMap& attributes)
+{
+  CFileVessel::StartElement(name, attributes);
+  path_.emplace_back(name);
+  const DesignElement* const element = FindElement(name, Parent());
+  const LossPlace place = {.element = path_.back(), .parent = std::u16string(Parent())};
+  if (element == nullptr) {
+    Add(FindElement(name) != nullptr ? LossKind::MisplacedElement : LossKind::UnknownElement,
+        place);
+    return;
+  }
+  nameBehindLineBreak_ = false;
+  if (element->kind == ElementKind::Anchor) anchorFields_.clear();
+  if (element->kind == ElementKind::AnchorField && !anchorFields_.insert(path_.back()).second) {
+    Add(LossKind::RepeatedAnchorField, place);
+  }
+  if (IsSingle(*element) && ++singles_[path_.back()] == 2) Add(LossKind::RepeatedElement, place);
+  if (element->use == ElementUse::OnlyRead) Add(LossKind::AnchorVessel, place);
+  CheckAttributes(*element, attributes);
+}
+
+void CSaveLosses::CheckAttributes(const DesignElement& element, const AttributeMap& attributes)
+{
+  for (const auto& [attribute, value] : attributes) {
+    if (HasAttribute(element, attribute)) continue;
+    Add(LossKind::UnknownAttribute,
+        {.element = std::u16string(element.name), .attribute = attribute, .text = value});
+  }
+  if (HasCoordinates(element)) {
+    for (const Coordinate& coordinate : coordinates) {
+      CheckCoordinate(element, coordinate.Name(), AttributeValue(attributes, coordinate.Name()));
+    }
+  }
+  if (element.kind == ElementKind::Group) {
+    CheckView(element, AttributeValue(attributes, element.attribute));
+  }
+  if (element.kind == ElementKind::Unit) {
+    CheckUnit(element, AttributeValue(attributes, element.attribute));
+  }
+}
+
+void CSaveLosses::CheckUnit(const DesignElement& element, std::u16string_view text)
+{
+  const LossPlace place = AttributePlace(element, text);
+  if (MemberText(element, static_cast<const CFileVessel&>(*this)) != text) {
+    Add(LossKind::UnitChanges, place);
+  }
+  if (unitCode == 0) Add(LossKind::UnitIsZero, place);
+}
+
+void CSaveLosses::CheckView(const DesignElement& element, std::u16string_view text)
+{
+  CShapes group;
+  ReadMember(element, group, text);
+  const LossPlace place = AttributePlace(element, text);
+  if (group.viewCode == 0) {
+    Add(LossKind::GroupWithoutView, place);
+    group.viewCode = ViewSide::Top;
+  } else if (!IsSide(group.viewCode) && group.viewCode != ViewSide::All) {
+    Add(LossKind::GroupOfNoSide, place);
+  }
+  const int number = ++groups_[group.viewCode];
+  if (number == 2) Add(LossKind::GroupsOfOneView, place);
+  if (number == 1 && IsSide(group.viewCode) && groups_.contains(ViewSide::All)) {
+    Add(LossKind::GroupBehindOneOfAllSides, place);
+  }
+}
+
+void CSaveLosses::CheckCoordinate(const DesignElement& element, std::u16string_view attribute,
+                                  std::u16string_view text)
+{
+  const double value = ParseDouble(text);
+  const std::u16string saved = ThreeDecimalsText(value);
+  const bool number = IsNumber(text);
+  if (number && (ParseDouble(saved) == value || std::isnan(value))) return;
+  Add(number ? LossKind::Decimals : LossKind::CoordinateIsNoNumber,
+      {.element = std::u16string(element.name),
+       .attribute = std::u16string(attribute),
+       .text = std::u16string(text),
+       .saved = saved});
+}
+
+void CSaveLosses::EndElement(std::u16string_view name)
+{
+  const LossPlace place = {.element = std::u16string(name)};
+  if (name == anchorName && !anchorFields_.contains(std::u16string(numberField.name))) {
+    Add(LossKind::AnchorWithoutNumber, place);
+  }
+  // A piece that came behind the line break, or before it, is kept.
+  if (nameBehindLineBreak_ && CurrentAnchor() != nullptr && CurrentAnchor()->name.empty()) {
+    Add(LossKind::NameBehindLineBreak, place);
+  }
+  nameBehindLineBreak_ = false;
+  if (!path_.empty()) path_.pop_back();
+  CFileVessel::EndElement(name);
+}
+
+void CSaveLosses::Characters(std::u16string_view text)
+{
+  if (path_.empty()) return;
+  if (Parent() == anchorName) {
+    CFileVessel::Characters(text);
+    const DesignElement* const field = FindElement(path_.back(), anchorName);
+    if (field != nullptr) CheckAnchorField(*field, text);
+  } else if (IsWhite(text)) {
+    ReadBehindField(text);
+  } else {
+    CFileVessel::Characters(text);
+    Add(LossKind::TextBetweenElements, {.element = path_.back(), .text = std::u16string(text)});
+  }
+}
+
+void CSaveLosses::ReadBehindField(std::u16string_view text)
+{
+  const DesignElement* const field = FindAnchorField(LastElement());
+  if (CurrentAnchor() == nullptr || field == nullptr || field->use != ElementUse::Saved) return;
+  const std::u16string before = MemberText(*field, *CurrentAnchor());
+  CFileVessel::Characters(text);
+  const std::u16string after = MemberText(*field, *CurrentAnchor());
+  if (after == before) return;
+  Add(LossKind::ReplacedAnchorField, {.element = std::u16string(field->name),
+                                      .text = before,
+                                      .saved = WideFromAscii(Escape(after))});
+}
+
+void CSaveLosses::CheckAnchorField(const DesignElement& field, std::u16string_view text)
+{
+  if (field.format == ValueFormat::ThreeDecimals) CheckCoordinate(field, {}, text);
+  const LossPlace place = {.element = std::u16string(field.name), .text = std::u16string(text)};
+  if (field.format == ValueFormat::Unsigned && field.use == ElementUse::Saved) {
+    CAnchor anchor;
+    ReadMember(field, anchor, text);
+    if (MemberText(field, anchor) != text) Add(LossKind::AnchorNumberChanges, place);
+  }
+  if (field.format == ValueFormat::Text && std::ranges::any_of(text, IsSurrogate)) {
+    Add(LossKind::NameThatDoesNotOpen, place);
+  }
+}
+
+void CSaveLosses::PassOver(std::u16string_view markup)
+{
+  if (markup.starts_with(u"<!--") || markup.starts_with(u"<?")) {
+    Add(LossKind::Comment, {.text = std::u16string(markup)});
+    return;
+  }
+  const bool isName = path_.back() == nameField.name;
+  const bool isBlank = markup.front() == u' ';
+  if (isName && !isBlank) nameBehindLineBreak_ = true;
+  if (!IsWhite(markup)) {
+    Add(LossKind::TextAfterLineBreak, {.element = path_.back(), .text = std::u16string(markup)});
+  } else if (isName && isBlank) {
+    Add(LossKind::NameOfBlanks, {.element = path_.back()});
+  }
+}
+
+std::vector<std::u16string_view> CSaveLosses::Missing() const
+{
+  std::vector<std::u16string_view> names;
+  for (const DesignElement& element : designElements) {
+    if (IsSingle(element) && !singles_.contains(std::u16string(element.name))) {
+      names.push_back(element.name);
+    }
+  }
+  return names;
+}
+
+}  // namespace hullwright
