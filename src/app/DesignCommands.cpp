@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <limits>
 #include <utility>
 
 #include "app/Dialogs.h"
@@ -60,16 +59,12 @@ std::int32_t ToolOf(int command)
 /// them.
 bool AreOutOfView(const CShapes& group, std::size_t first, const CViewPort& view)
 {
-  constexpr double largest = std::numeric_limits<double>::max();
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
+  Extents box;
   for (std::size_t i = first; i < group.shapes.size(); ++i) {
-    if (group.shapes[i]) group.shapes[i]->GetExtents(minX, minY, maxX, maxY);
+    if (group.shapes[i]) group.shapes[i]->GetExtents(box);
   }
-  return minX <= maxX && minY <= maxY &&
-         (minX > view.right || maxX < view.left || minY > view.top || maxY < view.bottom);
+  return !box.IsEmpty() && (box.minX > view.right || box.maxX < view.left || box.minY > view.top ||
+                            box.maxY < view.bottom);
 }
 
 }  // namespace

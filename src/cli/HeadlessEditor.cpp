@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "app/CommonDataFolder.h"
@@ -123,26 +122,19 @@ bool HeadlessEditor::Save(std::u16string_view path)
   return false;
 }
 
-WorldBox HeadlessEditor::SideBox() const
+Extents HeadlessEditor::SideBox() const
 {
-  constexpr double largest = std::numeric_limits<double>::max();
-  WorldBox box = {largest, largest, -largest, -largest};
+  Extents box;
   if (const CShapes* const group = FindViewGroup(app_.shapeGroups, app_.activeView)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) {
-      shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
-    });
+    ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
   }
   if (app_.activeView != ViewSide::Top) return box;
-  const auto widen = [&box](double x, double y) {
-    box = {std::min(box.minX, x), std::min(box.minY, y), std::max(box.maxX, x),
-           std::max(box.maxY, y)};
-  };
   for (const CShapeVertex* offset :
        {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
-    if (offset != nullptr) widen(offset->x, offset->y);
+    if (offset != nullptr) box.Widen(*offset);
   }
   ForEachEntry(app_.anchors->items,
-               [&](const CAnchor& anchor) { widen(anchor.attachmentX, anchor.attachmentY); });
+               [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
   return box;
 }
 
@@ -154,16 +146,16 @@ void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
   Frame(SideBox(), margin);
 }
 
-void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch)
+void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const Extents& stretch)
 {
   app_.activeView = side;
   view_.OnSize(width, height);
   Frame(stretch, 0.0);
 }
 
-void HeadlessEditor::Frame(const WorldBox& box, double marginPart) const
+void HeadlessEditor::Frame(const Extents& box, double marginPart) const
 {
-  if (!(box.minX <= box.maxX && box.minY <= box.maxY)) return;
+  if (box.IsEmpty()) return;
   CViewPort& viewPort = *view_.viewPort;
   // The width rules, so a tall box is given the width that its height needs.
   const double boxWidth = box.maxX - box.minX;

@@ -32,14 +32,6 @@ public:
   std::u16string last;
 };
 
-/// A stretch of the world; nothing when a lower bound is above its upper one.
-struct WorldBox {
-  double minX;
-  double minY;
-  double maxX;
-  double maxY;
-};
-
 /// Hears of the frame's look and shows nothing; a base for what shows a part of it.
 class NoWidgets : public IFrameWidgets {
 public:
@@ -85,7 +77,7 @@ public:
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
   /// and anchors if they are not removed, or with at least a stretch of the world.
   void ShowSide(std::int32_t side, int width, int height);
-  void ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch);
+  void ShowSide(std::int32_t side, int width, int height, const Extents& stretch);
 
   /// Draws the side in view as one frame.
   void Draw() { view_.Repaint(); }
@@ -97,8 +89,8 @@ private:
 
   HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
 
-  WorldBox SideBox() const;
-  void Frame(const WorldBox& box, double marginPart) const;
+  Extents SideBox() const;
+  void Frame(const Extents& box, double marginPart) const;
 
   MemorySettings settings_;
   KeptMessages messages_;

@@ -28,10 +28,10 @@ double ElapsedSeconds()
 
 std::u16string Count(std::size_t number) { return WideFromAscii(std::to_string(number)); }
 
-std::u16string BoundsOf(const CLayer& layer)
+std::u16string BoundsOf(const Extents& box)
 {
   std::string text;
-  for (const double bound : {layer.minX, layer.minY, layer.maxX, layer.maxY}) {
+  for (const double bound : {box.minX, box.minY, box.maxX, box.maxY}) {
     if (!text.empty()) text.push_back(',');
     AppendFixed3(text, bound);
   }
@@ -64,7 +64,7 @@ int CFileDxf::Import(std::u16string_view filePath, CLayer* layer)
   tally.CountShapes(*layer->shapes);
   layer->UpdateExtents();
   Log(TraceLevel::Progress, processing,
-      u"[DXF] Detected drawing extends: [" + BoundsOf(*layer) + u"].");
+      u"[DXF] Detected drawing extends: [" + BoundsOf(layer->extents) + u"].");
   Log(TraceLevel::Success, general,
       u"Successfully loaded the selected AutoCAD DXF file: [ " + name +
           u"]. Please see the 'Processing' tab for details.");

@@ -1,6 +1,5 @@
 #include "view/HullwrightView.h"
 
-#include <limits>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -139,20 +138,15 @@ void CHullwrightView::DropReleasedItems()
 
 void CHullwrightView::ShowAllShapes()
 {
-  constexpr double largest = std::numeric_limits<double>::max();
   if (viewPort == nullptr) return;
   CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
   if (group == nullptr || group->shapes.empty()) {
     if (viewPort->Recover()) Repaint();
     return;
   }
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
-  Walk(group->cursor, group->shapes,
-       [&](const CShape& shape) { shape.GetExtents(minX, minY, maxX, maxY); });
-  viewPort->FitOrCenter(minX, minY, maxX, maxY);
+  Extents box;
+  group->GetExtents(box);
+  viewPort->FitOrCenter(box);
   Repaint();
 }
 
