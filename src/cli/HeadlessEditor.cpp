@@ -24,16 +24,6 @@ void MemorySettings::WriteInteger(std::string_view section, std::string_view key
   values_[std::string(section).append("/").append(key)] = value;
 }
 
-/// Has neither a window nor anything that could draw.
-struct HeadlessEditor::NoDrawing : IDrawingBackEnd, IDrawingWindow {
-  Created<IDrawFactory> CreateDrawFactory() override { return {-1, nullptr}; }
-  Created<IWriteFactory> CreateWriteFactory() override { return {-1, nullptr}; }
-  Created<IImagingFactory> CreateImagingFactory() override { return {-1, nullptr}; }
-  std::optional<std::string> SystemMessage(ResultCode) const override { return std::nullopt; }
-  bool IsWindow() const override { return false; }
-  std::optional<PixelSize> ClientSize() const override { return std::nullopt; }
-};
-
 struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
   void Show(std::span<const PopupEntry>, ClientPoint) override {}
   void SetCursor(CursorShape) override {}
@@ -48,29 +38,24 @@ struct HeadlessEditor::NoDialogs : IDialogRunner, IFileDialogs {
   }
 };
 
-HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets)
-    : HeadlessEditor(std::make_unique<NoDrawing>(), widgets)
+HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets) : HeadlessEditor(nullptr, widgets) {}
+
+HeadlessEditor::HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets)
+    : HeadlessEditor(&target, widgets)
 {
 }
 
-HeadlessEditor::HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets)
-    : HeadlessEditor(*nothing, *nothing, widgets)
-{
-  noDrawing_ = std::move(nothing);
-}
-
-HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
-                               IFrameWidgets* widgets)
+HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
     : pointer_(std::make_unique<NoPointer>()),
       dialogs_(std::make_unique<NoDialogs>()),
       app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
       frame_(app_, widgets == nullptr ? noWidgets_ : *widgets),
       document_(app_, frame_, messages_),
-      view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})
+      view_(app_, app_, {messages_, *pointer_, *pointer_, *pointer_})
 {
   frame_.document = &document_;
   frame_.view = &view_;
-  view_.OnCreate(&surface);
+  view_.OnCreate(target);
   frame_.hasWindow = true;
 }
 

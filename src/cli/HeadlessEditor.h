@@ -45,13 +45,12 @@ public:
 };
 
 /// The editor without a window: application, document and view as the window has them, on a drawing
-/// surface of the caller's, or without a picture.
+/// target of the caller's, or without a picture.
 class HeadlessEditor {
 public:
   /// Without a picture. `widgets` shows the progress of imports; null for nobody.
   explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
-  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
-                 IFrameWidgets* widgets = nullptr);
+  explicit HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets = nullptr);
   ~HeadlessEditor();
 
   CHullwrightApp& App() { return app_; }
@@ -83,11 +82,10 @@ public:
   void Draw() { view_.Repaint(); }
 
 private:
-  struct NoDrawing;
   struct NoPointer;
   struct NoDialogs;
 
-  HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
+  HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets);
 
   Extents SideBox() const;
   void Frame(const Extents& box, double marginPart) const;
@@ -96,7 +94,6 @@ private:
   KeptMessages messages_;
   SharedLibraries libraries_;
   NoWidgets noWidgets_;
-  std::unique_ptr<NoDrawing> noDrawing_;
   std::unique_ptr<NoPointer> pointer_;
   std::unique_ptr<NoDialogs> dialogs_;
   CHullwrightApp app_;

@@ -20,19 +20,19 @@ CHullwrightView::~CHullwrightView()
   if (viewPort) design_.viewPort = nullptr;
 }
 
-void CHullwrightView::OnCreate(IDrawingWindow* window)
+void CHullwrightView::OnCreate(IDrawingTarget* target)
 {
   viewPort = host_.HandOverViewPort();
   if (viewPort == nullptr) return;
-  canvas_ = std::make_unique<CCanvas>(ports_.drawing);
+  canvas_ = std::make_unique<CCanvas>();
   viewPort->canvas = canvas_.get();
-  if (!canvas_->Initialize(window)) ports_.messages.ShowMessage(WideFromUtf8(canvas_->errorText));
+  if (!canvas_->Initialize(target)) ports_.messages.ShowMessage(WideFromUtf8(canvas_->errorText));
 }
 
 void CHullwrightView::OnSize(int cx, int cy)
 {
   if (viewPort == nullptr) return;
-  if (canvas_ && canvas_->renderTarget) canvas_->renderTarget->Resize(cx, cy);
+  if (canvas_ && canvas_->Target() != nullptr) canvas_->Target()->Resize(cx, cy);
   viewPort->screenWidth = cx;
   viewPort->screenHeight = cy;
   viewPort->KeepAspect();

@@ -213,37 +213,39 @@ Value SaveGrid(ReplayEditor& editor, const Args& args)
 
 Value InitialiseCanvas(ReplayEditor&, const Args& args)
 {
-  constexpr std::array<std::string_view, 4> steps = {"D2D1CreateFactory", "CreateHwndRenderTarget",
-                                                     "DWriteCreateFactory", "CoCreateInstance"};
-  FrameRecorder recorder;
-  NoWindow window;
-  const std::string failing = args.Name(0);
-  const auto* const step = std::ranges::find(steps, failing);
-  if (step != steps.end()) recorder.failingStep = static_cast<int>(step - steps.begin());
-  window.isWindow = failing != "IsWindow";
-  if (failing == "GetClientRect") window.size.reset();
+  constexpr auto steps = std::to_array<std::pair<std::string_view, TargetStep>>({
+      {"IsWindow", TargetStep::Window},
+      {"D2D1CreateFactory", TargetStep::Drawing},
+      {"GetClientRect", TargetStep::ClientArea},
+      {"CreateHwndRenderTarget", TargetStep::Picture},
+      {"DWriteCreateFactory", TargetStep::Texts},
+      {"CoCreateInstance", TargetStep::Imaging},
+  });
+  DrawingRecorder recorder;
+  const auto* const failing =
+      std::ranges::find(steps, args.Name(0), &std::pair<std::string_view, TargetStep>::first);
   recorder.failCode = static_cast<ResultCode>(args.At(1).toInteger());
-  CCanvas canvas(recorder);
-  const bool success = canvas.Initialize(&window);
-  const int kept = (canvas.renderTarget ? 1 : 0) + (canvas.factory ? 1 : 0) +
-                   (canvas.writeFactory ? 1 : 0) + (canvas.imagingFactory ? 1 : 0);
-  return Row(success, std::string_view(canvas.errorText), kept);
+  if (failing != steps.end()) recorder.failingStep = failing->second;
+  CCanvas canvas;
+  const bool success = canvas.Initialize(&recorder);
+  const auto kept = std::ranges::count_if(
+      steps, [&canvas](const auto& step) { return canvas.Holds(step.second); });
+  return Row(success, std::string_view(canvas.errorText), static_cast<int>(kept));
 }
 
 Value StrokesOf(ReplayEditor&, const Args& args)
 {
-  FrameRecorder recorder;
-  NoWindow window;
-  CCanvas canvas(recorder);
-  canvas.Initialize(&window);
+  DrawingRecorder recorder;
+  CCanvas canvas;
+  canvas.Initialize(&recorder);
+  recorder.calls.clear();
   std::vector<PixelPoint> points;
   for (const QJsonValue& point : args.At(0).toArray()) {
     points.push_back({static_cast<float>(NumberOf(point.toArray().at(0))),
                       static_cast<float>(NumberOf(point.toArray().at(1)))});
   }
-  const auto brush = canvas.renderTarget->CreateSolidColourBrush({});
-  canvas.DrawPolyline(*brush, points, 1.0F);
-  return recorder.strokes;
+  canvas.DrawPolyline(points, {});
+  return recorder.calls.size();
 }
 
 Value Widths(ReplayEditor&, const Args& args)
