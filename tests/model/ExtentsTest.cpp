@@ -34,7 +34,8 @@ TEST(ExtentsOfAPlace, StayWhereACoordinateIsNoNumber)
 {
   Extents box{1.0, 2.0, 3.0, 4.0};
   box.Widen(std::nan(""), 9.0);
-  EXPECT_EQ(box.minX, 1.0);
+  box.Widen(0.5, std::nan(""));
+  EXPECT_EQ(box.minX, 0.5);
   EXPECT_EQ(box.maxX, 3.0);
   EXPECT_EQ(box.minY, 2.0);
   EXPECT_EQ(box.maxY, 9.0);
