@@ -58,9 +58,9 @@ std::int32_t ToolOf(int command)
 /// Whether shapes were imported and the view shows no part of the box around them.
 bool AreOutOfView(const ImportTally& imported, const CViewPort& view)
 {
-  return imported.minX <= imported.maxX && imported.minY <= imported.maxY &&
-         (imported.minX > view.right || imported.maxX < view.left || imported.minY > view.top ||
-          imported.maxY < view.bottom);
+  const Extents& box = imported.extents;
+  return !box.IsEmpty() && (box.minX > view.right || box.maxX < view.left || box.minY > view.top ||
+                            box.maxY < view.bottom);
 }
 
 }  // namespace

@@ -156,15 +156,11 @@ void CObjectView::RemovePolyline()
 
 void CObjectView::ZoomPolyline()
 {
-  constexpr double unreached = 10000000000.0;
   const CShape* const shape = tree_.Shape(selectedItem);
   if (shape == nullptr || app_.viewPort == nullptr) return;
-  double minX = unreached;
-  double minY = unreached;
-  double maxX = -unreached;
-  double maxY = -unreached;
-  shape->GetExtents(minX, minY, maxX, maxY);
-  app_.viewPort->ZoomOrCenter(minX, minY, maxX, maxY);
+  Extents box = emptyZoomExtents;
+  shape->GetExtents(box);
+  app_.viewPort->ZoomOrCenter(box);
   app_.Repaint();
 }
 

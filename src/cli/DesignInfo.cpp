@@ -2,7 +2,6 @@
 
 #include <cinttypes>
 #include <cstdio>
-#include <limits>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -29,20 +28,17 @@ struct GroupSummary {
   std::string side;
   std::size_t polylines = 0;
   std::size_t vertices = 0;
-  WorldBox box{};
+  Extents box;
 };
 
 GroupSummary Summarise(const CShapes& group)
 {
-  constexpr double largest = std::numeric_limits<double>::max();
   GroupSummary summary;
   summary.side = GroupName(group.viewCode);
-  WorldBox& box = summary.box;
-  box = {largest, largest, -largest, -largest};
   ForEachEntry(group.shapes, [&](const CShape& shape) {
     ++summary.polylines;
     summary.vertices += shape.vertices.size();
-    shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
+    shape.GetExtents(summary.box);
   });
   return summary;
 }

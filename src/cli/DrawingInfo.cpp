@@ -61,10 +61,7 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
   for (const auto& [name, block] : reader.Drawing().blocks)
     summary.blocks[name] = block->shapes.size();
   summary.shapes = layer.shapes->shapes.size();
-  summary.minX = layer.minX;
-  summary.minY = layer.minY;
-  summary.maxX = layer.maxX;
-  summary.maxY = layer.maxY;
+  summary.extents = layer.extents;
   summary.entities = Named(reader.Tally().entities);
   std::ranges::copy_if(summary.entities, std::inserter(summary.ignored, summary.ignored.end()),
                        [](const auto& entry) { return !IsImported(entry.first); });
@@ -82,10 +79,11 @@ void PrintDrawing(const DrawingSummary& summary, const std::string& name)
   PrintCounts("entities", summary.entities);
   PrintCounts("ignored", summary.ignored);
   std::printf("  imported: %zu shapes", summary.shapes);
-  if (summary.minX <= summary.maxX && summary.shapes != 0) {
-    std::printf(", from %s, %s to %s, %s", FormatFixed(summary.minX, 3).c_str(),
-                FormatFixed(summary.minY, 3).c_str(), FormatFixed(summary.maxX, 3).c_str(),
-                FormatFixed(summary.maxY, 3).c_str());
+  if (summary.extents.minX <= summary.extents.maxX && summary.shapes != 0) {
+    std::printf(", from %s, %s to %s, %s", FormatFixed(summary.extents.minX, 3).c_str(),
+                FormatFixed(summary.extents.minY, 3).c_str(),
+                FormatFixed(summary.extents.maxX, 3).c_str(),
+                FormatFixed(summary.extents.maxY, 3).c_str());
   }
   std::puts("");
 }
@@ -117,7 +115,8 @@ void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std
   json.Key("shapes");
   json.Integer(static_cast<std::int64_t>(summary.shapes));
   json.Key("extents");
-  json.Doubles({summary.minX, summary.minY, summary.maxX, summary.maxY});
+  json.Doubles(
+      {summary.extents.minX, summary.extents.minY, summary.extents.maxX, summary.extents.maxY});
   json.EndObject();
   json.EndLine();
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/Json.h"
+#include "model/Extents.h"
 
 namespace hullwright {
 
@@ -22,10 +23,7 @@ struct DrawingSummary {
   std::map<std::string, std::size_t> entities;  ///< keywords of the entities section
   std::map<std::string, std::size_t> ignored;   ///< those of them that nothing is made of
   std::size_t shapes = 0;                       ///< what the import gives
-  double minX = 0.0;
-  double minY = 0.0;
-  double maxX = 0.0;
-  double maxY = 0.0;
+  Extents extents;                              ///< of the shapes
 };
 
 /// Reads a drawing. Empty on success, else what is wrong with the file.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "app/CommonDataFolder.h"
@@ -24,16 +23,6 @@ void MemorySettings::WriteInteger(std::string_view section, std::string_view key
   values_[std::string(section).append("/").append(key)] = value;
 }
 
-/// Has neither a window nor anything that could draw.
-struct HeadlessEditor::NoDrawing : IDrawingBackEnd, IDrawingWindow {
-  Created<IDrawFactory> CreateDrawFactory() override { return {-1, nullptr}; }
-  Created<IWriteFactory> CreateWriteFactory() override { return {-1, nullptr}; }
-  Created<IImagingFactory> CreateImagingFactory() override { return {-1, nullptr}; }
-  std::optional<std::string> SystemMessage(ResultCode) const override { return std::nullopt; }
-  bool IsWindow() const override { return false; }
-  std::optional<PixelSize> ClientSize() const override { return std::nullopt; }
-};
-
 struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
   void Show(std::span<const PopupEntry>, ClientPoint) override {}
   void SetCursor(CursorShape) override {}
@@ -48,29 +37,24 @@ struct HeadlessEditor::NoDialogs : IDialogRunner, IFileDialogs {
   }
 };
 
-HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets)
-    : HeadlessEditor(std::make_unique<NoDrawing>(), widgets)
+HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets) : HeadlessEditor(nullptr, widgets) {}
+
+HeadlessEditor::HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets)
+    : HeadlessEditor(&target, widgets)
 {
 }
 
-HeadlessEditor::HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets)
-    : HeadlessEditor(*nothing, *nothing, widgets)
-{
-  noDrawing_ = std::move(nothing);
-}
-
-HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
-                               IFrameWidgets* widgets)
+HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
     : pointer_(std::make_unique<NoPointer>()),
       dialogs_(std::make_unique<NoDialogs>()),
       app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
       frame_(app_, widgets == nullptr ? noWidgets_ : *widgets),
       document_(app_, frame_, messages_),
-      view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})
+      view_(app_, app_, {messages_, *pointer_, *pointer_, *pointer_})
 {
   frame_.document = &document_;
   frame_.view = &view_;
-  view_.OnCreate(&surface);
+  view_.OnCreate(target);
   frame_.hasWindow = true;
 }
 
@@ -118,26 +102,19 @@ bool HeadlessEditor::Save(std::u16string_view path)
   return false;
 }
 
-WorldBox HeadlessEditor::SideBox() const
+Extents HeadlessEditor::SideBox() const
 {
-  constexpr double largest = std::numeric_limits<double>::max();
-  WorldBox box = {largest, largest, -largest, -largest};
+  Extents box;
   if (const CShapes* const group = FindViewGroup(app_.shapeGroups, app_.activeView)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) {
-      shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
-    });
+    ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
   }
   if (app_.activeView != ViewSide::Top) return box;
-  const auto widen = [&box](double x, double y) {
-    box = {std::min(box.minX, x), std::min(box.minY, y), std::max(box.maxX, x),
-           std::max(box.maxY, y)};
-  };
   for (const CShapeVertex* offset :
        {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
-    if (offset != nullptr) widen(offset->x, offset->y);
+    if (offset != nullptr) box.Widen(*offset);
   }
   ForEachEntry(app_.anchors->items,
-               [&](const CAnchor& anchor) { widen(anchor.attachmentX, anchor.attachmentY); });
+               [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
   return box;
 }
 
@@ -149,16 +126,16 @@ void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
   Frame(SideBox(), margin);
 }
 
-void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch)
+void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const Extents& stretch)
 {
   app_.activeView = side;
   view_.OnSize(width, height);
   Frame(stretch, 0.0);
 }
 
-void HeadlessEditor::Frame(const WorldBox& box, double marginPart) const
+void HeadlessEditor::Frame(const Extents& box, double marginPart) const
 {
-  if (!(box.minX <= box.maxX && box.minY <= box.maxY)) return;
+  if (box.IsEmpty()) return;
   CViewPort& viewPort = *view_.viewPort;
   // The width rules, so a tall box is given the width that its height needs.
   const double boxWidth = box.maxX - box.minX;

@@ -32,14 +32,6 @@ public:
   std::u16string last;
 };
 
-/// A stretch of the world; nothing when a lower bound is above its upper one.
-struct WorldBox {
-  double minX;
-  double minY;
-  double maxX;
-  double maxY;
-};
-
 /// Hears of the frame's look and shows nothing; a base for what shows a part of it.
 class NoWidgets : public IFrameWidgets {
 public:
@@ -53,13 +45,12 @@ public:
 };
 
 /// The editor without a window: application, document and view as the window has them, on a drawing
-/// surface of the caller's, or without a picture.
+/// target of the caller's, or without a picture.
 class HeadlessEditor {
 public:
   /// Without a picture. `widgets` shows the progress of imports; null for nobody.
   explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
-  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
-                 IFrameWidgets* widgets = nullptr);
+  explicit HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets = nullptr);
   ~HeadlessEditor();
 
   CHullwrightApp& App() { return app_; }
@@ -85,26 +76,24 @@ public:
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
   /// and anchors if they are not removed, or with at least a stretch of the world.
   void ShowSide(std::int32_t side, int width, int height);
-  void ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch);
+  void ShowSide(std::int32_t side, int width, int height, const Extents& stretch);
 
   /// Draws the side in view as one frame.
   void Draw() { view_.Repaint(); }
 
 private:
-  struct NoDrawing;
   struct NoPointer;
   struct NoDialogs;
 
-  HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
+  HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets);
 
-  WorldBox SideBox() const;
-  void Frame(const WorldBox& box, double marginPart) const;
+  Extents SideBox() const;
+  void Frame(const Extents& box, double marginPart) const;
 
   MemorySettings settings_;
   KeptMessages messages_;
   SharedLibraries libraries_;
   NoWidgets noWidgets_;
-  std::unique_ptr<NoDrawing> noDrawing_;
   std::unique_ptr<NoPointer> pointer_;
   std::unique_ptr<NoDialogs> dialogs_;
   CHullwrightApp app_;

@@ -15,8 +15,8 @@
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/Files.h"
-#include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
+#include "paint/PaintTarget.h"
 
 namespace hullwright {
 namespace {
@@ -50,7 +50,7 @@ std::string EndingOf(const std::string& path)
 class SidePainter {
 public:
   explicit SidePainter(const PictureRequest& request)
-      : request_(request), surface_(request.width, request.height), editor_(drawing_, surface_)
+      : request_(request), surface_(request.width, request.height), editor_(target_)
   {
   }
 
@@ -100,7 +100,7 @@ private:
 
   const PictureRequest& request_;
   PaintSurface surface_;
-  PaintBackEnd drawing_;
+  PaintTarget target_{surface_};
   HeadlessEditor editor_;
 };
 

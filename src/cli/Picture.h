@@ -18,9 +18,9 @@ struct PictureRequest {
   bool sheet = false;                ///< all sides on one sheet, with their names
   int width = 1600;                  ///< size of a side's picture in pixels
   int height = 1000;
-  std::optional<WorldBox> stretch;  ///< what to show at least; without it everything
-  std::optional<bool> grid;         ///< whether the grid is drawn; without it as by default
-  bool symbols = true;              ///< whether a design's offsets and anchors are drawn
+  std::optional<Extents> stretch;  ///< what to show at least; without it everything
+  std::optional<bool> grid;        ///< whether the grid is drawn; without it as by default
+  bool symbols = true;             ///< whether a design's offsets and anchors are drawn
 };
 
 /// Draws sides of a design, or of a drawing imported into them, to picture files. Empty on success,

@@ -127,7 +127,7 @@ void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u1
   }
   json.EndArray();
   json.Key("extents");
-  json.Doubles({layer.minX, layer.minY, layer.maxX, layer.maxY});
+  json.Doubles({layer.extents.minX, layer.extents.minY, layer.extents.maxX, layer.extents.maxY});
   json.Key("shapes");
   json.BeginArray();
   ForEachEntry(layer.shapes->shapes, [&](const CShape& shape) { WriteShape(json, shape); });

@@ -12,10 +12,10 @@
 namespace hullwright {
 namespace {
 
-std::u16string BoundsOf(const CLayer& layer)
+std::u16string BoundsOf(const Extents& box)
 {
   std::string text;
-  for (const double bound : {layer.minX, layer.minY, layer.maxX, layer.maxY}) {
+  for (const double bound : {box.minX, box.minY, box.maxX, box.maxY}) {
     if (!text.empty()) text.push_back(',');
     AppendFixed3(text, bound);
   }
@@ -51,7 +51,7 @@ int CFileDxf::Import(std::u16string_view filePath, CLayer* layer)
   context_.tally.CountShapes(*layer->shapes);
   layer->UpdateExtents();
   Log(TraceLevel::Progress, processingLog,
-      u"[DXF] Detected drawing extends: [" + BoundsOf(*layer) + u"].");
+      u"[DXF] Detected drawing extends: [" + BoundsOf(layer->extents) + u"].");
   Log(TraceLevel::Success, generalLog,
       u"Successfully loaded the selected AutoCAD DXF file: [ " + name +
           u"]. Please see the 'Processing' tab for details.");

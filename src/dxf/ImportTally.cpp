@@ -12,7 +12,7 @@ void ImportTally::CountShapes(const CShapes& group)
       case ShapeType::Text: ++texts; break;
       default: break;
     }
-    shape.GetExtents(minX, minY, maxX, maxY);
+    shape.GetExtents(extents);
   });
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <limits>
 
 #include "dxf/KeywordCounts.h"
+#include "model/Extents.h"
 #include "model/Shapes.h"
 
 namespace hullwright {
@@ -24,11 +24,7 @@ struct ImportTally {
   std::size_t areas = 0;
   std::size_t texts = 0;
 
-  // The extents of the shapes; without any, the least is more than the most.
-  double minX = std::numeric_limits<double>::max();
-  double minY = std::numeric_limits<double>::max();
-  double maxX = -std::numeric_limits<double>::max();
-  double maxY = -std::numeric_limits<double>::max();
+  Extents extents;  ///< of the shapes
 
   KeywordCounts entities;  ///< what the sections of entities hold
   KeywordCounts ignored;   ///< entities that nothing is made of, also those in blocks

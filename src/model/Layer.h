@@ -12,7 +12,7 @@ namespace hullwright {
 /// Holder that an import fills before its shapes are copied into the design; never saved.
 class CLayer {
 public:
-  /// Brings the bounds up to date. A box whose four bounds are all non-zero counts as computed; one
+  /// Brings `extents` up to date. A box whose four bounds are all non-zero counts as computed; one
   /// with a bound of exactly 0.0 is computed again, even where that is right.
   void UpdateExtents();
 
@@ -23,10 +23,7 @@ public:
   std::int32_t flagA = 0;  ///< carried
   std::int32_t flagB = 1;  ///< carried
   std::int64_t enabled = 1;
-  double minX = 0.0;
-  double minY = 0.0;
-  double maxX = 0.0;
-  double maxY = 0.0;
+  Extents extents{0.0, 0.0, 0.0, 0.0};
   double spareA = 0.0;  ///< carried
   double spareB = 0.0;  ///< carried
 };

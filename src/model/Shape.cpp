@@ -6,7 +6,7 @@ CShape::CShape() { Reset(); }
 
 std::unique_ptr<CShape> CShape::Clone() const { return nullptr; }
 
-void CShape::GetExtents(double&, double&, double&, double&) const {}
+void CShape::GetExtents(Extents&) const {}
 
 double CShape::DistanceTo(double, double) const { return 0.0; }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "model/Extents.h"
 #include "model/ShapeAttributes.h"
 #include "model/ShapeStyle.h"
 #include "model/ShapeVertex.h"
@@ -42,8 +43,8 @@ public:
   /// Whether the world point lies on the shape, within ten pixels.
   virtual bool HitTest(const CViewPort* viewPort, double x, double y) const;
 
-  /// Widens the four bounds by the shape.
-  virtual void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const;
+  /// Widens a box by the shape.
+  virtual void GetExtents(Extents& box) const;
 
   /// Distance of a world point from the shape; 0.0 where a shape does not say.
   virtual double DistanceTo(double x, double y) const;

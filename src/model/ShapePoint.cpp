@@ -1,7 +1,5 @@
 #include "model/ShapePoint.h"
 
-#include "model/Extents.h"
-
 namespace hullwright {
 
 CShapePoint::CShapePoint() { type = ShapeType::Point; }
@@ -14,10 +12,7 @@ std::unique_ptr<CShape> CShapePoint::Clone() const
   return copy;
 }
 
-void CShapePoint::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
-{
-  WidenExtentsAround(position, minX, minY, maxX, maxY);
-}
+void CShapePoint::GetExtents(Extents& box) const { box.WidenAround(position); }
 
 void CShapePoint::GetVertices(std::vector<CShapeVertex*>& list) { list.push_back(&position); }
 

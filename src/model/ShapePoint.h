@@ -14,7 +14,7 @@ public:
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
 
   /// Widens by the position with a margin of one world unit on each side, at any zoom.
-  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void GetExtents(Extents& box) const override;
   void GetVertices(std::vector<CShapeVertex*>& list) override;
   void Translate(double dx, double dy, double dz) override;
   void Scale(double sx, double sy, double sz) override;

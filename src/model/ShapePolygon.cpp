@@ -18,10 +18,9 @@ std::unique_ptr<CShape> CShapePolygon::Clone() const
   return copy;
 }
 
-void CShapePolygon::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
+void CShapePolygon::GetExtents(Extents& box) const
 {
-  ForEachEntry(rings,
-               [&](const CShapePolygonRing& ring) { ring.GetExtents(minX, minY, maxX, maxY); });
+  ForEachEntry(rings, [&](const CShapePolygonRing& ring) { ring.GetExtents(box); });
 }
 
 double CShapePolygon::DistanceTo(double x, double y) const

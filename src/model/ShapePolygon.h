@@ -18,7 +18,7 @@ public:
   /// Whether the point is inside an odd number of rings, counted from the first; without
   /// tolerance, so that the viewport plays no part.
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
-  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void GetExtents(Extents& box) const override;
 
   /// The smallest distance from a ring; 1e24 without rings.
   double DistanceTo(double x, double y) const override;

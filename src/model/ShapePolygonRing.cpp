@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "model/Extents.h"
 #include "model/RingTest.h"
 
 namespace hullwright {
@@ -18,9 +17,9 @@ std::unique_ptr<CShape> CShapePolygonRing::Clone() const
   return copy;
 }
 
-void CShapePolygonRing::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
+void CShapePolygonRing::GetExtents(Extents& box) const
 {
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { WidenExtents(v, minX, minY, maxX, maxY); });
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { box.Widen(v); });
 }
 
 bool CShapePolygonRing::ContainsPoint(double x, double y) const

@@ -12,7 +12,7 @@ public:
 
   /// The vertices of the copy have all six fields.
   std::unique_ptr<CShape> Clone() const override;
-  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void GetExtents(Extents& box) const override;
 
   /// 0.0 inside and for a ring without vertices, else the distance to the nearest edge that has
   /// one; 1e24 where none has.

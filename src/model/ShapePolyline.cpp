@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "model/Angle.h"
-#include "model/Extents.h"
 
 namespace hullwright {
 
@@ -27,9 +26,9 @@ std::unique_ptr<CShape> CShapePolyline::Clone() const
   return copy;
 }
 
-void CShapePolyline::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
+void CShapePolyline::GetExtents(Extents& box) const
 {
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { WidenExtents(v, minX, minY, maxX, maxY); });
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { box.Widen(v); });
 }
 
 void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)

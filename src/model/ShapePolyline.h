@@ -18,7 +18,7 @@ public:
   std::unique_ptr<CShape> Clone() const override;
   void Draw(const CViewPort* viewPort) override;
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
-  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void GetExtents(Extents& box) const override;
   void RemoveVertex(const CShapeVertex* vertex) override;
   bool IsVisible(const CViewPort& viewPort) const override;
 

@@ -1,7 +1,5 @@
 #include "model/ShapeText.h"
 
-#include "model/Extents.h"
-
 namespace hullwright {
 
 CShapeText::CShapeText() { type = ShapeType::Text; }
@@ -17,10 +15,10 @@ std::unique_ptr<CShape> CShapeText::Clone() const
   return copy;
 }
 
-void CShapeText::GetExtents(double& minX, double& minY, double& maxX, double& maxY) const
+void CShapeText::GetExtents(Extents& box) const
 {
   if (!vertices.empty() && vertices.front()) {
-    WidenExtentsAround(*vertices.front(), minX, minY, maxX, maxY);
+    box.WidenAround(*vertices.front());
   }
 }
 

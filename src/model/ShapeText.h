@@ -28,7 +28,7 @@ public:
 
   /// Widens by the first vertex with a margin of one world unit on each side, however long the
   /// text.
-  void GetExtents(double& minX, double& minY, double& maxX, double& maxY) const override;
+  void GetExtents(Extents& box) const override;
 
   std::u16string text;                ///< drawing it trims it of white space, in place
   std::array<Corner, 4> screenBox{};  ///< outline of the text at the last repaint

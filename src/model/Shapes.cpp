@@ -22,6 +22,11 @@ void CShapes::TakeShapes(CShapes& source)
   source.shapes.clear();
 }
 
+void CShapes::GetExtents(Extents& box) const
+{
+  Walk(cursor, shapes, [&box](const CShape& shape) { shape.GetExtents(box); });
+}
+
 bool CShapes::AnswersFor(std::int32_t side) const
 {
   return viewCode == side || viewCode == ViewSide::All;

@@ -27,6 +27,9 @@ public:
   /// goes at once would give, without the copies.
   void TakeShapes(CShapes& source);
 
+  /// Widens a box by every shape up to the first null entry, walking with the group's own cursor.
+  void GetExtents(Extents& box) const;
+
   /// Whether the group answers for a side: it bears the side's code, or the code of all sides.
   bool AnswersFor(std::int32_t side) const;
 

@@ -10,11 +10,6 @@ PaintSurface::PaintSurface(int width, int height, double ratio) : ratio_(ratio)
   Allocate(width, height);
 }
 
-std::optional<PixelSize> PaintSurface::ClientSize() const
-{
-  return PixelSize{static_cast<float>(width_), static_cast<float>(height_)};
-}
-
 QPaintDevice* PaintSurface::Device()
 {
   if (device_ != nullptr) return device_;

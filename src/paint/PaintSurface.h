@@ -3,18 +3,13 @@
 #include <QImage>
 #include <functional>
 
-#include "platform/Drawing.h"
-
 namespace hullwright {
 
-/// The picture that frames are painted on, and the window that the canvas is bound to. One client
-/// pixel is `ratio` pixels of the picture on each axis.
-class PaintSurface : public IDrawingWindow {
+/// The picture that frames are painted on, of the client size of its window. One client pixel is
+/// `ratio` pixels of the picture on each axis.
+class PaintSurface {
 public:
   PaintSurface(int width, int height, double ratio = 1.0);
-
-  bool IsWindow() const override { return true; }
-  std::optional<PixelSize> ClientSize() const override;
 
   /// Makes the picture anew at a client size. A size of zero, or one that there is no memory for,
   /// leaves none.

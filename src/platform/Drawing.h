@@ -1,14 +1,15 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-/// The drawing back end: the operations that the canvas and the drawers need, and no more.
-/// Coordinates and stroke widths are client pixels, y growing downward.
+/// The drawing target: what the canvas and the drawers ask of a picture, and no more. Everything
+/// goes in by value, so a target may gather calls, leave out what can't be seen, and keep what it
+/// made of a figure. Coordinates and widths are client pixels, y growing downward.
 namespace hullwright {
 
 /// Result of a drawing operation: 0 is success, negative values are failures.
@@ -16,7 +17,7 @@ using ResultCode = std::int32_t;
 
 constexpr bool Failed(ResultCode code) { return code < 0; }
 
-/// The code of a frame whose device was lost: the target must be made again.
+/// The code of a frame whose device was lost: the target must be made ready again.
 inline constexpr ResultCode recreateTarget = static_cast<ResultCode>(0x8899000CU);
 
 struct PixelPoint {
@@ -36,6 +37,12 @@ struct PixelSize {
   float height = 0.0F;
 };
 
+/// Dots per inch.
+struct Resolution {
+  float x = 96.0F;
+  float y = 96.0F;
+};
+
 /// Parts from 0.0 to 1.0.
 struct Colour {
   float red = 0.0F;
@@ -44,113 +51,96 @@ struct Colour {
   float alpha = 1.0F;
 };
 
-/// What a creating operation gives: a code, and the object on success.
-template <class T>
-struct Created {
+struct Stroke {
+  Colour colour;
+  float width = 1.0F;
+};
+
+enum class FigureKind {
+  Line,    ///< open, with round joins
+  Outline  ///< closed, with plain joins
+};
+
+/// Figures that are stroked as one path. The points are the caller's and stand for the length of
+/// the call; each figure has at least one.
+struct Figures {
+  FigureKind kind = FigureKind::Line;
+  std::span<const PixelPoint> points;      ///< of all figures, one after the other
+  std::span<const std::size_t> pointEnds;  ///< for each figure the number of points up to its end
+};
+
+struct TextStyle {
+  std::u16string_view family;
+  float size = 0.0F;     ///< height of the font in pixels
+  bool centred = false;  ///< on both axes of its rectangle; else it starts at the upper left
+};
+
+/// A turn about a pixel, clockwise on the screen.
+struct Turn {
+  float degrees = 0.0F;
+  PixelPoint centre;
+};
+
+/// A text in a rectangle, never wrapped and never cut off at its edges.
+struct TextBlock {
+  std::u16string_view text;
+  TextStyle style;
+  PixelRect rect = {};
+  Colour colour = {};
+  std::optional<Colour> ground = std::nullopt;  ///< what the rectangle is filled with first
+  std::optional<Turn> turn = std::nullopt;      ///< of text and rectangle
+};
+
+/// The steps in which a target is made ready, in their order.
+enum class TargetStep {
+  Window,      ///< there is a window
+  Drawing,     ///< what figures are drawn with
+  ClientArea,  ///< the window can tell its size
+  Picture,     ///< the picture of the window, of its client size
+  Texts,       ///< what texts are measured and drawn with
+  Imaging      ///< what picture files are made with
+};
+
+inline constexpr std::size_t targetSteps = 6;
+
+struct StepResult {
   ResultCode code = 0;
-  std::unique_ptr<T> object;
+  bool yielded = true;  ///< a step may succeed and still yield nothing
 };
 
-class IBrush {
-public:
-  virtual ~IBrush() = default;
-  virtual void SetColour(const Colour& colour) = 0;
+/// How a frame ended, and the platform's text for a failure where it has one.
+struct FrameResult {
+  ResultCode code = 0;
+  std::optional<std::string> message;
 };
 
-class ITextFormat {
+/// The picture of one window, drawn frame by frame. Only a target whose steps were all done is
+/// drawn on; a call with a value that can't be drawn, such as a width that is no number, draws
+/// nothing.
+class IDrawingTarget {
 public:
-  virtual ~ITextFormat() = default;
-  /// Centres the text in its rectangle on both axes; without it the text starts at the upper left.
-  virtual void CentreText() = 0;
-  virtual void DisableWordWrapping() = 0;
-};
+  virtual ~IDrawingTarget() = default;
 
-enum class FigureFill { Filled, Hollow };
-enum class FigureEnd { Open, Closed };
+  /// Does one step. Each can be done again; the picture is then made anew.
+  virtual StepResult Prepare(TargetStep step, Resolution resolution) = 0;
 
-/// Receives the figures of a path; `Close` ends it.
-class IPathSink {
-public:
-  virtual ~IPathSink() = default;
-  virtual void ForceRoundLineJoins() = 0;
-  virtual void BeginFigure(PixelPoint start, FigureFill fill) = 0;
-  virtual void AddLines(std::span<const PixelPoint> points) = 0;
-  virtual void EndFigure(FigureEnd end) = 0;
-  virtual ResultCode Close() = 0;
-};
-
-class IPathGeometry {
-public:
-  virtual ~IPathGeometry() = default;
-  virtual Created<IPathSink> Open() = 0;
-};
-
-/// One picture that frames are drawn on.
-class IRenderTarget {
-public:
-  virtual ~IRenderTarget() = default;
+  /// Makes the picture anew at a client size.
   virtual void Resize(int width, int height) = 0;
-  virtual void BeginDraw() = 0;
-  virtual void Clear(const Colour& colour) = 0;
-  /// Ends the frame and tells how it went.
-  virtual ResultCode EndDraw() = 0;
-  virtual std::unique_ptr<IBrush> CreateSolidColourBrush(const Colour& colour) = 0;
-  virtual void DrawLine(PixelPoint from, PixelPoint to, const IBrush& brush, float width) = 0;
-  virtual void DrawRectangle(const PixelRect& rect, const IBrush& brush, float width) = 0;
-  virtual void FillRectangle(const PixelRect& rect, const IBrush& brush) = 0;
-  virtual void DrawEllipse(PixelPoint centre, float radiusX, float radiusY, const IBrush& brush,
-                           float width) = 0;
-  virtual void DrawGeometry(const IPathGeometry& geometry, const IBrush& brush, float width) = 0;
-  virtual void DrawText(std::u16string_view text, const ITextFormat& format, const PixelRect& rect,
-                        const IBrush& brush) = 0;
-  /// Turns what follows by `angleDegrees`, clockwise on the screen, about a pixel; 0.0 about (0, 0)
-  /// is the identity.
-  virtual void SetRotation(float angleDegrees, PixelPoint centre) = 0;
-};
 
-/// The window that a target is bound to.
-class IDrawingWindow {
-public:
-  virtual ~IDrawingWindow() = default;
-  virtual bool IsWindow() const = 0;
-  /// Client size in pixels; nothing when the window can't tell.
-  virtual std::optional<PixelSize> ClientSize() const = 0;
-};
+  virtual void BeginFrame(const Colour& background) = 0;
+  virtual FrameResult EndFrame() = 0;
 
-/// Makes targets and paths.
-class IDrawFactory {
-public:
-  virtual ~IDrawFactory() = default;
-  virtual Created<IRenderTarget> CreateWindowTarget(IDrawingWindow& window, int width, int height,
-                                                    float dpiX, float dpiY) = 0;
-  virtual Created<IPathGeometry> CreatePathGeometry() = 0;
-};
+  virtual void DrawLine(PixelPoint from, PixelPoint to, const Stroke& stroke) = 0;
+  virtual void DrawRectangle(const PixelRect& rect, const Stroke& stroke) = 0;
+  virtual void FillRectangle(const PixelRect& rect, const Colour& colour) = 0;
+  virtual void DrawEllipse(PixelPoint centre, float radiusX, float radiusY,
+                           const Stroke& stroke) = 0;
+  virtual void DrawFigures(const Figures& figures, const Stroke& stroke) = 0;
 
-/// Makes and measures text formats.
-class IWriteFactory {
-public:
-  virtual ~IWriteFactory() = default;
-  virtual Created<ITextFormat> CreateTextFormat(std::u16string_view family, float size) = 0;
-  /// Size of the text laid out within the limits.
-  virtual std::optional<PixelSize> MeasureText(const ITextFormat& format, std::u16string_view text,
-                                               float maxWidth, float maxHeight) = 0;
-};
-
-/// Picture files; made and kept for whoever needs one.
-class IImagingFactory {
-public:
-  virtual ~IImagingFactory() = default;
-};
-
-/// The way into a back end.
-class IDrawingBackEnd {
-public:
-  virtual ~IDrawingBackEnd() = default;
-  virtual Created<IDrawFactory> CreateDrawFactory() = 0;
-  virtual Created<IWriteFactory> CreateWriteFactory() = 0;
-  virtual Created<IImagingFactory> CreateImagingFactory() = 0;
-  /// The platform's text for a code; nothing when it has none.
-  virtual std::optional<std::string> SystemMessage(ResultCode code) const = 0;
+  /// Size of a text laid out within limits; nothing where texts can't have this style.
+  virtual std::optional<PixelSize> MeasureText(std::u16string_view text, const TextStyle& style,
+                                               PixelSize limits) = 0;
+  virtual void DrawText(const TextBlock& block) = 0;
 };
 
 }  // namespace hullwright

@@ -37,7 +37,7 @@ DesignWidget::DesignWidget(QWidget* parent) : QWidget(parent), surface_(0, 0)
 void DesignWidget::Attach(CHullwrightView& view)
 {
   view_ = &view;
-  view.OnCreate(&surface_);
+  view.OnCreate(&target_);
 }
 
 void DesignWidget::SetCursor(CursorShape shape)

@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
+#include "paint/PaintTarget.h"
 #include "platform/Pointer.h"
 #include "view/HullwrightView.h"
 
@@ -24,8 +24,6 @@ public:
   /// Creates the view's canvas in this widget; the view must outlive the widget's events.
   void Attach(CHullwrightView& view);
   void Detach() { view_ = nullptr; }
-
-  IDrawingBackEnd& Drawing() { return backEnd_; }
 
   void SetCursor(CursorShape shape) override;
   void InvertLine(ClientPoint from, ClientPoint to) override;
@@ -55,8 +53,8 @@ private:
   void Resized();
   void PaintRubberBand(QPainter& painter) const;
 
-  PaintBackEnd backEnd_;
   PaintSurface surface_;
+  PaintTarget target_{surface_};
   CHullwrightView* view_ = nullptr;
   int wheelTurn_ = 0;  ///< turn that has not made up a notch yet
 };

@@ -35,7 +35,7 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       frame_(app, *this),
       document_(app, frame_, messages),
       design_(new DesignWidget(this)),
-      view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
+      view_(app, app, {messages, *design_, *design_, *design_}),
       recentFiles_(settings),
       documents_(document_, app,
                  {documentDialogs_, recentFiles_, formerVersions_, *this,

@@ -1,6 +1,6 @@
 #include "render/Canvas.h"
 
-#include <utility>
+#include <array>
 
 #include "base/Numbers.h"
 
@@ -13,110 +13,91 @@ std::string Hex8(ResultCode code) { return FormatHex(static_cast<std::uint32_t>(
 constexpr std::uint32_t dispatchErrorFirst = 0x80040200U;
 constexpr std::uint32_t dispatchErrorLast = 0x8004FFFFU;
 
-}  // namespace
+/// A step of the initialisation, and what is told where it fails.
+struct StepRow {
+  TargetStep step;
+  std::string_view failure;  ///< nothing is told where this is empty
+  bool withCode;             ///< the failure is told with its code
+  bool held;                 ///< what the step yields is held
+  bool mustYield;            ///< yielding nothing is a failure, too
+};
 
-CCanvas::~CCanvas() { ReleaseResources(); }
+constexpr auto steps = std::to_array<StepRow>({
+    {TargetStep::Window, "hWnd == nullptr or window is invalid!", false, false, true},
+    {TargetStep::Drawing, "D2D1CreateFactory failed with error", true, true, true},
+    {TargetStep::ClientArea, "", false, false, true},
+    {TargetStep::Picture, "CreateHwndRenderTarget failed with error", true, true, false},
+    {TargetStep::Texts, "DWriteCreateFactory failed with error", true, true, true},
+    {TargetStep::Imaging, "cannot create WIC instance, error", true, true, false},
+});
+static_assert(steps.size() == targetSteps);
 
-bool CCanvas::Fail(std::string_view what, ResultCode code)
+std::string FailureText(const StepRow& row, ResultCode code)
 {
-  errorText = "Failed to initialize Canvas, ";
-  errorText += what;
-  errorText += " 0x" + Hex8(code);
-  return false;
+  std::string text = "Failed to initialize Canvas, ";
+  text += row.failure;
+  if (row.withCode) text += " 0x" + Hex8(code);
+  return text;
 }
 
-bool CCanvas::Initialize(IDrawingWindow* newWindow)
-{
-  window = newWindow;
-  if (window == nullptr || !window->IsWindow()) {
-    errorText = "Failed to initialize Canvas, hWnd == nullptr or window is invalid!";
-    return false;
-  }
-  auto draw = backEnd_.CreateDrawFactory();
-  if (Failed(draw.code) || !draw.object) {
-    return Fail("D2D1CreateFactory failed with error", draw.code);
-  }
-  const auto client = window->ClientSize();
-  if (!client) return false;
-  auto target = draw.object->CreateWindowTarget(*window, static_cast<int>(client->width),
-                                                static_cast<int>(client->height), dpiX, dpiY);
-  if (Failed(target.code)) return Fail("CreateHwndRenderTarget failed with error", target.code);
-  auto write = backEnd_.CreateWriteFactory();
-  if (Failed(write.code) || !write.object) {
-    return Fail("DWriteCreateFactory failed with error", write.code);
-  }
-  auto imaging = backEnd_.CreateImagingFactory();
-  if (Failed(imaging.code)) return Fail("cannot create WIC instance, error", imaging.code);
+}  // namespace
 
-  renderTarget = std::move(target.object);
-  factory = std::move(draw.object);
-  writeFactory = std::move(write.object);
-  imagingFactory = std::move(imaging.object);
+bool CCanvas::Initialize(IDrawingTarget* target)
+{
+  window = target;
+  std::bitset<targetSteps> held;
+  for (const StepRow& row : steps) {
+    const StepResult result =
+        target == nullptr ? StepResult{-1, false} : target->Prepare(row.step, resolution);
+    if (Failed(result.code) || (row.mustYield && !result.yielded)) {
+      if (!row.failure.empty()) errorText = FailureText(row, result.code);
+      return false;
+    }
+    held[static_cast<std::size_t>(row.step)] = row.held && result.yielded;
+  }
+  held_ = held;
+  target_ = Holds(TargetStep::Picture) ? target : nullptr;
   return true;
 }
 
 void CCanvas::ReleaseResources()
 {
-  renderTarget.reset();
-  factory.reset();
-  writeFactory.reset();
-  imagingFactory.reset();
+  target_ = nullptr;
+  held_.reset();
 }
 
-void CCanvas::DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points,
-                           float width) const
+void CCanvas::DrawPolyline(std::span<const PixelPoint> points, const Stroke& stroke) const
 {
-  if (points.data() == nullptr || points.size() < 2) return;
-  const auto path = CreateGeometry();
-  if (!path) return;
-  const auto sink = path->Open();
-  if (Failed(sink.code) || !sink.object) return;
-  sink.object->ForceRoundLineJoins();
-  sink.object->BeginFigure(points.front(), FigureFill::Hollow);
-  sink.object->AddLines(points);  // the first point again: a first segment of length zero
-  sink.object->EndFigure(FigureEnd::Open);
-  sink.object->Close();
-  renderTarget->DrawGeometry(*path, brush, width);
+  if (target_ == nullptr || points.size() < 2) return;
+  const std::array<std::size_t, 1> end = {points.size()};
+  target_->DrawFigures({FigureKind::Line, points, end}, stroke);
 }
 
-std::unique_ptr<ITextFormat> CCanvas::CreateFormat(std::u16string_view family, float size) const
+std::optional<PixelSize> CCanvas::MeasureText(std::u16string_view text,
+                                              const TextStyle& style) const
 {
-  if (!writeFactory) return nullptr;
-  auto format = writeFactory->CreateTextFormat(family, size);
-  return Failed(format.code) ? nullptr : std::move(format.object);
+  constexpr PixelSize limits{1000.0F, 100.0F};
+  if (target_ == nullptr) return std::nullopt;
+  return target_->MeasureText(text, style, limits);
 }
 
-std::unique_ptr<IPathGeometry> CCanvas::CreateGeometry() const
+void CCanvas::EndFrame(const FrameResult& result)
 {
-  if (!renderTarget || !factory) return nullptr;
-  auto path = factory->CreatePathGeometry();
-  return Failed(path.code) ? nullptr : std::move(path.object);
-}
-
-PixelSize CCanvas::MeasureText(const ITextFormat& format, std::u16string_view text) const
-{
-  constexpr float maxWidth = 1000.0F;
-  constexpr float maxHeight = 100.0F;
-  if (!writeFactory) return {};
-  return writeFactory->MeasureText(format, text, maxWidth, maxHeight).value_or(PixelSize{});
-}
-
-void CCanvas::EndFrame(ResultCode code)
-{
-  if (code == 0) return;
-  errorText = "Error 0x" + Hex8(code) + " (" + ErrorMessage(backEnd_, code) + ")";
-  if (code != recreateTarget) return;
+  if (result.code == 0) return;
+  errorText = "Error 0x" + Hex8(result.code) + " (" + ErrorMessage(result) + ")";
+  if (result.code != recreateTarget) return;
   ReleaseResources();
   Initialize(window);
 }
 
-std::string ErrorMessage(const IDrawingBackEnd& backEnd, ResultCode code)
+std::string ErrorMessage(const FrameResult& result)
 {
-  if (auto text = backEnd.SystemMessage(code)) {
-    while (!text->empty() && (text->back() == '\n' || text->back() == '\r')) text->pop_back();
-    return *text;
+  if (result.message) {
+    std::string text = *result.message;
+    while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
+    return text;
   }
-  const auto value = static_cast<std::uint32_t>(code);
+  const auto value = static_cast<std::uint32_t>(result.code);
   if (value > dispatchErrorFirst && value <= dispatchErrorLast) {
     return "IDispatch error #" + std::to_string(value - dispatchErrorFirst);
   }

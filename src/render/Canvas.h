@@ -1,6 +1,7 @@
 #pragma once
 
-#include <memory>
+#include <bitset>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,56 +10,53 @@
 
 namespace hullwright {
 
-/// The drawing surface of the design view: the render target of its window and the factories behind
-/// it. It caches nothing; drawers make their brushes and formats for each repaint. Without a target
-/// (before `Initialize`, after a failure, after `ReleaseResources`) drawers skip what they can't
-/// draw.
+/// The drawing surface of the design view: makes the target of its window ready, and draws what is
+/// more than one call of it. It keeps nothing from one frame to the next. Without a target (before
+/// `Initialize`, after a failure, after `ReleaseResources`) drawers skip what they can't draw.
 class CCanvas {
 public:
-  explicit CCanvas(IDrawingBackEnd& backEnd) : backEnd_(backEnd) {}
+  CCanvas() = default;
   CCanvas(const CCanvas&) = delete;
   CCanvas& operator=(const CCanvas&) = delete;
-  virtual ~CCanvas();
+  virtual ~CCanvas() = default;
 
-  /// Makes factories and target for a window. On the first failure `errorText` tells it, the result
-  /// is false, and the objects held so far stay as they were.
-  bool Initialize(IDrawingWindow* window);
+  /// Makes a target ready, which must outlive the canvas. On the first failure `errorText` tells
+  /// it, the result is false, and what was held so far stays.
+  bool Initialize(IDrawingTarget* target);
 
-  /// Lets go of target and factories; window, resolution and error text stay.
+  /// Lets go of the target; window, resolution and error text stay.
   void ReleaseResources();
 
+  /// What can be drawn on; null without it.
+  IDrawingTarget* Target() const { return target_; }
+
+  /// Whether a step of the last successful `Initialize` yielded something that is still held. The
+  /// window and its client area are never held.
+  bool Holds(TargetStep step) const { return held_[static_cast<std::size_t>(step)]; }
+
   /// Draws an open line with round joins. Fewer than two points draw nothing.
-  void DrawPolyline(const IBrush& brush, std::span<const PixelPoint> points, float width) const;
+  void DrawPolyline(std::span<const PixelPoint> points, const Stroke& stroke) const;
 
-  /// A format of normal weight, style and stretch; `size` in pixels. Null on failure.
-  std::unique_ptr<ITextFormat> CreateFormat(std::u16string_view family, float size) const;
+  /// Whether texts can be drawn in a style.
+  bool CanWrite(const TextStyle& style) const { return MeasureText({}, style).has_value(); }
 
-  /// An empty path; null on failure.
-  std::unique_ptr<IPathGeometry> CreateGeometry() const;
+  /// Size of a text, measured as wrapped at 1000.0; nothing where texts can't have this style.
+  std::optional<PixelSize> MeasureText(std::u16string_view text, const TextStyle& style) const;
 
-  /// Size of a text, measured as wrapped at 1000.0; zero on failure.
-  PixelSize MeasureText(const ITextFormat& format, std::u16string_view text) const;
+  /// Keeps the text of a failed frame, and makes the target ready again when the device was lost.
+  /// Success does nothing.
+  void EndFrame(const FrameResult& result);
 
-  /// Keeps the text of a failed frame, and makes the target anew when the device was lost. Success
-  /// does nothing.
-  void EndFrame(ResultCode code);
-
-  std::string errorText;  ///< the last failure; empty until one occurs
-  std::unique_ptr<IRenderTarget> renderTarget;
-  std::unique_ptr<IDrawFactory> factory;
-  std::unique_ptr<IWriteFactory> writeFactory;
-  std::unique_ptr<IImagingFactory> imagingFactory;
-  IDrawingWindow* window = nullptr;  ///< kept for re-creation
-  float dpiX = 96.0F;                ///< 96 whatever the monitor: a pixel is a pixel
-  float dpiY = 96.0F;
+  std::string errorText;             ///< the last failure; empty until one occurs
+  IDrawingTarget* window = nullptr;  ///< the target of the last `Initialize`, for the next one
+  Resolution resolution;             ///< 96 whatever the monitor: a pixel is a pixel
 
 private:
-  bool Fail(std::string_view what, ResultCode code);
-
-  IDrawingBackEnd& backEnd_;
+  IDrawingTarget* target_ = nullptr;
+  std::bitset<targetSteps> held_;
 };
 
-/// The text for a result code: the platform's, or one of the two general forms where it has none.
-std::string ErrorMessage(const IDrawingBackEnd& backEnd, ResultCode code);
+/// The text for a failed frame: the platform's, or one of the two general forms where it has none.
+std::string ErrorMessage(const FrameResult& result);
 
 }  // namespace hullwright

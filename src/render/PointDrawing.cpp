@@ -1,5 +1,4 @@
 #include "model/ShapePoint.h"
-#include "render/Canvas.h"
 #include "render/ShapeDrawing.h"
 
 namespace hullwright {
@@ -8,19 +7,12 @@ void CShapePoint::Draw(const CViewPort* viewPort)
 {
   constexpr float halfMarker = 2.5F;
   constexpr float highlightWidth = 6.0F;
-  CCanvas* const canvas = DrawableCanvas(viewPort);
-  if (canvas == nullptr || !viewPort->Contains(position.x, position.y)) return;
-  IRenderTarget& target = *canvas->renderTarget;
-  const auto brush = target.CreateSolidColourBrush(Colours::black);
-  if (!brush) return;
+  IDrawingTarget* const target = TargetOf(viewPort);
+  if (target == nullptr || !viewPort->Contains(position.x, position.y)) return;
   const PixelPoint p = Narrowed(viewPort->WorldToScreen(position.x, position.y));
   const PixelRect marker{p.x - halfMarker, p.y - halfMarker, p.x + halfMarker, p.y + halfMarker};
-  if (selected) {
-    brush->SetColour(Colours::highlight);
-    target.DrawRectangle(marker, *brush, highlightWidth);
-    brush->SetColour(Colours::black);
-  }
-  target.FillRectangle(marker, *brush);
+  if (selected) target->DrawRectangle(marker, {Colours::highlight, highlightWidth});
+  target->FillRectangle(marker, Colours::black);
 }
 
 bool CShapePoint::HitTest(const CViewPort* viewPort, double x, double y) const

@@ -3,47 +3,26 @@
 #include <vector>
 
 #include "model/ShapePolygon.h"
-#include "render/Canvas.h"
 #include "render/ShapeDrawing.h"
 
 namespace hullwright {
-namespace {
-
-/// The rings as figures of one path; null on failure.
-std::unique_ptr<IPathGeometry> OutlineOf(const CShapePolygon& polygon, const CViewPort& viewPort,
-                                         const CCanvas& canvas)
-{
-  auto path = canvas.CreateGeometry();
-  if (!path) return nullptr;
-  const auto sink = path->Open();
-  if (Failed(sink.code) || !sink.object) return nullptr;
-  std::vector<PixelPoint> points;
-  ForEachEntry(polygon.rings, [&](const CShapePolygonRing& ring) {
-    points.clear();
-    ForEachEntry(ring.vertices, [&](const CShapeVertex& v) {
-      points.push_back(Narrowed(viewPort.WorldToScreen(v.x, v.y)));
-    });
-    if (points.empty()) return;  // a figure has to begin somewhere
-    sink.object->BeginFigure(points.front(), FigureFill::Filled);
-    sink.object->AddLines(points);
-    sink.object->EndFigure(FigureEnd::Closed);
-  });
-  return Failed(sink.object->Close()) ? nullptr : std::move(path);
-}
-
-}  // namespace
 
 void CShapePolygon::Draw(const CViewPort* viewPort)
 {
-  CCanvas* const canvas = DrawableCanvas(viewPort);
-  if (canvas == nullptr) return;
+  IDrawingTarget* const target = TargetOf(viewPort);
+  if (target == nullptr) return;
+  std::vector<PixelPoint> points;
+  std::vector<std::size_t> ends;
+  ForEachEntry(rings, [&](const CShapePolygonRing& ring) {
+    const std::size_t before = points.size();
+    ForEachEntry(ring.vertices, [&](const CShapeVertex& v) {
+      points.push_back(Narrowed(viewPort->WorldToScreen(v.x, v.y)));
+    });
+    if (points.size() > before) ends.push_back(points.size());
+  });
   // The outline is white on the pale paper and the inside is not filled, whatever the style says.
-  const auto brush = canvas->renderTarget->CreateSolidColourBrush(Colours::white);
-  if (!brush) return;
-  const auto outline = OutlineOf(*this, *viewPort, *canvas);
-  if (!outline) return;
-  if (selected) brush->SetColour(Colours::highlight);
-  canvas->renderTarget->DrawGeometry(*outline, *brush, 1.0F);
+  target->DrawFigures({FigureKind::Outline, points, ends},
+                      {selected ? Colours::highlight : Colours::white, 1.0F});
 }
 
 bool CShapePolygon::HitTest(const CViewPort*, double x, double y) const

@@ -30,22 +30,15 @@ bool HitsSegment(const CShapeVertex& a, const CShapeVertex& b, double x, double 
 void CShapePolyline::Draw(const CViewPort* viewPort)
 {
   constexpr float highlightWidth = 4.0F;
-  CCanvas* const canvas = DrawableCanvas(viewPort);
+  const CCanvas* const canvas = DrawableCanvas(viewPort);
   if (canvas == nullptr || vertices.size() < 2) return;
-  const Colour colour = LineColour(style.get());
-  const auto brush = canvas->renderTarget->CreateSolidColourBrush(colour);
-  if (!brush) return;
   std::vector<PixelPoint> points;
   points.reserve(vertices.size());
   ForEachEntry(vertices, [&](const CShapeVertex& v) {
     points.push_back(Narrowed(viewPort->WorldToScreen(v.x, v.y)));
   });
-  if (selected) {
-    brush->SetColour(Colours::highlight);
-    canvas->DrawPolyline(*brush, points, highlightWidth);
-    brush->SetColour(colour);
-  }
-  canvas->DrawPolyline(*brush, points, style ? style->lineWidth : 1.0F);
+  if (selected) canvas->DrawPolyline(points, {Colours::highlight, highlightWidth});
+  canvas->DrawPolyline(points, {LineColour(style.get()), style ? style->lineWidth : 1.0F});
 }
 
 bool CShapePolyline::HitTest(const CViewPort* viewPort, double x, double y) const

@@ -20,14 +20,16 @@ constexpr Colour blue{0.0F, 0.0F, 1.0F, 1.0F};
 constexpr Colour green{0.0F, half, 0.0F, 1.0F};
 constexpr Colour purple{half, 0.0F, half, 1.0F};
 
+constexpr Stroke gridStroke{grey, 1.0F};
+
 constexpr std::u16string_view symbolFont = u"Arial";
 
-void DrawOriginCross(const CViewPort& viewPort, IRenderTarget& target, const IBrush& brush)
+void DrawOriginCross(const CViewPort& viewPort, IDrawingTarget& target)
 {
   constexpr float arm = 10.0F;
   const PixelPoint o = Narrowed(viewPort.WorldToScreenFlat(0.0, 0.0));
-  target.DrawLine({o.x - arm, o.y}, {o.x + arm, o.y}, brush, 1.0F);
-  target.DrawLine({o.x, o.y - arm}, {o.x, o.y + arm}, brush, 1.0F);
+  target.DrawLine({o.x - arm, o.y}, {o.x + arm, o.y}, gridStroke);
+  target.DrawLine({o.x, o.y - arm}, {o.x, o.y + arm}, gridStroke);
 }
 
 /// Calls `visit` with each multiple of the spacing from below `from` to above `to`. Ends where the
@@ -44,13 +46,12 @@ void ForEachGridValue(double from, double to, double spacing, Visit visit)
   }
 }
 
-void DrawGridPoints(const CViewPort& viewPort, const GridSettings& grid, IRenderTarget& target,
-                    const IBrush& brush)
+void DrawGridPoints(const CViewPort& viewPort, const GridSettings& grid, IDrawingTarget& target)
 {
   ForEachGridValue(viewPort.left, viewPort.right, grid.spacingShowX, [&](double gx) {
     ForEachGridValue(viewPort.bottom, viewPort.top, grid.spacingShowY, [&](double gy) {
       const PixelPoint p = Narrowed(viewPort.WorldToScreenFlat(gx, gy));
-      target.DrawRectangle({p.x - 1.0F, p.y - 1.0F, p.x + 1.0F, p.y + 1.0F}, brush, 1.0F);
+      target.DrawRectangle({p.x - 1.0F, p.y - 1.0F, p.x + 1.0F, p.y + 1.0F}, gridStroke);
     });
   });
 }
@@ -66,24 +67,19 @@ struct OffsetSymbol {
 /// A crossed circle of fixed pixel size with its label above it.
 void DrawOffsetSymbol(const CViewPort& viewPort, const OffsetSymbol& symbol)
 {
-  constexpr float fontSize = 14.0F;
+  constexpr TextStyle style{symbolFont, 14.0F, true};
   constexpr float radius = 15.0F;
-  constexpr float stroke = 2.0F;
-  CCanvas* const canvas = DrawableCanvas(&viewPort);
+  const CCanvas* const canvas = DrawableCanvas(&viewPort);
   if (canvas == nullptr || symbol.required == nullptr || symbol.vertex == nullptr) return;
-  IRenderTarget& target = *canvas->renderTarget;
-  const auto format = canvas->CreateFormat(symbolFont, fontSize);
-  if (!format) return;
-  const auto brush = target.CreateSolidColourBrush(symbol.colour);
-  if (!brush) return;
-  format->CentreText();
+  if (!canvas->CanWrite(style)) return;
+  IDrawingTarget& target = *canvas->Target();
+  const Stroke stroke{symbol.colour, 2.0F};
   const PixelPoint p = Narrowed(viewPort.WorldToScreenFlat(symbol.vertex->x, symbol.vertex->y));
-  target.DrawEllipse(p, radius, radius, *brush, stroke);
-  target.DrawLine({p.x - radius, p.y - radius}, {p.x + radius, p.y + radius}, *brush, stroke);
-  target.DrawLine({p.x + radius, p.y - radius}, {p.x - radius, p.y + radius}, *brush, stroke);
-  format->DisableWordWrapping();
-  target.DrawText(symbol.label, *format, {p.x - 50.0F, p.y - 40.0F, p.x + 50.0F, p.y - 10.0F},
-                  *brush);
+  target.DrawEllipse(p, radius, radius, stroke);
+  target.DrawLine({p.x - radius, p.y - radius}, {p.x + radius, p.y + radius}, stroke);
+  target.DrawLine({p.x + radius, p.y - radius}, {p.x - radius, p.y + radius}, stroke);
+  const PixelRect above{p.x - 50.0F, p.y - 40.0F, p.x + 50.0F, p.y - 10.0F};
+  target.DrawText({.text = symbol.label, .style = style, .rect = above, .colour = symbol.colour});
 }
 
 void DrawDevices(const DesignState& design, const CViewPort& viewPort)
@@ -108,10 +104,7 @@ void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyl
 {
   if (viewPort == nullptr || viewPort->canvas == nullptr || !design.anchors) return;
   CCanvas& canvas = *viewPort->canvas;
-  if (canvas.renderTarget) {
-    canvas.renderTarget->BeginDraw();
-    canvas.renderTarget->Clear(background);
-  }
+  if (canvas.Target() != nullptr) canvas.Target()->BeginFrame(background);
   if (CShapes* const group = FindViewGroup(design.shapeGroups, design.activeView)) {
     Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Draw(viewPort); });
   }
@@ -120,40 +113,33 @@ void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyl
   if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
     DrawDevices(design, *viewPort);
   }
-  if (canvas.renderTarget) canvas.EndFrame(canvas.renderTarget->EndDraw());
+  if (canvas.Target() != nullptr) canvas.EndFrame(canvas.Target()->EndFrame());
 }
 
 void DrawGrid(const CViewPort& viewPort, const GridSettings& grid)
 {
   constexpr double mostIntervals = 40.0;
-  CCanvas* const canvas = DrawableCanvas(&viewPort);
-  if (canvas == nullptr) return;
-  IRenderTarget& target = *canvas->renderTarget;
-  const auto brush = target.CreateSolidColourBrush(grey);
-  if (!brush || grid.show == 0) return;
-  DrawOriginCross(viewPort, target, *brush);
+  IDrawingTarget* const target = TargetOf(&viewPort);
+  if (target == nullptr || grid.show == 0) return;
+  DrawOriginCross(viewPort, *target);
   if (viewPort.width / grid.spacingShowX > mostIntervals) return;
   if (viewPort.height / grid.spacingShowY > mostIntervals) return;
-  DrawGridPoints(viewPort, grid, target, *brush);
+  DrawGridPoints(viewPort, grid, *target);
 }
 
 void DrawAnchor(const CAnchor& anchor, const CViewPort& viewPort)
 {
-  constexpr float fontSize = 16.0F;
+  constexpr TextStyle style{symbolFont, 16.0F, true};
   constexpr float textReach = 20.0F;
   constexpr float radius = 10.0F;
-  CCanvas* const canvas = DrawableCanvas(&viewPort);
-  if (canvas == nullptr || !anchor.visible) return;
-  IRenderTarget& target = *canvas->renderTarget;
-  const auto brush = target.CreateSolidColourBrush(purple);
-  const auto format = canvas->CreateFormat(symbolFont, fontSize);
-  if (!brush || !format) return;
-  format->CentreText();
+  const CCanvas* const canvas = DrawableCanvas(&viewPort);
+  if (canvas == nullptr || !anchor.visible || !canvas->CanWrite(style)) return;
+  IDrawingTarget& target = *canvas->Target();
+  const std::u16string number = WideFromAscii(std::to_string(anchor.id));
   const PixelPoint p = Narrowed(viewPort.WorldToScreen(anchor.attachmentX, anchor.attachmentY));
-  format->DisableWordWrapping();
-  target.DrawText(WideFromAscii(std::to_string(anchor.id)), *format,
-                  {p.x - textReach, p.y - textReach, p.x + textReach, p.y + textReach}, *brush);
-  target.DrawEllipse(p, radius, radius, *brush, 1.0F);
+  const PixelRect around{p.x - textReach, p.y - textReach, p.x + textReach, p.y + textReach};
+  target.DrawText({.text = number, .style = style, .rect = around, .colour = purple});
+  target.DrawEllipse(p, radius, radius, {purple, 1.0F});
 }
 
 }  // namespace hullwright

@@ -6,10 +6,15 @@
 
 namespace hullwright {
 
-CCanvas* DrawableCanvas(const CViewPort* viewPort)
+const CCanvas* DrawableCanvas(const CViewPort* viewPort)
+{
+  return TargetOf(viewPort) == nullptr ? nullptr : viewPort->canvas;
+}
+
+IDrawingTarget* TargetOf(const CViewPort* viewPort)
 {
   if (viewPort == nullptr || viewPort->canvas == nullptr) return nullptr;
-  return viewPort->canvas->renderTarget ? viewPort->canvas : nullptr;
+  return viewPort->canvas->Target();
 }
 
 PixelPoint Narrowed(const ScreenPoint& point)

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <string_view>
-
 #include "platform/Drawing.h"
 #include "render/ViewPort.h"
 
@@ -17,8 +14,11 @@ inline constexpr Colour white{1.0F, 1.0F, 1.0F, 1.0F};
 inline constexpr Colour highlight{1.0F, 1.0F, 0.0F, 1.0F};
 }  // namespace Colours
 
-/// The viewport's canvas if it has a render target, else null.
-CCanvas* DrawableCanvas(const CViewPort* viewPort);
+/// The viewport's canvas if it has a target, else null.
+const CCanvas* DrawableCanvas(const CViewPort* viewPort);
+
+/// What the viewport's canvas draws on; null without it.
+IDrawingTarget* TargetOf(const CViewPort* viewPort);
 
 /// Narrows a pixel position to what the canvas takes.
 PixelPoint Narrowed(const ScreenPoint& point);

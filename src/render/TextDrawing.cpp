@@ -45,29 +45,21 @@ void CShapeText::Draw(const CViewPort* viewPort)
   const CShapeVertex& anchor = *vertices.front();
   if (!viewPort->Contains(anchor.x, anchor.y)) return;
   TrimSpace(text);  // also where nothing can be drawn at the moment
-  CCanvas* const canvas = DrawableCanvas(viewPort);
+  const CCanvas* const canvas = DrawableCanvas(viewPort);
   if (canvas == nullptr || text.empty()) return;
 
-  IRenderTarget& target = *canvas->renderTarget;
   const auto size = static_cast<float>(height / (viewPort->height / viewPort->screenHeight));
-  const auto format = canvas->CreateFormat(u"Consolas", size);
-  const Colour colour = LineColour(style.get());
-  const auto brush = target.CreateSolidColourBrush(colour);
-  if (!format || !brush) return;
-  const PixelSize measured = canvas->MeasureText(*format, text);
+  const TextStyle face{u"Consolas", size};
+  const auto measured = canvas->MeasureText(text, face);
+  if (!measured) return;
   const PixelPoint p = Narrowed(viewPort->WorldToScreen(anchor.x, anchor.y));
-  screenBox = BoxOf(p, measured, angle);
+  screenBox = BoxOf(p, *measured, angle);
 
-  target.SetRotation(static_cast<float>(angle + viewPort->rotation), p);
-  const PixelRect rect{p.x, p.y - measured.height, p.x + measured.width, p.y};
-  if (selected) {
-    brush->SetColour(Colours::highlight);
-    target.FillRectangle(rect, *brush);
-    brush->SetColour(colour);
-  }
-  format->DisableWordWrapping();
-  target.DrawText(text, *format, rect, *brush);
-  target.SetRotation(0.0F, {});
+  TextBlock block{text, face, {p.x, p.y - measured->height, p.x + measured->width, p.y}};
+  block.colour = LineColour(style.get());
+  if (selected) block.ground = Colours::highlight;
+  block.turn = Turn{static_cast<float>(angle + viewPort->rotation), p};
+  canvas->Target()->DrawText(block);
 }
 
 bool CShapeText::HitTest(const CViewPort* viewPort, double x, double y) const

@@ -8,6 +8,7 @@
 
 #include "model/Angle.h"
 #include "model/DesignState.h"
+#include "model/Extents.h"
 
 namespace hullwright {
 namespace {
@@ -136,23 +137,23 @@ void CViewPort::WidenBySixth()
   MeasureEdges();
 }
 
-void CViewPort::FitExtents(double minX, double minY, double maxX, double maxY)
+void CViewPort::FitExtents(const Extents& box)
 {
-  left = minX;
-  bottom = minY;
-  right = maxX;
-  top = maxY;
+  left = box.minX;
+  bottom = box.minY;
+  right = box.maxX;
+  top = box.maxY;
   MeasureEdges();
   WidenBySixth();
   KeepAspect();
 }
 
-void CViewPort::ZoomToExtents(double minX, double minY, double maxX, double maxY)
+void CViewPort::ZoomToExtents(const Extents& box)
 {
-  const double dx = std::abs(maxX - minX);
-  const double dy = std::abs(maxY - minY);
-  const double cx = (minX + maxX) * 0.5;
-  const double cy = (minY + maxY) * 0.5;
+  const double dx = std::abs(box.maxX - box.minX);
+  const double dy = std::abs(box.maxY - box.minY);
+  const double cx = (box.minX + box.maxX) * 0.5;
+  const double cy = (box.minY + box.maxY) * 0.5;
   if (dx > dy) {
     height = dx;
     width = (screenWidth / screenHeight) * dx;
@@ -168,34 +169,28 @@ void CViewPort::ZoomToExtents(double minX, double minY, double maxX, double maxY
   KeepAspect();
   constexpr int mostSteps = 30;
   for (int step = 0; step < mostSteps; ++step) {
-    if (Contains(minX, minY) || Contains(maxX, maxY)) break;
+    if (Contains(box.minX, box.minY) || Contains(box.maxX, box.maxY)) break;
     WidenBySixth();
   }
   WidenBySixth();
   WidenBySixth();
 }
 
-void CViewPort::FitOrCenter(double minX, double minY, double maxX, double maxY)
-{
-  FrameOrCenter(&CViewPort::FitExtents, minX, minY, maxX, maxY);
-}
+void CViewPort::FitOrCenter(const Extents& box) { FrameOrCenter(&CViewPort::FitExtents, box); }
 
-void CViewPort::ZoomOrCenter(double minX, double minY, double maxX, double maxY)
-{
-  FrameOrCenter(&CViewPort::ZoomToExtents, minX, minY, maxX, maxY);
-}
+void CViewPort::ZoomOrCenter(const Extents& box) { FrameOrCenter(&CViewPort::ZoomToExtents, box); }
 
-void CViewPort::FrameOrCenter(Frame frame, double minX, double minY, double maxX, double maxY)
+void CViewPort::FrameOrCenter(Frame frame, const Extents& box)
 {
   Recover();
   const auto before = std::make_tuple(left, bottom, right, top, width, height);
   const auto restore = [&] { std::tie(left, bottom, right, top, width, height) = before; };
-  (this->*frame)(minX, minY, maxX, maxY);
+  (this->*frame)(box);
   if (IsUsable()) return;
   restore();
   // Bounds that nothing has reached are still the wrong way round: there is no centre.
-  if (!(minX <= maxX && minY <= maxY)) return;
-  MoveCentreTo({std::midpoint(minX, maxX), std::midpoint(minY, maxY)});
+  if (box.IsEmpty()) return;
+  MoveCentreTo({std::midpoint(box.minX, box.maxX), std::midpoint(box.minY, box.maxY)});
   // Far enough out the scale is lost in the rounding of the edges.
   if (!IsUsable()) restore();
 }

@@ -3,6 +3,7 @@
 namespace hullwright {
 
 class CCanvas;
+struct Extents;
 
 struct WorldPoint {
   double x = 0.0;
@@ -51,18 +52,18 @@ public:
 
   /// View rectangle around a box with a margin of one sixth of it on each side. The width rules: a
   /// box that is tall for the client's shape is cropped.
-  void FitExtents(double minX, double minY, double maxX, double maxY);
+  void FitExtents(const Extents& box);
 
   /// View rectangle around the box of one shape.
-  void ZoomToExtents(double minX, double minY, double maxX, double maxY);
+  void ZoomToExtents(const Extents& box);
 
   /// `FitExtents`, but a box that leaves no usable view around it (a point, a vertical line, bounds
   /// that are not finite) is brought to the centre at the scale of before. One without a finite
   /// centre changes nothing.
-  void FitOrCenter(double minX, double minY, double maxX, double maxY);
+  void FitOrCenter(const Extents& box);
 
   /// `ZoomToExtents`, with the same way out.
-  void ZoomOrCenter(double minX, double minY, double maxX, double maxY);
+  void ZoomOrCenter(const Extents& box);
 
   /// Whether zooming leads on from here: edges and extents are finite, and neither extent is zero.
   bool IsUsable() const;
@@ -96,8 +97,8 @@ private:
   void WidenBySixth();
   void MoveCentreTo(const WorldPoint& centre);
 
-  using Frame = void (CViewPort::*)(double minX, double minY, double maxX, double maxY);
-  void FrameOrCenter(Frame frame, double minX, double minY, double maxX, double maxY);
+  using Frame = void (CViewPort::*)(const Extents& box);
+  void FrameOrCenter(Frame frame, const Extents& box);
 };
 
 /// The viewport of the design view.

@@ -1,6 +1,5 @@
 #include "view/HullwrightView.h"
 
-#include <limits>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -21,19 +20,19 @@ CHullwrightView::~CHullwrightView()
   if (viewPort) design_.viewPort = nullptr;
 }
 
-void CHullwrightView::OnCreate(IDrawingWindow* window)
+void CHullwrightView::OnCreate(IDrawingTarget* target)
 {
   viewPort = host_.HandOverViewPort();
   if (viewPort == nullptr) return;
-  canvas_ = std::make_unique<CCanvas>(ports_.drawing);
+  canvas_ = std::make_unique<CCanvas>();
   viewPort->canvas = canvas_.get();
-  if (!canvas_->Initialize(window)) ports_.messages.ShowMessage(WideFromUtf8(canvas_->errorText));
+  if (!canvas_->Initialize(target)) ports_.messages.ShowMessage(WideFromUtf8(canvas_->errorText));
 }
 
 void CHullwrightView::OnSize(int cx, int cy)
 {
   if (viewPort == nullptr) return;
-  if (canvas_ && canvas_->renderTarget) canvas_->renderTarget->Resize(cx, cy);
+  if (canvas_ && canvas_->Target() != nullptr) canvas_->Target()->Resize(cx, cy);
   viewPort->screenWidth = cx;
   viewPort->screenHeight = cy;
   viewPort->KeepAspect();
@@ -139,20 +138,15 @@ void CHullwrightView::DropReleasedItems()
 
 void CHullwrightView::ShowAllShapes()
 {
-  constexpr double largest = std::numeric_limits<double>::max();
   if (viewPort == nullptr) return;
   CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
   if (group == nullptr || group->shapes.empty()) {
     if (viewPort->Recover()) Repaint();
     return;
   }
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
-  Walk(group->cursor, group->shapes,
-       [&](const CShape& shape) { shape.GetExtents(minX, minY, maxX, maxY); });
-  viewPort->FitOrCenter(minX, minY, maxX, maxY);
+  Extents box;
+  group->GetExtents(box);
+  viewPort->FitOrCenter(box);
   Repaint();
 }
 

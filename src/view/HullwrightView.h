@@ -19,7 +19,6 @@ namespace hullwright {
 
 /// What the design view asks of the platform.
 struct ViewPorts {
-  IDrawingBackEnd& drawing;
   IMessageBoxes& messages;
   ICursor& cursor;
   IRubberBand& rubberBand;
@@ -37,9 +36,9 @@ public:
   CHullwrightView& operator=(const CHullwrightView&) = delete;
   ~CHullwrightView();
 
-  /// Makes the canvas in the window. A canvas that fails is told in a message; the view goes on
-  /// without a picture.
-  void OnCreate(IDrawingWindow* window);
+  /// Makes the canvas on the window's target, which must outlive the view. A canvas that fails is
+  /// told in a message; the view goes on without a picture.
+  void OnCreate(IDrawingTarget* target);
 
   void OnSize(int cx, int cy);
   void OnLButtonDown(ClientPoint point);

@@ -130,7 +130,7 @@ TEST_F(ObjectPane, AClickMarksAPolylineAndASecondOneTakesTheMarkAway)
   CShapePolyline& first = AddLine(ViewSide::Top, {});
   CShapePolyline& second = AddLine(ViewSide::Top, {});
   pane.BuildTree();
-  backEnd.log.clear();
+  recorder.calls.clear();
   pane.OnClick(At({0, 0}));
   EXPECT_EQ(Frames(), 0);
   pane.OnClick(At({0, 0, 1}));
@@ -221,7 +221,7 @@ TEST_F(ObjectPane, ClicksElsewhereMarkNothing)
   CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   app.anchors->items.push_back(app.anchors->NewAnchor());
   pane.BuildTree();
-  backEnd.log.clear();
+  recorder.calls.clear();
   for (const TreeItem& item : {TreeItem{}, At({0}), At({1}), At({1, 0}), At({0, 0, 0, 0})}) {
     pane.OnClick(item);
   }

@@ -8,8 +8,6 @@
 namespace hullwright {
 namespace {
 
-using test::Exact;
-
 /// The frame of a sample, worked out once more from the design's numbers alone: each coordinate by
 /// the mapping of world to pixels, narrowed to a float.
 class ExpectedFrame {
@@ -133,8 +131,8 @@ TEST_P(SampleScene, IsDrawnNumberByNumber)
     app.SetViewSide(side);
     view.OnCommand(32786);  // show all shapes
     view.OnMouseWheel(120, {333, 222});
-    EXPECT_EQ(backEnd.Frame(), ExpectedFrame(app, app.LoadGridSettings()).Lines()) << side;
-    EXPECT_GT(backEnd.Count("rect"), 0) << side;
+    EXPECT_EQ(recorder.Frame(), ExpectedFrame(app, app.LoadGridSettings()).Lines()) << side;
+    EXPECT_GT(recorder.Count("rect"), 0) << side;
   }
 }
 

@@ -50,16 +50,16 @@ TEST_F(Tallies, HaveTheExtentsOfTheShapes)
 {
   ImportEntities(Entity("LINE", {{10, "1"}, {20, "-7"}, {11, "-2"}, {21, "3"}}) +
                  Entity("POINT", {{10, "1e30"}, {20, "2"}}) + Entity("SPLINE", {{10, "-9"}}));
-  EXPECT_EQ(Tally().minX, -2.0);
-  EXPECT_EQ(Tally().minY, -7.0);
-  EXPECT_EQ(Tally().maxX, 1e30);
-  EXPECT_EQ(Tally().maxY, 3.0);
+  EXPECT_EQ(Tally().extents.minX, -2.0);
+  EXPECT_EQ(Tally().extents.minY, -7.0);
+  EXPECT_EQ(Tally().extents.maxX, 1e30);
+  EXPECT_EQ(Tally().extents.maxY, 3.0);
   ImportEntities(Entity("POINT", {{10, "1e30"}, {20, "-1e30"}}));
-  EXPECT_EQ(Tally().minX, 1e30);
-  EXPECT_EQ(Tally().maxY, -1e30);
+  EXPECT_EQ(Tally().extents.minX, 1e30);
+  EXPECT_EQ(Tally().extents.maxY, -1e30);
   ImportEntities("");
-  EXPECT_GT(Tally().minX, Tally().maxX);
-  EXPECT_GT(Tally().minY, Tally().maxY);
+  EXPECT_GT(Tally().extents.minX, Tally().extents.maxX);
+  EXPECT_GT(Tally().extents.minY, Tally().extents.maxY);
 }
 
 TEST_F(Tallies, AValueThatReadsLikeAKeywordIsNone)

@@ -18,6 +18,7 @@ ROOMS = {
     "dxf": "base model platform file",
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
+    "headless": "base model platform system render resources file dxf view app",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
     "cli": "base model platform system render resources file dxf view app paint",

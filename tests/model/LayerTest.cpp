@@ -23,7 +23,7 @@ TEST(Layer, BeginsEmptyAndEnabled)
   EXPECT_EQ(layer.flagA, 0);
   EXPECT_EQ(layer.flagB, 1);
   EXPECT_EQ(layer.enabled, 1);
-  EXPECT_EQ(layer.minX, 0.0);
+  EXPECT_EQ(layer.extents.minX, 0.0);
 }
 
 TEST(Layer, ABoxWithoutAZeroCountsAsComputed)
@@ -31,10 +31,10 @@ TEST(Layer, ABoxWithoutAZeroCountsAsComputed)
   CLayer layer;
   AddLine(layer, 1.0, 2.0, 3.0, 4.0);
   layer.UpdateExtents();
-  EXPECT_EQ(layer.maxX, 3.0);
+  EXPECT_EQ(layer.extents.maxX, 3.0);
   AddLine(layer, 50.0, 50.0, 60.0, 60.0);
   layer.UpdateExtents();
-  EXPECT_EQ(layer.maxX, 3.0);
+  EXPECT_EQ(layer.extents.maxX, 3.0);
 }
 
 TEST(Layer, ABoxThatTouchesZeroIsComputedAgainEachTime)
@@ -43,13 +43,13 @@ TEST(Layer, ABoxThatTouchesZeroIsComputedAgainEachTime)
     CLayer layer;
     AddLine(layer, x1, y1, x2, y2);
     layer.UpdateExtents();
-    EXPECT_EQ(layer.minX, x1);
-    EXPECT_EQ(layer.maxX, x2);
+    EXPECT_EQ(layer.extents.minX, x1);
+    EXPECT_EQ(layer.extents.maxX, x2);
     layer.UpdateExtents();
-    EXPECT_EQ(layer.maxX, x2);
+    EXPECT_EQ(layer.extents.maxX, x2);
     AddLine(layer, 50.0, 50.0, 60.0, 60.0);
     layer.UpdateExtents();
-    return layer.maxX == 60.0;
+    return layer.extents.maxX == 60.0;
   };
   EXPECT_TRUE(grows(0.0, 2.0, 3.0, 4.0));
   EXPECT_TRUE(grows(1.0, 0.0, 3.0, 4.0));
@@ -64,8 +64,8 @@ TEST(Layer, ANullShapeEndsTheBoxWithTheCursorOfTheShapes)
   layer.shapes->shapes.push_back(nullptr);
   AddLine(layer, 50.0, 50.0, 60.0, 60.0);
   layer.UpdateExtents();
-  EXPECT_EQ(layer.maxX, 3.0);
-  EXPECT_EQ(layer.maxY, 4.0);
+  EXPECT_EQ(layer.extents.maxX, 3.0);
+  EXPECT_EQ(layer.extents.maxY, 4.0);
   EXPECT_EQ(layer.shapes->cursor, 2U);
 }
 
@@ -73,12 +73,12 @@ TEST(Layer, WithoutShapesTheBoxIsInsideOut)
 {
   CLayer layer;
   layer.UpdateExtents();
-  EXPECT_EQ(layer.minX, 1e24);
-  EXPECT_EQ(layer.maxY, -1e24);
+  EXPECT_EQ(layer.extents.minX, 1e24);
+  EXPECT_EQ(layer.extents.maxY, -1e24);
   CLayer bare;
   bare.shapes.reset();
   bare.UpdateExtents();
-  EXPECT_EQ(bare.minX, 0.0);
+  EXPECT_EQ(bare.extents.minX, 0.0);
 }
 
 }  // namespace

@@ -31,15 +31,12 @@ TEST(Point, ExtentsHaveAMarginOfOneWorldUnit)
 {
   CShapePoint point;
   point.position = CShapeVertex(5.0, -5.0, 0.0);
-  double minX = 1e9;
-  double minY = 1e9;
-  double maxX = -1e9;
-  double maxY = -1e9;
-  point.GetExtents(minX, minY, maxX, maxY);
-  EXPECT_EQ(minX, 4.0);
-  EXPECT_EQ(minY, -6.0);
-  EXPECT_EQ(maxX, 6.0);
-  EXPECT_EQ(maxY, -4.0);
+  Extents box = EmptyWithin(1e9);
+  point.GetExtents(box);
+  EXPECT_EQ(box.minX, 4.0);
+  EXPECT_EQ(box.minY, -6.0);
+  EXPECT_EQ(box.maxX, 6.0);
+  EXPECT_EQ(box.maxY, -4.0);
 }
 
 TEST(Point, HitRegionIsAnOpenSquare)

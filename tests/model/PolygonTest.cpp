@@ -257,15 +257,12 @@ TEST(Polygon, ForwardsToEveryRing)
 
 TEST(Polygon, ExtentsHaveNoMargin)
 {
-  double minX = 1e9;
-  double minY = 1e9;
-  double maxX = -1e9;
-  double maxY = -1e9;
-  SquareWithHoleAndIsland()->GetExtents(minX, minY, maxX, maxY);
-  EXPECT_EQ(minX, 0.0);
-  EXPECT_EQ(minY, 0.0);
-  EXPECT_EQ(maxX, 10.0);
-  EXPECT_EQ(maxY, 10.0);
+  Extents box = EmptyWithin(1e9);
+  SquareWithHoleAndIsland()->GetExtents(box);
+  EXPECT_EQ(box.minX, 0.0);
+  EXPECT_EQ(box.minY, 0.0);
+  EXPECT_EQ(box.maxX, 10.0);
+  EXPECT_EQ(box.maxY, 10.0);
 }
 
 TEST(Polygon, CloneCopiesEveryRingInOrder)

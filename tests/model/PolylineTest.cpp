@@ -11,17 +11,10 @@ namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-struct Box {
-  double minX = largest;
-  double minY = largest;
-  double maxX = -largest;
-  double maxY = -largest;
-};
-
-Box ExtentsOf(const CShape& shape)
+Extents ExtentsOf(const CShape& shape)
 {
-  Box box;
-  shape.GetExtents(box.minX, box.minY, box.maxX, box.maxY);
+  Extents box;
+  shape.GetExtents(box);
   return box;
 }
 
@@ -110,14 +103,14 @@ TEST(Polyline, AppendingAPolylineToItselfDoublesItOnce)
 TEST(Polyline, ExtentsHaveNoMarginAndStayForAnEmptyOne)
 {
   CShapePolyline line;
-  const Box untouched = ExtentsOf(line);
+  const Extents untouched = ExtentsOf(line);
   EXPECT_EQ(untouched.minX, largest);
   EXPECT_EQ(untouched.minY, largest);
   EXPECT_EQ(untouched.maxX, -largest);
   EXPECT_EQ(untouched.maxY, -largest);
   line.AddVertex(-1.0, 5.0, 9.0);
   line.AddVertex(2.0, 3.0, 9.0);
-  const Box box = ExtentsOf(line);
+  const Extents box = ExtentsOf(line);
   EXPECT_EQ(box.minX, -1.0);
   EXPECT_EQ(box.minY, 3.0);
   EXPECT_EQ(box.maxX, 2.0);
@@ -128,7 +121,7 @@ TEST(Polyline, ExtentsKeepTheBitsOfTheirVertex)
 {
   CShapePolyline line;
   line.AddVertex(-0.0, -0.0, 0.0);
-  const Box box = ExtentsOf(line);
+  const Extents box = ExtentsOf(line);
   EXPECT_TRUE(std::signbit(box.minX) && std::signbit(box.maxX));
   EXPECT_TRUE(std::signbit(box.minY) && std::signbit(box.maxY));
 }

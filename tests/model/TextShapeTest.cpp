@@ -50,30 +50,24 @@ TEST_F(Label, ExtentsAreTheSameForALongTextAndAShortOne)
 {
   for (const char16_t* text : {u"", u"W", u"a very long text that reaches far to the right"}) {
     label.text = text;
-    double minX = 1e9;
-    double minY = 1e9;
-    double maxX = -1e9;
-    double maxY = -1e9;
-    label.GetExtents(minX, minY, maxX, maxY);
-    EXPECT_EQ(minX, 9.0);
-    EXPECT_EQ(minY, 19.0);
-    EXPECT_EQ(maxX, 11.0);
-    EXPECT_EQ(maxY, 21.0);
+    Extents box = EmptyWithin(1e9);
+    label.GetExtents(box);
+    EXPECT_EQ(box.minX, 9.0);
+    EXPECT_EQ(box.minY, 19.0);
+    EXPECT_EQ(box.maxX, 11.0);
+    EXPECT_EQ(box.maxY, 21.0);
   }
 }
 
 TEST(NewLabel, WithoutAVertexWidensNothing)
 {
   CShapeText label;
-  double minX = 1.0;
-  double minY = 2.0;
-  double maxX = 3.0;
-  double maxY = 4.0;
-  label.GetExtents(minX, minY, maxX, maxY);
+  Extents box{1.0, 2.0, 3.0, 4.0};
+  label.GetExtents(box);
   label.vertices.push_back(nullptr);
-  label.GetExtents(minX, minY, maxX, maxY);
-  EXPECT_EQ(minX, 1.0);
-  EXPECT_EQ(maxY, 4.0);
+  label.GetExtents(box);
+  EXPECT_EQ(box.minX, 1.0);
+  EXPECT_EQ(box.maxY, 4.0);
 }
 
 TEST_F(Label, TurnsAndScalesByItsVerticesOnly)

@@ -7,8 +7,8 @@
 #include <limits>
 #include <memory>
 
-#include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
+#include "paint/PaintTarget.h"
 #include "platform/Drawing.h"
 #include "render/Canvas.h"
 
@@ -21,24 +21,23 @@ protected:
   static void Paint(CCanvas& canvas, float width)
   {
     constexpr std::array<PixelPoint, 3> corner = {{{5.5F, 5.5F}, {40.5F, 5.5F}, {50.0F, 30.0F}}};
-    IRenderTarget& target = *canvas.renderTarget;
-    target.BeginDraw();
-    target.Clear({1.0F, 1.0F, 1.0F, 1.0F});
-    const auto black = target.CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});
-    canvas.DrawPolyline(*black, corner, width);
-    target.DrawLine({5.0F, 35.5F}, {55.0F, 35.5F}, *black, width);
-    target.DrawRectangle({10.5F, 12.5F, 20.5F, 20.5F}, *black, width);
-    target.DrawEllipse({30.0F, 24.0F}, 8.0F, 6.0F, *black, width);
-    EXPECT_EQ(target.EndDraw(), 0);
+    const Stroke black{{0.0F, 0.0F, 0.0F, 1.0F}, width};
+    IDrawingTarget& target = *canvas.Target();
+    target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+    canvas.DrawPolyline(corner, black);
+    target.DrawLine({5.0F, 35.5F}, {55.0F, 35.5F}, black);
+    target.DrawRectangle({10.5F, 12.5F, 20.5F, 20.5F}, black);
+    target.DrawEllipse({30.0F, 24.0F}, 8.0F, 6.0F, black);
+    EXPECT_EQ(target.EndFrame().code, 0);
   }
 
   /// On a picture of a pixel ratio.
   static QImage Picture(float width, double ratio = 1.0)
   {
     PaintSurface surface(60, 40, ratio);
-    PaintBackEnd backEnd;
-    CCanvas canvas(backEnd);
-    EXPECT_TRUE(canvas.Initialize(&surface));
+    PaintTarget target(surface);
+    CCanvas canvas;
+    EXPECT_TRUE(canvas.Initialize(&target));
     Paint(canvas, width);
     return surface.Picture().copy();
   }
@@ -47,9 +46,9 @@ protected:
   static QByteArray Orders(float width)
   {
     PaintSurface surface(60, 40);
-    PaintBackEnd backEnd;
-    CCanvas canvas(backEnd);
-    EXPECT_TRUE(canvas.Initialize(&surface));
+    PaintTarget target(surface);
+    CCanvas canvas;
+    EXPECT_TRUE(canvas.Initialize(&target));
     QPicture page;
     surface.SetDevice(&page);
     Paint(canvas, width);

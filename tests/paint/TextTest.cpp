@@ -4,9 +4,8 @@
 #include <limits>
 #include <string>
 
-#include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
-#include "platform/Drawing.h"
+#include "paint/PaintTarget.h"
 
 namespace hullwright {
 namespace {
@@ -14,25 +13,18 @@ namespace {
 /// Texts on a small picture.
 class PaintedText : public testing::Test {
 protected:
-  PaintedText() : target(drawing.object->CreateWindowTarget(surface, 200, 100, 96.0F, 96.0F)) {}
-
   PixelSize Measure(std::u16string_view text, float size)
   {
-    const auto format = writing.object->CreateTextFormat(u"Consolas", size);
-    return writing.object->MeasureText(*format.object, text, 1000.0F, 100.0F).value();
+    return target.MeasureText(text, {u"Consolas", size}, {1000.0F, 100.0F}).value();
   }
 
-  /// Draws a text at the upper left; the number of pixels that are not white, and their lowest row.
-  void Draw(std::u16string_view text, float size)
+  /// Draws a text; the number of pixels that are not white, and their lowest row.
+  void Draw(const TextBlock& block)
   {
-    const auto format = writing.object->CreateTextFormat(u"Consolas", size);
-    format.object->DisableWordWrapping();
-    target.object->Resize(200, 100);
-    target.object->BeginDraw();
-    target.object->Clear({1.0F, 1.0F, 1.0F, 1.0F});
-    const auto brush = target.object->CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});
-    target.object->DrawText(text, *format.object, {0.0F, 0.0F, 200.0F, 100.0F}, *brush);
-    EXPECT_EQ(target.object->EndDraw(), 0);
+    target.Resize(200, 100);
+    target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+    target.DrawText(block);
+    EXPECT_EQ(target.EndFrame().code, 0);
     ink = 0;
     lowest = -1;
     const QImage& picture = surface.Picture();
@@ -45,11 +37,14 @@ protected:
     }
   }
 
+  /// At the upper left of the picture.
+  void Draw(std::u16string_view text, float size)
+  {
+    Draw({text, {u"Consolas", size}, {0.0F, 0.0F, 200.0F, 100.0F}});
+  }
+
   PaintSurface surface{200, 100};
-  PaintBackEnd backEnd;
-  Created<IDrawFactory> drawing = backEnd.CreateDrawFactory();
-  Created<IWriteFactory> writing = backEnd.CreateWriteFactory();
-  Created<IRenderTarget> target;
+  PaintTarget target{surface};
   int ink = 0;
   int lowest = -1;
 };
@@ -124,11 +119,51 @@ TEST_F(PaintedText, ControlCharactersAreBlanks)
   EXPECT_EQ(ink, blank);
 }
 
-TEST_F(PaintedText, HasNoFormatWithoutASize)
+TEST_F(PaintedText, IsNotWrappedInANarrowRectangle)
+{
+  TextBlock block{u"WWW WWW", {u"Consolas", 20.0F}, {0.0F, 0.0F, 200.0F, 30.0F}};
+  Draw(block);
+  const int whole = ink;
+  const int row = lowest;
+  block.rect.right = 50.0F;
+  Draw(block);
+  EXPECT_EQ(ink, whole);
+  EXPECT_EQ(lowest, row);
+}
+
+TEST_F(PaintedText, TurnsWithItsGroundAndLeavesNothingTurned)
+{
+  TextBlock block{u"W", {u"Consolas", 20.0F}, {100.0F, 50.0F, 130.0F, 60.0F}};
+  block.ground = Colour{0.0F, 0.0F, 0.0F, 1.0F};
+  block.turn = Turn{90.0F, {100.0F, 50.0F}};
+  Draw(block);
+  EXPECT_EQ(qGray(surface.Picture().pixel(95, 75)), 0);
+  EXPECT_EQ(qGray(surface.Picture().pixel(125, 55)), 255);
+  target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+  target.DrawText(block);
+  target.FillRectangle({10.0F, 10.0F, 30.0F, 20.0F}, {0.0F, 0.0F, 0.0F, 1.0F});
+  EXPECT_EQ(target.EndFrame().code, 0);
+  EXPECT_EQ(qGray(surface.Picture().pixel(25, 15)), 0);
+}
+
+TEST_F(PaintedText, OfManySizesAndFacesIsEachInItsOwn)
+{
+  const float small = Measure(u"mm", 10.0F).width;
+  const float large = Measure(u"mm", 20.0F).width;
+  const PixelSize limits{1000.0F, 100.0F};
+  const float other = target.MeasureText(u"mm", {u"Arial", 20.0F}, limits)->width;
+  EXPECT_NEAR(large, 2.0F * small, 0.5F);
+  EXPECT_NE(other, large);
+  EXPECT_EQ(Measure(u"mm", 20.0F).width, large);
+}
+
+TEST_F(PaintedText, HasNoStyleWithoutASize)
 {
   for (const float size : {0.0F, -1.0F, std::numeric_limits<float>::infinity(),
                            std::numeric_limits<float>::quiet_NaN()}) {
-    EXPECT_EQ(writing.object->CreateTextFormat(u"Consolas", size).object, nullptr);
+    EXPECT_FALSE(target.MeasureText(u"W", {u"Consolas", size}, {1000.0F, 100.0F}).has_value());
+    Draw(u"W", size);
+    EXPECT_EQ(ink, 0);
   }
 }
 

@@ -2,12 +2,14 @@
 
 #include <QDir>
 #include <QImage>
+#include <array>
+#include <cmath>
 #include <cstdlib>
 
 #include "base/Text.h"
 #include "cli/HeadlessEditor.h"
-#include "paint/PaintBackEnd.h"
 #include "paint/PaintSurface.h"
+#include "paint/PaintTarget.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -82,8 +84,8 @@ class Golden : public testing::TestWithParam<Case> {};
 TEST_P(Golden, ThePictureIsAsAccepted)
 {
   PaintSurface surface(width, height);
-  PaintBackEnd drawing;
-  HeadlessEditor editor(drawing, surface);
+  PaintTarget target(surface);
+  HeadlessEditor editor(target);
   ASSERT_TRUE(editor.Open(WideFromUtf8(HULLWRIGHT_SAMPLES "/" + GetParam().sample + ".xml")));
   editor.ShowSide(GetParam().side.code, width, height);
   editor.Draw();
@@ -100,8 +102,8 @@ INSTANTIATE_TEST_SUITE_P(SamplesAndSides, Golden, testing::ValuesIn(AllCases()),
 TEST(GoldenImport, TextsPolygonsPointsAndJoinsAreAsAccepted)
 {
   PaintSurface surface(width, height);
-  PaintBackEnd drawing;
-  HeadlessEditor editor(drawing, surface);
+  PaintTarget target(surface);
+  HeadlessEditor editor(target);
   editor.App().activeView = ViewSide::Front;
   ASSERT_TRUE(editor.Import(WideFromUtf8(HULLWRIGHT_TEST_DATA "/picture/drawings/labels.dxf")));
   editor.ShowSide(ViewSide::Front, width, height, {0.0, 0.0, 64.0, 40.0});
@@ -110,42 +112,36 @@ TEST(GoldenImport, TextsPolygonsPointsAndJoinsAreAsAccepted)
 }
 
 /// A surface with one target, for pictures of single strokes.
-class Stroke : public testing::Test {
+class Strokes : public testing::Test {
 protected:
-  Stroke()
-  {
-    target->BeginDraw();
-    target->Clear({1.0F, 1.0F, 1.0F, 1.0F});
-  }
+  Strokes() { target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F}); }
+
+  static Stroke Black(float strokeWidth) { return {{0.0F, 0.0F, 0.0F, 1.0F}, strokeWidth}; }
 
   const QImage& Finish()
   {
-    EXPECT_EQ(target->EndDraw(), 0);
+    EXPECT_EQ(target.EndFrame().code, 0);
     return surface.Picture();
   }
 
   PaintSurface surface{60, 40};
-  PaintBackEnd backEnd;
-  std::unique_ptr<IDrawFactory> factory = backEnd.CreateDrawFactory().object;
-  std::unique_ptr<IRenderTarget> target =
-      factory->CreateWindowTarget(surface, 60, 40, 96.0F, 96.0F).object;
-  std::unique_ptr<IBrush> black = target->CreateSolidColourBrush({0.0F, 0.0F, 0.0F, 1.0F});
+  PaintTarget target{surface};
 };
 
-TEST_F(Stroke, AOnePixelLineOnPixelCentresCoversThemWhole)
+TEST_F(Strokes, AOnePixelLineOnPixelCentresCoversThemWhole)
 {
-  target->DrawLine({10.0F, 20.5F}, {50.0F, 20.5F}, *black, 1.0F);
+  target.DrawLine({10.0F, 20.5F}, {50.0F, 20.5F}, Black(1.0F));
   const QImage& picture = Finish();
   EXPECT_EQ(qGray(picture.pixel(30, 20)), 0);
   EXPECT_GE(qGray(picture.pixel(30, 19)), 254);
   EXPECT_GE(qGray(picture.pixel(30, 21)), 254);
 }
 
-TEST_F(Stroke, ALineThinnerThanAPixelCoversAsMuchOfIt)
+TEST_F(Strokes, ALineThinnerThanAPixelCoversAsMuchOfIt)
 {
-  target->DrawLine({10.0F, 10.5F}, {50.0F, 10.5F}, *black, 0.5F);
-  target->DrawLine({10.0F, 30.0F}, {50.0F, 30.0F}, *black, 0.25F);
-  target->DrawEllipse({30.0F, 20.5F}, 20.0F, 5.0F, *black, 0.25F);
+  target.DrawLine({10.0F, 10.5F}, {50.0F, 10.5F}, Black(0.5F));
+  target.DrawLine({10.0F, 30.0F}, {50.0F, 30.0F}, Black(0.25F));
+  target.DrawEllipse({30.0F, 20.5F}, 20.0F, 5.0F, Black(0.25F));
   const QImage& picture = Finish();
   EXPECT_NEAR(qGray(picture.pixel(15, 10)), 127, 2);
   const int rows = qGray(picture.pixel(15, 29)) + qGray(picture.pixel(15, 30));
@@ -153,103 +149,133 @@ TEST_F(Stroke, ALineThinnerThanAPixelCoversAsMuchOfIt)
   EXPECT_NEAR(qGray(picture.pixel(30, 25)), 191, 3);
 }
 
-TEST_F(Stroke, ASmallRectangleHasItsCorners)
+TEST_F(Strokes, ASmallRectangleHasItsCorners)
 {
-  target->DrawRectangle({20.5F, 20.5F, 22.5F, 22.5F}, *black, 1.0F);
+  target.DrawRectangle({20.5F, 20.5F, 22.5F, 22.5F}, Black(1.0F));
   const QImage& picture = Finish();
   EXPECT_EQ(qGray(picture.pixel(20, 20)), 0);
   EXPECT_EQ(qGray(picture.pixel(22, 22)), 0);
   EXPECT_GE(qGray(picture.pixel(21, 21)), 250);
 }
 
-TEST_F(Stroke, WidthsThatAreNoneDrawNothing)
+TEST_F(Strokes, WidthsThatAreNoneDrawNothing)
 {
   for (const float strokeWidth : {-0.001F, -1.0F, std::nanf("")}) {
-    target->DrawLine({0.0F, 20.0F}, {60.0F, 20.0F}, *black, strokeWidth);
-    target->DrawRectangle({5.0F, 5.0F, 30.0F, 30.0F}, *black, strokeWidth);
-    target->DrawEllipse({30.0F, 20.0F}, 10.0F, 10.0F, *black, strokeWidth);
+    target.DrawLine({0.0F, 20.0F}, {60.0F, 20.0F}, Black(strokeWidth));
+    target.DrawRectangle({5.0F, 5.0F, 30.0F, 30.0F}, Black(strokeWidth));
+    target.DrawEllipse({30.0F, 20.0F}, 10.0F, 10.0F, Black(strokeWidth));
   }
   const QImage& picture = Finish();
   EXPECT_EQ(qGray(picture.pixel(30, 20)), 255);
   EXPECT_EQ(qGray(picture.pixel(5, 20)), 255);
 }
 
-TEST_F(Stroke, CoordinatesThatAreNoNumbersOrHugeDoNoHarm)
+TEST_F(Strokes, CoordinatesThatAreNoNumbersOrHugeDoNoHarm)
 {
   const float nan = std::nanf("");
   const float huge = 1e38F;
-  const auto format = backEnd.CreateWriteFactory().object->CreateTextFormat(u"Arial", 14.0F).object;
-  target->DrawLine({nan, 1.0F}, {2.0F, nan}, *black, 1.0F);
-  target->DrawRectangle({nan, nan, nan, nan}, *black, 1.0F);
-  target->DrawEllipse({huge, -huge}, 15.0F, 15.0F, *black, 2.0F);
-  target->FillRectangle({-huge, nan, huge, nan}, *black);
-  target->DrawText(u"text", *format, {nan, 0.0F, nan, 1.0F}, *black);
-  target->SetRotation(nan, {0.0F, 0.0F});
-  target->DrawLine({-huge, 20.5F}, {huge, 20.5F}, *black, 1.0F);
+  const Colour ink{0.0F, 0.0F, 0.0F, 1.0F};
+  target.DrawLine({nan, 1.0F}, {2.0F, nan}, Black(1.0F));
+  target.DrawRectangle({nan, nan, nan, nan}, Black(1.0F));
+  target.DrawEllipse({huge, -huge}, 15.0F, 15.0F, Black(2.0F));
+  target.FillRectangle({-huge, nan, huge, nan}, ink);
+  TextBlock block{u"text", {u"Arial", 14.0F}, {nan, 0.0F, nan, 1.0F}, ink};
+  target.DrawText(block);
+  block.turn = Turn{nan, {0.0F, 0.0F}};
+  target.DrawText(block);
+  target.DrawLine({-huge, 20.5F}, {huge, 20.5F}, Black(1.0F));
   const QImage& picture = Finish();
   EXPECT_EQ(qGray(picture.pixel(30, 20)), 0);
   EXPECT_EQ(qGray(picture.pixel(30, 10)), 255);
 }
 
-TEST_F(Stroke, AFontWithoutASizeIsRefused)
+TEST_F(Strokes, AFontWithoutASizeIsRefused)
 {
-  const auto factoryOfText = backEnd.CreateWriteFactory().object;
   for (const float size : {0.0F, -1.0F, std::nanf("")}) {
-    EXPECT_TRUE(Failed(factoryOfText->CreateTextFormat(u"Arial", size).code));
+    EXPECT_FALSE(target.MeasureText(u"W", {u"Arial", size}, {1000.0F, 100.0F}).has_value());
   }
 }
 
-TEST_F(Stroke, TextIsMeasuredAsWrappedAtAThousandPixels)
+TEST_F(Strokes, TextIsMeasuredAsWrappedAtAThousandPixels)
 {
-  const auto text = backEnd.CreateWriteFactory().object;
-  const auto format = text->CreateTextFormat(u"Consolas", 20.0F).object;
-  const auto one = text->MeasureText(*format, u"W", 1000.0F, 100.0F);
-  const auto many = text->MeasureText(*format, std::u16string(200, u'W'), 1000.0F, 100.0F);
+  const TextStyle style{u"Consolas", 20.0F};
+  const PixelSize limits{1000.0F, 100.0F};
+  const auto one = target.MeasureText(u"W", style, limits);
+  const auto many = target.MeasureText(std::u16string(200, u'W'), style, limits);
   EXPECT_LE(many->width, 1000.0F);
   EXPECT_GT(many->height, one->height * 2.0F);
 }
 
-TEST_F(Stroke, ManyLongSegmentsAreDrawnInTime)
+TEST_F(Strokes, ManyLongSegmentsAreDrawnInTime)
 {
   std::vector<PixelPoint> points;
   for (int i = 0; i < 20000; ++i) {
     points.push_back({static_cast<float>((i * 37) % 61), static_cast<float>((i * 53) % 41)});
   }
-  const auto path = factory->CreatePathGeometry().object;
-  {
-    const auto sink = path->Open().object;
-    sink->ForceRoundLineJoins();
-    sink->BeginFigure(points.front(), FigureFill::Hollow);
-    sink->AddLines(points);
-    sink->EndFigure(FigureEnd::Open);
-    sink->Close();
-  }
+  const std::array<std::size_t, 1> end = {points.size()};
   // As one stroked path this would take minutes.
-  target->DrawGeometry(*path, *black, 2.0F);
+  target.DrawFigures({FigureKind::Line, points, end}, Black(2.0F));
   EXPECT_EQ(qGray(Finish().pixel(30, 20)), 0);
+}
+
+TEST_F(Strokes, AStartThatOnlyLeadsToAPointThatIsNoNumberDoesNoHarm)
+{
+  const std::array<PixelPoint, 3> points = {
+      {{10.0F, 20.5F}, {std::nanf(""), 20.5F}, {50.0F, 20.5F}}};
+  const std::array<std::size_t, 1> end = {points.size()};
+  target.DrawFigures({FigureKind::Line, points, end}, Black(1.0F));
+  EXPECT_EQ(qGray(Finish().pixel(30, 20)), 255);
+}
+
+TEST_F(Strokes, FiguresAreNotConnectedAndOnlyOutlinesAreClosed)
+{
+  const std::array<PixelPoint, 6> points = {{{10.0F, 10.5F},
+                                             {20.5F, 10.5F},
+                                             {20.5F, 20.0F},
+                                             {40.0F, 10.5F},
+                                             {50.5F, 10.5F},
+                                             {50.5F, 20.0F}}};
+  const std::array<std::size_t, 2> ends = {3, 6};
+  target.DrawFigures({FigureKind::Line, points, ends}, Black(1.0F));
+  const QImage lines = Finish().copy();
+  EXPECT_EQ(qGray(lines.pixel(15, 10)), 0);
+  EXPECT_EQ(qGray(lines.pixel(45, 10)), 0);
+  EXPECT_EQ(qGray(lines.pixel(30, 15)), 255);
+  EXPECT_EQ(qGray(lines.pixel(15, 15)), 255);
+  target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+  target.DrawFigures({FigureKind::Outline, points, ends}, Black(1.0F));
+  const QImage& outlines = Finish();
+  EXPECT_LT(qGray(outlines.pixel(15, 15)), 200);
+  EXPECT_LT(qGray(outlines.pixel(45, 15)), 200);
+  EXPECT_EQ(qGray(outlines.pixel(30, 15)), 255);
 }
 
 TEST(Surface, AZeroSizeIsNoLostDevice)
 {
   PaintSurface surface(0, 10);
-  PaintBackEnd backEnd;
-  const auto factory = backEnd.CreateDrawFactory().object;
-  const auto target = factory->CreateWindowTarget(surface, 0, 10, 96.0F, 96.0F).object;
-  target->BeginDraw();
-  target->Clear({});
-  EXPECT_EQ(target->EndDraw(), 0);
+  PaintTarget target(surface);
+  target.BeginFrame({});
+  EXPECT_EQ(target.EndFrame().code, 0);
 }
 
 TEST(Surface, APictureThereIsNoMemoryForIsALostDevice)
 {
   PaintSurface surface(10, 10);
-  PaintBackEnd backEnd;
-  const auto factory = backEnd.CreateDrawFactory().object;
-  const auto target =
-      factory->CreateWindowTarget(surface, 100000000, 100000000, 96.0F, 96.0F).object;
-  target->BeginDraw();
-  EXPECT_EQ(target->EndDraw(), recreateTarget);
-  EXPECT_EQ(backEnd.SystemMessage(recreateTarget), "There is not enough memory for the picture.");
+  PaintTarget target(surface);
+  target.Resize(100000000, 100000000);
+  target.BeginFrame({});
+  const FrameResult result = target.EndFrame();
+  EXPECT_EQ(result.code, recreateTarget);
+  EXPECT_EQ(result.message, "There is not enough memory for the picture.");
+}
+
+TEST(Surface, MakingThePictureReadyTakesTheClientSize)
+{
+  PaintSurface surface(30, 20, 2.0);
+  PaintTarget target(surface);
+  surface.Picture() = QImage();
+  EXPECT_TRUE(target.Prepare(TargetStep::Picture, {}).yielded);
+  EXPECT_EQ(surface.Picture().size(), QSize(60, 40));
 }
 
 }  // namespace

@@ -89,7 +89,7 @@ protected:
   test::FakeHost host;
   DesignState design;
   DesignWidget widget;
-  CHullwrightView view{design, host, {widget.Drawing(), messages, widget, widget, widget}};
+  CHullwrightView view{design, host, {messages, widget, widget, widget}};
 };
 
 TEST_F(DesignPane, TheBandIsADashedLineOfOnePixelThatInvertsWhatIsUnderIt)
@@ -322,9 +322,9 @@ TEST_F(PixelRatio, ThePictureIsPaintedInThePixelsOfTheMonitor)
   const QImage shown = Shown();
   // The same frame painted at once in a picture of that many pixels.
   PaintSurface surface(800, 600, ratio);
-  PaintBackEnd backEnd;
-  CCanvas canvas(backEnd);
-  ASSERT_TRUE(canvas.Initialize(&surface));
+  PaintTarget target(surface);
+  CCanvas canvas;
+  ASSERT_TRUE(canvas.Initialize(&target));
   CCanvas* const before = std::exchange(view.viewPort->canvas, &canvas);
   view.Repaint();
   view.viewPort->canvas = before;

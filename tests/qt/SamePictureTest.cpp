@@ -49,7 +49,7 @@ TEST_P(SamePicture, TheCommandLineDrawsWhatTheWindowShows)
     request.sides = {side};
     request.width = widget.width();
     request.height = widget.height();
-    request.stretch = WorldBox{view.left, view.bottom, view.right, view.top};
+    request.stretch = Extents{view.left, view.bottom, view.right, view.top};
     ASSERT_EQ(WritePictures(request), "");
     const QImage picture(QString::fromStdString(request.output));
     ASSERT_EQ(picture.size(), window.size()) << side.name;

@@ -19,7 +19,7 @@ class ImportedShapeDrawing : public test::SceneFixture {
 protected:
   ImportedShapeDrawing()
   {
-    backEnd.log.clear();
+    recorder.calls.clear();
     label.vertices.push_back(std::make_unique<CShapeVertex>(0.0, 0.0, 0.0));
     label.text = u"Crane";
     label.height = 5.0;
@@ -44,8 +44,9 @@ TEST_F(ImportedShapeDrawing, APolygonIsAWhiteOutlineWhateverItsStyle)
   polygon.style->lineColour = 0xFF;
   polygon.style->lineWidth = 9.0F;
   polygon.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
-                                       "width 1 colour 1 1 1 1"));
+  EXPECT_THAT(recorder.Lines(),
+              ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
+                          "width 1 colour 1 1 1 1"));
 }
 
 TEST_F(ImportedShapeDrawing, APolygonTurnsWithTheView)
@@ -57,14 +58,15 @@ TEST_F(ImportedShapeDrawing, APolygonTurnsWithTheView)
     polygon.AddVertex(std::make_unique<CShapeVertex>(x, y, 0.0), 0);
   }
   polygon.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 400,500 500,300 closed "
-                                       "width 1 colour 1 1 1 1"));
+  EXPECT_THAT(recorder.Lines(),
+              ElementsAre("geometry filled 400,300 : 400,300 400,500 500,300 closed "
+                          "width 1 colour 1 1 1 1"));
 }
 
 TEST_F(ImportedShapeDrawing, APolygonWithoutRingsStrokesAnEmptyPath)
 {
   polygon.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("geometry width 1 colour 1 1 1 1"));
+  EXPECT_THAT(recorder.Lines(), ElementsAre("geometry width 1 colour 1 1 1 1"));
 }
 
 TEST_F(ImportedShapeDrawing, EveryRingIsAFigureOfOnePath)
@@ -74,9 +76,10 @@ TEST_F(ImportedShapeDrawing, EveryRingIsAFigureOfOnePath)
   polygon.rings.push_back(nullptr);
   polygon.rings.push_back(std::make_unique<CShapePolygonRing>());
   polygon.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
-                                       "filled 408,292 : 408,292 416,292 416,284 closed "
-                                       "width 1 colour 1 1 1 1"));
+  EXPECT_THAT(recorder.Lines(),
+              ElementsAre("geometry filled 400,300 : 400,300 440,300 440,260 closed "
+                          "filled 408,292 : 408,292 416,292 416,284 closed "
+                          "width 1 colour 1 1 1 1"));
 }
 
 TEST_F(ImportedShapeDrawing, ASelectedPolygonIsYellow)
@@ -84,61 +87,60 @@ TEST_F(ImportedShapeDrawing, ASelectedPolygonIsYellow)
   Square(0.0, 10.0);
   polygon.selected = true;
   polygon.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre(HasSubstr("colour 1 1 0 1")));
+  EXPECT_THAT(recorder.Lines(), ElementsAre(HasSubstr("colour 1 1 0 1")));
 }
 
 TEST_F(ImportedShapeDrawing, APolygonOutsideTheViewIsHandedOver)
 {
   Square(1000.0, 2000.0);
   polygon.Draw(&viewPort);
-  EXPECT_EQ(backEnd.log.size(), 1U);
+  EXPECT_EQ(recorder.Lines().size(), 1U);
   EXPECT_TRUE(polygon.IsVisible(viewPort));
 }
 
 TEST_F(ImportedShapeDrawing, NothingIsDrawnWhereAStepFails)
 {
   Square(0.0, 10.0);
-  for (const auto step :
-       {test::FailAt::Brush, test::FailAt::PathGeometry, test::FailAt::PathOpen}) {
-    backEnd.failAt = step;
+  for (const auto step : {DrawingFailure::Colour, DrawingFailure::Figures}) {
+    recorder.failing = step;
     polygon.Draw(&viewPort);
   }
-  for (const auto step : {test::FailAt::Brush, test::FailAt::TextFormat}) {
-    backEnd.failAt = step;
+  for (const auto step : {DrawingFailure::Colour, DrawingFailure::TextStyle}) {
+    recorder.failing = step;
     label.Draw(&viewPort);
   }
-  backEnd.failAt = test::FailAt::Nothing;
+  recorder.failing = DrawingFailure::None;
   polygon.Draw(nullptr);
   label.Draw(nullptr);
   viewPort.canvas = nullptr;
   polygon.Draw(&viewPort);
   label.Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(ImportedShapeDrawing, ATextStandsOnItsAnchorInAMonospacedFace)
 {
   label.Draw(&viewPort);
   // Five units are 20 pixels; five letters measure 50 by 20.
-  EXPECT_THAT(backEnd.log, ElementsAre("rotate 0 400 300",
-                                       "text 'Crane' Consolas 20 in 400 280 450 300 colour 0 0 0 1",
-                                       "rotate 0 0 0"));
+  EXPECT_THAT(
+      recorder.Lines(),
+      ElementsAre("rotate 0 400 300", "text 'Crane' Consolas 20 in 400 280 450 300 colour 0 0 0 1",
+                  "rotate 0 0 0"));
 }
 
-TEST_F(ImportedShapeDrawing, ATextTakesItsColourFromTheStyleAndIsNotWrapped)
+TEST_F(ImportedShapeDrawing, ATextTakesItsColourFromTheStyle)
 {
   label.style = std::make_unique<ShapeStyle>();
   label.style->lineColour = 0x0000FF;
   label.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log.at(1), HasSubstr("colour 1 0 0 1"));
-  EXPECT_THAT(backEnd.log.at(1), testing::Not(HasSubstr("wrapped")));
+  EXPECT_THAT(recorder.Lines().at(1), HasSubstr("colour 1 0 0 1"));
 }
 
 TEST_F(ImportedShapeDrawing, ATextGrowsWithTheZoom)
 {
   ShowWidth(100.0);
   label.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log.at(1), HasSubstr("Consolas 40 in"));
+  EXPECT_THAT(recorder.Lines().at(1), HasSubstr("Consolas 40 in"));
 }
 
 TEST_F(ImportedShapeDrawing, ATextTurnsByItsAngleAndTheViews)
@@ -146,7 +148,8 @@ TEST_F(ImportedShapeDrawing, ATextTurnsByItsAngleAndTheViews)
   label.angle = 30.0;
   viewPort.SetRotation(15.0);
   label.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("rotate 45 400 300", StartsWith("text"), "rotate 0 0 0"));
+  EXPECT_THAT(recorder.Lines(),
+              ElementsAre("rotate 45 400 300", StartsWith("text"), "rotate 0 0 0"));
 }
 
 TEST_F(ImportedShapeDrawing, TheBoxOnTheScreenFollowsTheAngle)
@@ -181,7 +184,7 @@ TEST_F(ImportedShapeDrawing, ASelectedTextLiesOnYellow)
 {
   label.selected = true;
   label.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log,
+  EXPECT_THAT(recorder.Lines(),
               ElementsAre(StartsWith("rotate"), "fillrect 400 280 450 300 colour 1 1 0 1",
                           testing::EndsWith("colour 0 0 0 1"), StartsWith("rotate")));
 }
@@ -190,10 +193,10 @@ TEST_F(ImportedShapeDrawing, ATextVanishesWithItsAnchor)
 {
   label.vertices[0]->x = -100.25;  // one pixel to the left of the view
   label.Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
   label.vertices[0]->x = -100.0;
   label.Draw(&viewPort);
-  EXPECT_EQ(backEnd.log.size(), 3U);
+  EXPECT_EQ(recorder.Lines().size(), 3U);
 }
 
 TEST_F(ImportedShapeDrawing, ATextIsTrimmedInPlace)
@@ -202,10 +205,10 @@ TEST_F(ImportedShapeDrawing, ATextIsTrimmedInPlace)
   label.Draw(&viewPort);
   EXPECT_EQ(label.text, u"Crane");
   label.text = u"  \t ";
-  backEnd.log.clear();
+  recorder.calls.clear();
   label.Draw(&viewPort);
   EXPECT_TRUE(label.text.empty());
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(ImportedShapeDrawing, ATextIsTrimmedAlsoWhereTheTargetIsLost)
@@ -224,7 +227,7 @@ TEST_F(ImportedShapeDrawing, OfATextsVerticesTheFirstIsItsAnchor)
 {
   label.vertices.push_back(std::make_unique<CShapeVertex>(50.0, 25.0, 0.0));
   label.Draw(&viewPort);
-  EXPECT_EQ(backEnd.log.front(), "rotate 0 400 300");
+  EXPECT_EQ(recorder.Lines().front(), "rotate 0 400 300");
 }
 
 TEST_F(ImportedShapeDrawing, ATextOutOfViewIsNotTrimmed)
@@ -244,7 +247,7 @@ TEST_F(ImportedShapeDrawing, ATextWithoutAVertexIsNotDrawn)
   label.vertices.push_back(
       std::make_unique<CShapeVertex>(std::numeric_limits<double>::quiet_NaN(), 0.0, 0.0));
   label.Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 }  // namespace

@@ -28,9 +28,9 @@ protected:
 TEST_F(Scene, BeginsWithTheBackgroundAndEnds)
 {
   design.activeView = ViewSide::Right;
-  backEnd.log.clear();
+  recorder.calls.clear();
   Draw();
-  EXPECT_THAT(backEnd.log, ElementsAre("begin", "clear 1 1 0.8784314 1", "end"));
+  EXPECT_THAT(recorder.Lines(), ElementsAre("begin", "clear 1 1 0.8784314 1", "end"));
 }
 
 TEST_F(Scene, IsComposedInOrder)
@@ -43,7 +43,7 @@ TEST_F(Scene, IsComposedInOrder)
   grid.show = 1;
   Draw(&newShape);
   std::vector<std::string> words;
-  for (const std::string& line : backEnd.Frame()) words.push_back(line.substr(0, line.find(' ')));
+  for (const std::string& line : recorder.Frame()) words.push_back(line.substr(0, line.find(' ')));
   EXPECT_THAT(words, ElementsAre("clear", "geometry", "geometry", "line", "line",  // cross
                                  "ellipse", "line", "line", "text",                // GNSS
                                  "ellipse", "line", "line", "text",                // transducer
@@ -54,7 +54,7 @@ TEST_F(Scene, IsComposedInOrder)
 TEST_F(Scene, DeviceSymbolsAreCrossedCirclesWithTheirNamesAbove)
 {
   Draw();
-  EXPECT_THAT(backEnd.Frame(),
+  EXPECT_THAT(recorder.Frame(),
               ElementsAre("clear 1 1 0.8784314 1",  //
                           "ellipse 440 300 15 15 width 2 colour 1 0 0 1",
                           "line 425 285 455 315 width 2 colour 1 0 0 1",
@@ -74,25 +74,25 @@ TEST_F(Scene, SymbolsKeepTheirSizeAtAnyZoom)
 {
   ShowWidth(20.0);
   Draw();
-  EXPECT_THAT(backEnd.Frame(), Contains("ellipse 800 300 15 15 width 2 colour 1 0 0 1"));
+  EXPECT_THAT(recorder.Frame(), Contains("ellipse 800 300 15 15 width 2 colour 1 0 0 1"));
 }
 
 TEST_F(Scene, ThePivotHangsOnTheTransducer)
 {
   design.offsetTransducer.reset();
   Draw();
-  EXPECT_EQ(backEnd.Count("ellipse"), 1);
+  EXPECT_EQ(recorder.Count("ellipse"), 1);
   design.offsetTransducer = std::make_unique<CShapeVertex>();
   design.offsetPivot.reset();
   Draw();
-  EXPECT_EQ(backEnd.Count("ellipse"), 2);
+  EXPECT_EQ(recorder.Count("ellipse"), 2);
 }
 
 TEST_F(Scene, AnAnchorIsACircleWithItsNumber)
 {
   AddAnchor(12, 25.0, -25.0);
   Draw();
-  const auto frame = backEnd.Frame();
+  const auto frame = recorder.Frame();
   ASSERT_GE(frame.size(), 2U);
   EXPECT_EQ(frame[frame.size() - 2],
             "text '12' Arial 16 centred in 480 380 520 420 colour 0.5019608 0 0.5019608 1");
@@ -104,8 +104,8 @@ TEST_F(Scene, AnAnchorThatIsNotVisibleIsNotDrawn)
   AddAnchor(1, 0.0, 0.0).visible = false;
   AddAnchor(2, 0.0, 0.0);
   Draw();
-  EXPECT_EQ(backEnd.Count("text '1'"), 0);
-  EXPECT_EQ(backEnd.Count("text '2'"), 1);
+  EXPECT_EQ(recorder.Count("text '1'"), 0);
+  EXPECT_EQ(recorder.Count("text '2'"), 1);
 }
 
 TEST_F(Scene, OtherSidesShowNeitherDevicesNorAnchors)
@@ -114,11 +114,11 @@ TEST_F(Scene, OtherSidesShowNeitherDevicesNorAnchors)
   for (const std::int32_t side : ViewSide::each) {
     design.activeView = side;
     Draw();
-    EXPECT_EQ(backEnd.Count("ellipse"), side == ViewSide::Top ? 4 : 0) << side;
+    EXPECT_EQ(recorder.Count("ellipse"), side == ViewSide::Top ? 4 : 0) << side;
   }
   design.activeView = ViewSide::All;
   Draw();
-  EXPECT_EQ(backEnd.Count("ellipse"), 4);
+  EXPECT_EQ(recorder.Count("ellipse"), 4);
   EXPECT_EQ(design.anchors->items.size(), 1U);
 }
 
@@ -132,7 +132,7 @@ TEST_F(Scene, OnlyTheFirstGroupThatAnswersIsDrawn)
   hidden->AddVertex(9.0, 9.0, 0.0);
   design.shapeGroups.back()->shapes.push_back(std::move(hidden));
   Draw();
-  EXPECT_EQ(backEnd.Count("geometry"), 1);
+  EXPECT_EQ(recorder.Count("geometry"), 1);
 }
 
 TEST_F(Scene, DrawingMakesNoGroup)
@@ -143,14 +143,14 @@ TEST_F(Scene, DrawingMakesNoGroup)
 
 TEST_F(Scene, NothingIsDoneWithoutViewPortCanvasOrAnchorList)
 {
-  backEnd.log.clear();
+  recorder.calls.clear();
   DrawScene(design, nullptr, nullptr, grid);
   design.anchors.reset();
   Draw();
   design.anchors = std::make_unique<CAnchors>();
   viewPort.canvas = nullptr;
   Draw();
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(Scene, WithoutAnAnchorListNothingIsDrawnOnAnySide)
@@ -158,12 +158,12 @@ TEST_F(Scene, WithoutAnAnchorListNothingIsDrawnOnAnySide)
   AddLine(63, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   design.anchors.reset();
   grid.show = 1;
-  backEnd.log.clear();
+  recorder.calls.clear();
   for (const std::int32_t side : ViewSide::each) {
     design.activeView = side;
     Draw();
   }
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(Scene, WithoutATargetEveryStepIsSkipped)
@@ -172,36 +172,36 @@ TEST_F(Scene, WithoutATargetEveryStepIsSkipped)
   AddAnchor(1, 0.0, 0.0);
   grid.show = 1;
   canvas.ReleaseResources();
-  backEnd.log.clear();
+  recorder.calls.clear();
   Draw();
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(Scene, AFailedFrameIsNotRepeatedAndALostDeviceComesBackAtTheNext)
 {
-  backEnd.failAt = test::FailAt::EndDraw;
-  backEnd.failCode = recreateTarget;
-  backEnd.log.clear();
+  recorder.failing = DrawingFailure::FrameEnd;
+  recorder.failCode = recreateTarget;
+  recorder.calls.clear();
   Draw();
-  EXPECT_EQ(std::ranges::count(backEnd.log, "begin"), 1);
-  EXPECT_EQ(backEnd.log.back(), "imaging factory");
+  EXPECT_EQ(recorder.Frames(), 1);
+  EXPECT_EQ(recorder.Lines().back(), "imaging factory");
   EXPECT_THAT(canvas.errorText, StartsWith("Error 0x8899000C"));
-  backEnd.failAt = test::FailAt::Nothing;
+  recorder.failing = DrawingFailure::None;
   Draw();
-  EXPECT_EQ(backEnd.log.back(), "end");
+  EXPECT_EQ(recorder.Lines().back(), "end");
 }
 
 TEST_F(Scene, AMissingFormatOrBrushSkipsItsElementsOnly)
 {
   AddLine(1, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   AddAnchor(1, 0.0, 0.0);
-  backEnd.failAt = test::FailAt::TextFormat;
+  recorder.failing = DrawingFailure::TextStyle;
   Draw();
-  EXPECT_EQ(backEnd.Count("ellipse"), 0);
-  EXPECT_EQ(backEnd.Count("geometry"), 1);
-  backEnd.failAt = test::FailAt::Brush;
+  EXPECT_EQ(recorder.Count("ellipse"), 0);
+  EXPECT_EQ(recorder.Count("geometry"), 1);
+  recorder.failing = DrawingFailure::Colour;
   Draw();
-  EXPECT_EQ(backEnd.Frame().size(), 1U);
+  EXPECT_EQ(recorder.Frame().size(), 1U);
 }
 
 class Grid : public Scene {
@@ -217,8 +217,8 @@ TEST_F(Grid, TheOriginCrossIsTwentyPixelsAcross)
 {
   viewPort.CenterOn(410.0, 300.0);
   Draw();
-  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line 380 300 400 300 width 1 ") + grey));
-  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line 390 290 390 310 width 1 ") + grey));
+  EXPECT_THAT(recorder.Frame(), Contains(std::string("line 380 300 400 300 width 1 ") + grey));
+  EXPECT_THAT(recorder.Frame(), Contains(std::string("line 390 290 390 310 width 1 ") + grey));
 }
 
 TEST_F(Grid, SwitchedOffThereIsNeitherGridNorCross)
@@ -226,7 +226,7 @@ TEST_F(Grid, SwitchedOffThereIsNeitherGridNorCross)
   grid.show = 0;
   ShowWidth(20.0);
   Draw();
-  EXPECT_EQ(backEnd.Frame().size(), 1U);
+  EXPECT_EQ(recorder.Frame().size(), 1U);
 }
 
 TEST_F(Grid, PointsRunFromBelowTheEdgesToAboveThem)
@@ -236,8 +236,8 @@ TEST_F(Grid, PointsRunFromBelowTheEdgesToAboveThem)
   grid.spacingShowY = 3.0;
   Draw();
   // Columns -8, -4, 0, 4, 8 and rows -6, -3, 0, 3, 6, each column from below.
-  const auto frame = backEnd.Frame();
-  ASSERT_EQ(backEnd.Count("rect"), 25);
+  const auto frame = recorder.Frame();
+  ASSERT_EQ(recorder.Count("rect"), 25);
   EXPECT_EQ(frame[3], std::string("rect -241 779 -239 781 width 1 ") + grey);
   EXPECT_EQ(frame[4], std::string("rect -241 539 -239 541 width 1 ") + grey);
   EXPECT_EQ(frame[8], std::string("rect 79 779 81 781 width 1 ") + grey);
@@ -249,8 +249,8 @@ TEST_F(Grid, TheCrossDoesNotTurnWithTheView)
   viewPort.right = 200.0;
   viewPort.SetRotation(90.0);
   Draw();
-  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line -10 300 10 300 width 1 ") + grey));
-  EXPECT_THAT(backEnd.Frame(), Contains(std::string("line 0 290 0 310 width 1 ") + grey));
+  EXPECT_THAT(recorder.Frame(), Contains(std::string("line -10 300 10 300 width 1 ") + grey));
+  EXPECT_THAT(recorder.Frame(), Contains(std::string("line 0 290 0 310 width 1 ") + grey));
 }
 
 TEST_F(Grid, ColumnsAreFoundByAddingTheSpacing)
@@ -262,24 +262,24 @@ TEST_F(Grid, ColumnsAreFoundByAddingTheSpacing)
   viewPort.right = 1.0;
   viewPort.KeepAspect();
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 21 * 3);
+  EXPECT_EQ(recorder.Count("rect"), 21 * 3);
   // The sum of rounding errors takes the last column past the edge.
   viewPort.left = -2.0;
   viewPort.right = 2.0;
   viewPort.KeepAspect();
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 40 * 5);
+  EXPECT_EQ(recorder.Count("rect"), 40 * 5);
 }
 
 TEST_F(Grid, FortyIntervalsAreAllowedAndMoreShowTheCrossAlone)
 {
   ShowWidth(100.0);
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 41 * 31);
+  EXPECT_EQ(recorder.Count("rect"), 41 * 31);
   ShowWidth(100.1);
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 0);
-  EXPECT_EQ(backEnd.Count("line"), 2);
+  EXPECT_EQ(recorder.Count("rect"), 0);
+  EXPECT_EQ(recorder.Count("line"), 2);
 }
 
 TEST_F(Grid, TheLimitHoldsOnTheOtherAxisToo)
@@ -288,7 +288,7 @@ TEST_F(Grid, TheLimitHoldsOnTheOtherAxisToo)
   grid.spacingShowX = 100.0;
   grid.spacingShowY = 1.8;
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 0);
+  EXPECT_EQ(recorder.Count("rect"), 0);
 }
 
 TEST_F(Grid, EndsWhereTheSpacingNoLongerChangesTheValue)
@@ -297,22 +297,22 @@ TEST_F(Grid, EndsWhereTheSpacingNoLongerChangesTheValue)
   viewPort.right = 1e17 + 64.0;
   viewPort.KeepAspect();
   Draw();
-  EXPECT_LE(backEnd.Count("rect"), 42 * 42);
+  EXPECT_LE(recorder.Count("rect"), 42 * 42);
 }
 
 TEST_F(Grid, SpacingsAndViewsThatAreNoNumbersDoNotHang)
 {
   grid.spacingShowX = 0.0;
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 0);
+  EXPECT_EQ(recorder.Count("rect"), 0);
   grid.spacingShowX = 2.5;
   viewPort.left = -std::numeric_limits<double>::infinity();
   viewPort.KeepAspect();
   Draw();
-  EXPECT_LE(backEnd.Count("rect"), 42 * 42);
+  EXPECT_LE(recorder.Count("rect"), 42 * 42);
   viewPort.left = viewPort.right = viewPort.width = std::numeric_limits<double>::quiet_NaN();
   Draw();
-  EXPECT_EQ(backEnd.Count("rect"), 0);
+  EXPECT_EQ(recorder.Count("rect"), 0);
 }
 
 }  // namespace

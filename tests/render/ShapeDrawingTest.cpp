@@ -12,13 +12,13 @@ using testing::ElementsAre;
 
 class ShapeDrawing : public test::SceneFixture {
 protected:
-  ShapeDrawing() { backEnd.log.clear(); }
+  ShapeDrawing() { recorder.calls.clear(); }
 };
 
 TEST_F(ShapeDrawing, APolylineWithoutAStyleIsBlackAndOnePixelWide)
 {
   AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
-  EXPECT_THAT(backEnd.log,
+  EXPECT_THAT(recorder.Lines(),
               ElementsAre("geometry round hollow 400,300 : 400,300 500,300 open width 1 "
                           "colour 0 0 0 1"));
 }
@@ -30,7 +30,7 @@ TEST_F(ShapeDrawing, APolylineTakesColourAndWidthFromItsStyle)
   line.style->lineColour = 0x00FF8000;
   line.style->lineWidth = 2.5F;
   line.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log,
+  EXPECT_THAT(recorder.Lines(),
               ElementsAre("geometry round hollow 400,300 : 400,300 400,200 open width 2.5 "
                           "colour 0 0.5019608 1 1"));
 }
@@ -43,9 +43,9 @@ TEST_F(ShapeDrawing, AWidthOfNothingOrLessIsHandedOverAsItIs)
     line.style->lineWidth = lineWidth;
     line.Draw(&viewPort);
   }
-  ASSERT_EQ(backEnd.log.size(), 2U);
-  EXPECT_THAT(backEnd.log[0], testing::HasSubstr("width 0 colour"));
-  EXPECT_THAT(backEnd.log[1], testing::HasSubstr("width -2 colour"));
+  ASSERT_EQ(recorder.Lines().size(), 2U);
+  EXPECT_THAT(recorder.Lines()[0], testing::HasSubstr("width 0 colour"));
+  EXPECT_THAT(recorder.Lines()[1], testing::HasSubstr("width -2 colour"));
 }
 
 TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
@@ -53,29 +53,29 @@ TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
   CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
   line.selected = true;
   line.Draw(&viewPort);
-  ASSERT_EQ(backEnd.log.size(), 2U);
-  EXPECT_THAT(backEnd.log[0], testing::EndsWith("width 4 colour 1 1 0 1"));
-  EXPECT_THAT(backEnd.log[1], testing::EndsWith("width 1 colour 0 0 0 1"));
+  ASSERT_EQ(recorder.Lines().size(), 2U);
+  EXPECT_THAT(recorder.Lines()[0], testing::EndsWith("width 4 colour 1 1 0 1"));
+  EXPECT_THAT(recorder.Lines()[1], testing::EndsWith("width 1 colour 0 0 0 1"));
 }
 
 TEST_F(ShapeDrawing, APolylineWithOneVertexOrNoneDrawsNothing)
 {
   AddLine(1, {{0.0, 0.0, 0.0}}).Draw(&viewPort);
   CShapePolyline().Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(ShapeDrawing, APolylineOutsideTheViewIsHandedOverAllTheSame)
 {
   AddLine(1, {{500.0, 0.0, 0.0}, {600.0, 0.0, 0.0}}).Draw(&viewPort);
-  EXPECT_EQ(backEnd.log.size(), 1U);
+  EXPECT_EQ(recorder.Lines().size(), 1U);
 }
 
 TEST_F(ShapeDrawing, APolylineTurnsWithTheView)
 {
   viewPort.SetRotation(180.0);
   AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
-  EXPECT_THAT(backEnd.log.at(0), testing::HasSubstr(" 300,"));
+  EXPECT_THAT(recorder.Lines().at(0), testing::HasSubstr(" 300,"));
 }
 
 TEST_F(ShapeDrawing, NothingIsDrawnWithoutViewPortCanvasTargetOrBrush)
@@ -84,7 +84,7 @@ TEST_F(ShapeDrawing, NothingIsDrawnWithoutViewPortCanvasTargetOrBrush)
   CShapePoint point;
   line.Draw(nullptr);
   point.Draw(nullptr);
-  backEnd.failAt = test::FailAt::Brush;
+  recorder.failing = DrawingFailure::Colour;
   line.Draw(&viewPort);
   point.Draw(&viewPort);
   canvas.ReleaseResources();
@@ -92,7 +92,7 @@ TEST_F(ShapeDrawing, NothingIsDrawnWithoutViewPortCanvasTargetOrBrush)
   point.Draw(&viewPort);
   viewPort.canvas = nullptr;
   line.Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(ShapeDrawing, APointIsABlackSquareOfFivePixelsAtAnyZoom)
@@ -103,8 +103,8 @@ TEST_F(ShapeDrawing, APointIsABlackSquareOfFivePixelsAtAnyZoom)
   point.Draw(&viewPort);
   ShowWidth(2.0);
   point.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1",
-                                       "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
+  EXPECT_THAT(recorder.Lines(), ElementsAre("fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1",
+                                            "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
 }
 
 TEST_F(ShapeDrawing, APointTurnsWithTheView)
@@ -115,7 +115,7 @@ TEST_F(ShapeDrawing, APointTurnsWithTheView)
   CShapePoint point;
   point.position.x = 150.0;
   point.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("fillrect 397.5 497.5 402.5 502.5 colour 0 0 0 1"));
+  EXPECT_THAT(recorder.Lines(), ElementsAre("fillrect 397.5 497.5 402.5 502.5 colour 0 0 0 1"));
 }
 
 TEST_F(ShapeDrawing, ASelectedPointHasAYellowFrame)
@@ -123,8 +123,8 @@ TEST_F(ShapeDrawing, ASelectedPointHasAYellowFrame)
   CShapePoint point;
   point.selected = true;
   point.Draw(&viewPort);
-  EXPECT_THAT(backEnd.log, ElementsAre("rect 397.5 297.5 402.5 302.5 width 6 colour 1 1 0 1",
-                                       "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
+  EXPECT_THAT(recorder.Lines(), ElementsAre("rect 397.5 297.5 402.5 302.5 width 6 colour 1 1 0 1",
+                                            "fillrect 397.5 297.5 402.5 302.5 colour 0 0 0 1"));
 }
 
 TEST_F(ShapeDrawing, APointOutsideTheViewIsNotDrawn)
@@ -132,7 +132,7 @@ TEST_F(ShapeDrawing, APointOutsideTheViewIsNotDrawn)
   CShapePoint point;
   point.position.x = 100.1;
   point.Draw(&viewPort);
-  EXPECT_TRUE(backEnd.log.empty());
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include "render/ViewPort.h"
 
 // Views at which other forms of the same formulas end in other last bits. Pixels are cut and
-// coordinates are stored as they come, so the last bit is part of the behaviour.
+// coordinates are stored as they come, so the last bit shows in them.
 
 namespace hullwright {
 namespace {

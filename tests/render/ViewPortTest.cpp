@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "model/Extents.h"
+
 namespace hullwright {
 namespace {
 
@@ -157,7 +159,7 @@ TEST_F(ViewPortTest, ContainsItsEdges)
 
 TEST_F(ViewPortTest, FitExtentsCropsATallBox)
 {
-  viewPort.FitExtents(0.0, 0.0, 10.0, 40.0);
+  viewPort.FitExtents({0.0, 0.0, 10.0, 40.0});
   EXPECT_EQ(viewPort.left, -1.6666666666666665);
   EXPECT_EQ(viewPort.right, 11.666666666666666);
   EXPECT_NEAR(viewPort.height, 10.0, 1e-12);
@@ -166,7 +168,7 @@ TEST_F(ViewPortTest, FitExtentsCropsATallBox)
 
 TEST_F(ViewPortTest, FitExtentsOfAWideBoxLeavesASixthOnEachSide)
 {
-  viewPort.FitExtents(-60.0, -3.0, 60.0, 3.0);
+  viewPort.FitExtents({-60.0, -3.0, 60.0, 3.0});
   EXPECT_EQ(viewPort.left, -80.0);
   EXPECT_EQ(viewPort.right, 80.0);
   EXPECT_EQ(viewPort.height, 120.0);
@@ -174,7 +176,7 @@ TEST_F(ViewPortTest, FitExtentsOfAWideBoxLeavesASixthOnEachSide)
 
 TEST_F(ViewPortTest, ZoomToExtentsOfAWideBox)
 {
-  viewPort.ZoomToExtents(10.0, 20.0, 50.0, 30.0);
+  viewPort.ZoomToExtents({10.0, 20.0, 50.0, 30.0});
   // Both corners are in view at once, so the rectangle is widened twice only.
   constexpr double sixth = 0.16666666666666666;
   double width = (800.0 / 600.0) * 40.0;
@@ -195,7 +197,7 @@ TEST_F(ViewPortTest, ZoomToExtentsOfAWideBox)
 
 TEST_F(ViewPortTest, ZoomToExtentsOfATallBoxWidensUntilACornerIsInView)
 {
-  viewPort.ZoomToExtents(0.0, 0.0, 1.0, 400.0);
+  viewPort.ZoomToExtents({0.0, 0.0, 1.0, 400.0});
   EXPECT_TRUE(viewPort.Contains(0.0, 0.0));
   EXPECT_TRUE(viewPort.Contains(1.0, 400.0));
   // Its width came from the inverted shape of the window.
@@ -206,24 +208,24 @@ TEST_F(ViewPortTest, ATallBoxTakesItsWidthFromTheInvertedShapeOfTheWindow)
 {
   viewPort.screenWidth = 1000.0;
   viewPort.screenHeight = 500.0;
-  viewPort.ZoomToExtents(0.0, 0.0, 1.0, 400.0);
+  viewPort.ZoomToExtents({0.0, 0.0, 1.0, 400.0});
   // 200 wide and 100 high at first; five steps bring a corner in, two more follow.
   EXPECT_NEAR(viewPort.width, 200.0 * std::pow(4.0 / 3.0, 7), 1e-6);
 }
 
 TEST_F(ViewPortTest, ZoomToExtentsIsContentWithOneCornerInView)
 {
-  viewPort.ZoomToExtents(1.3, 4.7, 7.0, 10.7);  // the upper corner comes into view first
+  viewPort.ZoomToExtents({1.3, 4.7, 7.0, 10.7});  // the upper corner comes into view first
   EXPECT_EQ(viewPort.width, 14.222222222222223);
   viewPort.screenWidth = 600.0;
-  viewPort.ZoomToExtents(2.2, 4.7, 3.0, 7.9);  // the lower one is in view at once
+  viewPort.ZoomToExtents({2.2, 4.7, 3.0, 7.9});  // the lower one is in view at once
   EXPECT_EQ(viewPort.width, 5.688888888888889);
 }
 
 TEST_F(ViewPortTest, ZoomToExtentsGivesUpAfterThirtySteps)
 {
-  viewPort.ZoomToExtents(5.0, 5.0, 5.0, 5.0);
-  viewPort.ZoomToExtents(std::nan(""), 0.0, std::nan(""), 1.0);
+  viewPort.ZoomToExtents({5.0, 5.0, 5.0, 5.0});
+  viewPort.ZoomToExtents({std::nan(""), 0.0, std::nan(""), 1.0});
   EXPECT_TRUE(std::isnan(viewPort.left));
 }
 
@@ -289,14 +291,14 @@ TEST_F(ViewPortTest, WhatCanBeFittedIsFittedToTheBit)
       EXPECT_EQ(viewPort.*field, plain.*field);
     }
   };
-  plain.FitExtents(0.1, 7.7, 60.3, 7.7);  // a horizontal line
-  viewPort.FitOrCenter(0.1, 7.7, 60.3, 7.7);
+  plain.FitExtents({0.1, 7.7, 60.3, 7.7});  // a horizontal line
+  viewPort.FitOrCenter({0.1, 7.7, 60.3, 7.7});
   expectSame();
-  plain.FitExtents(-1e-15, 3.1, 1e-15, 40.7);
-  viewPort.FitOrCenter(-1e-15, 3.1, 1e-15, 40.7);
+  plain.FitExtents({-1e-15, 3.1, 1e-15, 40.7});
+  viewPort.FitOrCenter({-1e-15, 3.1, 1e-15, 40.7});
   expectSame();
-  plain.ZoomToExtents(0.3, 3.1, 0.3, 40.7);  // a vertical one
-  viewPort.ZoomOrCenter(0.3, 3.1, 0.3, 40.7);
+  plain.ZoomToExtents({0.3, 3.1, 0.3, 40.7});  // a vertical one
+  viewPort.ZoomOrCenter({0.3, 3.1, 0.3, 40.7});
   expectSame();
 }
 
@@ -305,7 +307,7 @@ TEST_F(ViewPortTest, APlaceWhoseSumWithItselfIsTooLargeIsCentredOnAllTheSame)
   viewPort.left = -4e307;
   viewPort.right = 4e307;
   viewPort.KeepAspect();
-  viewPort.FitOrCenter(1.2e308, 0.0, 1.2e308, 0.0);
+  viewPort.FitOrCenter({1.2e308, 0.0, 1.2e308, 0.0});
   EXPECT_EQ(viewPort.left, 1.2e308 - 4e307);
   EXPECT_EQ(viewPort.right, (1.2e308 - 4e307) + 8e307);
   EXPECT_TRUE(viewPort.IsUsable());

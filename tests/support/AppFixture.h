@@ -12,7 +12,7 @@
 #include "app/SharedLibraries.h"
 #include "file/HullwrightDoc.h"
 #include "support/Fakes.h"
-#include "support/RecordingBackEnd.h"
+#include "support/RecordedDrawing.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
 #include "view/HullwrightView.h"
@@ -64,9 +64,9 @@ protected:
     frame.document = &document;
     frame.view = &view;
     frame.hasWindow = true;
-    view.OnCreate(&window);
+    view.OnCreate(&recorder);
     view.OnSize(800, 600);
-    backEnd.log.clear();
+    recorder.calls.clear();
   }
   ~AppFixture() override
   {
@@ -74,7 +74,7 @@ protected:
     frame.document = nullptr;
   }
 
-  int Frames() const { return static_cast<int>(std::ranges::count(backEnd.log, "begin")); }
+  int Frames() const { return recorder.Frames(); }
 
   FakeSettings settings;
   FakeMessages messages;
@@ -84,15 +84,14 @@ protected:
   ScriptedDialogs dialogs;
   FakeFileDialogs fileDialogs;
   FakeWidgets widgets;
-  RecordingBackEnd backEnd;
-  RecordingWindow window;
+  RecordedDrawing recorder;
   SharedLibraries libraries;
   TempFolder dataFolder;  ///< the common data folder, empty
   CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
                       [this](CommonData) { return dataFolder.File(""); }}};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
-  CHullwrightView view{app, app, {backEnd, messages, cursor, band, popup}};
+  CHullwrightView view{app, app, {messages, cursor, band, popup}};
 };
 
 }  // namespace hullwright::test

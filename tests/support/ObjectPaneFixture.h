@@ -91,7 +91,7 @@ protected:
   {
     pane.selectedItem = selected;
     dialogs.script = std::move(script);
-    backEnd.log.clear();
+    recorder.calls.clear();
     pane.OnCommand(id);
   }
 

@@ -8,7 +8,7 @@
 #include "model/ShapePolyline.h"
 #include "render/Canvas.h"
 #include "render/ViewPort.h"
-#include "support/RecordingBackEnd.h"
+#include "support/RecordedDrawing.h"
 
 namespace hullwright::test {
 
@@ -20,7 +20,7 @@ protected:
   {
     design.viewPort = &viewPort;
     viewPort.canvas = &canvas;
-    canvas.Initialize(&window);
+    canvas.Initialize(&recorder);
     viewPort.screenWidth = 800.0;
     viewPort.screenHeight = 600.0;
     viewPort.KeepAspect();
@@ -53,9 +53,8 @@ protected:
     return anchor;
   }
 
-  RecordingBackEnd backEnd;
-  RecordingWindow window;
-  CCanvas canvas{backEnd};
+  RecordedDrawing recorder;
+  CCanvas canvas;
   CViewPortDesigner viewPort;
   DesignState design;
 };

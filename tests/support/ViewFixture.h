@@ -11,7 +11,7 @@
 #include "model/ShapePolyline.h"
 #include "platform/MainWindow.h"
 #include "support/Fakes.h"
-#include "support/RecordingBackEnd.h"
+#include "support/RecordedDrawing.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright::test {
@@ -65,9 +65,9 @@ protected:
     design.activeView = ViewSide::Right;  // no devices in the way
     host.grid.snap = 0;
     host.grid.show = 0;
-    view.OnCreate(&window);
+    view.OnCreate(&recorder);
     view.OnSize(800, 600);
-    backEnd.log.clear();
+    recorder.calls.clear();
   }
 
   /// Gives a design a viewport, which the next view created over it takes.
@@ -77,7 +77,7 @@ protected:
     to.viewPort = host.viewPort.get();
   }
 
-  int Frames() const { return static_cast<int>(std::ranges::count(backEnd.log, "begin")); }
+  int Frames() const { return recorder.Frames(); }
 
   CShapePolyline& AddLine(std::initializer_list<CShapeVertex> vertices)
   {
@@ -96,15 +96,14 @@ protected:
     return *design.anchors->items.back();
   }
 
-  RecordingBackEnd backEnd;
-  RecordingWindow window;
+  RecordedDrawing recorder;
   FakeMessages messages;
   FakeCursor cursor;
   FakeBand band;
   FakePopup popup;
   FakeHost host;
   DesignState design;
-  CHullwrightView view{design, host, {backEnd, messages, cursor, band, popup}};
+  CHullwrightView view{design, host, {messages, cursor, band, popup}};
 };
 
 }  // namespace hullwright::test

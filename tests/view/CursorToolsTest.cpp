@@ -13,7 +13,7 @@ class View : public test::ViewFixture {};
 
 TEST_F(View, BeginsIdle)
 {
-  const CHullwrightView fresh(design, host, {backEnd, messages, cursor, band, popup});
+  const CHullwrightView fresh(design, host, {messages, cursor, band, popup});
   EXPECT_FALSE(fresh.dragging);
   EXPECT_FALSE(fresh.drawing);
   EXPECT_EQ(fresh.hitKind, 0);
@@ -27,7 +27,7 @@ TEST_F(View, CreationHangsTheCanvasOnTheViewPort)
 {
   EXPECT_EQ(view.viewPort.get(), design.viewPort);
   ASSERT_NE(view.viewPort->canvas, nullptr);
-  EXPECT_NE(view.viewPort->canvas->renderTarget, nullptr);
+  EXPECT_NE(view.viewPort->canvas->Target(), nullptr);
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -35,7 +35,7 @@ TEST_F(View, ACanvasThatFailsIsToldAndTheViewGoesOn)
 {
   DesignState other;
   GiveViewPort(other);
-  CHullwrightView blind(other, host, {backEnd, messages, cursor, band, popup});
+  CHullwrightView blind(other, host, {messages, cursor, band, popup});
   blind.OnCreate(nullptr);
   EXPECT_THAT(messages.shown,
               ElementsAre(u"Failed to initialize Canvas, hWnd == nullptr or window is invalid!"));
@@ -49,8 +49,8 @@ TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
 {
   DesignState other;
   host.cursorTool = CursorTool::ZoomIn;
-  CHullwrightView blind(other, host, {backEnd, messages, cursor, band, popup});
-  blind.OnCreate(&window);
+  CHullwrightView blind(other, host, {messages, cursor, band, popup});
+  blind.OnCreate(&recorder);
   blind.OnSize(800, 600);
   blind.OnMouseMove(false, {1, 1});
   blind.OnLButtonDown({1, 1});
@@ -65,8 +65,8 @@ TEST_F(View, ItsEndDestroysTheViewPort)
   DesignState other;
   GiveViewPort(other);
   {
-    CHullwrightView shortLived(other, host, {backEnd, messages, cursor, band, popup});
-    shortLived.OnCreate(&window);
+    CHullwrightView shortLived(other, host, {messages, cursor, band, popup});
+    shortLived.OnCreate(&recorder);
   }
   EXPECT_EQ(other.viewPort, nullptr);
 }
@@ -74,7 +74,7 @@ TEST_F(View, ItsEndDestroysTheViewPort)
 TEST_F(View, AResizeReachesTargetAndViewPortAndRepaints)
 {
   view.OnSize(400, 100);
-  EXPECT_EQ(backEnd.log.front(), "resize 400 100");
+  EXPECT_EQ(recorder.Lines().front(), "resize 400 100");
   EXPECT_EQ(view.viewPort->screenWidth, 400.0);
   EXPECT_EQ(view.viewPort->height, 50.0);
   EXPECT_EQ(Frames(), 1);

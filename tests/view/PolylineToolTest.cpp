@@ -49,7 +49,7 @@ TEST_F(PolylineTool, AFinishedPolylineIsDrawnFromThenOn)
   view.OnRButtonDown({600, 100});
   for (int frame = 0; frame < 2; ++frame) {
     view.Repaint();
-    EXPECT_EQ(backEnd.Count("geometry"), 1);
+    EXPECT_EQ(recorder.Count("geometry"), 1);
   }
 }
 
@@ -74,10 +74,10 @@ TEST_F(PolylineTool, EachVertexRepaintsAndThePolylineShowsFromTheSecondOn)
   Begin();
   Click(400, 300);
   EXPECT_EQ(Frames(), 1);
-  EXPECT_EQ(backEnd.Count("geometry"), 0);
+  EXPECT_EQ(recorder.Count("geometry"), 0);
   Click(500, 300);
   EXPECT_EQ(Frames(), 2);
-  EXPECT_EQ(backEnd.Count("geometry"), 1);
+  EXPECT_EQ(recorder.Count("geometry"), 1);
 }
 
 TEST_F(PolylineTool, BeginningTwiceKeepsWhatIsThere)

@@ -86,15 +86,24 @@ Value SegmentDistance(ReplayEditor&, const Args& args)
   return Row(has, has ? Value(distance) : Value());
 }
 
+/// Four numbers from one place on.
+Extents ExtentsOf(const Args& args, int first)
+{
+  return {args.Number(first), args.Number(first + 1), args.Number(first + 2),
+          args.Number(first + 3)};
+}
+
+Value BoundsOf(const Extents& box) { return Row(box.minX, box.minY, box.maxX, box.maxY); }
+
 Value GetExtents(ReplayEditor& editor, const Args& args)
 {
-  constexpr double largest = std::numeric_limits<double>::max();
-  std::array<double, 4> box = {largest, largest, -largest, -largest};
-  for (int i = 0; i < 4 && i + 2 < args.Count(); ++i) {
-    box.at(static_cast<std::size_t>(i)) = args.Number(i + 2);
+  Extents box;
+  int next = 2;
+  for (double* const bound : {&box.minX, &box.minY, &box.maxX, &box.maxY}) {
+    if (next < args.Count()) *bound = args.Number(next++);
   }
-  ShapeOf(editor, args).GetExtents(box[0], box[1], box[2], box[3]);
-  return Row(box[0], box[1], box[2], box[3]);
+  ShapeOf(editor, args).GetExtents(box);
+  return BoundsOf(box);
 }
 
 Value Transform(ReplayEditor& editor, const Args& args)
@@ -131,16 +140,13 @@ Value UpdateExtents(ReplayEditor& editor, const Args& args)
   CLayer layer;
   CShapes& group = GroupOf(editor, args.Integer(0));
   layer.shapes->TakeShapes(group);
-  const std::array<double, 4> before = {args.Number(1), args.Number(2), args.Number(3),
-                                        args.Number(4)};
-  layer.minX = before[0];
-  layer.minY = before[1];
-  layer.maxX = before[2];
-  layer.maxY = before[3];
+  layer.extents = ExtentsOf(args, 1);
+  const std::array<double, 4> before = {layer.extents.minX, layer.extents.minY, layer.extents.maxX,
+                                        layer.extents.maxY};
   const bool again = std::ranges::any_of(before, [](double bound) { return bound == 0.0; });
   layer.UpdateExtents();
   group.TakeShapes(*layer.shapes);
-  return Row(again, layer.minX, layer.minY, layer.maxX, layer.maxY);
+  return Row(again, layer.extents.minX, layer.extents.minY, layer.extents.maxX, layer.extents.maxY);
 }
 
 Value RemoveForeign(ReplayEditor& editor, const Args& args)
@@ -207,37 +213,39 @@ Value SaveGrid(ReplayEditor& editor, const Args& args)
 
 Value InitialiseCanvas(ReplayEditor&, const Args& args)
 {
-  constexpr std::array<std::string_view, 4> steps = {"D2D1CreateFactory", "CreateHwndRenderTarget",
-                                                     "DWriteCreateFactory", "CoCreateInstance"};
-  FrameRecorder recorder;
-  NoWindow window;
-  const std::string failing = args.Name(0);
-  const auto* const step = std::ranges::find(steps, failing);
-  if (step != steps.end()) recorder.failingStep = static_cast<int>(step - steps.begin());
-  window.isWindow = failing != "IsWindow";
-  if (failing == "GetClientRect") window.size.reset();
+  constexpr auto steps = std::to_array<std::pair<std::string_view, TargetStep>>({
+      {"IsWindow", TargetStep::Window},
+      {"D2D1CreateFactory", TargetStep::Drawing},
+      {"GetClientRect", TargetStep::ClientArea},
+      {"CreateHwndRenderTarget", TargetStep::Picture},
+      {"DWriteCreateFactory", TargetStep::Texts},
+      {"CoCreateInstance", TargetStep::Imaging},
+  });
+  DrawingRecorder recorder;
+  const auto* const failing =
+      std::ranges::find(steps, args.Name(0), &std::pair<std::string_view, TargetStep>::first);
   recorder.failCode = static_cast<ResultCode>(args.At(1).toInteger());
-  CCanvas canvas(recorder);
-  const bool success = canvas.Initialize(&window);
-  const int kept = (canvas.renderTarget ? 1 : 0) + (canvas.factory ? 1 : 0) +
-                   (canvas.writeFactory ? 1 : 0) + (canvas.imagingFactory ? 1 : 0);
-  return Row(success, std::string_view(canvas.errorText), kept);
+  if (failing != steps.end()) recorder.failingStep = failing->second;
+  CCanvas canvas;
+  const bool success = canvas.Initialize(&recorder);
+  const auto kept = std::ranges::count_if(
+      steps, [&canvas](const auto& step) { return canvas.Holds(step.second); });
+  return Row(success, std::string_view(canvas.errorText), static_cast<int>(kept));
 }
 
 Value StrokesOf(ReplayEditor&, const Args& args)
 {
-  FrameRecorder recorder;
-  NoWindow window;
-  CCanvas canvas(recorder);
-  canvas.Initialize(&window);
+  DrawingRecorder recorder;
+  CCanvas canvas;
+  canvas.Initialize(&recorder);
+  recorder.calls.clear();
   std::vector<PixelPoint> points;
   for (const QJsonValue& point : args.At(0).toArray()) {
     points.push_back({static_cast<float>(NumberOf(point.toArray().at(0))),
                       static_cast<float>(NumberOf(point.toArray().at(1)))});
   }
-  const auto brush = canvas.renderTarget->CreateSolidColourBrush({});
-  canvas.DrawPolyline(*brush, points, 1.0F);
-  return recorder.strokes;
+  canvas.DrawPolyline(points, {});
+  return recorder.calls.size();
 }
 
 Value Widths(ReplayEditor&, const Args& args)
@@ -268,12 +276,8 @@ Value OnViewPort(ReplayEditor& editor, const std::string& name, const Args& args
     return Row(p.x, p.y);
   }
   if (name == "KeepAspect") v.KeepAspect();
-  if (name == "FitExtents") {
-    v.FitExtents(args.Number(0), args.Number(1), args.Number(2), args.Number(3));
-  }
-  if (name == "ZoomToExtents") {
-    v.ZoomToExtents(args.Number(0), args.Number(1), args.Number(2), args.Number(3));
-  }
+  if (name == "FitExtents") v.FitExtents(ExtentsOf(args, 0));
+  if (name == "ZoomToExtents") v.ZoomToExtents(ExtentsOf(args, 0));
   return {};
 }
 

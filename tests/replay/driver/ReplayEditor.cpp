@@ -173,11 +173,15 @@ ReplayEditor::ReplayEditor(std::filesystem::path folder)
            [this](CommonData) { return PathOf(""); }}),
       frame(app, widgets, events),
       document(app, frame, messages),
-      view(app, app, {recorder, messages, pointer, pointer, pointer}),
+      view(app, app, {messages, pointer, pointer, pointer}),
       tree(pointer),
       pane(app, tree)
 {
-  recorder.onFrame = [this] { events.emplace_back("frame"); };
+  recorder.width = recorder.height = 0;
+  recorder.onFrame = [this] {
+    recorder.calls.clear();
+    events.emplace_back("frame");
+  };
   tree.pane = &pane;
   frame.document = &document;
   frame.view = &view;
@@ -196,10 +200,10 @@ void ReplayEditor::Start(std::optional<std::string> file)
   file_ = std::move(file);
   app.LoadLook();
   frame.OnApplicationLook(app.applicationLook);
-  view.OnCreate(&window);
+  view.OnCreate(&recorder);
   pane.BuildTree();
   app.InitInstance(*this);
-  recorder.frame = {};
+  recorder.calls.clear();
 }
 
 bool ReplayEditor::ProcessCommandLine()

@@ -12,7 +12,7 @@
 #include "app/SharedLibraries.h"
 #include "cli/HeadlessEditor.h"
 #include "file/HullwrightDoc.h"
-#include "replay/driver/FrameRecorder.h"
+#include "headless/DrawingRecorder.h"
 #include "replay/driver/Value.h"
 #include "support/ScriptedDialogs.h"
 #include "view/HullwrightView.h"
@@ -165,8 +165,7 @@ public:
   ReplayPointer pointer;
   NoWidgets widgets;
   SharedLibraries libraries;
-  FrameRecorder recorder;
-  NoWindow window;
+  DrawingRecorder recorder;  ///< keeps the last frame only
   CHullwrightApp app;
   ReplayFrame frame;
   CHullwrightDoc document;

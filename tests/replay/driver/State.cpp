@@ -3,6 +3,7 @@
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
 #include "model/ShapeText.h"
+#include "replay/driver/FrameValue.h"
 #include "replay/driver/ReplayEditor.h"
 #include "resources/CommandIds.h"
 
@@ -207,7 +208,7 @@ Value ReplayEditor::State()
                        {"view", ViewOf(*this)},
                        {"shell", ShellOf(*this)},
                        {"tree", tree.Report()},
-                       {"frame", recorder.frame}};
+                       {"frame", FrameValue(recorder.calls)}};
 }
 
 }  // namespace hullwright::replay
