@@ -58,8 +58,9 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
   for (const auto& [name, known] : reader.Drawing().layers.All()) {
     summary.layers[name] = {known.colour, known.off, known.frozen};
   }
-  for (const auto& [name, block] : reader.Drawing().blocks)
+  for (const auto& [name, block] : reader.Drawing().blocks) {
     summary.blocks[name] = block->shapes.size();
+  }
   summary.shapes = layer.shapes->shapes.size();
   summary.extents = layer.extents;
   summary.entities = Named(reader.Tally().entities);
