@@ -228,7 +228,7 @@ int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
 {
   CLayer layer;
   {
-    CFileDxf drawing(mainFrame, *this);
+    CFileDxf drawing(mainFrame, ports_.log);
     const int result = drawing.Import(path, &layer);
     tally = std::move(drawing.tally);
     if (result != 0) return -1;

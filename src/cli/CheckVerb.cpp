@@ -6,8 +6,8 @@
 #include "cli/CommandLine.h"
 #include "cli/DesignCheck.h"
 #include "cli/DesignFindings.h"
-#include "cli/Files.h"
 #include "cli/HeadlessEditor.h"
+#include "system/InputFile.h"
 
 namespace hullwright {
 namespace {

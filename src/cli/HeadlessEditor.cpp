@@ -5,7 +5,6 @@
 #include <limits>
 #include <utility>
 
-#include "app/CommonDataFolder.h"
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/DesignCheck.h"
@@ -64,7 +63,7 @@ HeadlessEditor::HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface
                                IFrameWidgets* widgets)
     : pointer_(std::make_unique<NoPointer>()),
       dialogs_(std::make_unique<NoDialogs>()),
-      app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
+      app_({settings_, messages_, *dialogs_, *dialogs_, commonData_.units, commonData_.log}),
       frame_(app_, widgets == nullptr ? noWidgets_ : *widgets),
       document_(app_, frame_, messages_),
       view_(app_, app_, {drawing, messages_, *pointer_, *pointer_, *pointer_})

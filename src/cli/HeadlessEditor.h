@@ -7,8 +7,8 @@
 
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
-#include "app/SharedLibraries.h"
 #include "file/HullwrightDoc.h"
+#include "system/CommonDataPorts.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright {
@@ -102,7 +102,7 @@ private:
 
   MemorySettings settings_;
   KeptMessages messages_;
-  SharedLibraries libraries_;
+  CommonDataPorts commonData_{messages_};
   NoWidgets noWidgets_;
   std::unique_ptr<NoDrawing> noDrawing_;
   std::unique_ptr<NoPointer> pointer_;

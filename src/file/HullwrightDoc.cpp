@@ -3,9 +3,9 @@
 #include <cerrno>
 
 #include "base/ErrorText.h"
+#include "base/OpenFile.h"
 #include "base/Text.h"
 #include "file/FileVessel.h"
-#include "file/OpenFile.h"
 
 namespace hullwright {
 namespace {

@@ -29,7 +29,7 @@ constexpr const char* statusBarKey = "Workspace/StatusBar";
 }  // namespace
 
 MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-                       std::size_t recentFiles)
+                       IFormerVersions& formerVersions, std::size_t recentFiles)
     : settings_(settings),
       app_(app),
       frame_(app, *this),
@@ -38,7 +38,7 @@ MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessage
       view_(app, app, {design_->Drawing(), messages, *design_, *design_, *design_}),
       recentFiles_(settings),
       documents_(document_, app,
-                 {documentDialogs_, recentFiles_, formerVersions_, *this,
+                 {documentDialogs_, recentFiles_, formerVersions, *this,
                   [this] { return view_.drawing && !view_.newShape->vertices.empty(); }},
                  recentFiles),
       tree_(new ObjectTreeWidget(this)),

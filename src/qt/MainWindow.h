@@ -20,7 +20,6 @@
 #include "qt/QtRecentFiles.h"
 #include "qt/StatusPane.h"
 #include "qt/ToolBars.h"
-#include "system/FormerVersions.h"
 
 namespace hullwright {
 
@@ -31,7 +30,7 @@ class MainWindow : public QMainWindow, public IFrameWidgets {
 
 public:
   MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-             std::size_t recentFiles);
+             IFormerVersions& formerVersions, std::size_t recentFiles);
   ~MainWindow() override;
 
   DocumentLife& Document() { return documents_; }
@@ -87,7 +86,6 @@ private:
   CHullwrightView view_;
   QtDocumentDialogs documentDialogs_{this};
   QtRecentFiles recentFiles_;
-  FormerVersions formerVersions_{StateFolder()};
   DocumentLife documents_;
   ObjectTreeWidget* tree_;
   CObjectView objects_;

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <utility>
 
-#include "app/CommonDataFolder.h"
 #include "base/Text.h"
 #include "file/SaxParser.h"
 #include "qt/Icons.h"
@@ -15,7 +14,7 @@ namespace hullwright {
 
 Shell::Shell(QString file)
     : file_(std::move(file)),
-      app_({settings_, messages_, libraries_, dialogs_, fileDialogs_, FindCommonDataFolder})
+      app_({settings_, messages_, dialogs_, fileDialogs_, commonData_.units, commonData_.log})
 {
 }
 
@@ -36,7 +35,7 @@ void Shell::OpenUserStore(const char* maker, int recentFiles)
 
 bool Shell::CreateDocumentTemplate()
 {
-  window_ = std::make_unique<MainWindow>(app_, settings_, messages_, recentFiles_);
+  window_ = std::make_unique<MainWindow>(app_, settings_, messages_, formerVersions_, recentFiles_);
   dialogs_.SetParent(window_.get());
   fileDialogs_.SetParent(window_.get());
   return true;

@@ -4,13 +4,14 @@
 #include <memory>
 
 #include "app/HullwrightApp.h"
-#include "app/SharedLibraries.h"
 #include "platform/Framework.h"
 #include "qt/MainWindow.h"
 #include "qt/QtDialogRunner.h"
 #include "qt/QtFileDialogs.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtSettingsStore.h"
+#include "system/CommonDataPorts.h"
+#include "system/FormerVersions.h"
 
 namespace hullwright {
 
@@ -38,7 +39,8 @@ private:
   std::size_t recentFiles_ = 0;  ///< length of the list of recent files
   QtSettingsStore settings_;
   QtMessageBoxes messages_;
-  SharedLibraries libraries_;
+  CommonDataPorts commonData_{messages_};
+  FormerVersions formerVersions_{StateFolder()};
   QtDialogRunner dialogs_;
   QtFileDialogs fileDialogs_{settings_};
   CHullwrightApp app_;

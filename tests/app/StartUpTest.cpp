@@ -114,11 +114,10 @@ class Application : public testing::Test {
 protected:
   test::FakeSettings settings;
   test::FakeMessages messages;
-  SharedLibraries libraries;
   test::ScriptedDialogs dialogs;
   test::FakeFileDialogs fileDialogs;
-  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
-                      [](CommonData) { return std::u16string(); }}};
+  CommonDataPorts commonData{messages, [](CommonData) { return std::u16string(); }};
+  CHullwrightApp app{{settings, messages, dialogs, fileDialogs, commonData.units, commonData.log}};
 };
 
 TEST_F(Application, BeginsWithItsDefaults)

@@ -9,12 +9,12 @@
 
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
-#include "app/SharedLibraries.h"
 #include "file/HullwrightDoc.h"
 #include "support/Fakes.h"
 #include "support/RecordingBackEnd.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TempFolder.h"
+#include "system/CommonDataPorts.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright::test {
@@ -86,10 +86,9 @@ protected:
   FakeWidgets widgets;
   RecordingBackEnd backEnd;
   RecordingWindow window;
-  SharedLibraries libraries;
   TempFolder dataFolder;  ///< the common data folder, empty
-  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
-                      [this](CommonData) { return dataFolder.File(""); }}};
+  CommonDataPorts commonData{messages, [this](CommonData) { return dataFolder.File(""); }};
+  CHullwrightApp app{{settings, messages, dialogs, fileDialogs, commonData.units, commonData.log}};
   CMainFrame frame{app, widgets};
   CHullwrightDoc document{app, frame, messages};
   CHullwrightView view{app, app, {backEnd, messages, cursor, band, popup}};

@@ -282,8 +282,8 @@ Value Player::Setting(const QJsonObject& step)
 Value Player::Trace(const QJsonObject& step)
 {
   const std::u16string category = WideOf(step[u"category"]);
-  editor_.app.Trace(NumberOf(step[u"elapsed"]), step[u"level"].toInt(), category,
-                    WideOf(step[u"text"]));
+  editor_.commonData.log.Trace(NumberOf(step[u"elapsed"]), step[u"level"].toInt(), category,
+                               WideOf(step[u"text"]));
   NoteWritten(editor_.PathOf("Sondaris/Tracing/Trace_" + Utf8FromWide(category) + ".txt"));
   return {};
 }

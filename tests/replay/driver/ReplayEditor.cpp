@@ -169,8 +169,8 @@ void ReplayFrame::SetModifiedFlag(bool modified)
 
 ReplayEditor::ReplayEditor(std::filesystem::path folder)
     : work(std::move(folder)),
-      app({settings, messages, libraries, dialogs, pointer,
-           [this](CommonData) { return PathOf(""); }}),
+      commonData(messages, [this](CommonData) { return PathOf(""); }),
+      app({settings, messages, dialogs, pointer, commonData.units, commonData.log}),
       frame(app, widgets, events),
       document(app, frame, messages),
       view(app, app, {recorder, messages, pointer, pointer, pointer}),

@@ -9,12 +9,12 @@
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
 #include "app/ObjectView.h"
-#include "app/SharedLibraries.h"
 #include "cli/HeadlessEditor.h"
 #include "file/HullwrightDoc.h"
 #include "replay/driver/FrameRecorder.h"
 #include "replay/driver/Value.h"
 #include "support/ScriptedDialogs.h"
+#include "system/CommonDataPorts.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright::replay {
@@ -164,7 +164,7 @@ public:
   ReplayDialogs dialogs;
   ReplayPointer pointer;
   NoWidgets widgets;
-  SharedLibraries libraries;
+  CommonDataPorts commonData;
   FrameRecorder recorder;
   NoWindow window;
   CHullwrightApp app;

@@ -1,4 +1,4 @@
-#include "app/Sqlite.h"
+#include "system/Sqlite.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "app/UnitTable.h"
 #include "support/Fakes.h"
+#include "system/UnitDatabase.h"
 
 namespace hullwright {
 namespace {
