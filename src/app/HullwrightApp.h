@@ -103,7 +103,7 @@ public:
   void NotifyDesignChanged() override;
   void SetModifiedFlag(bool modified) override;
 
-  CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
+  CMainFrame* mainFrame = nullptr;  ///< set by the editor; null before and after the frame
   std::int32_t cursorTool = CursorTool::None;
   std::vector<UnitRecord> unitTable;  ///< names of the units, loaded at their first use
   std::int32_t applicationLook = 0;   ///< command of the current look; read when the frame is made

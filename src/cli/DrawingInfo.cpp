@@ -6,8 +6,8 @@
 
 #include "app/ImportText.h"
 #include "base/Text.h"
-#include "cli/HeadlessEditor.h"
-#include "cli/ShapesJson.h"
+#include "headless/KeptTrace.h"
+#include "headless/SilentWindow.h"
 
 namespace hullwright {
 namespace {

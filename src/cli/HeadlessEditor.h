@@ -1,36 +1,22 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <string>
 #include <string_view>
 
-#include "app/HullwrightApp.h"
-#include "app/MainFrame.h"
-#include "file/HullwrightDoc.h"
+#include "app/Editor.h"
+#include "dxf/ImportTally.h"
+#include "headless/FileAnswers.h"
+#include "headless/KeptMessages.h"
+#include "headless/KeptPointer.h"
+#include "headless/MemorySettings.h"
+#include "headless/NoDialogs.h"
+#include "headless/NoDrawing.h"
+#include "headless/NoTree.h"
+#include "headless/NoWidgets.h"
 #include "system/CommonDataPorts.h"
-#include "view/HullwrightView.h"
 
 namespace hullwright {
-
-/// Settings that last as long as the program.
-class MemorySettings : public ISettingsStore {
-public:
-  std::int32_t ReadInteger(std::string_view section, std::string_view key,
-                           std::int32_t fallback) const override;
-  void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override;
-
-private:
-  std::map<std::string, std::int32_t> values_;
-};
-
-/// Keeps the last message instead of showing it.
-class KeptMessages : public IMessageBoxes {
-public:
-  void ShowMessage(std::u16string_view text) override { last = text; }
-  bool AskYesNo(std::u16string_view) override { return false; }
-  std::u16string last;
-};
 
 /// A stretch of the world; nothing when a lower bound is above its upper one.
 struct WorldBox {
@@ -40,30 +26,15 @@ struct WorldBox {
   double maxY;
 };
 
-/// Hears of the frame's look and shows nothing; a base for what shows a part of it.
-class NoWidgets : public IFrameWidgets {
-public:
-  void SetViewButtonImage(int) override {}
-  void InvalidateToolBar() override {}
-  void ApplyLook(int) override {}
-  void ShowNote(std::u16string_view) override {}
-  void StartProgress(std::string_view) override {}
-  void ShowProgress(int) override {}
-  void EndProgress() override {}
-};
-
-/// The editor without a window: application, document and view as the window has them, on a drawing
-/// surface of the caller's, or without a picture.
+/// The editor on designs and drawings that nobody edits: opens, imports, saves, and brings sides
+/// into view on a drawing surface of the caller's, or without a picture.
 class HeadlessEditor {
 public:
   /// Without a picture. `widgets` shows the progress of imports; null for nobody.
   explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
-  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface,
-                 IFrameWidgets* widgets = nullptr);
-  ~HeadlessEditor();
+  HeadlessEditor(IDrawingBackEnd& drawing, IDrawingWindow& surface);
 
-  CHullwrightApp& App() { return app_; }
-  CHullwrightView& View() { return view_; }
+  CHullwrightApp& App() { return editor_.app; }
 
   /// Opens a design; false with `Problem` telling why.
   bool Open(std::u16string_view path);
@@ -88,29 +59,24 @@ public:
   void ShowSide(std::int32_t side, int width, int height, const WorldBox& stretch);
 
   /// Draws the side in view as one frame.
-  void Draw() { view_.Repaint(); }
+  void Draw() { editor_.view.Repaint(); }
 
 private:
-  struct NoDrawing;
-  struct NoPointer;
-  struct NoDialogs;
-
-  HeadlessEditor(std::unique_ptr<NoDrawing> nothing, IFrameWidgets* widgets);
+  HeadlessEditor(IDrawingBackEnd* drawing, IDrawingWindow* surface, IFrameWidgets* widgets);
 
   WorldBox SideBox() const;
   void Frame(const WorldBox& box, double marginPart) const;
 
   MemorySettings settings_;
   KeptMessages messages_;
-  CommonDataPorts commonData_{messages_};
+  NoDialogs dialogs_;
+  FileAnswers fileDialogs_;
   NoWidgets noWidgets_;
-  std::unique_ptr<NoDrawing> noDrawing_;
-  std::unique_ptr<NoPointer> pointer_;
-  std::unique_ptr<NoDialogs> dialogs_;
-  CHullwrightApp app_;
-  CMainFrame frame_;
-  CHullwrightDoc document_;
-  CHullwrightView view_;
+  NoTree tree_;
+  NoDrawing noDrawing_;
+  KeptPointer pointer_;
+  CommonDataPorts commonData_{messages_};
+  Editor editor_;
   std::u16string problem_;
   ImportTally tally_;
 };

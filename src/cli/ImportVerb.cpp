@@ -12,6 +12,8 @@
 #include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
 #include "dxf/FileDxf.h"
+#include "headless/KeptTrace.h"
+#include "headless/SilentWindow.h"
 #include "resources/ViewSides.h"
 #include "system/FormerVersions.h"
 #include "system/InputFile.h"

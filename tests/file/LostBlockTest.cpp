@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "file/FileVessel.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePolyline.h"
-#include "support/Fakes.h"
 
 namespace hullwright {
 namespace {
@@ -34,7 +34,7 @@ protected:
     groups.back()->shapes.push_back(std::move(line));
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   ShortOfMemory file{messages};
   OwnedArray<CShapes> groups;
 };

@@ -11,6 +11,7 @@ ROOMS = {
     "base": "",
     "platform": "",
     "system": "base platform",
+    "headless": "base model platform resources",
     "model": "base",
     "render": "base model platform",
     "resources": "model",
@@ -20,7 +21,7 @@ ROOMS = {
     "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform system render resources file dxf view app paint",
+    "cli": "base model platform system headless render resources file dxf view app paint",
 }
 
 # where the programs start, which alone give the rooms what the system has for them

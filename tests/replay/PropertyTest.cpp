@@ -9,6 +9,7 @@
 #include <set>
 
 #include "base/Numbers.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePolygon.h"
 #include "replay/driver/Player.h"
 #include "resources/CommandIds.h"
@@ -280,7 +281,7 @@ void ExpectSavedAsItIs(ReplayEditor& editor)
   editor.document.OnSaveDocument(path);
   editor.document.SetModifiedFlag(modified);
   test::FakeMainWindow window;
-  test::FakeMessages messages;
+  KeptMessages messages;
   DesignState loaded;
   CHullwrightDoc document(loaded, window, messages);
   ASSERT_TRUE(document.OnOpenDocument(path));

@@ -8,9 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "headless/KeptMessages.h"
+#include "headless/KeptPointer.h"
 #include "model/ShapePolyline.h"
 #include "platform/MainWindow.h"
-#include "support/Fakes.h"
 #include "support/RecordingBackEnd.h"
 #include "view/HullwrightView.h"
 
@@ -98,13 +99,11 @@ protected:
 
   RecordingBackEnd backEnd;
   RecordingWindow window;
-  FakeMessages messages;
-  FakeCursor cursor;
-  FakeBand band;
-  FakePopup popup;
+  KeptMessages messages;
+  KeptPointer pointer;
   FakeHost host;
   DesignState design;
-  CHullwrightView view{design, host, {backEnd, messages, cursor, band, popup}};
+  CHullwrightView view{design, host, {backEnd, messages, pointer, pointer, pointer}};
 };
 
 }  // namespace hullwright::test

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 #include "system/CommonDataPorts.h"
 
@@ -126,7 +126,7 @@ protected:
     return units.empty() ? std::u16string() : units.front().strUnit;
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   CommonDataPorts ports{messages,
                         [this](CommonData what) { return CommonDataFolder(candidates, what); }};
 };

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "system/UnitDatabase.h"
 
 namespace hullwright {
@@ -132,7 +132,7 @@ private:
 class SqliteBinding : public testing::Test {
 protected:
   FakeLibrary library;
-  test::FakeMessages messages;
+  KeptMessages messages;
 };
 
 TEST_F(SqliteBinding, ALibraryThatFailsToInitialiseGivesNoUnits)

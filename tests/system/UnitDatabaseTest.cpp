@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "base/Text.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 #include "system/SharedLibraries.h"
 #include "system/Sqlite.h"
@@ -97,7 +97,7 @@ protected:
 
   test::TempFolder folder;
   std::filesystem::path database;
-  test::FakeMessages messages;
+  KeptMessages messages;
   PoorLibraries libraries;
 };
 

@@ -83,7 +83,7 @@ void PrepareWork(const QJsonObject& header, ReplayEditor& editor)
   MakeUnits(header, editor.work);
   const QJsonObject settings = header[u"settings"].toObject();
   for (auto key = settings.begin(); key != settings.end(); ++key) {
-    editor.settings.values[key.key().toStdString()] =
+    editor.settings.values[SettingOf(key.key().toStdString())] =
         static_cast<std::int32_t>(key.value().toInteger());
   }
   const QJsonObject files = header[u"files"].toObject();

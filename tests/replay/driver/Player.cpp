@@ -38,9 +38,9 @@ std::map<int, std::u16string> TextsOf(const QJsonObject& object)
   return texts;
 }
 
-test::DialogScript DialogOf(const QJsonObject& object)
+DialogScript DialogOf(const QJsonObject& object)
 {
-  test::DialogScript script;
+  DialogScript script;
   const QString end = object[u"end"].toString();
   script.ok = end == u"ok" || end == u"dblclick";
   script.fields = TextsOf(object[u"fields"].toObject());
@@ -53,6 +53,13 @@ test::DialogScript DialogOf(const QJsonObject& object)
   if (select.isDouble()) script.select = static_cast<std::size_t>(select.toInteger());
   script.selectNothing = select.isNull();
   return script;
+}
+
+Value BandOf(const KeptPointer& pointer)
+{
+  Value::List band;
+  for (const auto& [from, to] : pointer.lines) band.push_back(Row(from.x, from.y, to.x, to.y));
+  return band;
 }
 
 }  // namespace
@@ -101,16 +108,17 @@ Player::Handler Player::FindHandler(const std::string& name)
 void Player::Prepare(const QJsonObject& step)
 {
   editor_.events.clear();
-  editor_.messages.Reset();
+  std::vector<bool> answers;
   for (const QJsonValue& answer : step[u"answers"].toArray()) {
-    editor_.messages.answers.push_back(answer.toString() == u"yes");
+    answers.push_back(answer.toString() == u"yes");
   }
+  editor_.Answer(std::move(answers));
   editor_.dialogs.reports.clear();
   editor_.dialogs.script = DialogOf(step[u"dialog"].toObject());
   editor_.pointer.menu = {};
-  editor_.pointer.band.clear();
-  editor_.pointer.file.reset();
-  if (step.contains(u"file")) editor_.pointer.file = editor_.PathOf(NameOf(step[u"file"]));
+  editor_.pointer.lines.clear();
+  editor_.fileDialogs.answer.reset();
+  if (step.contains(u"file")) editor_.fileDialogs.answer = editor_.PathOf(NameOf(step[u"file"]));
   written_.reset();
 }
 
@@ -124,10 +132,10 @@ Value Player::Play(const QJsonObject& step, Detail detail)
                           {"do", name},
                           {"result", std::move(result)},
                           {"events", editor_.events},
-                          {"messages", editor_.messages.shown},
+                          {"messages", editor_.boxes},
                           {"dialogs", editor_.dialogs.reports},
                           {"menu", editor_.pointer.menu},
-                          {"band", editor_.pointer.band}};
+                          {"band", BandOf(editor_.pointer)}};
   if (detail != Detail::Events) ReportState(report, detail == Detail::Full);
   return report;
 }
@@ -223,9 +231,9 @@ Value Player::User(const QJsonObject& step)
     editor_.view.OnUser(code);
     return {};
   }
-  editor_.frame.listing = false;
-  editor_.frame.CMainFrame::Notify(code, 0);
-  editor_.frame.listing = true;
+  editor_.listener.listing = false;
+  editor_.frame.Notify(code, 0);
+  editor_.listener.listing = true;
   return {};
 }
 
@@ -270,7 +278,7 @@ Value Player::AnchorList(const QJsonObject& step)
 
 Value Player::Setting(const QJsonObject& step)
 {
-  const std::string key = NameOf(step[u"key"]);
+  const std::string key = SettingOf(NameOf(step[u"key"]));
   if (step[u"value"].isNull()) {
     editor_.settings.values.erase(key);
   } else {
