@@ -216,7 +216,7 @@ int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
 {
   CLayer layer;
   {
-    CFileDxf drawing(mainFrame, *this);
+    CFileDxf drawing(mainFrame, ports_.log);
     const int result = drawing.Import(path, &layer);
     tally = drawing.TakeTally();
     if (result != 0) return -1;

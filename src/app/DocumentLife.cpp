@@ -38,8 +38,8 @@ std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(t
 }  // namespace
 
 DocumentLife::DocumentLife(CHullwrightDoc& document, const DesignState& design,
-                           const DocumentPorts& ports, std::size_t mostRecentFiles)
-    : document_(document), design_(design), ports_(ports), mostRecentFiles_(mostRecentFiles)
+                           const DocumentPorts& ports)
+    : document_(document), design_(design), ports_(ports)
 {
   // What a failed open leaves must not be saved over the file that was open before.
   document_.onEmptied = [this] {

@@ -32,9 +32,11 @@ struct DocumentPorts {
 /// after the last new, open or whole save, after a save that failed, and while a polyline is drawn.
 class DocumentLife {
 public:
-  /// `design` is the state that `document` moves.
-  DocumentLife(CHullwrightDoc& document, const DesignState& design, const DocumentPorts& ports,
-               std::size_t mostRecentFiles);
+  /// `design` is the state that `document` moves. No file is remembered until it is told how many.
+  DocumentLife(CHullwrightDoc& document, const DesignState& design, const DocumentPorts& ports);
+
+  /// Sets the length of the list of recent files.
+  void KeepRecentFiles(std::size_t most) { mostRecentFiles_ = most; }
 
   void New();
 
@@ -71,7 +73,7 @@ private:
   CHullwrightDoc& document_;
   const DesignState& design_;
   DocumentPorts ports_;
-  std::size_t mostRecentFiles_;
+  std::size_t mostRecentFiles_ = 0;
   std::u16string path_;                    ///< absolute; empty for an untitled design
   Restored restored_ = Restored::Nothing;  ///< what the last failed save left of its file
   bool emptied_ = false;                   ///< the design was emptied since an open began

@@ -20,10 +20,8 @@ constexpr std::string_view lookKey = "ApplicationLook";
 
 }  // namespace
 
-CHullwrightApp::CHullwrightApp(AppPorts ports)
-    : ownViewPort_(std::make_unique<CViewPortDesigner>()),
-      ports_(std::move(ports)),
-      traceLog_([this] { return ports_.commonDataFolder(CommonData::Logs); })
+CHullwrightApp::CHullwrightApp(const AppPorts& ports)
+    : ownViewPort_(std::make_unique<CViewPortDesigner>()), ports_(ports)
 {
   viewPort = ownViewPort_.get();
 }
@@ -70,12 +68,6 @@ void CHullwrightApp::SetViewSide(std::int32_t code)
   mainFrame->Notify(Notification::RepaintDesign, 0);
 }
 
-void CHullwrightApp::Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
-                           std::u16string_view text) const
-{
-  traceLog_.Trace(elapsedSeconds, level, category, text);
-}
-
 std::unique_ptr<CViewPortDesigner> CHullwrightApp::HandOverViewPort()
 {
   return std::move(ownViewPort_);
@@ -84,12 +76,6 @@ std::unique_ptr<CViewPortDesigner> CHullwrightApp::HandOverViewPort()
 GridSettings CHullwrightApp::LoadGridSettings() const
 {
   return hullwright::LoadGridSettings(ports_.settings);
-}
-
-std::vector<UnitRecord> CHullwrightApp::ReadUnits()
-{
-  return hullwright::ReadUnits(ports_.libraries, ports_.messages,
-                               GetDatabasePath(ports_.commonDataFolder(CommonData::UnitDatabase)));
 }
 
 void CHullwrightApp::LoadUnits()

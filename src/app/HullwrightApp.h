@@ -1,24 +1,21 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "app/CommonDataFolder.h"
-#include "app/TraceLog.h"
-#include "app/UnitTable.h"
 #include "dxf/ImportTally.h"
 #include "model/DesignState.h"
 #include "platform/Dialogs.h"
 #include "platform/FileDialogs.h"
 #include "platform/Framework.h"
-#include "platform/LibraryLoader.h"
 #include "platform/MainWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/SettingsStore.h"
+#include "platform/Trace.h"
+#include "platform/UnitDatabase.h"
 #include "render/ViewPort.h"
 #include "view/ViewHost.h"
 
@@ -30,17 +27,17 @@ class CMainFrame;
 struct AppPorts {
   ISettingsStore& settings;
   IMessageBoxes& messages;
-  ILibraryLoader& libraries;
   IDialogRunner& dialogs;
   IFileDialogs& fileDialogs;
-  std::function<std::u16string(CommonData)> commonDataFolder;  ///< where each is to be found
+  IUnitDatabase& units;
+  ITrace& log;
 };
 
 /// The one application object: it holds the design itself, carries out the design-wide commands and
 /// answers what the view asks. It is made before frame, document and view, and must outlive them.
-class CHullwrightApp : public DesignState, public IViewHost, public ITrace {
+class CHullwrightApp : public DesignState, public IViewHost {
 public:
-  explicit CHullwrightApp(AppPorts ports);
+  explicit CHullwrightApp(const AppPorts& ports);
   ~CHullwrightApp() override;
 
   /// Start-up to the first selected side, which is always the top. False ends the process; only a
@@ -75,7 +72,7 @@ public:
   void ConvertDesign(std::int32_t fromCode, std::int32_t toCode);
 
   /// The units of length that the database has now.
-  std::vector<UnitRecord> ReadUnits();
+  std::vector<UnitRecord> ReadUnits() { return ports_.units.ReadUnits(); }
 
   /// Adds the shapes of a drawing to the side in view. 0 on success; -1, with the design untouched,
   /// for a drawing that can't be read. `tally` is set to what the import took in and passed over.
@@ -96,9 +93,6 @@ public:
   void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
   void SaveGridSettings(const GridSettings& grid);
 
-  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
-             std::u16string_view text) const override;
-
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override;
   bool EditVertex(CShapeVertex& vertex) override;
   bool EditOffsets(std::int32_t focus) override;
@@ -109,7 +103,7 @@ public:
   void NotifyDesignChanged() override;
   void SetModifiedFlag(bool modified) override;
 
-  CMainFrame* mainFrame = nullptr;  ///< null until the frame exists
+  CMainFrame* mainFrame = nullptr;  ///< set by the editor; null before and after the frame
   std::int32_t cursorTool = CursorTool::None;
   std::vector<UnitRecord> unitTable;  ///< names of the units, loaded at their first use
   std::int32_t applicationLook = 0;   ///< command of the current look; read when the frame is made
@@ -140,7 +134,6 @@ private:
   void ImportDxf();
 
   AppPorts ports_;
-  CTraceLog traceLog_;
 };
 
 }  // namespace hullwright

@@ -12,14 +12,11 @@ bool IsLook(int id) { return id >= Command::LookFirst && id <= Command::LookLast
 
 }  // namespace
 
-CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets)
-    : viewButtonImage(Command::SelectView), app_(app), widgets_(widgets)
+CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow* listener)
+    : viewButtonImage(Command::SelectView), app_(app), widgets_(widgets), listener_(listener)
 {
-  app.mainFrame = this;
   app.LoadLook();
 }
-
-CMainFrame::~CMainFrame() { app_.mainFrame = nullptr; }
 
 void CMainFrame::ShowImport(int code, std::intptr_t value)
 {
@@ -37,6 +34,7 @@ void CMainFrame::ShowImport(int code, std::intptr_t value)
 
 void CMainFrame::Notify(int code, std::intptr_t value)
 {
+  if (listener_ != nullptr) listener_->Notify(code, value);
   ShowImport(code, value);
   if (code == Notification::RebuildTree) {
     // Whatever was released from the design must not be reached through an old pick.
@@ -49,6 +47,7 @@ void CMainFrame::Notify(int code, std::intptr_t value)
 
 void CMainFrame::SetModifiedFlag(bool modified)
 {
+  if (listener_ != nullptr) listener_->SetModifiedFlag(modified);
   if (document != nullptr) document->SetModifiedFlag(modified);
 }
 

@@ -22,12 +22,11 @@ struct CommandState {
 };
 
 /// The main frame without its widgets: the switchboard of the notifications, the routing of
-/// commands and what they answer about themselves. Document and views are set by whoever makes
-/// them.
+/// commands and what they answer about themselves. The editor makes it and sets document and views.
 class CMainFrame : public IMainWindow {
 public:
-  CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets);
-  ~CMainFrame() override;
+  /// `listener` hears of every notification and flag before anything comes of it; null for nobody.
+  CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow* listener = nullptr);
 
   bool HasWindow() const override { return hasWindow; }
 
@@ -63,6 +62,7 @@ private:
 
   CHullwrightApp& app_;
   IFrameWidgets& widgets_;
+  IMainWindow* listener_;
 };
 
 /// Widths of the three status panes for a client width: two of 250, the prompt takes the rest,

@@ -5,9 +5,9 @@
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/DesignFindings.h"
-#include "cli/Files.h"
 #include "cli/HeadlessEditor.h"
 #include "file/SaveLosses.h"
+#include "system/InputFile.h"
 
 namespace hullwright {
 namespace {

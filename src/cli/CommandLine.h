@@ -10,6 +10,9 @@
 
 namespace hullwright {
 
+/// What a file is told not to be that should be a design.
+inline constexpr const char* notADesign = "not a design: it does not begin as XML does";
+
 // Exit statuses of the command line.
 inline constexpr int exitFailed = 1;
 inline constexpr int exitUsage = 2;

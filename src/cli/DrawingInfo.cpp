@@ -7,10 +7,10 @@
 
 #include "app/ImportText.h"
 #include "base/Text.h"
-#include "cli/HeadlessEditor.h"
-#include "cli/ShapesJson.h"
 #include "dxf/DxfKeywords.h"
 #include "dxf/FileDxf.h"
+#include "headless/KeptTrace.h"
+#include "headless/SilentWindow.h"
 
 namespace hullwright {
 namespace {

@@ -2,81 +2,47 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "app/CommonDataFolder.h"
 #include "app/ImportText.h"
 #include "base/Text.h"
 
 namespace hullwright {
 
-std::int32_t MemorySettings::ReadInteger(std::string_view section, std::string_view key,
-                                         std::int32_t fallback) const
-{
-  const auto found = values_.find(std::string(section).append("/").append(key));
-  return found == values_.end() ? fallback : found->second;
-}
-
-void MemorySettings::WriteInteger(std::string_view section, std::string_view key,
-                                  std::int32_t value)
-{
-  values_[std::string(section).append("/").append(key)] = value;
-}
-
-struct HeadlessEditor::NoPointer : ICursor, IRubberBand, IPopupMenu {
-  void Show(std::span<const PopupEntry>, ClientPoint) override {}
-  void SetCursor(CursorShape) override {}
-  void InvertLine(ClientPoint, ClientPoint) override {}
-};
-
-struct HeadlessEditor::NoDialogs : IDialogRunner, IFileDialogs {
-  DialogEnd Run(IDialog&) override { return DialogEnd::Cancel; }
-  std::optional<std::u16string> AskOpen(std::u16string_view, std::u16string_view) override
-  {
-    return std::nullopt;
-  }
-};
-
 HeadlessEditor::HeadlessEditor(IFrameWidgets* widgets) : HeadlessEditor(nullptr, widgets) {}
 
-HeadlessEditor::HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets)
-    : HeadlessEditor(&target, widgets)
-{
-}
+HeadlessEditor::HeadlessEditor(IDrawingTarget& target) : HeadlessEditor(&target, nullptr) {}
 
 HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
-    : pointer_(std::make_unique<NoPointer>()),
-      dialogs_(std::make_unique<NoDialogs>()),
-      app_({settings_, messages_, libraries_, *dialogs_, *dialogs_, FindCommonDataFolder}),
-      frame_(app_, widgets == nullptr ? noWidgets_ : *widgets),
-      document_(app_, frame_, messages_),
-      view_(app_, app_, {messages_, *pointer_, *pointer_, *pointer_})
+    : editor_({.settings = settings_,
+               .messages = messages_,
+               .dialogs = dialogs_,
+               .fileDialogs = fileDialogs_,
+               .units = commonData_.units,
+               .log = commonData_.log,
+               .widgets = widgets == nullptr ? noWidgets_ : *widgets,
+               .tree = tree_,
+               .cursor = pointer_,
+               .rubberBand = pointer_,
+               .popupMenu = pointer_})
 {
-  frame_.document = &document_;
-  frame_.view = &view_;
-  view_.OnCreate(target);
-  frame_.hasWindow = true;
-}
-
-HeadlessEditor::~HeadlessEditor()
-{
-  frame_.view = nullptr;
-  frame_.document = nullptr;
+  editor_.view.OnCreate(target);
+  editor_.frame.hasWindow = true;
 }
 
 bool HeadlessEditor::Open(std::u16string_view path)
 {
-  if (document_.OnOpenDocument(path)) return true;
-  const ReadError& error = document_.OpenError();
-  problem_ = error.message.empty()
-                 ? messages_.last
-                 : u"not a well-formed design file (" + DescribeBriefly(error) + u")";
+  messages_.shown.clear();
+  if (editor_.document.OnOpenDocument(path)) return true;
+  const ReadError& error = editor_.document.OpenError();
+  problem_ = messages_.shown.empty()
+                 ? u"not a well-formed design file (" + DescribeBriefly(error) + u")"
+                 : messages_.shown.back();
   return false;
 }
 
 bool HeadlessEditor::Import(std::u16string_view path)
 {
-  if (app_.ImportDrawing(path, tally_) != 0) {
+  if (editor_.app.ImportDrawing(path, tally_) != 0) {
     problem_ = unreadableDrawing;
   } else if (!tally_.IsDrawing()) {
     problem_ = DescribeImport(tally_);
@@ -88,32 +54,33 @@ bool HeadlessEditor::Import(std::u16string_view path)
 
 void HeadlessEditor::RemoveSymbols()
 {
-  app_.offsetGps.reset();
-  app_.offsetTransducer.reset();
-  app_.offsetPivot.reset();
-  app_.anchors->Clear();
+  editor_.app.offsetGps.reset();
+  editor_.app.offsetTransducer.reset();
+  editor_.app.offsetPivot.reset();
+  editor_.app.anchors->Clear();
 }
 
 bool HeadlessEditor::Save(std::u16string_view path)
 {
-  document_.OnSaveDocument(path);
-  if (document_.SavedWhole()) return true;
-  problem_ = u"the design can't be written: " + document_.SaveProblem();
+  editor_.document.OnSaveDocument(path);
+  if (editor_.document.SavedWhole()) return true;
+  problem_ = u"the design can't be written: " + editor_.document.SaveProblem();
   return false;
 }
 
 Extents HeadlessEditor::SideBox() const
 {
+  const CHullwrightApp& app = editor_.app;
   Extents box;
-  if (const CShapes* const group = FindViewGroup(app_.shapeGroups, app_.activeView)) {
+  if (const CShapes* const group = FindViewGroup(app.shapeGroups, app.activeView)) {
     ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
   }
-  if (app_.activeView != ViewSide::Top) return box;
+  if (app.activeView != ViewSide::Top) return box;
   for (const CShapeVertex* offset :
-       {app_.offsetGps.get(), app_.offsetTransducer.get(), app_.offsetPivot.get()}) {
+       {app.offsetGps.get(), app.offsetTransducer.get(), app.offsetPivot.get()}) {
     if (offset != nullptr) box.Widen(*offset);
   }
-  ForEachEntry(app_.anchors->items,
+  ForEachEntry(app.anchors->items,
                [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
   return box;
 }
@@ -121,22 +88,22 @@ Extents HeadlessEditor::SideBox() const
 void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
 {
   constexpr double margin = 1.0 / 6.0;
-  app_.activeView = side;
-  view_.OnSize(width, height);
+  editor_.app.activeView = side;
+  editor_.view.OnSize(width, height);
   Frame(SideBox(), margin);
 }
 
 void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const Extents& stretch)
 {
-  app_.activeView = side;
-  view_.OnSize(width, height);
+  editor_.app.activeView = side;
+  editor_.view.OnSize(width, height);
   Frame(stretch, 0.0);
 }
 
 void HeadlessEditor::Frame(const Extents& box, double marginPart) const
 {
   if (box.IsEmpty()) return;
-  CViewPort& viewPort = *view_.viewPort;
+  CViewPort& viewPort = *editor_.view.viewPort;
   // The width rules, so a tall box is given the width that its height needs.
   const double boxWidth = box.maxX - box.minX;
   const double needed = (box.maxY - box.minY) * viewPort.screenWidth / viewPort.screenHeight;

@@ -1,60 +1,31 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <string>
 #include <string_view>
 
-#include "app/HullwrightApp.h"
-#include "app/MainFrame.h"
-#include "app/SharedLibraries.h"
-#include "file/HullwrightDoc.h"
-#include "view/HullwrightView.h"
+#include "app/Editor.h"
+#include "dxf/ImportTally.h"
+#include "headless/FileAnswers.h"
+#include "headless/KeptMessages.h"
+#include "headless/KeptPointer.h"
+#include "headless/MemorySettings.h"
+#include "headless/NoDialogs.h"
+#include "headless/NoTree.h"
+#include "headless/NoWidgets.h"
+#include "system/CommonDataPorts.h"
 
 namespace hullwright {
 
-/// Settings that last as long as the program.
-class MemorySettings : public ISettingsStore {
-public:
-  std::int32_t ReadInteger(std::string_view section, std::string_view key,
-                           std::int32_t fallback) const override;
-  void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override;
-
-private:
-  std::map<std::string, std::int32_t> values_;
-};
-
-/// Keeps the last message instead of showing it.
-class KeptMessages : public IMessageBoxes {
-public:
-  void ShowMessage(std::u16string_view text) override { last = text; }
-  bool AskYesNo(std::u16string_view) override { return false; }
-  std::u16string last;
-};
-
-/// Hears of the frame's look and shows nothing; a base for what shows a part of it.
-class NoWidgets : public IFrameWidgets {
-public:
-  void SetViewButtonImage(int) override {}
-  void InvalidateToolBar() override {}
-  void ApplyLook(int) override {}
-  void ShowNote(std::u16string_view) override {}
-  void StartProgress(std::string_view) override {}
-  void ShowProgress(int) override {}
-  void EndProgress() override {}
-};
-
-/// The editor without a window: application, document and view as the window has them, on a drawing
-/// target of the caller's, or without a picture.
+/// The editor on designs and drawings that nobody edits: opens, imports, saves, and brings sides
+/// into view on a drawing target of the caller's, or without a picture.
 class HeadlessEditor {
 public:
   /// Without a picture. `widgets` shows the progress of imports; null for nobody.
   explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
-  explicit HeadlessEditor(IDrawingTarget& target, IFrameWidgets* widgets = nullptr);
-  ~HeadlessEditor();
+  explicit HeadlessEditor(IDrawingTarget& target);
 
-  CHullwrightApp& App() { return app_; }
-  CHullwrightView& View() { return view_; }
+  CHullwrightApp& App() { return editor_.app; }
 
   /// Opens a design; false with `Problem` telling why.
   bool Open(std::u16string_view path);
@@ -79,12 +50,9 @@ public:
   void ShowSide(std::int32_t side, int width, int height, const Extents& stretch);
 
   /// Draws the side in view as one frame.
-  void Draw() { view_.Repaint(); }
+  void Draw() { editor_.view.Repaint(); }
 
 private:
-  struct NoPointer;
-  struct NoDialogs;
-
   HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets);
 
   Extents SideBox() const;
@@ -92,14 +60,13 @@ private:
 
   MemorySettings settings_;
   KeptMessages messages_;
-  SharedLibraries libraries_;
+  NoDialogs dialogs_;
+  FileAnswers fileDialogs_;
   NoWidgets noWidgets_;
-  std::unique_ptr<NoPointer> pointer_;
-  std::unique_ptr<NoDialogs> dialogs_;
-  CHullwrightApp app_;
-  CMainFrame frame_;
-  CHullwrightDoc document_;
-  CHullwrightView view_;
+  NoTree tree_;
+  KeptPointer pointer_;
+  CommonDataPorts commonData_{messages_};
+  Editor editor_;
   std::u16string problem_;
   ImportTally tally_;
 };

@@ -9,12 +9,15 @@
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
-#include "cli/Files.h"
 #include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
 #include "dxf/FileDxf.h"
+#include "headless/KeptTrace.h"
+#include "headless/SilentWindow.h"
 #include "resources/ViewSides.h"
 #include "system/FormerVersions.h"
+#include "system/InputFile.h"
+#include "system/OutputFile.h"
 
 namespace hullwright {
 namespace {

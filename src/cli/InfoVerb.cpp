@@ -4,7 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/DesignInfo.h"
 #include "cli/DrawingInfo.h"
-#include "cli/Files.h"
+#include "system/InputFile.h"
 
 namespace hullwright {
 namespace {

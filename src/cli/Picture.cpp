@@ -14,9 +14,10 @@
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
-#include "cli/Files.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
+#include "system/InputFile.h"
+#include "system/OutputFile.h"
 
 namespace hullwright {
 namespace {

@@ -104,12 +104,6 @@ std::u16string WithoutPath(std::u16string text, std::u16string_view path)
 
 }  // namespace
 
-void KeptTrace::Trace(double, std::int32_t level, std::u16string_view category,
-                      std::u16string_view text) const
-{
-  records.push_back({level, std::u16string(category), std::u16string(text)});
-}
-
 void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u16string_view path,
                      const CLayer& layer)
 {

@@ -5,7 +5,7 @@
 #include <limits>
 #include <new>
 
-#include "file/OpenFile.h"
+#include "base/OpenFile.h"
 
 namespace hullwright {
 namespace {

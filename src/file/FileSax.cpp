@@ -7,8 +7,8 @@
 #include <limits>
 
 #include "base/Numbers.h"
+#include "base/OpenFile.h"
 #include "base/Text.h"
-#include "file/OpenFile.h"
 #include "file/SaxHandlers.h"
 #include "file/SaxParser.h"
 

@@ -3,10 +3,10 @@
 #include <cerrno>
 
 #include "base/ErrorText.h"
+#include "base/OpenFile.h"
 #include "base/Text.h"
 #include "file/DesignElements.h"
 #include "file/FileVessel.h"
-#include "file/OpenFile.h"
 
 namespace hullwright {
 namespace {

@@ -14,8 +14,8 @@
 #include <type_traits>
 
 #include "base/ErrorText.h"
+#include "base/OpenFile.h"
 #include "base/Text.h"
-#include "file/OpenFile.h"
 
 namespace hullwright {
 namespace {

@@ -2,8 +2,8 @@
 #include <QCommandLineParser>
 #include <chrono>
 
-#include "qt/SessionBus.h"
 #include "qt/Shell.h"
+#include "system/SessionBus.h"
 
 namespace {
 

@@ -28,34 +28,24 @@ constexpr const char* statusBarKey = "Workspace/StatusBar";
 
 }  // namespace
 
-MainWindow::MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-                       std::size_t recentFiles)
-    : settings_(settings),
-      app_(app),
-      frame_(app, *this),
-      document_(app, frame_, messages),
+MainWindow::MainWindow(const DeskPorts& ports)
+    : ports_(ports),
       design_(new DesignWidget(this)),
-      view_(app, app, {messages, *design_, *design_, *design_}),
-      recentFiles_(settings),
-      documents_(document_, app,
-                 {documentDialogs_, recentFiles_, formerVersions_, *this,
-                  [this] { return view_.drawing && !view_.newShape->vertices.empty(); }},
-                 recentFiles),
       tree_(new ObjectTreeWidget(this)),
-      objects_(app, *tree_),
+      editor_({ports.settings, ports.messages, ports.dialogs, ports.fileDialogs, ports.units,
+               ports.log, *this, *tree_, *design_, *design_, *design_}),
+      recentFiles_(ports.settings),
+      documents_(document_, app_,
+                 {documentDialogs_, recentFiles_, ports.formerVersions, *this,
+                  [this] { return view_.drawing && !view_.newShape->vertices.empty(); }}),
       actions_(new Actions(this, [this](int command) { RunCommand(command); }))
 {
-  messages.SetParent(this);
   setWindowIcon(ApplicationIcon());
   setCentralWidget(design_);
   BuildMenus();
-  BuildToolBars();
   BuildStatusBar();
   BuildObjectPane();
   for (const Accelerator& accelerator : accelerators) actions_->Get(accelerator.command);
-  frame_.document = &document_;
-  frame_.view = &view_;
-  frame_.objectView = &objects_;
   documents_.onChange = [this] { UpdateAll(); };
   connect(design_, &DesignWidget::Pressed, this, [this] { note_.clear(); });
   connect(design_, &DesignWidget::ViewChanged, this, [this] { UpdateAll(); });
@@ -70,9 +60,17 @@ MainWindow::~MainWindow()
   design_->Detach();
   tree_->Detach();
   frame_.hasWindow = false;
-  frame_.view = nullptr;
-  frame_.objectView = nullptr;
-  frame_.document = nullptr;
+}
+
+void MainWindow::LoadSettings(std::size_t recentFiles)
+{
+  ports_.messages.SetParent(this);
+  ports_.dialogs.SetParent(this);
+  ports_.fileDialogs.SetParent(this);
+  app_.LoadLook();
+  documents_.KeepRecentFiles(recentFiles);
+  BuildToolBars();
+  UpdateCommands();
 }
 
 void MainWindow::ShowAsBefore()
@@ -181,8 +179,8 @@ void MainWindow::BuildObjectPane()
 {
   constexpr int startWidth = 200;
   tree_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
-  tree_->Attach(objects_);
-  objects_.BuildTree();
+  tree_->Attach(editor_.objects);
+  editor_.objects.BuildTree();
   objectPane_ = new QDockWidget(ToQString(Strings::objectView), this);
   objectPane_->setObjectName(QStringLiteral("ObjectView"));
   objectPane_->setWidget(tree_);

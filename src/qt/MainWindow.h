@@ -5,9 +5,7 @@
 #include <QPointer>
 
 #include "app/DocumentLife.h"
-#include "app/HullwrightApp.h"
-#include "app/MainFrame.h"
-#include "file/HullwrightDoc.h"
+#include "app/Editor.h"
 #include "platform/Framework.h"
 #include "qt/Actions.h"
 #include "qt/CustomizeDialog.h"
@@ -15,24 +13,41 @@
 #include "qt/ObjectTreeWidget.h"
 #include "qt/ProgressPane.h"
 #include "qt/PromptPane.h"
+#include "qt/QtDialogRunner.h"
 #include "qt/QtDocumentDialogs.h"
+#include "qt/QtFileDialogs.h"
 #include "qt/QtMessageBoxes.h"
 #include "qt/QtRecentFiles.h"
 #include "qt/StatusPane.h"
 #include "qt/ToolBars.h"
-#include "system/FormerVersions.h"
 
 namespace hullwright {
 
+/// What the start of the program gives the window: the desktop's ports and the system's.
+struct DeskPorts {
+  QtSettingsStore& settings;
+  QtMessageBoxes& messages;
+  QtDialogRunner& dialogs;
+  QtFileDialogs& fileDialogs;
+  IUnitDatabase& units;
+  ITrace& log;
+  IFormerVersions& formerVersions;
+};
+
 /// The window: menu bar, main toolbar, status bar with three panes, and the design view in the
-/// middle. It owns frame, document and view, and brings every command to whoever carries it out.
+/// middle. It owns the editor and brings every command to whoever carries it out.
 class MainWindow : public QMainWindow, public IFrameWidgets {
   Q_OBJECT
 
 public:
-  MainWindow(CHullwrightApp& app, QtSettingsStore& settings, QtMessageBoxes& messages,
-             std::size_t recentFiles);
+  explicit MainWindow(const DeskPorts& ports);
   ~MainWindow() override;
+
+  CHullwrightApp& App() { return app_; }
+
+  /// Builds what hangs on the settings store, which is open from now on: look, toolbars, recent
+  /// files.
+  void LoadSettings(std::size_t recentFiles);
 
   DocumentLife& Document() { return documents_; }
 
@@ -79,18 +94,18 @@ private:
   QString Prompt() const;
   void UpdateTitle();
 
-  QtSettingsStore& settings_;
-  CHullwrightApp& app_;
-  CMainFrame frame_;
-  CHullwrightDoc document_;
+  DeskPorts ports_;
+  QtSettingsStore& settings_ = ports_.settings;
   DesignWidget* design_;
-  CHullwrightView view_;
+  ObjectTreeWidget* tree_;
+  Editor editor_;
+  CHullwrightApp& app_ = editor_.app;
+  CMainFrame& frame_ = editor_.frame;
+  CHullwrightDoc& document_ = editor_.document;
+  CHullwrightView& view_ = editor_.view;
   QtDocumentDialogs documentDialogs_{this};
   QtRecentFiles recentFiles_;
-  FormerVersions formerVersions_{StateFolder()};
   DocumentLife documents_;
-  ObjectTreeWidget* tree_;
-  CObjectView objects_;
   QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
   ToolBars* toolBars_ = nullptr;

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <utility>
 
-#include "app/CommonDataFolder.h"
 #include "base/Text.h"
 #include "file/SaxParser.h"
 #include "qt/Icons.h"
@@ -13,11 +12,7 @@
 
 namespace hullwright {
 
-Shell::Shell(QString file)
-    : file_(std::move(file)),
-      app_({settings_, messages_, libraries_, dialogs_, fileDialogs_, FindCommonDataFolder})
-{
-}
+Shell::Shell(QString file) : file_(std::move(file)) {}
 
 void Shell::InitialiseControls()
 {
@@ -36,29 +31,25 @@ void Shell::OpenUserStore(const char* maker, int recentFiles)
 
 bool Shell::CreateDocumentTemplate()
 {
-  window_ = std::make_unique<MainWindow>(app_, settings_, messages_, recentFiles_);
-  dialogs_.SetParent(window_.get());
-  fileDialogs_.SetParent(window_.get());
+  window_.LoadSettings(recentFiles_);
   return true;
 }
 
 bool Shell::ProcessCommandLine()
 {
   if (file_.isEmpty()) {
-    window_->Document().New();
+    window_.Document().New();
     return true;
   }
-  if (window_->Document().Open(ToWide(file_))) return true;
+  if (window_.Document().Open(ToWide(file_))) return true;
   // The process ends without a window; a terminal at least gets a word.
   std::fprintf(stderr, "hullwright: cannot open the design '%s': %s\n",
-               file_.toLocal8Bit().constData(), Utf8FromWide(window_->OpenProblem()).c_str());
+               file_.toLocal8Bit().constData(), Utf8FromWide(window_.OpenProblem()).c_str());
   return false;
 }
 
-void Shell::ShowMainWindow() { window_->ShowAsBefore(); }
+void Shell::ShowMainWindow() { window_.ShowAsBefore(); }
 
-void Shell::AcceptDroppedFiles() { window_->setAcceptDrops(true); }
-
-void Shell::ReleaseLibraries() { window_.reset(); }
+void Shell::AcceptDroppedFiles() { window_.setAcceptDrops(true); }
 
 }  // namespace hullwright

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <ctime>
 #include <fstream>
 #include <new>
@@ -12,6 +11,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "system/BaseFolders.h"
 
 namespace hullwright {
 namespace {
@@ -184,12 +184,8 @@ Restored FormerVersions::PutBack()
 
 fs::path StateFolder()
 {
-  constexpr const char* program = "hullwright";
-  const char* const state = std::getenv("XDG_STATE_HOME");
-  if (state != nullptr && fs::path(state).is_absolute()) return fs::path(state) / program;
-  const char* const home = std::getenv("HOME");
-  if (home == nullptr || !fs::path(home).is_absolute()) return {};
-  return fs::path(home) / ".local" / "state" / program;
+  const fs::path folder = BaseFolder("XDG_STATE_HOME", ".local/state");
+  return folder.empty() ? folder : folder / "hullwright";
 }
 
 }  // namespace hullwright

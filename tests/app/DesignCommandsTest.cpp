@@ -8,7 +8,6 @@
 namespace hullwright {
 namespace {
 
-using test::DialogScript;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
@@ -75,14 +74,14 @@ TEST_P(EachCommand, TellsItsNotificationsInOrder)
 {
   AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, Accept());
-  EXPECT_THAT(listening.heard, ElementsAreArray(GetParam().told));
+  EXPECT_THAT(heard.list, ElementsAreArray(GetParam().told));
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
 }
 
 TEST_P(EachCommand, WithoutAGroupTellsWhatItsRowSays)
 {
   Run(GetParam().id, Accept());
-  EXPECT_THAT(listening.heard, ElementsAreArray(GetParam().toldWithout));
+  EXPECT_THAT(heard.list, ElementsAreArray(GetParam().toldWithout));
   EXPECT_EQ(app.shapeGroups.size(), GetParam().makesGroup ? 1U : 0U);
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
 }
@@ -104,7 +103,7 @@ TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, {.ok = false});
-  EXPECT_TRUE(listening.heard.empty());
+  EXPECT_TRUE(heard.list.empty());
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_TRUE(settings.written.empty());
   EXPECT_EQ(app.unitCode, 9001);
@@ -185,7 +184,7 @@ TEST_P(EachWalk, EndsAtAnEmptySlotAndTellsAll)
   Run(GetParam().command, GetParam().script);
   EXPECT_FALSE(*before.vertices[0] == start);
   EXPECT_TRUE(*behind.vertices[0] == start);
-  EXPECT_THAT(listening.heard, ElementsAreArray(all));
+  EXPECT_THAT(heard.list, ElementsAreArray(all));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -211,7 +210,7 @@ TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
   for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
     Run(Command::Scale, {.ok = true, .fields = {{1011, text}}});
   }
-  EXPECT_TRUE(listening.heard.empty());
+  EXPECT_TRUE(heard.list.empty());
   EXPECT_FALSE(document.IsModified());
   EXPECT_EQ(line.vertices[0]->x, 1.0);
 }
@@ -299,7 +298,7 @@ TEST_F(Commands, ARotationByNothingStillModifies)
 {
   AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
   Run(Command::RotateLeft, {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}});
-  EXPECT_THAT(listening.heard, ElementsAreArray(all));
+  EXPECT_THAT(heard.list, ElementsAreArray(all));
 }
 
 TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)
@@ -316,17 +315,17 @@ TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)
 
 TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)
 {
-  EXPECT_TRUE(listening.QueryCommand(Command::ToggleGrid).checked);
+  EXPECT_TRUE(frame.QueryCommand(Command::ToggleGrid).checked);
   Run(Command::ToggleGrid);
   EXPECT_EQ(settings.values["Grid/Show"], 0);
-  EXPECT_FALSE(listening.QueryCommand(Command::ToggleGrid).checked);
+  EXPECT_FALSE(frame.QueryCommand(Command::ToggleGrid).checked);
   settings.values["Grid/Show"] = 7;
   Run(Command::ToggleGrid);
   EXPECT_EQ(settings.values["Grid/Show"], 0);
   Run(Command::ToggleSnap);
   EXPECT_EQ(settings.values["Grid/Snap"], 0);
   Run(Command::ToggleSnap);
-  EXPECT_TRUE(listening.QueryCommand(Command::ToggleSnap).checked);
+  EXPECT_TRUE(frame.QueryCommand(Command::ToggleSnap).checked);
   EXPECT_FALSE(document.IsModified());
 }
 

@@ -9,8 +9,6 @@
 namespace hullwright {
 namespace {
 
-using test::DialogScript;
-
 class Dialogs : public test::AppFixture {
 protected:
   Dialogs() { app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}}; }

@@ -73,6 +73,8 @@ constexpr const char* boat =
 
 class Life : public test::AppFixture {
 protected:
+  Life() { life.KeepRecentFiles(4); }
+
   bool OpenBoat() { return life.Open(folder.Write("boat.xml", boat)); }
 
   /// Whether leaving the design as it is asks a question.
@@ -93,11 +95,9 @@ protected:
   FormerVersions formerVersions{folder.Path() / "state"};
   bool isDrawing = false;
   std::string heldAtMessage;  ///< by the file, when the user was told
-  DocumentLife life{
-      document,
-      app,
-      {documentDialogs, recentFiles, formerVersions, widgets, [this] { return isDrawing; }},
-      4};
+  DocumentLife life{document, app, {documentDialogs, recentFiles, formerVersions, widgets, [this] {
+                                      return isDrawing;
+                                    }}};
 };
 
 TEST_F(Life, AnUntouchedDesignNeverAsks)

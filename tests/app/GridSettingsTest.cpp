@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/GridSettingsStore.h"
-#include "support/Fakes.h"
+#include "headless/MemorySettings.h"
 
 namespace hullwright {
 namespace {
@@ -17,7 +17,7 @@ protected:
     return LoadGridSettings(store).spacingSnapY;
   }
 
-  test::FakeSettings store;
+  MemorySettings store;
 };
 
 TEST_F(GridStore, AnEmptyStoreGivesTheDefaults)

@@ -50,7 +50,7 @@ TEST_F(ImportCommand, GivenUpDoesNothing)
 {
   fileDialogs.answer.reset();
   Run(Command::ImportDxf);
-  EXPECT_THAT(listening.heard, IsEmpty());
+  EXPECT_THAT(heard.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
 }
 
@@ -64,8 +64,8 @@ TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
   EXPECT_EQ(ShapesOf(0)[0]->vertices[1]->x, 3.0);
   EXPECT_EQ(ShapesOf(0)[0]->attributes->items[0]->value, u"Hull");
   EXPECT_EQ(dynamic_cast<const CShapeText&>(*ShapesOf(0)[1]).text, u"Winch");
-  EXPECT_EQ(listening.heard.front(), "1046");
-  const std::vector<std::string> last(listening.heard.end() - 4, listening.heard.end());
+  EXPECT_EQ(heard.list.front(), "1046");
+  const std::vector<std::string> last(heard.list.end() - 4, heard.list.end());
   EXPECT_THAT(last, ElementsAre("1045", "repaint", "tree", "modified"));
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(Frames(), 1);
@@ -94,7 +94,7 @@ TEST_F(ImportCommand, OfAFileThatCannotBeReadLeavesNothingButARecord)
 {
   fileDialogs.answer = folder.File("missing.dxf");
   Run(Command::ImportDxf);
-  EXPECT_THAT(listening.heard, IsEmpty());
+  EXPECT_THAT(heard.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
   EXPECT_THAT(messages.shown, IsEmpty());
   EXPECT_FALSE(document.IsModified());
@@ -193,7 +193,7 @@ TEST_F(ImportCommand, ShowsItsProgressInTheFrame)
 
 TEST_F(ImportCommand, WithoutAWindowLeavesTheDesignAlone)
 {
-  listening.hasWindow = false;
+  frame.hasWindow = false;
   Run(Command::ImportDxf);
   EXPECT_THAT(app.shapeGroups, IsEmpty());
   EXPECT_FALSE(document.IsModified());

@@ -34,8 +34,8 @@ TEST_F(MainFrame, ShowsTheProgressOfAnImport)
 
 TEST_F(MainFrame, WithoutAViewANotificationIsDropped)
 {
-  frame.view = nullptr;
-  frame.NotifyDesignChanged();
+  CMainFrame bare(app, widgets);
+  bare.NotifyDesignChanged();
   EXPECT_EQ(Frames(), 0);
 }
 
@@ -43,8 +43,8 @@ TEST_F(MainFrame, MarksItsDocument)
 {
   app.SetModifiedFlag(true);
   EXPECT_TRUE(document.IsModified());
-  frame.document = nullptr;
-  app.SetModifiedFlag(false);
+  CMainFrame bare(app, widgets);
+  bare.SetModifiedFlag(false);
   EXPECT_TRUE(document.IsModified());
 }
 
@@ -163,7 +163,7 @@ TEST_F(MainFrame, ALookIsShownThenStoredAndBearsTheMark)
 /// Looks into the settings at the moment that a look is shown.
 class WatchingWidgets : public test::FakeWidgets {
 public:
-  explicit WatchingWidgets(const test::FakeSettings& settings) : settings_(settings) {}
+  explicit WatchingWidgets(const MemorySettings& settings) : settings_(settings) {}
   void ApplyLook(int look) override
   {
     FakeWidgets::ApplyLook(look);
@@ -172,7 +172,7 @@ public:
   std::optional<std::vector<std::string>> storedBefore;
 
 private:
-  const test::FakeSettings& settings_;
+  const MemorySettings& settings_;
 };
 
 TEST_F(MainFrame, ALookIsStoredOnlyAfterItIsShown)

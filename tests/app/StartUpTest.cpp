@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "headless/NoDialogs.h"
 #include "support/AppFixture.h"
 
 namespace hullwright {
@@ -110,15 +111,15 @@ TEST_F(StartUp, ExitReleasesTheLibrariesAndSavesNoSettings)
   EXPECT_TRUE(settings.written.empty());
 }
 
+/// The application alone.
 class Application : public testing::Test {
 protected:
-  test::FakeSettings settings;
-  test::FakeMessages messages;
-  SharedLibraries libraries;
-  test::ScriptedDialogs dialogs;
-  test::FakeFileDialogs fileDialogs;
-  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
-                      [](CommonData) { return std::u16string(); }}};
+  MemorySettings settings;
+  KeptMessages messages;
+  NoDialogs dialogs;
+  FileAnswers fileDialogs;
+  CommonDataPorts commonData{messages, [](CommonData) { return std::u16string(); }};
+  CHullwrightApp app{{settings, messages, dialogs, fileDialogs, commonData.units, commonData.log}};
 };
 
 TEST_F(Application, BeginsWithItsDefaults)

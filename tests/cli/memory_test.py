@@ -26,7 +26,8 @@ class MemoryTest(CliTest):
         design = self.folder / "boat.xml"
         reasons = set()
         whole = 0
-        for memory in range(80 * MIB, 200 * MIB, 2 * MIB):
+        # From less than a program without the toolkit starts in.
+        for memory in range(16 * MIB, 200 * MIB, 2 * MIB):
             with self.subTest(memory=memory // MIB):
                 design.write_bytes(b"<vessel/>")
                 done = self.import_within(memory, drawing, design)

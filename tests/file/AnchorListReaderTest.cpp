@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -15,7 +15,7 @@ protected:
     return reader.Read(folder.Write("a.xml", "<anchors>" + std::string(content) + "</anchors>"));
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   CAnchors anchors;
   CAnchorListReader reader{anchors, messages};

@@ -8,7 +8,7 @@
 #include "base/Text.h"
 #include "file/AnchorListReader.h"
 #include "file/SaveLosses.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -117,7 +117,7 @@ protected:
     return kinds;
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
 };
 

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "file/HullwrightDoc.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePolyline.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
@@ -24,7 +25,7 @@ protected:
   bool Open(std::string_view xml) { return document.OnOpenDocument(folder.Write("in.xml", xml)); }
 
   test::TempFolder folder;
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::FakeMainWindow window;
   DesignState design;
   CHullwrightDoc document{design, window, messages};

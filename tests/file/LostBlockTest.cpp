@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "file/FileVessel.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePolyline.h"
-#include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -35,7 +35,7 @@ protected:
     groups.back()->shapes.push_back(std::move(line));
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   ShortOfMemory file{messages};
   OwnedArray<CShapes> groups;

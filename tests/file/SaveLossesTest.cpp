@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -49,7 +49,7 @@ protected:
     return losses->Found();
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   std::unique_ptr<CSaveLosses> losses;
   std::set<LossKind> seen;

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "file/FileSax.h"
 #include "file/SaxHandlers.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -51,7 +51,7 @@ class SaxInput : public testing::Test {
 protected:
   int Read(std::string_view xml) { return listener.Read(folder.Write("in.xml", xml)); }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   Listener listener{messages};
 };

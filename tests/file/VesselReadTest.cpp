@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "file/FileVessel.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -21,7 +21,7 @@ protected:
     return *groups.at(group)->shapes.at(shape);
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   CFileVessel file{messages};
   OwnedArray<CShapes> groups;

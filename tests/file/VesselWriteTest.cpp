@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "file/FileVessel.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePoint.h"
-#include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -36,7 +36,7 @@ protected:
     return static_cast<CShapePolyline&>(*groups.back()->shapes.back());
   }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::TempFolder folder;
   CFileVessel file{messages};
   OwnedArray<CShapes> groups;

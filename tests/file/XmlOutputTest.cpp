@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "file/FileSax.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -38,7 +38,7 @@ protected:
 
 class XmlOutput : public testing::Test {
 protected:
-  test::FakeMessages messages;
+  KeptMessages messages;
   StingyFile file{messages};
   test::TempFolder folder;
 };

@@ -11,6 +11,7 @@ ROOMS = {
     "base": "",
     "platform": "",
     "system": "base platform",
+    "headless": "base model platform resources",
     "model": "base",
     "render": "base model platform",
     "resources": "model",
@@ -18,11 +19,13 @@ ROOMS = {
     "dxf": "base model platform file",
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
-    "headless": "base model platform system render resources file dxf view app",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform system render resources file dxf view app paint",
+    "cli": "base model platform system headless render resources file dxf view app paint",
 }
+
+# where the programs start, which alone give the rooms what the system has for them
+START = ("cli/", "qt/Main.cpp", "qt/Shell.", "system/")
 
 # rooms, and single files, that may include the toolkit's headers
 TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp")
@@ -49,6 +52,8 @@ def problems(source):
                 yield f"{name}:{number}: {room} may not include the toolkit's <{toolkit}>"
             if target and target.split("/")[0] not in [room, *ROOMS[room].split()]:
                 yield f"{name}:{number}: {room} may not include \"{target}\""
+            elif target and target.startswith("system/") and not name.startswith(START):
+                yield f"{name}:{number}: only the start of a program includes \"{target}\""
 
 
 def self_test(folder):
@@ -56,6 +61,7 @@ def self_test(folder):
     wrong = {
         "model/Up.h": '#include "render/Canvas.h"\n',
         "view/Toolkit.cpp": "#include <QWidget>\n",
+        "qt/Window.cpp": '#include "system/SessionBus.h"\n',
         "attic/Old.h": "",
     }
     for name, text in wrong.items():

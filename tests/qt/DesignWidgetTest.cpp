@@ -85,7 +85,7 @@ protected:
   /// The context menu that is open; null when there is none.
   static QMenu* OpenMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
-  test::FakeMessages messages;
+  KeptMessages messages;
   test::FakeHost host;
   DesignState design;
   DesignWidget widget;

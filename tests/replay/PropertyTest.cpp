@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <cmath>
 #include <cstdlib>
+#include <locale>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "base/Numbers.h"
+#include "headless/KeptMessages.h"
 #include "model/ShapePolygon.h"
 #include "replay/driver/Player.h"
 #include "resources/CommandIds.h"
@@ -79,39 +79,51 @@ private:
 public:
   explicit StepMaker(unsigned seed) : random_(seed) {}
 
-  QJsonObject Next()
+  Json Next()
   {
     switch (Below(20)) {
-      case 0: return {{"do", "size"}, {"cx", Below(3) ? Below(1200) : 0}, {"cy", Below(900)}};
+      case 0:
+        return Json::object(
+            {{"do", "size"}, {"cx", Below(3) ? Below(1200) : 0}, {"cy", Below(900)}});
       case 1:
       case 2:
-      case 3: return At("mousemove", {{"left", Below(2) == 0}});
+      case 3: return At("mousemove", Json::object({{"left", Below(2) == 0}}));
       case 4: return At("lbuttondown");
       case 5: return At("lbuttonup");
       case 6: return At("rbuttondown");
       case 7: return At("wheel", {{"delta", Below(2) ? 120 : -120}});
       case 8:
-      case 9: return WithAnswers({{"do", "command"}, {"id", AnyOf(commands)}});
-      case 10: return WithAnswers({{"do", "menu"}, {"id", 32789 + Below(28)}});
-      case 11: return {{"do", "treeclick"}, {"path", Path()}};
-      case 12: return {{"do", "treemenu"}, {"path", Path()}};
+      case 9: return WithAnswers(Json::object({{"do", "command"}, {"id", AnyOf(commands)}}));
+      case 10: return WithAnswers(Json::object({{"do", "menu"}, {"id", 32789 + Below(28)}}));
+      case 11: return Json::object({{"do", "treeclick"}, {"path", Path()}});
+      case 12: return Json::object({{"do", "treemenu"}, {"path", Path()}});
       case 13:
         return WithAnswers(
-            {{"do", "treecommand"}, {"id", AnyOf(treeCommands)}, {"select", Path()}});
+            Json::object({{"do", "treecommand"}, {"id", AnyOf(treeCommands)}, {"select", Path()}}));
       case 14: return PutShape();
-      case 15: return {{"do", "putanchor"}, {"anchor", Anchor()}};
-      case 16: return {{"do", Below(2) ? "save" : "open"}, {"path", "boat.xml"}};
+      case 15: return Json::object({{"do", "putanchor"}, {"anchor", Anchor()}});
+      case 16: return Json::object({{"do", Below(2) ? "save" : "open"}, {"path", "boat.xml"}});
       case 17: return Import();
       case 18: return Rare();
       default:
-        return {{"do", "setting"}, {"key", AnyOf(keys)}, {"value", Below(3) ? Below(500) : -1}};
+        return Json::object(
+            {{"do", "setting"}, {"key", AnyOf(keys)}, {"value", Below(3) ? Below(500) : -1}});
     }
   }
 
 private:
   double Coordinate() { return (Below(4001) - 2000) / 16.0; }
 
-  QJsonObject At(const char* name, QJsonObject step = {})
+  /// A number as a person types it.
+  static std::string ShortText(double value)
+  {
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << value;
+    return text.str();
+  }
+
+  Json At(const char* name, Json step = Json::object())
   {
     // Often on the devices and the origin, where there is something to hit.
     step["do"] = name;
@@ -120,74 +132,77 @@ private:
     return step;
   }
 
-  QJsonObject WithAnswers(QJsonObject step)
+  Json WithAnswers(Json step)
   {
-    QJsonObject fields;
+    Json fields = Json::object();
     for (const char* const id : {"1000", "1003", "1008", "1009", "1011", "1017", "1024", "1027"}) {
-      if (Below(3) == 0)
-        fields[id] = Below(5) ? QString::number(Coordinate()) : QString("nonsense");
+      if (Below(3) == 0) fields[id] = Below(5) ? ShortText(Coordinate()) : "nonsense";
     }
     if (fields.contains("1011") && Below(3)) fields["1011"] = "0.75";
-    const QString side = QString::number(1013 + Below(4));
-    step["dialog"] = QJsonObject{{"end", Below(4) ? "ok" : "cancel"},
-                                 {"fields", fields},
-                                 {"checks", QJsonObject{{side, true}}},
-                                 {"select", Below(6)}};
-    step["answers"] = QJsonArray{Below(4) ? "yes" : "no"};
+    const std::string side = std::to_string(1013 + Below(4));
+    step["dialog"] = Json::object({{"end", Below(4) ? "ok" : "cancel"},
+                                   {"fields", fields},
+                                   {"checks", Json::object({{side, true}})},
+                                   {"select", Below(6)}});
+    step["answers"] = Json::array({Below(4) ? "yes" : "no"});
     return step;
   }
 
-  QJsonArray Path()
+  Json Path()
   {
-    QJsonArray path = {Below(5) ? 0 : 1};
-    for (int depth = Below(4); depth > 0; --depth) path.append(Below(4));
+    Json path = Json::array({Below(5) ? 0 : 1});
+    for (int depth = Below(4); depth > 0; --depth) path.push_back(Below(4));
     return path;
   }
 
-  QJsonObject PutShape()
+  Json PutShape()
   {
-    QJsonArray vertices;
-    for (int i = Below(6); i > 0; --i) vertices.append(QJsonArray{Coordinate(), Coordinate(), 0.5});
-    QJsonObject shape = {{"type", AnyOf(types)},
-                         {"vertices", vertices},
-                         {"text", "Winch \\L"},
-                         {"height", 3},
-                         {"angle", 30},
-                         {"position", QJsonArray{1, 2, 3}},
-                         {"rings", QJsonArray{vertices}}};
-    return {{"do", "putshape"}, {"view", AnyOf(views)}, {"shape", shape}};
+    Json vertices = Json::array();
+    for (int i = Below(6); i > 0; --i) {
+      vertices.push_back(Json::array({Coordinate(), Coordinate(), 0.5}));
+    }
+    const Json shape = Json::object({{"type", AnyOf(types)},
+                                     {"vertices", vertices},
+                                     {"text", "Winch \\L"},
+                                     {"height", 3},
+                                     {"angle", 30},
+                                     {"position", Json::array({1, 2, 3})},
+                                     {"rings", Json::array({vertices})}});
+    return Json::object({{"do", "putshape"}, {"view", AnyOf(views)}, {"shape", shape}});
   }
 
-  QJsonObject Anchor()
+  Json Anchor()
   {
-    return {{"id", Below(9)},
-            {"name", "Bow"},
-            {"attachmentX", Coordinate()},
-            {"attachmentY", Coordinate()}};
+    return Json::object({{"id", Below(9)},
+                         {"name", "Bow"},
+                         {"attachmentX", Coordinate()},
+                         {"attachmentY", Coordinate()}});
   }
 
-  QJsonObject Import()
+  Json Import()
   {
-    static const QString drawing =
+    static constexpr const char* drawing =
         "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n0\nLINE\n10\n1\n11\n9\n0\nENDBLK\n0\nENDSEC\n"
         "0\nSECTION\n2\nENTITIES\n0\nSOLID\n11\n5\n12\n5\n22\n5\n0\nTEXT\n1\nCrane\n40\n2\n"
         "0\nINSERT\n2\nB\n50\n30\n0\nPOINT\n10\n3\n0\nCIRCLE\n40\n4\n0\nENDSEC\n0\nEOF\n";
-    if (Below(4) == 0) return {{"do", "write"}, {"path", "hull.dxf"}, {"text", drawing}};
-    return {{"do", "command"}, {"id", Command::ImportDxf}, {"file", "hull.dxf"}};
+    if (Below(4) == 0)
+      return Json::object({{"do", "write"}, {"path", "hull.dxf"}, {"text", drawing}});
+    return Json::object({{"do", "command"}, {"id", Command::ImportDxf}, {"file", "hull.dxf"}});
   }
 
-  QJsonObject Rare()
+  Json Rare()
   {
     switch (Below(8)) {
-      case 0: return {{"do", "new"}};
-      case 1: return {{"do", "user"}, {"wparam", Below(2) ? 1054 : 1124}};
-      case 2: return {{"do", "statusclick"}, {"pane", Below(3)}};
-      case 3: return {{"do", "setrotation"}, {"value", Coordinate()}};
+      case 0: return Json::object({{"do", "new"}});
+      case 1: return Json::object({{"do", "user"}, {"wparam", Below(2) ? 1054 : 1124}});
+      case 2: return Json::object({{"do", "statusclick"}, {"pane", Below(3)}});
+      case 3: return Json::object({{"do", "setrotation"}, {"value", Coordinate()}});
       case 4:
-        return {{"do", "write"}, {"path", "boat.xml"}, {"text", "<vessel><shapes view=\"01\">"}};
-      case 5: return {{"do", "setcursor"}, {"hit", Below(3)}};
-      case 6: return {{"do", "setunit"}, {"value", Below(2) ? 9001 : 9002}};
-      default: return {{"do", "putgroup"}, {"view", 4}};
+        return Json::object(
+            {{"do", "write"}, {"path", "boat.xml"}, {"text", "<vessel><shapes view=\"01\">"}});
+      case 5: return Json::object({{"do", "setcursor"}, {"hit", Below(3)}});
+      case 6: return Json::object({{"do", "setunit"}, {"value", Below(2) ? 9001 : 9002}});
+      default: return Json::object({{"do", "putgroup"}, {"view", 4}});
     }
   }
 
@@ -280,7 +295,7 @@ void ExpectSavedAsItIs(ReplayEditor& editor)
   editor.document.OnSaveDocument(path);
   editor.document.SetModifiedFlag(modified);
   test::FakeMainWindow window;
-  test::FakeMessages messages;
+  KeptMessages messages;
   DesignState loaded;
   CHullwrightDoc document(loaded, window, messages);
   ASSERT_TRUE(document.OnOpenDocument(path));
@@ -297,11 +312,11 @@ void PlayScript(unsigned seed)
   editor.Start({});
   Player player(editor);
   StepMaker maker(seed);
-  player.Play({{"do", "size"}, {"cx", 800}, {"cy", 600}}, Detail::Events);
+  player.Play(Json::object({{"do", "size"}, {"cx", 800}, {"cy", 600}}), Detail::Events);
   for (int step = 0; step < stepsOfScript; ++step) {
-    const QJsonObject made = maker.Next();
+    const Json made = maker.Next();
     SCOPED_TRACE("script " + std::to_string(seed) + ", step " + std::to_string(step) + ": " +
-                 QJsonDocument(made).toJson(QJsonDocument::Compact).toStdString());
+                 made.dump());
     player.Play(made, Detail::Events);
     ExpectOneEditingShapeAGroup(editor.app);
     ExpectNothingInTwoPlaces(editor.app);

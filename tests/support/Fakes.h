@@ -1,84 +1,18 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "model/GridSettings.h"
+#include "headless/NoTree.h"
+#include "headless/SilentWindow.h"
+#include "platform/Framework.h"
 #include "platform/MainWindow.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Pointer.h"
-#include "platform/PopupMenu.h"
-#include "platform/SettingsStore.h"
 
 namespace hullwright::test {
-
-class FakeSettings : public ISettingsStore {
-public:
-  std::int32_t ReadInteger(std::string_view section, std::string_view key,
-                           std::int32_t fallback) const override
-  {
-    const auto found = values.find(std::string(section).append("/").append(key));
-    return found == values.end() ? fallback : found->second;
-  }
-  void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override
-  {
-    const std::string path = std::string(section).append("/").append(key);
-    values[path] = value;
-    written.push_back(path);
-  }
-
-  std::map<std::string, std::int32_t> values;
-  std::vector<std::string> written;
-};
-
-class FakeMessages : public IMessageBoxes {
-public:
-  void ShowMessage(std::u16string_view text) override
-  {
-    shown.emplace_back(text);
-    if (onShow) onShow();
-  }
-  bool AskYesNo(std::u16string_view question) override
-  {
-    asked.emplace_back(question);
-    if (onQuestion) onQuestion();
-    return answer;
-  }
-
-  std::vector<std::u16string> shown;
-  std::function<void()> onShow;
-  std::vector<std::u16string> asked;
-  bool answer = false;
-  std::function<void()> onQuestion;  ///< runs while the question is open
-};
-
-class FakeCursor : public ICursor {
-public:
-  void SetCursor(CursorShape shape) override { shapes.push_back(shape); }
-  std::vector<CursorShape> shapes;
-};
-
-class FakeBand : public IRubberBand {
-public:
-  void InvertLine(ClientPoint from, ClientPoint to) override { lines.emplace_back(from, to); }
-  std::vector<std::pair<ClientPoint, ClientPoint>> lines;
-};
-
-/// Keeps the menus that were offered.
-class FakePopup : public IPopupMenu {
-public:
-  void Show(std::span<const PopupEntry> entries, ClientPoint at) override
-  {
-    offered.clear();
-    for (const PopupEntry& entry : entries) offered.emplace_back(entry.id, entry.text);
-    place = at;
-  }
-  std::vector<std::pair<int, std::u16string>> offered;
-  ClientPoint place;
-};
 
 /// A main window that only counts what it is told.
 class FakeMainWindow : public IMainWindow {
@@ -101,6 +35,69 @@ public:
   std::vector<std::intptr_t> values;
   std::vector<bool> flags;
   std::function<void()> onTold;  ///< looks at what stands when it is told something
+};
+
+/// Writes down what a main frame is told: "repaint", "tree", "modified", "clean", or a number.
+class HeardNotifications : public SilentWindow {
+public:
+  void Notify(int code, std::intptr_t) override
+  {
+    list.emplace_back(code == Notification::RepaintDesign ? "repaint"
+                      : code == Notification::RebuildTree ? "tree"
+                                                          : std::to_string(code));
+  }
+  void SetModifiedFlag(bool modified) override
+  {
+    list.emplace_back(modified ? "modified" : "clean");
+  }
+  std::vector<std::string> list;
+};
+
+/// Writes down what the frame shows.
+class FakeWidgets : public IFrameWidgets {
+public:
+  void SetViewButtonImage(int command) override
+  {
+    calls.push_back("image " + std::to_string(command));
+  }
+  void InvalidateToolBar() override
+  {
+    calls.emplace_back("invalidate");
+    if (onInvalidate) onInvalidate();
+  }
+  void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
+  void ShowNote(std::u16string_view text) override { notes.emplace_back(text); }
+  void StartProgress(std::string_view text) override
+  {
+    calls.push_back("start " + std::string(text));
+  }
+  void ShowProgress(int percent) override { calls.push_back(std::to_string(percent) + " %"); }
+  void EndProgress() override { calls.emplace_back("end"); }
+  std::vector<std::string> calls;
+  std::vector<std::u16string> notes;
+  std::function<void()> onInvalidate;
+};
+
+/// Counts what the tree's control is told, and keeps the menus that are offered.
+class FakeTreeControl : public NoTree {
+public:
+  void BeforeRebuild() override { ++announced; }
+  void Rebuilt() override
+  {
+    ++rebuilds;
+    EXPECT_EQ(announced, 1);
+    announced = 0;
+  }
+  void ImagesChanged() override { ++imageChanges; }
+  void ShowMenu(std::span<const PopupEntry> entries) override
+  {
+    menu.clear();
+    for (const PopupEntry& entry : entries) menu.emplace_back(entry.id, entry.text);
+  }
+  int announced = 0;
+  int rebuilds = 0;
+  int imageChanges = 0;
+  std::vector<std::pair<int, std::u16string>> menu;
 };
 
 }  // namespace hullwright::test

@@ -1,50 +1,24 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/ObjectView.h"
 #include "base/Text.h"
 #include "model/ShapePolyline.h"
 #include "support/AppFixture.h"
 
 namespace hullwright::test {
 
-/// Counts what the tree's control is told, and keeps the menus that are offered.
-class FakeTreeControl : public ITreeControl {
-public:
-  void BeforeRebuild() override { ++announced; }
-  void Rebuilt() override
-  {
-    ++rebuilds;
-    EXPECT_EQ(announced, 1);
-    announced = 0;
-  }
-  void ImagesChanged() override { ++imageChanges; }
-  void ShowMenu(std::span<const PopupEntry> entries) override
-  {
-    menu.clear();
-    for (const PopupEntry& entry : entries) menu.emplace_back(entry.id, entry.text);
-  }
-  int announced = 0;
-  int rebuilds = 0;
-  int imageChanges = 0;
-  std::vector<std::pair<int, std::u16string>> menu;
-};
-
 /// The application with its object pane.
 class ObjectPaneFixture : public AppFixture {
 protected:
   ObjectPaneFixture()
   {
-    frame.objectView = &pane;
     pane.BuildTree();
     control.rebuilds = 0;
   }
-  ~ObjectPaneFixture() override { frame.objectView = nullptr; }
 
   CShapePolyline& AddLine(std::int32_t side, std::initializer_list<CShapeVertex> vertices)
   {
@@ -106,8 +80,7 @@ protected:
     return told;
   }
 
-  FakeTreeControl control;
-  CObjectView pane{app, control};
+  CObjectView& pane = editor.objects;
 };
 
 }  // namespace hullwright::test

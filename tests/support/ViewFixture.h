@@ -8,9 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "headless/KeptMessages.h"
+#include "headless/KeptPointer.h"
 #include "model/ShapePolyline.h"
 #include "platform/MainWindow.h"
-#include "support/Fakes.h"
 #include "support/RecordedDrawing.h"
 #include "view/HullwrightView.h"
 
@@ -97,13 +98,11 @@ protected:
   }
 
   RecordedDrawing recorder;
-  FakeMessages messages;
-  FakeCursor cursor;
-  FakeBand band;
-  FakePopup popup;
+  KeptMessages messages;
+  KeptPointer pointer;
   FakeHost host;
   DesignState design;
-  CHullwrightView view{design, host, {messages, cursor, band, popup}};
+  CHullwrightView view{design, host, {messages, pointer, pointer, pointer}};
 };
 
 }  // namespace hullwright::test

@@ -16,7 +16,7 @@ protected:
   std::vector<int> Offered() const
   {
     std::vector<int> ids;
-    for (const auto& [id, text] : popup.offered) ids.push_back(id);
+    for (const auto& [id, text] : pointer.offered) ids.push_back(id);
     return ids;
   }
 };
@@ -25,10 +25,10 @@ TEST_F(ContextMenu, OnEmptySpaceOffersZoomVertexAndAnchor)
 {
   view.OnRButtonDown({123, 45});
   EXPECT_THAT(
-      popup.offered,
+      pointer.offered,
       ElementsAre(Pair(32790, u"Zoom &In"), Pair(32792, u"Zoom &Out"), Pair(32793, u"Ce&nter"),
                   Pair(0, u"-"), Pair(32789, u"&Add Vertex..."), Pair(32815, u"&Add Anchor")));
-  EXPECT_EQ(popup.place, (ClientPoint{123, 45}));
+  EXPECT_EQ(pointer.place, (ClientPoint{123, 45}));
   EXPECT_EQ(view.menuPoint, (ClientPoint{123, 45}));
 }
 
@@ -37,8 +37,8 @@ TEST_F(ContextMenu, OnAVertexOffersToEditAddAndRemove)
   AddLine({{0.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32789, 32798));
-  EXPECT_EQ(popup.offered[4].second, u"&Edit Vertex...");
-  EXPECT_EQ(popup.offered[6].second, u"&Remove Vertex...");
+  EXPECT_EQ(pointer.offered[4].second, u"&Edit Vertex...");
+  EXPECT_EQ(pointer.offered[6].second, u"&Remove Vertex...");
 }
 
 TEST_F(ContextMenu, OnAnAnchorAndOnAnOffsetOffersWhatTheyTake)
@@ -46,7 +46,7 @@ TEST_F(ContextMenu, OnAnAnchorAndOnAnOffsetOffersWhatTheyTake)
   design.activeView = ViewSide::Top;
   AddAnchor(50.0, 50.0);
   view.OnRButtonDown({600, 100});
-  EXPECT_THAT(popup.offered.back(), Pair(32816, u"&Remove Anchor..."));
+  EXPECT_THAT(pointer.offered.back(), Pair(32816, u"&Remove Anchor..."));
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32816));
   view.OnRButtonDown({440, 300});
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791));
@@ -65,10 +65,10 @@ TEST_F(ContextMenu, TheRightPressMakesTheGroupAndWhileDrawingOpensNoMenu)
 {
   view.OnRButtonDown({1, 1});
   EXPECT_EQ(design.shapeGroups.size(), 1U);
-  popup.offered.clear();
+  pointer.offered.clear();
   view.OnCommand(Command::DrawPolyline);
   view.OnRButtonDown({1, 1});
-  EXPECT_THAT(popup.offered, IsEmpty());
+  EXPECT_THAT(pointer.offered, IsEmpty());
 }
 
 TEST_F(ContextMenu, ZoomsAndCentersAtThePress)

@@ -13,7 +13,7 @@ class View : public test::ViewFixture {};
 
 TEST_F(View, BeginsIdle)
 {
-  const CHullwrightView fresh(design, host, {messages, cursor, band, popup});
+  const CHullwrightView fresh(design, host, {messages, pointer, pointer, pointer});
   EXPECT_FALSE(fresh.dragging);
   EXPECT_FALSE(fresh.drawing);
   EXPECT_EQ(fresh.hitKind, 0);
@@ -35,7 +35,7 @@ TEST_F(View, ACanvasThatFailsIsToldAndTheViewGoesOn)
 {
   DesignState other;
   GiveViewPort(other);
-  CHullwrightView blind(other, host, {messages, cursor, band, popup});
+  CHullwrightView blind(other, host, {messages, pointer, pointer, pointer});
   blind.OnCreate(nullptr);
   EXPECT_THAT(messages.shown,
               ElementsAre(u"Failed to initialize Canvas, hWnd == nullptr or window is invalid!"));
@@ -49,7 +49,7 @@ TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
 {
   DesignState other;
   host.cursorTool = CursorTool::ZoomIn;
-  CHullwrightView blind(other, host, {messages, cursor, band, popup});
+  CHullwrightView blind(other, host, {messages, pointer, pointer, pointer});
   blind.OnCreate(&recorder);
   blind.OnSize(800, 600);
   blind.OnMouseMove(false, {1, 1});
@@ -65,7 +65,7 @@ TEST_F(View, ItsEndDestroysTheViewPort)
   DesignState other;
   GiveViewPort(other);
   {
-    CHullwrightView shortLived(other, host, {messages, cursor, band, popup});
+    CHullwrightView shortLived(other, host, {messages, pointer, pointer, pointer});
     shortLived.OnCreate(&recorder);
   }
   EXPECT_EQ(other.viewPort, nullptr);
@@ -169,15 +169,15 @@ TEST_F(View, TheCursorIsACrossAndOverAnItemAHand)
   AddLine({{0.0, 0.0, 0.0}});
   view.OnSetCursor();
   view.OnMouseMove(false, {10, 10});
-  EXPECT_THAT(cursor.shapes, ElementsAre(CursorShape::Cross));
+  EXPECT_THAT(pointer.shapes, ElementsAre(CursorShape::Cross));
   view.OnSetCursor();
   view.OnMouseMove(false, {400, 300});
-  EXPECT_THAT(cursor.shapes,
+  EXPECT_THAT(pointer.shapes,
               ElementsAre(CursorShape::Cross, CursorShape::Cross, CursorShape::Hand));
   view.OnMouseMove(true, {420, 300});
-  cursor.shapes.clear();
+  pointer.shapes.clear();
   view.OnSetCursor();
-  EXPECT_THAT(cursor.shapes, ElementsAre(CursorShape::Hand));
+  EXPECT_THAT(pointer.shapes, ElementsAre(CursorShape::Hand));
 }
 
 TEST_F(View, ActsOnTheRepaintNotificationOnly)

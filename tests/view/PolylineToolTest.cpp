@@ -134,15 +134,15 @@ TEST_F(PolylineTool, TheBandIsErasedAndDrawnFromTheLastVertexToTheSnappedPositio
   host.grid.snap = 1;
   Begin();
   Move(400, 300);
-  EXPECT_TRUE(band.lines.empty());
+  EXPECT_TRUE(pointer.lines.empty());
   Click(400, 300);
-  band.lines.clear();
+  pointer.lines.clear();
   Move(432, 301);
   Move(452, 299);
-  EXPECT_THAT(band.lines, ElementsAre(Pair(ClientPoint{400, 300}, ClientPoint{400, 300}),
-                                      Pair(ClientPoint{400, 300}, ClientPoint{430, 300}),
-                                      Pair(ClientPoint{400, 300}, ClientPoint{430, 300}),
-                                      Pair(ClientPoint{400, 300}, ClientPoint{450, 300})));
+  EXPECT_THAT(pointer.lines, ElementsAre(Pair(ClientPoint{400, 300}, ClientPoint{400, 300}),
+                                         Pair(ClientPoint{400, 300}, ClientPoint{430, 300}),
+                                         Pair(ClientPoint{400, 300}, ClientPoint{430, 300}),
+                                         Pair(ClientPoint{400, 300}, ClientPoint{450, 300})));
 }
 
 TEST_F(PolylineTool, WithTheFixedEndInTheFirstColumnNoBandIsDrawnButVerticesAreAdded)
@@ -151,7 +151,7 @@ TEST_F(PolylineTool, WithTheFixedEndInTheFirstColumnNoBandIsDrawnButVerticesAreA
   Click(0, 300);
   Click(400, 300);
   EXPECT_EQ(view.newShape->vertices.size(), 2U);
-  EXPECT_TRUE(band.lines.empty());
+  EXPECT_TRUE(pointer.lines.empty());
 }
 
 TEST_F(PolylineTool, AfterwardsTheNextMoveClearsTheFreeEnd)

@@ -17,15 +17,15 @@ namespace {
 /// The arguments of a call.
 class Args {
 public:
-  explicit Args(const QJsonArray& list) : list_(list) {}
-  QJsonValue At(int index) const { return list_.at(index); }
-  double Number(int index) const { return NumberOf(list_.at(index)); }
-  int Integer(int index) const { return static_cast<int>(list_.at(index).toInteger()); }
-  std::string Name(int index) const { return list_.at(index).toString().toStdString(); }
-  int Count() const { return static_cast<int>(list_.size()); }
+  explicit Args(const Json& list) : list_(list) {}
+  const Json& At(std::size_t index) const { return Item(list_, index); }
+  double Number(std::size_t index) const { return NumberOf(Item(list_, index)); }
+  int Integer(std::size_t index) const { return static_cast<int>(IntegerOf(Item(list_, index))); }
+  std::string Name(std::size_t index) const { return TextOf(Item(list_, index)); }
+  std::size_t Count() const { return list_.size(); }
 
 private:
-  QJsonArray list_;
+  Json list_;
 };
 
 CShapes& GroupOf(ReplayEditor& editor, int index)
@@ -87,7 +87,7 @@ Value SegmentDistance(ReplayEditor&, const Args& args)
 }
 
 /// Four numbers from one place on.
-Extents ExtentsOf(const Args& args, int first)
+Extents ExtentsOf(const Args& args, std::size_t first)
 {
   return {args.Number(first), args.Number(first + 1), args.Number(first + 2),
           args.Number(first + 3)};
@@ -98,7 +98,7 @@ Value BoundsOf(const Extents& box) { return Row(box.minX, box.minY, box.maxX, bo
 Value GetExtents(ReplayEditor& editor, const Args& args)
 {
   Extents box;
-  int next = 2;
+  std::size_t next = 2;
   for (double* const bound : {&box.minX, &box.minY, &box.maxX, &box.maxY}) {
     if (next < args.Count()) *bound = args.Number(next++);
   }
@@ -161,12 +161,11 @@ Value RemoveForeign(ReplayEditor& editor, const Args& args)
   return {};
 }
 
-AttributeMap AttributesOf(const QJsonValue& value)
+AttributeMap AttributesOf(const Json& value)
 {
   AttributeMap attributes;
-  const QJsonObject object = value.toObject();
-  for (auto member = object.begin(); member != object.end(); ++member) {
-    attributes[member.key().toStdU16String()] = WideOf(member.value());
+  for (const auto& [name, member] : MembersOf(value).items()) {
+    attributes[WideFromUtf8(name)] = WideOf(member);
   }
   return attributes;
 }
@@ -175,19 +174,19 @@ Value WriteXml(ReplayEditor& editor, const Args& args)
 {
   CFileSax file(editor.messages);
   file.ResetOutput();
-  for (const QJsonValue& call : args.At(0).toArray()) {
-    const QJsonArray parts = call.toArray();
-    const QString name = parts.at(0).toString();
-    const std::u16string element = WideOf(parts.at(1));
-    if (name == u"WriteDeclaration") file.WriteDeclaration();
-    if (name == u"OpenElement" && parts.size() < 3) file.OpenElement(element);
-    if (name == u"OpenElement" && parts.size() >= 3) {
-      file.OpenElement(element, AttributesOf(parts.at(2)));
+  for (const Json& call : ListOf(args.At(0))) {
+    const Json& parts = ListOf(call);
+    const std::string name = TextOf(Item(parts, 0));
+    const std::u16string element = WideOf(Item(parts, 1));
+    if (name == "WriteDeclaration") file.WriteDeclaration();
+    if (name == "OpenElement" && parts.size() < 3) file.OpenElement(element);
+    if (name == "OpenElement" && parts.size() >= 3) {
+      file.OpenElement(element, AttributesOf(Item(parts, 2)));
     }
-    if (name == u"CloseElement") file.CloseElement(element);
-    if (name == u"WriteTextElement") file.WriteTextElement(element, WideOf(parts.at(2)));
-    if (name == u"WriteEmptyElement") {
-      file.WriteEmptyElement(element, AttributesOf(parts.at(2)), WideOf(parts.at(3)));
+    if (name == "CloseElement") file.CloseElement(element);
+    if (name == "WriteTextElement") file.WriteTextElement(element, WideOf(Item(parts, 2)));
+    if (name == "WriteEmptyElement") {
+      file.WriteEmptyElement(element, AttributesOf(Item(parts, 2)), WideOf(Item(parts, 3)));
     }
   }
   return Row(file.Output(), file.indent, file.outLength, file.outCapacity);
@@ -196,12 +195,11 @@ Value WriteXml(ReplayEditor& editor, const Args& args)
 Value SaveGrid(ReplayEditor& editor, const Args& args)
 {
   GridSettings grid = editor.app.LoadGridSettings();
-  const QJsonObject changes = args.At(0).toObject();
-  grid.show = changes[u"show"].toInt(grid.show);
-  grid.snap = changes[u"snap"].toInt(grid.snap);
+  const Json& changes = args.At(0);
+  grid.show = IntOf(Member(changes, "show"), grid.show);
+  grid.snap = IntOf(Member(changes, "snap"), grid.snap);
   const auto spacing = [&](const char* name, double& field) {
-    const QJsonValue value = changes[QLatin1String(name)];
-    if (!value.isUndefined()) field = NumberOf(value);
+    if (changes.contains(name)) field = NumberOf(changes[name]);
   };
   spacing("spacingShowX", grid.spacingShowX);
   spacing("spacingShowY", grid.spacingShowY);
@@ -222,9 +220,10 @@ Value InitialiseCanvas(ReplayEditor&, const Args& args)
       {"CoCreateInstance", TargetStep::Imaging},
   });
   DrawingRecorder recorder;
+  const std::string name = args.Name(0);
   const auto* const failing =
-      std::ranges::find(steps, args.Name(0), &std::pair<std::string_view, TargetStep>::first);
-  recorder.failCode = static_cast<ResultCode>(args.At(1).toInteger());
+      std::ranges::find(steps, name, &std::pair<std::string_view, TargetStep>::first);
+  recorder.failCode = static_cast<ResultCode>(IntegerOf(args.At(1)));
   if (failing != steps.end()) recorder.failingStep = failing->second;
   CCanvas canvas;
   const bool success = canvas.Initialize(&recorder);
@@ -240,9 +239,9 @@ Value StrokesOf(ReplayEditor&, const Args& args)
   canvas.Initialize(&recorder);
   recorder.calls.clear();
   std::vector<PixelPoint> points;
-  for (const QJsonValue& point : args.At(0).toArray()) {
-    points.push_back({static_cast<float>(NumberOf(point.toArray().at(0))),
-                      static_cast<float>(NumberOf(point.toArray().at(1)))});
+  for (const Json& point : ListOf(args.At(0))) {
+    points.push_back({static_cast<float>(NumberOf(Item(point, 0))),
+                      static_cast<float>(NumberOf(Item(point, 1)))});
   }
   canvas.DrawPolyline(points, {});
   return recorder.calls.size();
@@ -382,7 +381,7 @@ constexpr auto calls = std::to_array<CallEntry>({
 }  // namespace
 
 std::optional<Value> CallOperation(ReplayEditor& editor, const std::string& name,
-                                   const QJsonArray& arguments)
+                                   const Json& arguments)
 {
   const auto* const found = std::ranges::find(calls, name, &CallEntry::name);
   if (found == calls.end()) return std::nullopt;

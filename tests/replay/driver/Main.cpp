@@ -1,16 +1,14 @@
-#include <QCoreApplication>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <cstdio>
+#include <exception>
 #include <fstream>
-#include <iostream>
+#include <optional>
+#include <span>
+#include <vector>
 
 #include "cli/Json.h"
 #include "replay/driver/Player.h"
 #include "replay/driver/Script.h"
+#include "support/TempFolder.h"
 
 // hullwright-replay SCRIPT [--work DIR] [--full]: plays a script and prints what each step does.
 namespace {
@@ -23,129 +21,116 @@ constexpr int exitFailed = 1;
 constexpr int exitUsage = 2;
 
 struct Options {
-  QString script;
-  QString work;
+  std::string script;
+  std::string work;
   bool full = false;
 };
 
-bool ReadOptions(const QStringList& words, Options& options)
+bool ReadOptions(std::span<char* const> words, Options& options)
 {
-  for (qsizetype i = 1; i < words.size(); ++i) {
-    if (words[i] == u"--full") {
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    const std::string_view word = words[i];
+    if (word == "--full") {
       options.full = true;
-    } else if (words[i] == u"--work" && i + 1 < words.size()) {
+    } else if (word == "--work" && i + 1 < words.size()) {
       options.work = words[++i];
-    } else if (options.script.isEmpty() && !words[i].startsWith(u'-')) {
-      options.script = words[i];
+    } else if (options.script.empty() && !word.starts_with('-')) {
+      options.script = word;
     } else {
       return false;
     }
   }
-  return !options.script.isEmpty();
+  return !options.script.empty();
 }
 
-QString SqlText(const QJsonValue& value)
+std::string SqlText(const Json& value)
 {
-  if (value.isNull()) return QStringLiteral("NULL");
-  if (value.isDouble()) return QString::number(value.toInteger());
-  return u'\'' + value.toString().replace(u'\'', QLatin1String("''")) + u'\'';
+  if (value.is_null()) return "NULL";
+  if (value.is_number()) return std::to_string(IntegerOf(value));
+  std::string text = "'";
+  for (const char c : TextOf(value)) text += c == '\'' ? "''" : std::string(1, c);
+  return text + "'";
+}
+
+/// The statements that make the unit database of a script.
+std::string UnitStatements(const Json& units)
+{
+  std::string sql = "CREATE TABLE other (id);\n";
+  if (units.is_array()) {
+    sql += "CREATE TABLE tblUnits (numId, strUnit, strUnitShort, numDimension);\n";
+  }
+  for (const Json& row : ListOf(units)) {
+    std::string values;
+    for (const Json& value : ListOf(row)) values += (values.empty() ? "" : ",") + SqlText(value);
+    sql += "INSERT INTO tblUnits VALUES (" + values + ");\n";
+  }
+  return sql;
 }
 
 /// Makes the unit database of a script, or copies the program's own.
-void MakeUnits(const QJsonObject& header, const fs::path& work)
+void MakeUnits(const Json& header, const fs::path& work)
 {
   const fs::path database = work / "Sondaris" / "Database" / "geo.db";
   fs::create_directories(database.parent_path());
-  if (!header.contains(u"units")) {
+  if (!header.contains("units")) {
     fs::copy_file(HULLWRIGHT_UNIT_DATABASE, database, fs::copy_options::overwrite_existing);
     return;
-  }
-  QString sql = QStringLiteral("CREATE TABLE other (id);\n");
-  if (header[u"units"].isArray()) {
-    sql += QStringLiteral("CREATE TABLE tblUnits (numId, strUnit, strUnitShort, numDimension);\n");
-  }
-  for (const QJsonValue& row : header[u"units"].toArray()) {
-    QStringList values;
-    for (const QJsonValue& value : row.toArray()) values.append(SqlText(value));
-    sql += QStringLiteral("INSERT INTO tblUnits VALUES (%1);\n").arg(values.join(u','));
   }
   const std::string command = "\"" HULLWRIGHT_SQLITE3 "\" \"" + database.string() + "\"";
   std::FILE* const shell = popen(command.c_str(), "w");
   if (shell == nullptr) return;
-  const QByteArray bytes = sql.toUtf8();
-  std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), shell);
+  const std::string sql = UnitStatements(header["units"]);
+  std::fwrite(sql.data(), 1, sql.size(), shell);
   pclose(shell);
 }
 
-void PrepareWork(const QJsonObject& header, ReplayEditor& editor)
+void PrepareWork(const Json& header, ReplayEditor& editor)
 {
   fs::create_directories(editor.work / "Sondaris" / "Tracing");
   MakeUnits(header, editor.work);
-  const QJsonObject settings = header[u"settings"].toObject();
-  for (auto key = settings.begin(); key != settings.end(); ++key) {
-    editor.settings.values[key.key().toStdString()] =
-        static_cast<std::int32_t>(key.value().toInteger());
+  for (const auto& [key, value] : MembersOf(Member(header, "settings")).items()) {
+    editor.settings.values[SettingOf(key)] = static_cast<std::int32_t>(IntegerOf(value));
   }
-  const QJsonObject files = header[u"files"].toObject();
-  for (auto file = files.begin(); file != files.end(); ++file) {
-    const fs::path path = editor.work / file.key().toStdString();
+  for (const auto& [name, content] : MembersOf(Member(header, "files")).items()) {
+    const fs::path path = editor.work / name;
     fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << BytesOf(file.value());
+    std::ofstream(path, std::ios::binary) << BytesOf(content);
   }
-}
-
-/// Puts numbers that are minus zero in quotes: the toolkit's parser takes them for integers, which
-/// have no sign there, and a number may be a text as well.
-QByteArray KeepMinusZeros(const QByteArray& line)
-{
-  static const QRegularExpression tokens(
-      QStringLiteral(R"re("(?:[^"\\]++|\\.)*+"|(-0(?:\.0*)?(?:[eE][+-]?\d+)?)(?=\s*[,\]}]))re"));
-  const QString text = QString::fromUtf8(line);
-  QString out;
-  qsizetype copied = 0;
-  for (auto all = tokens.globalMatch(text); all.hasNext();) {
-    const QRegularExpressionMatch match = all.next();
-    if (match.captured(1).isEmpty()) continue;
-    out += text.mid(copied, match.capturedStart(1) - copied) + QStringLiteral("\"-0.0\"");
-    copied = match.capturedEnd(1);
-  }
-  return (out + text.mid(copied)).toUtf8();
 }
 
 /// The lines of a script; false with a word on standard error where one is no object.
-bool ReadScript(const QString& path, std::vector<QJsonObject>& lines)
+bool ReadScript(const std::string& path, std::vector<Json>& lines)
 {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    std::fprintf(stderr, "hullwright-replay: %s: can't be read\n", qPrintable(path));
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    std::fprintf(stderr, "hullwright-replay: %s: can't be read\n", path.c_str());
     return false;
   }
+  constexpr const char* blanks = " \t\r";
   int number = 0;
-  for (const QByteArray& line : file.readAll().split('\n')) {
+  for (std::string line; std::getline(file, line);) {
     ++number;
-    const QByteArray trimmed = line.trimmed();
-    if (trimmed.isEmpty() || trimmed.startsWith('#')) continue;
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(KeepMinusZeros(trimmed), &error);
-    if (!document.isObject()) {
-      std::fprintf(stderr, "hullwright-replay: %s:%d: %s\n", qPrintable(path), number,
-                   qPrintable(error.errorString()));
-      return false;
+    const std::size_t first = line.find_first_not_of(blanks);
+    if (first == std::string::npos || line[first] == '#') continue;
+    try {
+      lines.push_back(ParseLine(line));
+      if (lines.back().is_object()) continue;
+      std::fprintf(stderr, "hullwright-replay: %s:%d: no object\n", path.c_str(), number);
+    } catch (const Json::exception& problem) {
+      std::fprintf(stderr, "hullwright-replay: %s:%d: %s\n", path.c_str(), number, problem.what());
     }
-    lines.push_back(document.object());
+    return false;
   }
   return true;
 }
 
-void Play(const std::vector<QJsonObject>& lines, const fs::path& work, bool full)
+void Play(const std::vector<Json>& lines, const fs::path& work, bool full)
 {
-  const bool hasHeader = !lines.empty() && !lines.front().contains(u"do");
-  const QJsonObject header = hasHeader ? lines.front() : QJsonObject();
+  const bool hasHeader = !lines.empty() && !lines.front().contains("do");
+  const Json header = hasHeader ? lines.front() : Json::object();
   ReplayEditor editor(work);
   PrepareWork(header, editor);
-  editor.Start(header.contains(u"open")
-                   ? std::optional<std::string>(header[u"open"].toString().toStdString())
-                   : std::nullopt);
+  editor.Start(header.contains("open") ? std::optional(TextOf(header["open"])) : std::nullopt);
   Player player(editor);
   JsonWriter json(stdout);
   for (std::size_t i = hasHeader ? 1 : 0; i < lines.size(); ++i) {
@@ -154,21 +139,30 @@ void Play(const std::vector<QJsonObject>& lines, const fs::path& work, bool full
   }
 }
 
+int Run(std::span<char* const> words)
+{
+  Options options;
+  if (!ReadOptions(words, options)) {
+    std::fputs("Usage: hullwright-replay SCRIPT [--work DIR] [--full]\n", stderr);
+    return exitUsage;
+  }
+  std::vector<Json> lines;
+  if (!ReadScript(options.script, lines)) return exitFailed;
+  const test::TempFolder temporary;
+  const fs::path work = options.work.empty() ? temporary.Path() : fs::path(options.work);
+  fs::create_directories(work);
+  Play(lines, work, options.full);
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
-  const QCoreApplication application(argc, argv);
-  Options options;
-  if (!ReadOptions(QCoreApplication::arguments(), options)) {
-    std::fputs("Usage: hullwright-replay SCRIPT [--work DIR] [--full]\n", stderr);
-    return exitUsage;
+  try {
+    return Run({argv, static_cast<std::size_t>(argc)});
+  } catch (const std::exception& problem) {
+    std::fprintf(stderr, "hullwright-replay: %s\n", problem.what());
+    return exitFailed;
   }
-  std::vector<QJsonObject> lines;
-  if (!ReadScript(options.script, lines)) return exitFailed;
-  const QTemporaryDir temporary;
-  const QString work = options.work.isEmpty() ? temporary.path() : options.work;
-  fs::create_directories(work.toStdString());
-  Play(lines, work.toStdString(), options.full);
-  return 0;
 }

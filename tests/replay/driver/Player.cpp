@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <fstream>
 
@@ -14,45 +15,58 @@
 namespace hullwright::replay {
 namespace {
 
-ClientPoint PointOf(const QJsonObject& step) { return {step[u"x"].toInt(), step[u"y"].toInt()}; }
+ClientPoint PointOf(const Json& step)
+{
+  return {IntOf(Member(step, "x")), IntOf(Member(step, "y"))};
+}
 
-std::string NameOf(const QJsonValue& value) { return value.toString().toStdString(); }
-
-std::vector<std::size_t> PathOf(const QJsonValue& value)
+std::vector<std::size_t> PathOf(const Json& value)
 {
   // A number that is no child's leads nowhere.
   std::vector<std::size_t> path;
-  for (const QJsonValue& number : value.toArray()) {
-    path.push_back(static_cast<std::size_t>(number.toInteger()));
+  for (const Json& number : ListOf(value)) {
+    path.push_back(static_cast<std::size_t>(IntegerOf(number)));
   }
   return path;
 }
 
+/// The id that a member is called; 0 for what is no number.
+int IdOf(const std::string& name)
+{
+  int id = 0;
+  const char* const end = name.data() + name.size();
+  return std::from_chars(name.data(), end, id).ptr == end ? id : 0;
+}
+
 /// Texts by the ids of their fields.
-std::map<int, std::u16string> TextsOf(const QJsonObject& object)
+std::map<int, std::u16string> TextsOf(const Json& object)
 {
   std::map<int, std::u16string> texts;
-  for (auto text = object.begin(); text != object.end(); ++text) {
-    texts[text.key().toInt()] = WideOf(text.value());
-  }
+  for (const auto& [id, text] : MembersOf(object).items()) texts[IdOf(id)] = WideOf(text);
   return texts;
 }
 
-test::DialogScript DialogOf(const QJsonObject& object)
+DialogScript DialogOf(const Json& object)
 {
-  test::DialogScript script;
-  const QString end = object[u"end"].toString();
-  script.ok = end == u"ok" || end == u"dblclick";
-  script.fields = TextsOf(object[u"fields"].toObject());
-  script.typed = TextsOf(object[u"type"].toObject());
-  const QJsonObject checks = object[u"checks"].toObject();
-  for (auto check = checks.begin(); check != checks.end(); ++check) {
-    script.clicks.emplace_back(check.key().toInt(), check.value().toBool());
+  DialogScript script;
+  const std::string end = TextOf(Member(object, "end"));
+  script.ok = end == "ok" || end == "dblclick";
+  script.fields = TextsOf(Member(object, "fields"));
+  script.typed = TextsOf(Member(object, "type"));
+  for (const auto& [id, check] : MembersOf(Member(object, "checks")).items()) {
+    script.clicks.emplace_back(IdOf(id), BoolOf(check));
   }
-  const QJsonValue select = object[u"select"];
-  if (select.isDouble()) script.select = static_cast<std::size_t>(select.toInteger());
-  script.selectNothing = select.isNull();
+  const Json& select = Member(object, "select");
+  if (select.is_number()) script.select = static_cast<std::size_t>(IntegerOf(select));
+  script.selectNothing = object.contains("select") && select.is_null();
   return script;
+}
+
+Value BandOf(const KeptPointer& pointer)
+{
+  Value::List band;
+  for (const auto& [from, to] : pointer.lines) band.push_back(Row(from.x, from.y, to.x, to.y));
+  return band;
 }
 
 }  // namespace
@@ -98,25 +112,27 @@ Player::Handler Player::FindHandler(const std::string& name)
   return found == handlers.end() ? nullptr : found->handler;
 }
 
-void Player::Prepare(const QJsonObject& step)
+void Player::Prepare(const Json& step)
 {
   editor_.events.clear();
-  editor_.messages.Reset();
-  for (const QJsonValue& answer : step[u"answers"].toArray()) {
-    editor_.messages.answers.push_back(answer.toString() == u"yes");
+  std::vector<bool> answers;
+  for (const Json& answer : ListOf(Member(step, "answers"))) {
+    answers.push_back(TextOf(answer) == "yes");
   }
+  editor_.Answer(std::move(answers));
   editor_.dialogs.reports.clear();
-  editor_.dialogs.script = DialogOf(step[u"dialog"].toObject());
+  editor_.dialogs.script = DialogOf(Member(step, "dialog"));
   editor_.pointer.menu = {};
-  editor_.pointer.band.clear();
-  editor_.pointer.file.reset();
-  if (step.contains(u"file")) editor_.pointer.file = editor_.PathOf(NameOf(step[u"file"]));
+  editor_.pointer.lines.clear();
+  editor_.fileDialogs.answer.reset();
+  if (step.contains("file"))
+    editor_.fileDialogs.answer = editor_.PathOf(TextOf(Member(step, "file")));
   written_.reset();
 }
 
-Value Player::Play(const QJsonObject& step, Detail detail)
+Value Player::Play(const Json& step, Detail detail)
 {
-  const std::string name = NameOf(step[u"do"]);
+  const std::string name = TextOf(Member(step, "do"));
   Prepare(step);
   const Handler handler = FindHandler(name);
   Value result = handler == nullptr ? Value("unknown step") : (this->*handler)(step);
@@ -124,10 +140,10 @@ Value Player::Play(const QJsonObject& step, Detail detail)
                           {"do", name},
                           {"result", std::move(result)},
                           {"events", editor_.events},
-                          {"messages", editor_.messages.shown},
+                          {"messages", editor_.boxes},
                           {"dialogs", editor_.dialogs.reports},
                           {"menu", editor_.pointer.menu},
-                          {"band", editor_.pointer.band}};
+                          {"band", BandOf(editor_.pointer)}};
   if (detail != Detail::Events) ReportState(report, detail == Detail::Full);
   return report;
 }
@@ -146,144 +162,146 @@ void Player::ReportState(Value::Object& report, bool full)
   if (full) report["state"] = std::move(state);
 }
 
-Value Player::Size(const QJsonObject& step)
+Value Player::Size(const Json& step)
 {
-  editor_.view.OnSize(step[u"cx"].toInt(), step[u"cy"].toInt());
+  editor_.view.OnSize(IntOf(Member(step, "cx")), IntOf(Member(step, "cy")));
   return {};
 }
 
-Value Player::Mouse(const QJsonObject& step)
+Value Player::Mouse(const Json& step)
 {
-  const QString name = step[u"do"].toString();
+  const std::string name = TextOf(Member(step, "do"));
   const ClientPoint point = PointOf(step);
-  if (name == u"mousemove") editor_.view.OnMouseMove(step[u"left"].toBool(), point);
-  if (name == u"lbuttondown") editor_.view.OnLButtonDown(point);
-  if (name == u"lbuttonup") editor_.view.OnLButtonUp(point);
-  if (name == u"rbuttondown") editor_.view.OnRButtonDown(point);
+  if (name == "mousemove") editor_.view.OnMouseMove(BoolOf(Member(step, "left")), point);
+  if (name == "lbuttondown") editor_.view.OnLButtonDown(point);
+  if (name == "lbuttonup") editor_.view.OnLButtonUp(point);
+  if (name == "rbuttondown") editor_.view.OnRButtonDown(point);
   return {};
 }
 
-Value Player::Wheel(const QJsonObject& step)
+Value Player::Wheel(const Json& step)
 {
-  editor_.view.OnMouseWheel(step[u"delta"].toInt(), PointOf(step));
+  editor_.view.OnMouseWheel(IntOf(Member(step, "delta")), PointOf(step));
   return {};
 }
 
-Value Player::SetCursor(const QJsonObject& step)
+Value Player::SetCursor(const Json& step)
 {
   constexpr int clientArea = 1;
-  if (step[u"hit"].toInt() == clientArea) editor_.view.OnSetCursor();
+  if (IntOf(Member(step, "hit")) == clientArea) editor_.view.OnSetCursor();
   return {};
 }
 
-Value Player::Command(const QJsonObject& step)
+Value Player::Command(const Json& step)
 {
-  editor_.frame.OnCommand(step[u"id"].toInt());
+  editor_.frame.OnCommand(IntOf(Member(step, "id")));
   return {};
 }
 
-Value Player::Menu(const QJsonObject& step)
+Value Player::Menu(const Json& step)
 {
-  editor_.view.OnMenuCommand(step[u"id"].toInt());
+  editor_.view.OnMenuCommand(IntOf(Member(step, "id")));
   return {};
 }
 
-Value Player::TreeClick(const QJsonObject& step)
+Value Player::TreeClick(const Json& step)
 {
-  editor_.pane.OnClick(editor_.ItemAt(PathOf(step[u"path"])));
+  editor_.pane.OnClick(editor_.ItemAt(PathOf(Member(step, "path"))));
   return {};
 }
 
-Value Player::TreeMenu(const QJsonObject& step)
+Value Player::TreeMenu(const Json& step)
 {
-  const TreeItem item = editor_.ItemAt(PathOf(step[u"path"]));
+  const TreeItem item = editor_.ItemAt(PathOf(Member(step, "path")));
   if (item) editor_.pane.OnContextMenu(item);
   return {};
 }
 
-Value Player::TreeCommand(const QJsonObject& step)
+Value Player::TreeCommand(const Json& step)
 {
-  editor_.pane.selectedItem =
-      step[u"select"].isArray() ? editor_.ItemAt(PathOf(step[u"select"])) : TreeItem();
-  editor_.pane.OnCommand(step[u"id"].toInt());
+  editor_.pane.selectedItem = Member(step, "select").is_array()
+                                  ? editor_.ItemAt(PathOf(Member(step, "select")))
+                                  : TreeItem();
+  editor_.pane.OnCommand(IntOf(Member(step, "id")));
   return {};
 }
 
-Value Player::StatusClick(const QJsonObject& step)
+Value Player::StatusClick(const Json& step)
 {
   constexpr int unitsPane = 2;
-  if (step[u"pane"].toInt() == unitsPane) editor_.frame.OnCommand(Command::Units);
+  if (IntOf(Member(step, "pane")) == unitsPane) editor_.frame.OnCommand(Command::Units);
   return {};
 }
 
-Value Player::User(const QJsonObject& step)
+Value Player::User(const Json& step)
 {
-  const int code = step[u"wparam"].toInt();
-  if (step[u"to"].toString() == u"view") {
+  const int code = IntOf(Member(step, "wparam"));
+  if (TextOf(Member(step, "to")) == "view") {
     editor_.view.OnUser(code);
     return {};
   }
-  editor_.frame.listing = false;
-  editor_.frame.CMainFrame::Notify(code, 0);
-  editor_.frame.listing = true;
+  editor_.listener.listing = false;
+  editor_.frame.Notify(code, 0);
+  editor_.listener.listing = true;
   return {};
 }
 
-Value Player::New(const QJsonObject&)
+Value Player::New(const Json&)
 {
   const bool done = editor_.document.OnNewDocument();
   editor_.document.SetModifiedFlag(false);
   return done;
 }
 
-Value Player::Open(const QJsonObject& step)
+Value Player::Open(const Json& step)
 {
-  const bool done = editor_.document.OnOpenDocument(editor_.PathOf(NameOf(step[u"path"])));
+  const bool done = editor_.document.OnOpenDocument(editor_.PathOf(TextOf(Member(step, "path"))));
   if (done) editor_.document.SetModifiedFlag(false);
   return done;
 }
 
-Value Player::Save(const QJsonObject& step)
+Value Player::Save(const Json& step)
 {
-  const std::u16string path = editor_.PathOf(NameOf(step[u"path"]));
+  const std::u16string path = editor_.PathOf(TextOf(Member(step, "path")));
   const bool done = editor_.document.OnSaveDocument(path);
   NoteWritten(path);
   return done;
 }
 
-Value Player::WriteFile(const QJsonObject& step)
+Value Player::WriteFile(const Json& step)
 {
-  std::ofstream stream(Utf8FromWide(editor_.PathOf(NameOf(step[u"path"]))), std::ios::binary);
-  stream << BytesOf(step[u"text"]);
+  std::ofstream stream(Utf8FromWide(editor_.PathOf(TextOf(Member(step, "path")))),
+                       std::ios::binary);
+  stream << BytesOf(Member(step, "text"));
   return {};
 }
 
-Value Player::AnchorList(const QJsonObject& step)
+Value Player::AnchorList(const Json& step)
 {
   CAnchors list;
   CAnchorListReader reader(list, editor_.messages);
-  const int rc = reader.Read(editor_.PathOf(NameOf(step[u"path"])));
+  const int rc = reader.Read(editor_.PathOf(TextOf(Member(step, "path"))));
   Value::List items;
   for (const auto& anchor : list.items) items.push_back(Of(*anchor));
   return Value::Object{{"rc", rc}, {"items", std::move(items)}};
 }
 
-Value Player::Setting(const QJsonObject& step)
+Value Player::Setting(const Json& step)
 {
-  const std::string key = NameOf(step[u"key"]);
-  if (step[u"value"].isNull()) {
+  const std::string key = SettingOf(TextOf(Member(step, "key")));
+  if (step.contains("value") && Member(step, "value").is_null()) {
     editor_.settings.values.erase(key);
   } else {
-    editor_.settings.values[key] = static_cast<std::int32_t>(step[u"value"].toInteger());
+    editor_.settings.values[key] = static_cast<std::int32_t>(IntegerOf(Member(step, "value")));
   }
   return {};
 }
 
-Value Player::Trace(const QJsonObject& step)
+Value Player::Trace(const Json& step)
 {
-  const std::u16string category = WideOf(step[u"category"]);
-  editor_.app.Trace(NumberOf(step[u"elapsed"]), step[u"level"].toInt(), category,
-                    WideOf(step[u"text"]));
+  const std::u16string category = WideOf(Member(step, "category"));
+  editor_.commonData.log.Trace(NumberOf(Member(step, "elapsed")), IntOf(Member(step, "level")),
+                               category, WideOf(Member(step, "text")));
   NoteWritten(editor_.PathOf("Sondaris/Tracing/Trace_" + Utf8FromWide(category) + ".txt"));
   return {};
 }
@@ -294,83 +312,84 @@ void Player::NoteWritten(const std::u16string& path)
   if (std::filesystem::is_regular_file(Utf8FromWide(path), isNone)) written_ = path;
 }
 
-Value Player::PutGroup(const QJsonObject& step)
+Value Player::PutGroup(const Json& step)
 {
-  editor_.app.shapeGroups.push_back(std::make_unique<CShapes>(step[u"view"].toInt()));
+  editor_.app.shapeGroups.push_back(std::make_unique<CShapes>(IntOf(Member(step, "view"))));
   return {};
 }
 
-Value Player::PutShape(const QJsonObject& step)
+Value Player::PutShape(const Json& step)
 {
   auto& groups = editor_.app.shapeGroups;
   CShapes* group = nullptr;
-  if (step.contains(u"view")) {
-    group = GetShapes(groups, step[u"view"].toInt());
-  } else if (const auto index = static_cast<std::size_t>(step[u"group"].toInteger());
+  if (step.contains("view")) {
+    group = GetShapes(groups, IntOf(Member(step, "view")));
+  } else if (const auto index = static_cast<std::size_t>(IntegerOf(Member(step, "group")));
              index < groups.size()) {
     group = groups[index].get();
   }
-  if (group != nullptr) group->shapes.push_back(ShapeOf(step[u"shape"].toObject()));
+  if (group != nullptr) group->shapes.push_back(ShapeOf(Member(step, "shape")));
   return {};
 }
 
-Value Player::PutAnchor(const QJsonObject& step)
+Value Player::PutAnchor(const Json& step)
 {
-  const QJsonObject object = step[u"anchor"].toObject();
+  const Json& object = Member(step, "anchor");
   auto anchor = std::make_unique<CAnchor>();
-  anchor->id = static_cast<std::uint32_t>(object[u"id"].toInteger(anchor->id));
-  anchor->name = WideOf(object[u"name"]);
-  anchor->visible = object[u"visible"].toBool(anchor->visible);
-  anchor->marked = object[u"marked"].toBool(anchor->marked);
-  anchor->vessel = static_cast<std::uint16_t>(object[u"vessel"].toInt());
-  anchor->attachmentX = NumberOf(object[u"attachmentX"]);
-  anchor->attachmentY = NumberOf(object[u"attachmentY"]);
-  anchor->easting = NumberOf(object[u"easting"]);
-  anchor->northing = NumberOf(object[u"northing"]);
-  anchor->state = object[u"state"].toInt();
+  anchor->id = static_cast<std::uint32_t>(IntegerOf(Member(object, "id"), anchor->id));
+  anchor->name = WideOf(Member(object, "name"));
+  anchor->visible = BoolOf(Member(object, "visible"), anchor->visible);
+  anchor->marked = BoolOf(Member(object, "marked"), anchor->marked);
+  anchor->vessel = static_cast<std::uint16_t>(IntOf(Member(object, "vessel")));
+  anchor->attachmentX = NumberOf(Member(object, "attachmentX"));
+  anchor->attachmentY = NumberOf(Member(object, "attachmentY"));
+  anchor->easting = NumberOf(Member(object, "easting"));
+  anchor->northing = NumberOf(Member(object, "northing"));
+  anchor->state = IntOf(Member(object, "state"));
   editor_.app.anchors->items.push_back(std::move(anchor));
   return {};
 }
 
-Value Player::SetOffset(const QJsonObject& step)
+Value Player::SetOffset(const Json& step)
 {
-  const QString which = step[u"which"].toString();
-  CShapeVertex& offset = which == u"gps"   ? *editor_.app.offsetGps
-                         : which == u"txd" ? *editor_.app.offsetTransducer
-                                           : *editor_.app.offsetPivot;
-  offset.x = NumberOf(step[u"x"]);
-  offset.y = NumberOf(step[u"y"]);
-  offset.z = NumberOf(step[u"z"]);
+  const std::string which = TextOf(Member(step, "which"));
+  CShapeVertex& offset = which == "gps"   ? *editor_.app.offsetGps
+                         : which == "txd" ? *editor_.app.offsetTransducer
+                                          : *editor_.app.offsetPivot;
+  offset.x = NumberOf(Member(step, "x"));
+  offset.y = NumberOf(Member(step, "y"));
+  offset.z = NumberOf(Member(step, "z"));
   return {};
 }
 
-Value Player::SetUnit(const QJsonObject& step)
+Value Player::SetUnit(const Json& step)
 {
-  editor_.app.unitCode = static_cast<std::int32_t>(step[u"value"].toInteger());
+  editor_.app.unitCode = static_cast<std::int32_t>(IntegerOf(Member(step, "value")));
   return {};
 }
 
-Value Player::SetRotation(const QJsonObject& step)
+Value Player::SetRotation(const Json& step)
 {
-  editor_.view.viewPort->SetRotation(NumberOf(step[u"value"]));
+  editor_.view.viewPort->SetRotation(NumberOf(Member(step, "value")));
   return {};
 }
 
-Value Player::SetViewPort(const QJsonObject& step)
+Value Player::SetViewPort(const Json& step)
 {
   CViewPort& v = *editor_.view.viewPort;
-  v.left = NumberOf(step[u"left"]);
-  v.right = NumberOf(step[u"right"]);
-  v.bottom = NumberOf(step[u"bottom"]);
-  v.top = NumberOf(step[u"top"]);
+  v.left = NumberOf(Member(step, "left"));
+  v.right = NumberOf(Member(step, "right"));
+  v.bottom = NumberOf(Member(step, "bottom"));
+  v.top = NumberOf(Member(step, "top"));
   v.width = std::abs(v.right - v.left);
   v.height = std::abs(v.top - v.bottom);
   return {};
 }
 
-Value Player::Call(const QJsonObject& step)
+Value Player::Call(const Json& step)
 {
-  const auto result = CallOperation(editor_, NameOf(step[u"fn"]), step[u"args"].toArray());
+  const auto result =
+      CallOperation(editor_, TextOf(Member(step, "fn")), ListOf(Member(step, "args")));
   return result.value_or("skip");
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QJsonObject>
 #include <optional>
 #include <string>
 
 #include "replay/driver/ReplayEditor.h"
+#include "replay/driver/Script.h"
 
 namespace hullwright::replay {
 
@@ -17,41 +17,41 @@ public:
   explicit Player(ReplayEditor& editor) : editor_(editor) {}
 
   /// Carries one step out; what it reports.
-  Value Play(const QJsonObject& step, Detail detail);
+  Value Play(const Json& step, Detail detail);
 
 private:
-  using Handler = Value (Player::*)(const QJsonObject&);
+  using Handler = Value (Player::*)(const Json&);
   static Handler FindHandler(const std::string& name);
 
-  void Prepare(const QJsonObject& step);
+  void Prepare(const Json& step);
   void ReportState(Value::Object& report, bool full);
-  Value Size(const QJsonObject& step);
-  Value Mouse(const QJsonObject& step);
-  Value Wheel(const QJsonObject& step);
-  Value SetCursor(const QJsonObject& step);
-  Value Command(const QJsonObject& step);
-  Value Menu(const QJsonObject& step);
-  Value TreeClick(const QJsonObject& step);
-  Value TreeMenu(const QJsonObject& step);
-  Value TreeCommand(const QJsonObject& step);
-  Value StatusClick(const QJsonObject& step);
-  Value User(const QJsonObject& step);
-  Value New(const QJsonObject& step);
-  Value Open(const QJsonObject& step);
-  Value Save(const QJsonObject& step);
-  Value WriteFile(const QJsonObject& step);
-  Value AnchorList(const QJsonObject& step);
-  Value Setting(const QJsonObject& step);
-  Value Trace(const QJsonObject& step);
+  Value Size(const Json& step);
+  Value Mouse(const Json& step);
+  Value Wheel(const Json& step);
+  Value SetCursor(const Json& step);
+  Value Command(const Json& step);
+  Value Menu(const Json& step);
+  Value TreeClick(const Json& step);
+  Value TreeMenu(const Json& step);
+  Value TreeCommand(const Json& step);
+  Value StatusClick(const Json& step);
+  Value User(const Json& step);
+  Value New(const Json& step);
+  Value Open(const Json& step);
+  Value Save(const Json& step);
+  Value WriteFile(const Json& step);
+  Value AnchorList(const Json& step);
+  Value Setting(const Json& step);
+  Value Trace(const Json& step);
   void NoteWritten(const std::u16string& path);  ///< if it is a file
-  Value PutGroup(const QJsonObject& step);
-  Value PutShape(const QJsonObject& step);
-  Value PutAnchor(const QJsonObject& step);
-  Value SetOffset(const QJsonObject& step);
-  Value SetUnit(const QJsonObject& step);
-  Value SetRotation(const QJsonObject& step);
-  Value SetViewPort(const QJsonObject& step);
-  Value Call(const QJsonObject& step);
+  Value PutGroup(const Json& step);
+  Value PutShape(const Json& step);
+  Value PutAnchor(const Json& step);
+  Value SetOffset(const Json& step);
+  Value SetUnit(const Json& step);
+  Value SetRotation(const Json& step);
+  Value SetViewPort(const Json& step);
+  Value Call(const Json& step);
 
   ReplayEditor& editor_;
   int number_ = 0;
@@ -60,6 +60,6 @@ private:
 
 /// Carries out a single operation on an editor; nothing for a name that is none.
 std::optional<Value> CallOperation(ReplayEditor& editor, const std::string& name,
-                                   const QJsonArray& arguments);
+                                   const Json& arguments);
 
 }  // namespace hullwright::replay

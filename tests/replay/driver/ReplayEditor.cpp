@@ -58,12 +58,9 @@ DialogFields FieldsOf(int id)
 
 }  // namespace
 
-bool ReplayMessages::AskYesNo(std::u16string_view question)
+std::string SettingOf(const std::string& key)
 {
-  const bool yes = next_ < answers.size() && answers[next_];
-  ++next_;
-  shown.push_back(Row(question, "yesno", yes ? "yes" : "no"));
-  return yes;
+  return (key == "ApplicationLook" ? "Workspace/" : "Grid/") + key;
 }
 
 DialogEnd ReplayDialogs::Run(IDialog& dialog)
@@ -154,45 +151,55 @@ Value ReportNodes(const std::vector<ReplayTree::Node>& nodes)
 
 Value ReplayTree::Report() const { return ReportNodes(snapshot); }
 
-void ReplayFrame::Notify(int code, std::intptr_t value)
+void ReplayListener::Notify(int code, std::intptr_t)
 {
   if (listing && code == Notification::RepaintDesign) events_.emplace_back("repaint");
   if (listing && code == Notification::RebuildTree) events_.emplace_back("tree");
-  CMainFrame::Notify(code, value);
 }
 
-void ReplayFrame::SetModifiedFlag(bool modified)
+void ReplayListener::SetModifiedFlag(bool modified)
 {
   events_.emplace_back(modified ? "modified" : "clean");
-  CMainFrame::SetModifiedFlag(modified);
 }
 
 ReplayEditor::ReplayEditor(std::filesystem::path folder)
     : work(std::move(folder)),
-      app({settings, messages, libraries, dialogs, pointer,
-           [this](CommonData) { return PathOf(""); }}),
-      frame(app, widgets, events),
-      document(app, frame, messages),
-      view(app, app, {messages, pointer, pointer, pointer}),
-      tree(pointer),
-      pane(app, tree)
+      commonData(messages, [this](CommonData) { return PathOf(""); }),
+      editor({.settings = settings,
+              .messages = messages,
+              .dialogs = dialogs,
+              .fileDialogs = fileDialogs,
+              .units = commonData.units,
+              .log = commonData.log,
+              .widgets = widgets,
+              .tree = tree,
+              .cursor = pointer,
+              .rubberBand = pointer,
+              .popupMenu = pointer,
+              .listener = &listener})
 {
   recorder.width = recorder.height = 0;
   recorder.onFrame = [this] {
     recorder.calls.clear();
     events.emplace_back("frame");
   };
+  messages.onShow = [this] { boxes.push_back(Row(messages.shown.back(), "ok", "ok")); };
+  messages.onQuestion = [this] { AnswerQuestion(); };
   tree.pane = &pane;
-  frame.document = &document;
-  frame.view = &view;
-  frame.objectView = &pane;
 }
 
-ReplayEditor::~ReplayEditor()
+void ReplayEditor::Answer(std::vector<bool> answers)
 {
-  frame.objectView = nullptr;
-  frame.view = nullptr;
-  frame.document = nullptr;
+  boxes.clear();
+  answers_ = std::move(answers);
+  next_ = 0;
+}
+
+void ReplayEditor::AnswerQuestion()
+{
+  messages.answer = next_ < answers_.size() && answers_[next_];
+  ++next_;
+  boxes.push_back(Row(messages.asked.back(), "yesno", messages.answer ? "yes" : "no"));
 }
 
 void ReplayEditor::Start(std::optional<std::string> file)

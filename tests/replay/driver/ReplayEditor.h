@@ -1,93 +1,44 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/HullwrightApp.h"
-#include "app/MainFrame.h"
-#include "app/ObjectView.h"
-#include "app/SharedLibraries.h"
-#include "cli/HeadlessEditor.h"
-#include "file/HullwrightDoc.h"
+#include "app/Editor.h"
 #include "headless/DrawingRecorder.h"
+#include "headless/FileAnswers.h"
+#include "headless/KeptMessages.h"
+#include "headless/KeptPointer.h"
+#include "headless/MemorySettings.h"
+#include "headless/NoTree.h"
+#include "headless/NoWidgets.h"
+#include "headless/ScriptedDialogs.h"
+#include "headless/SilentWindow.h"
 #include "replay/driver/Value.h"
-#include "support/ScriptedDialogs.h"
-#include "view/HullwrightView.h"
+#include "system/CommonDataPorts.h"
 
 namespace hullwright::replay {
 
-/// The settings store as its keys, without their sections.
-class ReplaySettings : public ISettingsStore {
-public:
-  std::int32_t ReadInteger(std::string_view, std::string_view key,
-                           std::int32_t fallback) const override
-  {
-    const auto found = values.find(key);
-    return found == values.end() ? fallback : found->second;
-  }
-  void WriteInteger(std::string_view, std::string_view key, std::int32_t value) override
-  {
-    values.insert_or_assign(std::string(key), value);
-  }
-  std::map<std::string, std::int32_t, std::less<>> values;
-};
-
-/// Message boxes that are answered by a script, and what they showed.
-class ReplayMessages : public IMessageBoxes {
-public:
-  void ShowMessage(std::u16string_view text) override { shown.push_back(Row(text, "ok", "ok")); }
-  bool AskYesNo(std::u16string_view question) override;
-  std::vector<bool> answers;  ///< in order; missing ones are no
-  Value::List shown;
-
-private:
-  std::size_t next_ = 0;
-
-public:
-  void Reset()
-  {
-    answers.clear();
-    shown.clear();
-    next_ = 0;
-  }
-};
-
 /// Dialogs that run by a script, and what they showed.
-class ReplayDialogs : public test::ScriptedDialogs {
+class ReplayDialogs : public ScriptedDialogs {
 public:
   DialogEnd Run(IDialog& dialog) override;
   Value::List reports;
 };
 
-/// Pointer, rubber band and context menus of the view.
-class ReplayPointer : public ICursor, public IRubberBand, public IPopupMenu, public IFileDialogs {
+/// The pointer, with the context menus of view and tree as reports show them.
+class ReplayPointer : public KeptPointer {
 public:
-  void SetCursor(CursorShape shape) override { cursor = shape; }
-  void InvertLine(ClientPoint from, ClientPoint to) override
-  {
-    band.push_back(Row(from.x, from.y, to.x, to.y));
-  }
   void Show(std::span<const PopupEntry> entries, ClientPoint) override { Offer(entries); }
   void Offer(std::span<const PopupEntry> entries);
-  std::optional<std::u16string> AskOpen(std::u16string_view, std::u16string_view) override
-  {
-    return file;
-  }
-
-  std::optional<CursorShape> cursor;
-  Value::List band;
   Value menu;
-  std::optional<std::u16string> file;  ///< what the next question for a file is answered with
 };
 
 /// The object tree as a control holds it: texts stay as they were at the last rebuild.
-class ReplayTree : public ITreeControl {
+class ReplayTree : public NoTree {
 public:
   explicit ReplayTree(ReplayPointer& pointer) : pointer_(pointer) {}
-  void BeforeRebuild() override {}
   void Rebuilt() override { snapshot = Children(nullptr); }
   void ImagesChanged() override;
   void ShowMenu(std::span<const PopupEntry> entries) override { pointer_.Offer(entries); }
@@ -112,13 +63,10 @@ private:
   ReplayPointer& pointer_;
 };
 
-/// The frame, and what passes through it.
-class ReplayFrame : public CMainFrame {
+/// Writes down what the frame is told.
+class ReplayListener : public SilentWindow {
 public:
-  ReplayFrame(CHullwrightApp& app, IFrameWidgets& widgets, Value::List& events)
-      : CMainFrame(app, widgets), events_(events)
-  {
-  }
+  explicit ReplayListener(Value::List& events) : events_(events) {}
   void Notify(int code, std::intptr_t value) override;
   void SetModifiedFlag(bool modified) override;
   bool listing = true;  ///< whether notifications are written down
@@ -131,10 +79,12 @@ private:
 class ReplayEditor : public IFramework {
 public:
   explicit ReplayEditor(std::filesystem::path work);
-  ~ReplayEditor() override;
 
   /// Starts the program, with a design if one is named.
   void Start(std::optional<std::string> file);
+
+  /// Begins a step: nothing has been shown, and questions are answered in this order, then with no.
+  void Answer(std::vector<bool> answers);
 
   /// A name of the script as a path in the work folder.
   std::u16string PathOf(const std::string& name) const;
@@ -159,24 +109,34 @@ public:
 
   std::filesystem::path work;
   Value::List events;
-  ReplaySettings settings;
-  ReplayMessages messages;
+  Value::List boxes;  ///< what message boxes showed in this step, and how they ended
+  MemorySettings settings;
+  KeptMessages messages;
   ReplayDialogs dialogs;
+  FileAnswers fileDialogs;
   ReplayPointer pointer;
+  ReplayTree tree{pointer};
+  ReplayListener listener{events};
   NoWidgets widgets;
-  SharedLibraries libraries;
+  CommonDataPorts commonData;
   DrawingRecorder recorder;  ///< keeps the last frame only
-  CHullwrightApp app;
-  ReplayFrame frame;
-  CHullwrightDoc document;
-  CHullwrightView view;
-  ReplayTree tree;
-  CObjectView pane;
+  Editor editor;
+  CHullwrightApp& app = editor.app;
+  CMainFrame& frame = editor.frame;
+  CHullwrightDoc& document = editor.document;
+  CHullwrightView& view = editor.view;
+  CObjectView& pane = editor.objects;
 
 private:
+  void AnswerQuestion();
+
   std::optional<std::string> file_;
+  std::vector<bool> answers_;
+  std::size_t next_ = 0;  ///< of the answers
 };
 
+/// What the settings store calls a setting, of which a script has the key alone.
+std::string SettingOf(const std::string& key);
 /// A vertex as three coordinates, or with its carried fields where one is set.
 Value Of(const CShapeVertex& vertex);
 

@@ -119,7 +119,7 @@ Value ViewPortOf(const CViewPort& v)
 Value ViewOf(ReplayEditor& editor)
 {
   CHullwrightView& view = editor.view;
-  const auto& cursor = editor.pointer.cursor;
+  const auto& cursors = editor.pointer.shapes;
   return Value::Object{
       {"viewPort", ViewPortOf(*view.viewPort)},
       {"cursorTool", editor.app.cursorTool},
@@ -134,13 +134,16 @@ Value ViewOf(ReplayEditor& editor)
       {"newShape", view.newShape ? Of(view.newShape->vertices) : Value()},
       {"statusText", view.statusText},
       {"unitsPane", view.UnitsPaneText()},
-      {"cursor", !cursor ? Value() : Value(*cursor == CursorShape::Hand ? "hand" : "cross")}};
+      {"cursor",
+       cursors.empty() ? Value() : Value(cursors.back() == CursorShape::Hand ? "hand" : "cross")}};
 }
 
 Value ShellOf(const ReplayEditor& editor)
 {
   Value::Object settings;
-  for (const auto& [key, value] : editor.settings.values) settings[key] = value;
+  for (const auto& [setting, value] : editor.settings.values) {
+    settings[setting.substr(setting.find('/') + 1)] = value;
+  }
   Value::Object checks;
   for (const int id : {Command::ToggleGrid, Command::ToggleSnap, Command::CursorZoomIn,
                        Command::CursorZoomOut, Command::CursorMove, Command::DrawPolyline}) {

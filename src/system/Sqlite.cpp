@@ -1,4 +1,4 @@
-#include "app/Sqlite.h"
+#include "system/Sqlite.h"
 
 #include <algorithm>
 

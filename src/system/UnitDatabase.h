@@ -1,22 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/LibraryLoader.h"
 #include "platform/MessageBoxes.h"
+#include "platform/UnitDatabase.h"
 
 namespace hullwright {
-
-/// One row of the table of length units.
-struct UnitRecord {
-  std::u16string strUnitShort;
-  std::u16string strUnit;
-  std::int32_t numId = 0;  ///< EPSG code
-};
 
 /// Path of the unit database in the common data folder; relative for an empty folder.
 std::u16string GetDatabasePath(std::u16string_view commonDataFolder);
@@ -26,5 +20,26 @@ std::u16string GetDatabasePath(std::u16string_view commonDataFolder);
 /// that is null keeps the value of the row before.
 std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
                                   std::u16string_view databasePath);
+
+/// The unit database in the common data folder.
+class UnitDatabase : public IUnitDatabase {
+public:
+  /// `commonDataFolder` tells the folder at each reading, since it may come to be during the run.
+  UnitDatabase(ILibraryLoader& loader, IMessageBoxes& messages,
+               std::function<std::u16string()> commonDataFolder)
+      : loader_(loader), messages_(messages), folder_(std::move(commonDataFolder))
+  {
+  }
+
+  std::vector<UnitRecord> ReadUnits() override
+  {
+    return hullwright::ReadUnits(loader_, messages_, GetDatabasePath(folder_()));
+  }
+
+private:
+  ILibraryLoader& loader_;
+  IMessageBoxes& messages_;
+  std::function<std::u16string()> folder_;
+};
 
 }  // namespace hullwright

@@ -1,9 +1,11 @@
-#include "app/CommonDataFolder.h"
+#include "system/CommonDataFolder.h"
 
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "support/AppFixture.h"
+#include "headless/KeptMessages.h"
+#include "support/TempFolder.h"
+#include "system/CommonDataPorts.h"
 
 namespace hullwright {
 namespace {
@@ -118,41 +120,43 @@ protected:
     return folder.Read(name + "/Sondaris/Tracing/Trace_General.txt");
   }
 
-  test::FakeSettings settings;
-  test::FakeMessages messages;
-  SharedLibraries libraries;
-  test::ScriptedDialogs dialogs;
-  test::FakeFileDialogs fileDialogs;
-  CHullwrightApp app{{settings, messages, libraries, dialogs, fileDialogs,
-                      [this](CommonData what) { return CommonDataFolder(candidates, what); }}};
+  std::u16string FirstUnit()
+  {
+    const std::vector<UnitRecord> units = ports.units.ReadUnits();
+    return units.empty() ? std::u16string() : units.front().strUnit;
+  }
+
+  KeptMessages messages;
+  CommonDataPorts ports{messages,
+                        [this](CommonData what) { return CommonDataFolder(candidates, what); }};
 };
 
 TEST_F(CommonDataOfTheProgram, TheUsersFolderOfLogsSwitchesThemOnAndLeavesTheUnits)
 {
   EquipDatabase("program");
   EquipLogs("user");
-  app.Trace(0.0, TraceLevel::Failure, u"General", u"x");
+  ports.log.Trace(0.0, TraceLevel::Failure, u"General", u"x");
   EXPECT_EQ(LogOf("user"), "1\n1|0.000|1|x\r\n");
   EXPECT_EQ(LogOf("program"), "(no file)");
-  EXPECT_EQ(app.GetUnitName(), u"metre");
+  EXPECT_EQ(FirstUnit(), u"metre");
 }
 
 TEST_F(CommonDataOfTheProgram, TheUsersDatabaseIsReadAndDoesNotSwitchTheLogsOn)
 {
   EquipDatabase("user");
-  app.Trace(0.0, TraceLevel::Failure, u"General", u"x");
+  ports.log.Trace(0.0, TraceLevel::Failure, u"General", u"x");
   EXPECT_EQ(LogOf("user"), "(no file)");
-  EXPECT_EQ(app.GetUnitName(), u"metre");
+  EXPECT_EQ(FirstUnit(), u"metre");
   EXPECT_FALSE(fs::exists(folder.Path() / "program"));
 }
 
 TEST_F(CommonDataOfTheProgram, TheFolderOfLogsMayComeAndGoDuringTheRun)
 {
-  app.Trace(0.0, TraceLevel::Failure, u"General", u"lost");
+  ports.log.Trace(0.0, TraceLevel::Failure, u"General", u"lost");
   EquipLogs("system");
-  app.Trace(0.0, TraceLevel::Failure, u"General", u"first");
+  ports.log.Trace(0.0, TraceLevel::Failure, u"General", u"first");
   EquipLogs("user");
-  app.Trace(0.0, TraceLevel::Failure, u"General", u"second");
+  ports.log.Trace(0.0, TraceLevel::Failure, u"General", u"second");
   EXPECT_EQ(LogOf("system"), "1\n1|0.000|1|first\r\n");
   EXPECT_EQ(LogOf("user"), "1\n1|0.000|1|second\r\n");
 }
@@ -172,6 +176,11 @@ TEST(DataFolderCandidates, ComeFromTheDesktopsRules)
   const DataFolderCandidates usual = FindDataFolderCandidates();
   EXPECT_EQ(usual.user, "/home/someone/.local/share");
   EXPECT_EQ(usual.system, (std::vector<std::string>{"/usr/local/share", "/usr/share"}));
+  setenv("XDG_DATA_HOME", "relative", 1);
+  EXPECT_EQ(FindDataFolderCandidates().user, "/home/someone/.local/share");
+  setenv("HOME", "relative", 1);
+  EXPECT_EQ(FindDataFolderCandidates().user, "");
+  unsetenv("XDG_DATA_HOME");
   setenv("HOME", home.c_str(), 1);
 }
 

@@ -1,24 +1,17 @@
-#include "app/CommonDataFolder.h"
+#include "system/CommonDataFolder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 
 #include "base/Text.h"
+#include "system/BaseFolders.h"
 
 namespace hullwright {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// An environment variable; `fallback` where it is missing or empty.
-std::string Environment(const char* name, std::string fallback)
-{
-  const char* const value = std::getenv(name);
-  return value == nullptr || *value == '\0' ? std::move(fallback) : std::string(value);
-}
 
 std::vector<std::string> SplitFolders(std::string_view list)
 {
@@ -49,10 +42,7 @@ bool Holds(const std::string& folder, CommonData what)
 DataFolderCandidates FindDataFolderCandidates()
 {
   DataFolderCandidates candidates;
-  // The rules say to ignore folders that are not absolute.
-  const std::string home = Environment("HOME", "");
-  candidates.user = Environment("XDG_DATA_HOME", home.empty() ? "" : home + "/.local/share");
-  if (!candidates.user.starts_with('/')) candidates.user.clear();
+  candidates.user = BaseFolder("XDG_DATA_HOME", ".local/share").string();
   candidates.system = SplitFolders(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);

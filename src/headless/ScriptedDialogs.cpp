@@ -1,8 +1,8 @@
-#include "support/ScriptedDialogs.h"
+#include "headless/ScriptedDialogs.h"
 
 #include <algorithm>
 
-namespace hullwright::test {
+namespace hullwright {
 
 DialogEnd ScriptedDialogs::Run(IDialog& dialog)
 {
@@ -101,4 +101,4 @@ std::optional<std::int32_t> ScriptedDialogs::SelectedListData() const
   return list[*selected].data;
 }
 
-}  // namespace hullwright::test
+}  // namespace hullwright

@@ -1,4 +1,4 @@
-#include "app/SharedLibraries.h"
+#include "system/SharedLibraries.h"
 
 #include <dlfcn.h>
 

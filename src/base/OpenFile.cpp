@@ -1,4 +1,4 @@
-#include "file/OpenFile.h"
+#include "base/OpenFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,14 +1,16 @@
-#include "qt/SessionBus.h"
+#include "system/SessionBus.h"
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <QByteArray>
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -82,21 +84,32 @@ private:
 
 class SessionBus : public testing::Test {
 protected:
-  SessionBus() { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); }
+  SessionBus() { unsetenv(variable); }
   ~SessionBus() override
   {
-    address_.isNull() ? qunsetenv("DBUS_SESSION_BUS_ADDRESS")
-                      : qputenv("DBUS_SESSION_BUS_ADDRESS", address_);
-    runtime_.isNull() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime_);
+    Restore(variable, address_);
+    Restore(runtime, runtime_);
   }
-  QByteArray Address() const { return QByteArray::fromStdString("unix:path=" + path); }
+  std::string Address() const { return "unix:path=" + path; }
 
+  static constexpr const char* variable = "DBUS_SESSION_BUS_ADDRESS";
+  static constexpr const char* runtime = "XDG_RUNTIME_DIR";
   test::TempFolder folder;
   std::string path = (folder.Path() / "bus").string();
 
 private:
-  QByteArray address_ = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-  QByteArray runtime_ = qgetenv("XDG_RUNTIME_DIR");
+  static std::optional<std::string> Now(const char* name)
+  {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
+  }
+  static void Restore(const char* name, const std::optional<std::string>& value)
+  {
+    value ? setenv(name, value->c_str(), 1) : unsetenv(name);
+  }
+
+  std::optional<std::string> address_ = Now(variable);
+  std::optional<std::string> runtime_ = Now(runtime);
 };
 
 TEST_F(SessionBus, ABusThatNeverAnswersIsFoundOutWhenItsTimeIsUp)
@@ -145,16 +158,13 @@ TEST_F(SessionBus, ASilentBusInTheAbstractIsFoundOut)
 {
   const std::string name = "hullwright-test-" + std::to_string(getpid());
   const Listener bus('\0' + name);
-  EXPECT_FALSE(
-      BusAnswers(QByteArray::fromStdString("unix:abstract=" + name + ",guid=12"), patience));
+  EXPECT_FALSE(BusAnswers("unix:abstract=" + name + ",guid=12", patience));
 }
 
 TEST_F(SessionBus, EscapesOfAnAddressAreUndone)
 {
   const Listener bus(path);
-  QByteArray address = Address();
-  address.replace(QByteArray("/bus"), QByteArray("/%62us"));
-  EXPECT_FALSE(BusAnswers(address, patience));
+  EXPECT_FALSE(BusAnswers("unix:path=" + (folder.Path() / "%62us").string(), patience));
 }
 
 TEST_F(SessionBus, NoBusAndAddressesOfOtherKindsAreLeftToTheToolkit)
@@ -163,31 +173,43 @@ TEST_F(SessionBus, NoBusAndAddressesOfOtherKindsAreLeftToTheToolkit)
   EXPECT_TRUE(BusAnswers("", patience));
   EXPECT_TRUE(BusAnswers("disabled:", patience));
   EXPECT_TRUE(BusAnswers("tcp:host=localhost,port=1", patience));
-  EXPECT_TRUE(BusAnswers("unix:path=/" + QByteArray(200, 'x'), patience));
+  EXPECT_TRUE(BusAnswers("unix:path=/" + std::string(200, 'x'), patience));
 }
 
 TEST_F(SessionBus, TheAddressIsTheNamedOneElseTheSocketInTheRuntimeFolder)
 {
-  qunsetenv("XDG_RUNTIME_DIR");
+  unsetenv(runtime);
   EXPECT_EQ(SessionBusAddress(), "");
-  qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(folder.Path().string()));
+  setenv(runtime, folder.Path().c_str(), 1);
   EXPECT_EQ(SessionBusAddress(), "");
   const Listener bus(path);
   EXPECT_EQ(SessionBusAddress(), Address());
-  qputenv("DBUS_SESSION_BUS_ADDRESS", "tcp:host=elsewhere");
+  setenv(variable, "tcp:host=elsewhere", 1);
   EXPECT_EQ(SessionBusAddress(), "tcp:host=elsewhere");
+}
+
+TEST_F(SessionBus, BytesOfTheRuntimeFolderThatNoAddressMayHaveAreEscaped)
+{
+  const std::filesystem::path odd = folder.Path() / "a b;c,d%e\xC3\xBC~";
+  std::filesystem::create_directories(odd);
+  setenv(runtime, odd.c_str(), 1);
+  path = (odd / "bus").string();
+  const Listener bus(path);
+  const std::string address = SessionBusAddress();
+  EXPECT_TRUE(address.ends_with("/a%20b%3Bc%2Cd%25e%C3%BC~/bus")) << address;
+  EXPECT_FALSE(BusAnswers(address, patience));
 }
 
 TEST_F(SessionBus, ASilentBusIsSwitchedOffForThisRunAndAnyOtherStaysNamed)
 {
-  const QByteArray elsewhere = "unix:path=/nowhere/bus";
-  qputenv("DBUS_SESSION_BUS_ADDRESS", elsewhere);
+  const std::string elsewhere = "unix:path=/nowhere/bus";
+  setenv(variable, elsewhere.c_str(), 1);
   LeaveSilentSessionBus(patience);
-  EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), elsewhere);
+  EXPECT_EQ(std::getenv(variable), elsewhere);
   const Listener bus(path);
-  qputenv("DBUS_SESSION_BUS_ADDRESS", Address());
+  setenv(variable, Address().c_str(), 1);
   LeaveSilentSessionBus(patience);
-  EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), "disabled:");
+  EXPECT_STREQ(std::getenv(variable), "disabled:");
 }
 
 }  // namespace

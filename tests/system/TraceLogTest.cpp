@@ -1,4 +1,4 @@
-#include "app/TraceLog.h"
+#include "system/TraceLog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/Sqlite.h"
+#include "system/Sqlite.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "app/UnitTable.h"
-#include "support/Fakes.h"
+#include "headless/KeptMessages.h"
+#include "system/UnitDatabase.h"
 
 namespace hullwright {
 namespace {
@@ -132,7 +132,7 @@ private:
 class SqliteBinding : public testing::Test {
 protected:
   FakeLibrary library;
-  test::FakeMessages messages;
+  KeptMessages messages;
 };
 
 TEST_F(SqliteBinding, ALibraryThatFailsToInitialiseGivesNoUnits)

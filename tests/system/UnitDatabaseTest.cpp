@@ -1,12 +1,12 @@
-#include "app/UnitTable.h"
+#include "system/UnitDatabase.h"
 
 #include <gmock/gmock.h>
 
-#include "app/SharedLibraries.h"
-#include "app/Sqlite.h"
 #include "base/Text.h"
-#include "support/AppFixture.h"
+#include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
+#include "system/SharedLibraries.h"
+#include "system/Sqlite.h"
 
 namespace hullwright {
 namespace {
@@ -97,7 +97,7 @@ protected:
 
   test::TempFolder folder;
   std::filesystem::path database;
-  test::FakeMessages messages;
+  KeptMessages messages;
   PoorLibraries libraries;
 };
 
@@ -205,41 +205,6 @@ TEST_F(Units, TheDatabaseOfTheProgramHasTheMetreAndEveryUnitWithAFactor)
   EXPECT_EQ(units.front().numId, 9001);
   EXPECT_EQ(units.front().strUnit, u"metre");
   EXPECT_EQ(units.back().numId, 9098);
-}
-
-class UnitNames : public test::AppFixture {};
-
-TEST_F(UnitNames, ComeFromTheTable)
-{
-  app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
-  app.unitCode = 9002;
-  std::u16string label = u"meters";
-  app.GetUnitLabel(label);
-  EXPECT_EQ(label, u"ft");
-  EXPECT_EQ(view.UnitsPaneText(), u"Units: foot");
-}
-
-TEST_F(UnitNames, AnUnknownUnitLeavesTheLabelAndThePaneWithoutAName)
-{
-  app.unitTable = {{u"m", u"metre", 9001}};
-  app.unitCode = 5;
-  std::u16string label = u"meters";
-  app.GetUnitLabel(label);
-  EXPECT_EQ(label, u"meters");
-  EXPECT_EQ(view.UnitsPaneText(), u"Units: ");
-}
-
-TEST_F(UnitNames, TheTableIsLoadedAtItsFirstUseAndTriedAgainWhileEmpty)
-{
-  std::filesystem::create_directories(dataFolder.Path() / "Sondaris" / "Database");
-  EXPECT_EQ(view.UnitsPaneText(), u"Units: ");
-  std::filesystem::copy(HULLWRIGHT_UNIT_DATABASE,
-                        dataFolder.Path() / "Sondaris" / "Database" / "geo.db",
-                        std::filesystem::copy_options::overwrite_existing);
-  EXPECT_EQ(view.UnitsPaneText(), u"Units: metre");
-  std::filesystem::remove_all(dataFolder.Path() / "Sondaris");
-  app.unitCode = 9036;
-  EXPECT_EQ(view.UnitsPaneText(), u"Units: kilometre");
 }
 
 }  // namespace

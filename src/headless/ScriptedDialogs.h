@@ -8,7 +8,7 @@
 #include "platform/Dialogs.h"
 #include "resources/DialogTemplates.h"
 
-namespace hullwright::test {
+namespace hullwright {
 
 /// What happens in the next dialogs: texts filled in, buttons clicked, texts typed, a list entry
 /// chosen, then the end.
@@ -64,4 +64,4 @@ private:
   std::vector<std::vector<int>> radioGroups_;
 };
 
-}  // namespace hullwright::test
+}  // namespace hullwright

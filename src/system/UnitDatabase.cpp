@@ -1,6 +1,6 @@
-#include "app/UnitTable.h"
+#include "system/UnitDatabase.h"
 
-#include "app/Sqlite.h"
+#include "system/Sqlite.h"
 
 namespace hullwright {
 

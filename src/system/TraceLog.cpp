@@ -1,4 +1,4 @@
-#include "app/TraceLog.h"
+#include "system/TraceLog.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "base/Numbers.h"
+#include "base/OpenFile.h"
 #include "base/Text.h"
-#include "file/OpenFile.h"
 
 namespace hullwright {
 namespace {

@@ -1,0 +1,28 @@
+#include "app/Editor.h"
+
+namespace hullwright {
+
+Editor::Editor(const Ports& ports)
+    : app({ports.settings, ports.messages, ports.dialogs, ports.fileDialogs, ports.units,
+           ports.log}),
+      frame(app, ports.widgets, ports.listener),
+      document(app, frame, ports.messages),
+      view(app, app, {ports.messages, ports.cursor, ports.rubberBand, ports.popupMenu}),
+      objects(app, ports.tree)
+{
+  app.mainFrame = &frame;
+  frame.document = &document;
+  frame.view = &view;
+  frame.objectView = &objects;
+}
+
+Editor::~Editor()
+{
+  // What goes must not be told of what goes after it.
+  app.mainFrame = nullptr;
+  frame.objectView = nullptr;
+  frame.view = nullptr;
+  frame.document = nullptr;
+}
+
+}  // namespace hullwright

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Dialogs.h"
+
+namespace hullwright {
+
+/// Every dialog is given up before it is seen.
+class NoDialogs : public IDialogRunner {
+public:
+  DialogEnd Run(IDialog&) override { return DialogEnd::Cancel; }
+};
+
+}  // namespace hullwright

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Framework.h"
+
+namespace hullwright {
+
+/// Hears of the frame's look and shows nothing; a base for what shows a part of it.
+class NoWidgets : public IFrameWidgets {
+public:
+  void SetViewButtonImage(int) override {}
+  void InvalidateToolBar() override {}
+  void ApplyLook(int) override {}
+  void ShowNote(std::u16string_view) override {}
+  void StartProgress(std::string_view) override {}
+  void ShowProgress(int) override {}
+  void EndProgress() override {}
+};
+
+}  // namespace hullwright

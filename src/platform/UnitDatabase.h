@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace hullwright {
+
+/// One row of the table of length units.
+struct UnitRecord {
+  std::u16string strUnitShort;
+  std::u16string strUnit;
+  std::int32_t numId = 0;  ///< EPSG code
+};
+
+/// Where the units of length are kept.
+class IUnitDatabase {
+public:
+  virtual ~IUnitDatabase() = default;
+
+  /// The units of length as they are now, in the order of their codes; empty where they can't be
+  /// read.
+  virtual std::vector<UnitRecord> ReadUnits() = 0;
+};
+
+}  // namespace hullwright

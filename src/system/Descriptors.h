@@ -1,0 +1,42 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace hullwright {
+
+/// The name that stands for standard input and output.
+inline constexpr std::string_view standardStream = "-";
+
+/// An open file; closes itself.
+class Descriptor {
+public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor()
+  {
+    if (number_ >= 0) close(number_);
+  }
+  int Number() const { return number_; }
+
+private:
+  int number_;
+};
+
+/// Makes an empty file with a name of its own in a folder; its path, empty where that fails.
+std::string MakeTemporary(const std::filesystem::path& folder);
+
+/// Where files lie that are nobody's business.
+std::filesystem::path TemporaryFolder();
+
+/// Writes all bytes; false with `errno` where that fails.
+bool WriteAll(int file, std::string_view bytes);
+
+/// Copies what is left to read of one file to another; false with `errno` where that fails.
+bool Copy(int from, int to);
+
+}  // namespace hullwright

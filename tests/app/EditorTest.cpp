@@ -1,0 +1,59 @@
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <vector>
+
+#include "support/AppFixture.h"
+
+namespace hullwright {
+namespace {
+
+using testing::ElementsAre;
+
+class AssembledEditor : public test::AppFixture {};
+
+TEST_F(AssembledEditor, AChangeReachesPictureTreeAndDocument)
+{
+  app.TellAll();
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_EQ(control.rebuilds, 1);
+  EXPECT_TRUE(document.IsModified());
+  EXPECT_THAT(heard.list, ElementsAre("repaint", "tree", "modified"));
+}
+
+TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
+{
+  settings.values["Workspace/ApplicationLook"] = 216;
+  const Editor other(ports);
+  EXPECT_EQ(other.app.applicationLook, 216);
+}
+
+/// Looks at what stands when the frame is told something.
+class EarlyListener : public SilentWindow {
+public:
+  void Notify(int, std::intptr_t) override { look(); }
+  void SetModifiedFlag(bool) override { look(); }
+  std::function<void()> look;
+};
+
+TEST_F(AssembledEditor, ItsListenerHearsBeforeAnythingComesOfIt)
+{
+  EarlyListener early;
+  ports.listener = &early;
+  const auto other = std::make_unique<Editor>(ports);
+  std::vector<int> rebuilds;
+  std::vector<bool> modified;
+  early.look = [&] {
+    rebuilds.push_back(control.rebuilds);
+    modified.push_back(other->document.IsModified());
+  };
+  other->frame.Notify(Notification::RebuildTree, 0);
+  other->frame.SetModifiedFlag(true);
+  EXPECT_THAT(rebuilds, ElementsAre(0, 1));
+  EXPECT_THAT(modified, ElementsAre(false, false));
+  EXPECT_EQ(control.rebuilds, 1);
+  EXPECT_TRUE(other->document.IsModified());
+}
+
+}  // namespace
+}  // namespace hullwright
