@@ -102,7 +102,7 @@ bool DocumentLife::SaveTo(const std::u16string& path)
     NoteSaved(path);
   } else {
     settled_.reset();
-    NoteNotSaved(formerVersion);
+    NoteNotSaved(path, formerVersion);
   }
   // The next save goes where this one was meant to go, not over the file of before.
   SetPath(path);
@@ -120,9 +120,11 @@ void DocumentLife::NoteSaved(const std::u16string& path) const
   }
 }
 
-void DocumentLife::NoteNotSaved(const std::u16string& formerVersion) const
+void DocumentLife::NoteNotSaved(const std::u16string& path,
+                                const std::u16string& formerVersion) const
 {
-  std::u16string note = u"Nothing was saved: " + document_.SaveProblem() + u".";
+  std::u16string note =
+      u"Nothing was saved to " + Quoted(NameOf(path)) + u": " + document_.SaveProblem() + u".";
   if (!formerVersion.empty()) note += u" Former file: " + formerVersion + u".";
   switch (restored_) {
     case Restored::Nothing:

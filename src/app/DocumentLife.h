@@ -61,7 +61,7 @@ public:
 private:
   bool SaveTo(const std::u16string& path);
   void NoteSaved(const std::u16string& path) const;
-  void NoteNotSaved(const std::u16string& formerVersion) const;
+  void NoteNotSaved(const std::u16string& path, const std::u16string& formerVersion) const;
   bool HasChanges() const;
   bool HasUnfinishedPolyline() const;
   void Settle() { settled_ = document_.Fingerprint(); }

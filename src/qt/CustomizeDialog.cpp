@@ -14,6 +14,17 @@
 #include "resources/ToolBars.h"
 
 namespace hullwright {
+namespace {
+
+/// Keeps the rows of commands without an image as high as the others, and their texts in line.
+QIcon NoImage()
+{
+  QPixmap nothing(32, 32);
+  nothing.fill(Qt::transparent);
+  return nothing;
+}
+
+}  // namespace
 
 CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWidget* parent)
     : QDialog(parent),
@@ -61,7 +72,10 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
   grid->addWidget(buttons, 3, 0, 1, 3);
   bars_->setMinimumWidth(160);
-  for (QListWidget* const list : {available_, shown_}) list->setMinimumSize(300, 360);
+  for (QListWidget* const list : {available_, shown_}) {
+    list->setMinimumSize(340, 420);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
 
   for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
   FillAvailable();
@@ -84,6 +98,7 @@ QListWidgetItem* CustomizeDialog::MakeItem(int command)
 {
   auto* const item = new QListWidgetItem;
   item->setData(Qt::UserRole, command);
+  item->setIcon(NoImage());
   if (command == toolBarSeparator) {
     item->setText(tr("Separator"));
     return item;
@@ -93,7 +108,8 @@ QListWidgetItem* CustomizeDialog::MakeItem(int command)
   label.replace(QLatin1Char('\n'), QLatin1Char(' '));
   const QString prompt = action->statusTip();
   item->setText(prompt.isEmpty() ? label : label + QStringLiteral(" \u2013 ") + prompt);
-  item->setIcon(action->icon());
+  item->setToolTip(item->text().toHtmlEscaped());
+  if (!action->icon().isNull()) item->setIcon(action->icon());
   return item;
 }
 
@@ -151,12 +167,13 @@ void CustomizeDialog::Reset()
 void CustomizeDialog::NewToolBar()
 {
   bool accepted = false;
-  const QString title =
-      QInputDialog::getText(this, tr("New Toolbar"), tr("Name:"), QLineEdit::Normal,
-                            tr("Toolbar %1").arg(specs_.size()), &accepted);
-  if (!accepted || title.trimmed().isEmpty()) return;
-  specs_.append({title.trimmed(), {}});
-  bars_->addItem(title.trimmed());
+  const QString proposed = tr("Toolbar %1").arg(specs_.size());
+  const QString typed = QInputDialog::getText(this, tr("New Toolbar"), tr("Name:"),
+                                              QLineEdit::Normal, proposed, &accepted);
+  if (!accepted) return;
+  const QString title = typed.trimmed().isEmpty() ? proposed : typed.trimmed();
+  specs_.append({title, {}});
+  bars_->addItem(title);
   bars_->setCurrentIndex(bars_->count() - 1);
 }
 

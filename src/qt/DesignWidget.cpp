@@ -80,6 +80,15 @@ void DesignWidget::paintEvent(QPaintEvent*)
     painter.drawImage(0, 0, surface_.Picture());
     PaintRubberBand(painter);
   }
+  if (hasFocus()) PaintFocusMark(painter);
+}
+
+void DesignWidget::PaintFocusMark(QPainter& painter) const
+{
+  painter.fillRect(0, 0, width(), 1, palette().highlight());
+  painter.fillRect(0, height() - 1, width(), 1, palette().highlight());
+  painter.fillRect(0, 0, 1, height(), palette().highlight());
+  painter.fillRect(width() - 1, 0, 1, height(), palette().highlight());
 }
 
 void DesignWidget::PaintRubberBand(QPainter& painter) const

@@ -52,6 +52,7 @@ protected:
 private:
   void Resized();
   void PaintRubberBand(QPainter& painter) const;
+  void PaintFocusMark(QPainter& painter) const;
 
   PaintSurface surface_;
   PaintTarget target_{surface_};

@@ -14,11 +14,19 @@ namespace {
 // The two colours that every icon is drawn in.
 constexpr const char* ink = "#303438";
 constexpr const char* accent = "#1f6fb2";
+constexpr const char* lightAccent = "#6fb6f0";  ///< in its place on a dark background
 
 QByteArray ReadIcon(std::string_view name)
 {
   QFile file(QStringLiteral(":/icons/") + ToQString(name) + QStringLiteral(".svg"));
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray InColours(QByteArray svg, const QColor& inkColour, const QColor& accentColour)
+{
+  svg.replace(ink, inkColour.name().toLatin1());
+  svg.replace(accent, accentColour.name().toLatin1());
+  return svg;
 }
 
 QPixmap Rendered(const QByteArray& svg, int size)
@@ -31,26 +39,35 @@ QPixmap Rendered(const QByteArray& svg, int size)
   return pixmap;
 }
 
-QIcon FromSvg(const QByteArray& svg)
+void AddSizes(QIcon& icon, const QByteArray& svg, QIcon::Mode mode)
 {
-  QIcon icon;
-  if (svg.isEmpty()) return icon;
-  for (const int size : {16, 20, 24, 32, 48, 64, 128, 256}) icon.addPixmap(Rendered(svg, size));
-  return icon;
+  if (svg.isEmpty()) return;
+  for (const int size : {16, 20, 24, 32, 48, 64, 128, 256}) {
+    icon.addPixmap(Rendered(svg, size), mode);
+  }
 }
 
 }  // namespace
 
 QIcon ThemedIcon(std::string_view name, const QPalette& palette)
 {
-  QByteArray svg = ReadIcon(name);
-  const QColor text = palette.color(QPalette::WindowText);
+  const QByteArray svg = ReadIcon(name);
   const bool dark = palette.color(QPalette::Window).lightness() < 128;
-  svg.replace(ink, text.name().toLatin1());
-  if (dark) svg.replace(accent, "#6fb6f0");
-  return FromSvg(svg);
+  QIcon icon;
+  AddSizes(icon,
+           InColours(svg, palette.color(QPalette::WindowText), QColor(dark ? lightAccent : accent)),
+           QIcon::Normal);
+  // In a chosen row the background is the highlight colour, which the accent resembles.
+  const QColor chosen = palette.color(QPalette::HighlightedText);
+  AddSizes(icon, InColours(svg, chosen, chosen), QIcon::Selected);
+  return icon;
 }
 
-QIcon ApplicationIcon() { return FromSvg(ReadIcon("app")); }
+QIcon ApplicationIcon()
+{
+  QIcon icon;
+  AddSizes(icon, ReadIcon("app"), QIcon::Normal);
+  return icon;
+}
 
 }  // namespace hullwright

@@ -32,7 +32,7 @@ constexpr auto looks = std::to_array<Look>({
     {Command::LookVisualStudio2008, "Fusion", plainWindow, plainHighlight},
     {Command::LookBlue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
     {Command::LookBlack, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
-    {Command::LookSilver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x6b, 0x7a, 0x8f)},
+    {Command::LookSilver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x45, 0x5f, 0x85)},
     {Command::LookAqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
     {Command::LookLast, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
 });
@@ -42,6 +42,8 @@ QPalette PaletteOf(const Look& look)
   QPalette palette = QPalette(QColor(look.window));
   palette.setColor(QPalette::Highlight, QColor(look.highlight));
   palette.setColor(QPalette::HighlightedText, Qt::white);
+  // What is chosen in a list that has not the keyboard.
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x76, 0x7b, 0x80));
   const QColor window(look.window);
   if (window.lightness() < 128) {
     palette.setColor(QPalette::Base, window.darker(130));

@@ -6,12 +6,14 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTimer>
 #include <QToolBar>
 
 #include "qt/DroppedFiles.h"
 #include "qt/Icons.h"
 #include "qt/Looks.h"
+#include "qt/MenuKeys.h"
 #include "qt/QtText.h"
 #include "resources/Accelerators.h"
 #include "resources/Commands.h"
@@ -178,6 +180,8 @@ void MainWindow::BuildStatusBar()
 void MainWindow::BuildObjectPane()
 {
   constexpr int startWidth = 200;
+  constexpr int leastWidth = 120;
+  tree_->setMinimumWidth(leastWidth);  // a window made tiny would keep it at a sliver
   tree_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
   tree_->Attach(editor_.objects);
   editor_.objects.BuildTree();
@@ -211,8 +215,23 @@ void MainWindow::ShowNote(std::u16string_view text)
   note_ = ToQString(text);
   // The prompt of the button that the mouse rests on, most often the one just pressed, would hide
   // it.
+  notePlace_ = QCursor::pos();
   statusBar()->clearMessage();
   UpdatePanes();
+}
+
+bool MainWindow::event(QEvent* event)
+{
+  // A dialog that closes under a resting mouse makes the button below it send its prompt anew.
+  const bool hidesNote = event->type() == QEvent::StatusTip && !note_.isEmpty() &&
+                         QCursor::pos() == notePlace_ &&
+                         !static_cast<QStatusTipEvent*>(event)->tip().isEmpty();
+  return hidesNote || QMainWindow::event(event);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+  if (!OpenMenuByKey(*this, *event)) QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::StartProgress(std::string_view text)
@@ -235,9 +254,8 @@ void MainWindow::FillRecentFiles(QMenu& menu)
   int number = 0;
   for (const std::u16string& file : documents_.RecentFiles()) {
     const QString path = ToQString(file);
-    QString shown = path;
-    shown.replace(QLatin1Char('&'), QLatin1String("&&"));
-    QAction* const entry = menu.addAction(QStringLiteral("&%1 %2").arg(++number).arg(shown));
+    QAction* const entry =
+        menu.addAction(QStringLiteral("&%1 %2").arg(++number).arg(AsMenuText(path)));
     connect(entry, &QAction::triggered, this, [this, path] { OpenFromOutside({path}); });
   }
 }

@@ -73,6 +73,8 @@ protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
   QMenu* createPopupMenu() override;
 
 private:
@@ -112,7 +114,8 @@ private:
   QPointer<CustomizeDialog> customizing_;  ///< while it is open
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
-  QString note_;  ///< what came of the last command; empty for nothing to tell
+  QString note_;      ///< what came of the last command; empty for nothing to tell
+  QPoint notePlace_;  ///< of the mouse on the screen when the note came
   PromptPane* prompt_ = nullptr;
   ProgressPane* progress_ = nullptr;  ///< takes the prompt's place
   StatusPane* coordinatesPane_ = nullptr;

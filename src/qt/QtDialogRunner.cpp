@@ -10,7 +10,11 @@ DialogEnd QtDialogRunner::Run(IDialog& dialog)
   const DialogTemplate* const rows = FindDialogTemplate(dialog.Template());
   if (rows == nullptr) return DialogEnd::Cancel;
   TemplateDialog window(*rows, dialog, parent_);
-  return window.exec() == QDialog::Accepted ? DialogEnd::Ok : DialogEnd::Cancel;
+  const bool accepted = window.exec() == QDialog::Accepted;
+  // A message box that its logic shows closes in the same moment; window managers then give the
+  // keyboard to this dialog, which is gone.
+  if (parent_ != nullptr) parent_->activateWindow();
+  return accepted ? DialogEnd::Ok : DialogEnd::Cancel;
 }
 
 }  // namespace hullwright

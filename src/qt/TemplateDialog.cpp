@@ -92,6 +92,7 @@ void TemplateDialog::AddGroup(const DialogRow& row)
 {
   box_ = row.text.empty() ? new QWidget(this) : new QGroupBox(ToQString(row.text), this);
   grid_ = new QGridLayout(box_);
+  if (row.text.empty()) grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setColumnStretch(labelColumn, 1);
   boxes_->addWidget(box_);
 }
@@ -199,8 +200,6 @@ void TemplateDialog::AddNote(const DialogRow& row)
 void TemplateDialog::AddProduct(const DialogRow& row)
 {
   constexpr int iconSize = 64;
-  QGridLayout& grid = Grid();
-  const int line = grid.rowCount();
   auto* const icon = new QLabel(this);
   icon->setPixmap(ApplicationIcon().pixmap(iconSize));
   auto* const product =
@@ -208,8 +207,10 @@ void TemplateDialog::AddProduct(const DialogRow& row)
                      .arg(QLatin1String(Strings::program), QLatin1String(HULLWRIGHT_VERSION)),
                  this);
   Keep(row.id, product);
-  grid.addWidget(icon, line, labelColumn);
-  grid.addWidget(product, line, fieldColumn, 1, 2);
+  auto* const line = new QHBoxLayout;
+  line->addWidget(icon);
+  line->addWidget(product, 1);
+  Grid().addLayout(line, Grid().rowCount(), labelColumn, 1, allColumns);
 }
 
 void TemplateDialog::AddOkAndCancel(bool hasCancel)

@@ -116,6 +116,7 @@ void ToolBars::Build(const QList<ToolBarSpec>& specs)
     auto* const bar = window_.addToolBar(spec.title);
     bar->setObjectName(bars_.isEmpty() ? QStringLiteral("StandardToolBar")
                                        : QString::number(spec.number));
+    bar->toggleViewAction()->setText(AsMenuText(spec.title));
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setIconSize(QSize(24, 24));
     bars_.append(bar);

@@ -201,7 +201,8 @@ TEST_F(Life, AFailedSaveCountsForTheFlagAndIsAskedForAgain)
   documentDialogs.toSave = folder.File("missing/boat.xml");
   EXPECT_FALSE(life.SaveAs());
   EXPECT_FALSE(document.IsModified());
-  EXPECT_THAT(widgets.notes, ElementsAre(u"Nothing was saved: No such file or directory."));
+  EXPECT_THAT(widgets.notes,
+              ElementsAre(u"Nothing was saved to \"boat.xml\": No such file or directory."));
   EXPECT_TRUE(Asks());
   EXPECT_EQ(life.Name(), u"boat.xml");
   EXPECT_THAT(recentFiles.files, ElementsAre(folder.File("boat.xml")));
@@ -224,8 +225,9 @@ TEST_F(Life, ASaveThatFailsHalfwayGivesTheFileBackWhatItHeldAndNamesTheCopy)
   EXPECT_EQ(heldAtMessage, boat);
   EXPECT_EQ(folder.Read("boat.xml"), boat);
   ASSERT_EQ(widgets.notes.size(), 1U);
-  EXPECT_TRUE(widgets.notes[0].starts_with(u"Nothing was saved: File too large. Former file: " +
-                                           folder.File("state/boat.")));
+  EXPECT_TRUE(widgets.notes[0].starts_with(
+      u"Nothing was saved to \"boat.xml\": File too large. Former file: " +
+      folder.File("state/boat.")));
   EXPECT_TRUE(widgets.notes[0].ends_with(u".xml. The file is as it was."));
   EXPECT_TRUE(Asks());
 }

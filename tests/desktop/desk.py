@@ -241,8 +241,7 @@ class Desk:
         return found[-1]
 
     def activate(self):
-        """Gives the program's window the keys: where two dialogs close at once, the window manager may leave
-        them with nobody."""
+        """Gives the program's window the keys."""
         self._run("xdotool", "windowactivate", "--sync", self.window)
 
     def resize(self, width, height):

@@ -66,7 +66,6 @@ class EditingTest(DeskTest):
     def saved(self):
         """Saves and reads the design back."""
         self.desk.settle()
-        self.desk.activate()
         self.path.unlink()
         self.desk.keys("ctrl+s")
         self.desk.wait_until(lambda: self.path.exists() and self.path.read_text().endswith("</vessel>\n"))

@@ -223,7 +223,7 @@ TEST_F(DocumentFlow, ATargetThatIsGoneIsReportedInTheStatusBarAndStillAskedFor)
   std::filesystem::create_directory(folder.Path() / "boat.xml");
   Window().RunCommand(Command::FileSave);
   EXPECT_EQ(dialogs, 0);
-  EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved: Is a directory."));
+  EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved to \"boat.xml\": Is a directory."));
   // The flag is the document's, which counts a failed save as one; the changes are asked for all
   // the same.
   EXPECT_FALSE(Window().isWindowModified());
@@ -245,7 +245,8 @@ TEST_F(DocumentFlow, AFullDiskIsToldOnceAndTheSaveThatWasAskedForKeepsTheWindowO
   EXPECT_FALSE(Window().close());
   EXPECT_EQ(lastQuestion, QStringLiteral("Error writing config file!!!"));
   EXPECT_EQ(dialogs, 2);
-  EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved: No space left on device."));
+  EXPECT_EQ(Prompt(),
+            QStringLiteral("Nothing was saved to \"boat.xml\": No space left on device."));
   EXPECT_TRUE(Window().isVisible());
 }
 

@@ -287,6 +287,20 @@ TEST_F(Frame, AToolBarOfTheUsersOwnSurvivesARestartAndCanBeDeleted)
   EXPECT_EQ(Bars().size(), 1);
 }
 
+TEST_F(Frame, TheNameOfAToolBarStandsInTheMenuAsItWasTyped)
+{
+  MakeBar("Bow & Stern");
+  EXPECT_EQ(Bars().at(1)->windowTitle(), QStringLiteral("Bow & Stern"));
+  EXPECT_EQ(Bars().at(1)->toggleViewAction()->text(), QStringLiteral("Bow && Stern"));
+}
+
+TEST_F(Frame, AToolBarThatIsGivenNoNameTakesTheProposedOne)
+{
+  MakeBar("  ");
+  ASSERT_EQ(Bars().size(), 2);
+  EXPECT_EQ(Bars().at(1)->windowTitle(), QStringLiteral("Toolbar 1"));
+}
+
 TEST_F(Frame, ToolBarsOfTheUsersOwnAreNumberedFrom59432)
 {
   Actions actions(&Window(), [](int) {});

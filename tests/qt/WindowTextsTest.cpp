@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusTipEvent>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -168,6 +169,33 @@ TEST_F(WindowTexts, YesIsTheDefaultOfAQuestion)
   EXPECT_EQ(lastQuestion, QStringLiteral("Really <b>?"));
   Answer(QMessageBox::No);
   EXPECT_FALSE(shell->App().AskYesNo(u"Really?"));
+}
+
+TEST_F(WindowTexts, AQuestionIsLeftByItsButtonsOnly)
+{
+  WhenAsked<QMessageBox>([](QMessageBox& box) {
+    EXPECT_FALSE(box.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    QTest::keyClick(&box, Qt::Key_Escape);
+    box.close();
+    EXPECT_TRUE(box.isVisible());
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_TRUE(shell->App().AskYesNo(u"Really?"));
+}
+
+TEST_F(WindowTexts, APromptHidesANoteOnlyWhereTheMouseHasMovedSince)
+{
+  const auto prompt = [this](const char* text) {
+    QStatusTipEvent event{QLatin1String(text)};
+    QApplication::sendEvent(&Window(), &event);
+    return Window().statusBar()->currentMessage();
+  };
+  QCursor::setPos(40, 40);
+  Window().ShowNote(u"3 polylines");
+  EXPECT_EQ(prompt("Import a drawing"), QString());
+  QCursor::setPos(60, 40);
+  EXPECT_EQ(prompt("Import a drawing"), QStringLiteral("Import a drawing"));
+  EXPECT_EQ(prompt(""), QString());
 }
 
 /// A window whose frame has been made and not yet shown anything.
