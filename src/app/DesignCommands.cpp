@@ -1,59 +1,18 @@
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <utility>
 
+#include "app/DesignCommandTable.h"
 #include "app/Dialogs.h"
-#include "app/HullwrightApp.h"
 #include "app/ImportText.h"
 #include "app/MainFrame.h"
 #include "dxf/FileDxf.h"
-#include "resources/CommandIds.h"
 #include "resources/Strings.h"
-#include "resources/ViewSides.h"
 
 // The design commands of the application object. Each acts on the side in view, works about the
 // world origin and leaves offsets and anchors alone unless it is theirs.
 namespace hullwright {
-
-struct CHullwrightApp::CommandRow {
-  int id;
-  void (CHullwrightApp::*run)();
-};
-
-const CHullwrightApp::CommandRow* CHullwrightApp::FindCommandRow(int id)
-{
-  static constexpr auto rows = std::to_array<CommandRow>({
-      {Command::ImportDxf, &CHullwrightApp::ImportDxf},
-      {Command::MirrorVertically, &CHullwrightApp::MirrorVertically},
-      {Command::MirrorHorizontally, &CHullwrightApp::MirrorHorizontally},
-      {Command::Scale, &CHullwrightApp::ScaleDesign},
-      {Command::Move, &CHullwrightApp::MoveDesign},
-      {Command::RotateRight, &CHullwrightApp::RotateRight},
-      {Command::RotateLeft, &CHullwrightApp::RotateLeft},
-      {Command::Offsets, &CHullwrightApp::ModifyOffsets},
-      {Command::Grid, &CHullwrightApp::EditGrid},
-      {Command::Units, &CHullwrightApp::SwitchUnits},
-      {Command::ToggleGrid, &CHullwrightApp::ToggleGrid},
-      {Command::ToggleSnap, &CHullwrightApp::ToggleSnap},
-      {Command::About, &CHullwrightApp::ShowAbout},
-  });
-  const auto* const found = std::ranges::find(rows, id, &CommandRow::id);
-  return found == rows.end() ? nullptr : found;
-}
-
 namespace {
-
-/// The tool that a cursor command selects; none for any other command.
-std::int32_t ToolOf(int command)
-{
-  switch (command) {
-    case Command::CursorZoomIn: return CursorTool::ZoomIn;
-    case Command::CursorZoomOut: return CursorTool::ZoomOut;
-    case Command::CursorMove: return CursorTool::Move;
-    default: return CursorTool::None;
-  }
-}
 
 /// Whether shapes were imported and the view shows no part of the box around them.
 bool AreOutOfView(const ImportTally& imported, const CViewPort& view)
@@ -65,24 +24,14 @@ bool AreOutOfView(const ImportTally& imported, const CViewPort& view)
 
 }  // namespace
 
-bool CHullwrightApp::IsCommand(int id)
+bool CHullwrightApp::OnCommand(CommandId id)
 {
-  return FindCommandRow(id) != nullptr || FindViewSideByCommand(id) != nullptr ||
-         ToolOf(id) != CursorTool::None;
+  return RunCommand(DesignCommandTable::rows, *this, id);
 }
 
-bool CHullwrightApp::OnCommand(int id)
+CommandState CHullwrightApp::QueryCommand(CommandId id) const
 {
-  if (const ViewSideEntry* const side = FindViewSideByCommand(id)) {
-    SetViewSide(side->code);
-  } else if (const std::int32_t tool = ToolOf(id); tool != CursorTool::None) {
-    cursorTool = tool;
-  } else if (const CommandRow* const row = FindCommandRow(id)) {
-    (this->*row->run)();
-  } else {
-    return false;
-  }
-  return true;
+  return StateOf(DesignCommandTable::rows, *this, id);
 }
 
 void CHullwrightApp::Repaint() const
@@ -160,22 +109,22 @@ void CHullwrightApp::SwitchUnits()
   if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) TellAll();
 }
 
-void CHullwrightApp::ConvertDesign(std::int32_t fromCode, std::int32_t toCode)
+void CHullwrightApp::ConvertDesign(UnitCode from, UnitCode to)
 {
   const CShapes* const group = GetShapes(shapeGroups, activeView);
-  if (group == nullptr || group->shapes.empty() || fromCode == toCode) return;
+  if (group == nullptr || group->shapes.empty() || from == to) return;
   if (!ports_.messages.AskYesNo(Strings::convertUnits)) return;
   std::vector<CShapeVertex*> vertices;
   Walk(group->cursor, group->shapes, [&](CShape& shape) {
     shape.GetVertices(vertices);
     for (CShapeVertex* const vertex : vertices) {
-      if (vertex != nullptr) vertex->ConvertUnits(fromCode, toCode);
+      if (vertex != nullptr) vertex->ConvertUnits(from, to);
     }
     vertices.clear();
   });
   // The pivot, the anchors and the other sides keep their numbers.
-  offsetGps->ConvertUnits(fromCode, toCode);
-  offsetTransducer->ConvertUnits(fromCode, toCode);
+  offsetGps->ConvertUnits(from, to);
+  offsetTransducer->ConvertUnits(from, to);
 }
 
 void CHullwrightApp::EditGrid()

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/GridSettingsStore.h"
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "resources/DialogTemplates.h"
@@ -192,10 +193,10 @@ void CDialogUnits::OnStart(IDialogControls& controls)
   const std::vector<UnitRecord> units = app_.ReadUnits();
   std::vector<DialogListItem> items;
   items.reserve(units.size());
-  for (const UnitRecord& unit : units) items.push_back({unit.strUnit, unit.numId});
+  for (const UnitRecord& unit : units) items.push_back({unit.strUnit, NumberOf(unit.numId)});
   controls.FillList(items);
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    if (items[i].data == app_.unitCode) controls.SelectListItem(i);
+  for (std::size_t i = 0; i < units.size(); ++i) {
+    if (units[i].numId == app_.unitCode) controls.SelectListItem(i);
   }
 }
 
@@ -206,8 +207,8 @@ bool CDialogUnits::OnOk(IDialogControls& controls)
     app_.ShowMessage(Strings::selectUnit);
     return false;
   }
-  app_.unitCode = *chosen;
-  app_.ConvertDesign(oldCode_, *chosen);
+  app_.unitCode = UnitCode{*chosen};
+  app_.ConvertDesign(oldUnit_, app_.unitCode);
   return true;
 }
 

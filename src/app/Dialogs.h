@@ -52,13 +52,13 @@ private:
 class CDialogOffsets : public CDialogNumbers {
 public:
   /// `focus` is the kind of pick whose first field gets the focus; any other value sets none.
-  CDialogOffsets(CHullwrightApp& app, std::int32_t focus) : CDialogNumbers(app), focus_(focus) {}
+  CDialogOffsets(CHullwrightApp& app, HitKind focus) : CDialogNumbers(app), focus_(focus) {}
   int Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
 private:
-  std::int32_t focus_;
+  HitKind focus_;
 };
 
 /// An angle and a direction; OK turns the polylines of the side in view.
@@ -100,13 +100,13 @@ private:
 /// converts what a change of unit converts.
 class CDialogUnits : public CDialogNumbers {
 public:
-  explicit CDialogUnits(CHullwrightApp& app) : CDialogNumbers(app), oldCode_(app.unitCode) {}
+  explicit CDialogUnits(CHullwrightApp& app) : CDialogNumbers(app), oldUnit_(app.unitCode) {}
   int Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
 private:
-  std::int32_t oldCode_;
+  UnitCode oldUnit_;
 };
 
 /// Name, version and licence.

@@ -8,7 +8,7 @@
 namespace hullwright {
 namespace {
 
-std::string SideName(std::int32_t viewCode)
+std::string SideName(ViewSide viewCode)
 {
   if (const ViewSideEntry* const side = FindViewSide(viewCode)) return std::string(side->name);
   return viewCode == ViewSide::All ? "all sides"

@@ -8,6 +8,7 @@
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
 #include "app/ObjectView.h"
+#include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
@@ -57,12 +58,12 @@ int CHullwrightApp::ExitInstance(IFramework& framework)
   return 0;
 }
 
-void CHullwrightApp::SetViewSide(std::int32_t code)
+void CHullwrightApp::SetViewSide(ViewSide side)
 {
-  activeView = code;
+  activeView = side;
   if (mainFrame == nullptr) return;
-  if (const ViewSideEntry* const side = FindViewSide(code)) {
-    mainFrame->SetViewButtonImage(side->command);
+  if (const ViewSideEntry* const entry = FindViewSide(side)) {
+    mainFrame->SetViewButtonImage(entry->command);
   }
   mainFrame->InvalidateToolBar();
   mainFrame->Notify(Notification::RepaintDesign, 0);
@@ -109,14 +110,14 @@ void CHullwrightApp::SaveGridSettings(const GridSettings& grid)
 
 void CHullwrightApp::LoadLook()
 {
-  applicationLook =
-      ports_.settings.ReadInteger(workspaceSection, lookKey, Command::LookVisualStudio2008);
+  applicationLook = Look{
+      ports_.settings.ReadInteger(workspaceSection, lookKey, NumberOf(Look::VisualStudio2008))};
 }
 
-void CHullwrightApp::StoreLook(int look)
+void CHullwrightApp::StoreLook(Look look)
 {
   applicationLook = look;
-  ports_.settings.WriteInteger(workspaceSection, lookKey, look);
+  ports_.settings.WriteInteger(workspaceSection, lookKey, NumberOf(look));
 }
 
 bool CHullwrightApp::EditVertex(CShapeVertex& vertex)
@@ -125,7 +126,7 @@ bool CHullwrightApp::EditVertex(CShapeVertex& vertex)
   return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;
 }
 
-bool CHullwrightApp::EditOffsets(std::int32_t focus)
+bool CHullwrightApp::EditOffsets(HitKind focus)
 {
   CDialogOffsets dialog(*this, focus);
   return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;

@@ -17,6 +17,7 @@
 #include "platform/Trace.h"
 #include "platform/UnitDatabase.h"
 #include "render/ViewPort.h"
+#include "resources/CommandHandler.h"
 #include "view/ViewHost.h"
 
 namespace hullwright {
@@ -48,7 +49,7 @@ public:
   int ExitInstance(IFramework& framework);
 
   /// Brings a side into view: stores the code, shows it on the toolbar's drop-down, repaints.
-  void SetViewSide(std::int32_t code);
+  void SetViewSide(ViewSide side);
 
   /// Fills the unit table from the database; what is there stays where that fails.
   void LoadUnits();
@@ -57,10 +58,10 @@ public:
   void GetUnitLabel(std::u16string& label);
 
   /// Carries out a design command; false for an id that is none.
-  bool OnCommand(int id);
+  bool OnCommand(CommandId id);
 
-  /// Whether the id is a design command.
-  static bool IsCommand(int id);
+  /// How a design command looks at the moment; disabled for an id that is none.
+  CommandState QueryCommand(CommandId id) const;
 
   /// Turns the polylines of the side in view, making the group if need be; shapes of other kinds
   /// stay as they are. An angle of 0.0 turns nothing.
@@ -69,7 +70,7 @@ public:
   /// Takes the shapes of the side in view, the antenna's and the transducer's offset from one unit
   /// to another, if the user wants to. Without shapes there, or between equal units, nobody is
   /// asked.
-  void ConvertDesign(std::int32_t fromCode, std::int32_t toCode);
+  void ConvertDesign(UnitCode from, UnitCode to);
 
   /// The units of length that the database has now.
   std::vector<UnitRecord> ReadUnits() { return ports_.units.ReadUnits(); }
@@ -88,33 +89,32 @@ public:
 
   /// The look that the settings store has, and its way there.
   void LoadLook();
-  void StoreLook(int look);
+  void StoreLook(Look look);
 
   void ShowMessage(std::u16string_view text) { ports_.messages.ShowMessage(text); }
   void SaveGridSettings(const GridSettings& grid);
 
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override;
   bool EditVertex(CShapeVertex& vertex) override;
-  bool EditOffsets(std::int32_t focus) override;
+  bool EditOffsets(HitKind focus) override;
   GridSettings LoadGridSettings() const override;
-  std::int32_t GetCursorTool() const override { return cursorTool; }
+  CursorTool GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override;
   void BeforeChange(const CShapeVertex& vertex) override;
   void NotifyDesignChanged() override;
   void SetModifiedFlag(bool modified) override;
 
   CMainFrame* mainFrame = nullptr;  ///< set by the editor; null before and after the frame
-  std::int32_t cursorTool = CursorTool::None;
+  CursorTool cursorTool = CursorTool::None;
   std::vector<UnitRecord> unitTable;  ///< names of the units, loaded at their first use
-  std::int32_t applicationLook = 0;   ///< command of the current look; read when the frame is made
+  Look applicationLook{};             ///< read when the frame is made
   std::int32_t paneStyleFlag = 1;     ///< read once, when the frame builds its panes
 
 private:
   std::unique_ptr<CViewPortDesigner> ownViewPort_;  ///< until a view takes it over
   const UnitRecord* FindUnit();
 
-  struct CommandRow;
-  static const CommandRow* FindCommandRow(int id);
+  friend struct DesignCommandTable;
 
   // Design commands (DesignCommands.cpp)
   void Scale(double fx, double fy, double fz);

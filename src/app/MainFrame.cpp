@@ -3,22 +3,16 @@
 #include "app/HullwrightApp.h"
 #include "app/ObjectView.h"
 #include "file/HullwrightDoc.h"
-#include "resources/CommandIds.h"
 
 namespace hullwright {
-namespace {
-
-bool IsLook(int id) { return id >= Command::LookFirst && id <= Command::LookLast; }
-
-}  // namespace
 
 CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow* listener)
-    : viewButtonImage(Command::SelectView), app_(app), widgets_(widgets), listener_(listener)
+    : viewButtonImage(CommandId::SelectView), app_(app), widgets_(widgets), listener_(listener)
 {
   app.LoadLook();
 }
 
-void CMainFrame::ShowImport(int code, std::intptr_t value)
+void CMainFrame::ShowImport(Notification code, std::intptr_t value)
 {
   switch (code) {
     case Notification::ImportStart:
@@ -32,7 +26,7 @@ void CMainFrame::ShowImport(int code, std::intptr_t value)
   }
 }
 
-void CMainFrame::Notify(int code, std::intptr_t value)
+void CMainFrame::Notify(Notification code, std::intptr_t value)
 {
   if (listener_ != nullptr) listener_->Notify(code, value);
   ShowImport(code, value);
@@ -51,46 +45,34 @@ void CMainFrame::SetModifiedFlag(bool modified)
   if (document != nullptr) document->SetModifiedFlag(modified);
 }
 
-bool CMainFrame::OnCommand(int id)
+bool CMainFrame::OnCommand(CommandId id)
 {
-  if (id == Command::ShowAll || id == Command::DrawPolyline) {
-    if (view != nullptr) view->OnCommand(id);
-    return view != nullptr;
-  }
-  if (IsLook(id)) {
-    OnApplicationLook(id);
+  if (view != nullptr && view->OnCommand(id)) return true;
+  if (const auto look = LookOf(id)) {
+    OnApplicationLook(*look);
     return true;
   }
   return app_.OnCommand(id);
 }
 
-void CMainFrame::OnApplicationLook(int look)
+void CMainFrame::OnApplicationLook(Look look)
 {
   app_.applicationLook = look;
   widgets_.ApplyLook(look);
   app_.StoreLook(look);
 }
 
-CommandState CMainFrame::QueryCommand(int id) const
+CommandState CMainFrame::QueryCommand(CommandId id) const
 {
-  const auto tool = [this](std::int32_t value) {
-    return CommandState{true, app_.cursorTool == value, true};
-  };
-  switch (id) {
-    case Command::ToggleGrid: return {true, app_.LoadGridSettings().show != 0, true};
-    case Command::ToggleSnap: return {true, app_.LoadGridSettings().snap != 0, true};
-    case Command::CursorZoomIn: return tool(CursorTool::ZoomIn);
-    case Command::CursorZoomOut: return tool(CursorTool::ZoomOut);
-    case Command::CursorMove: return tool(CursorTool::Move);
-    case Command::ShowAll: return {true};
-    case Command::DrawPolyline: return {true, view != nullptr && view->drawing, true};
-    default: break;
+  if (view != nullptr) {
+    const CommandState state = view->QueryCommand(id);
+    if (state.enabled) return state;
   }
-  if (IsLook(id)) return {true, app_.applicationLook == id, true};
-  return {CHullwrightApp::IsCommand(id)};
+  if (const auto look = LookOf(id)) return Checked(app_.applicationLook == *look);
+  return app_.QueryCommand(id);
 }
 
-void CMainFrame::SetViewButtonImage(int command)
+void CMainFrame::SetViewButtonImage(CommandId command)
 {
   viewButtonImage = command;
   widgets_.SetViewButtonImage(command);

@@ -14,13 +14,6 @@ class CHullwrightApp;
 class CHullwrightDoc;
 class CObjectView;
 
-/// How a command's menu entry and button look at the moment.
-struct CommandState {
-  bool enabled = false;
-  bool checked = false;
-  bool checkable = false;
-};
-
 /// The main frame without its widgets: the switchboard of the notifications, the routing of
 /// commands and what they answer about themselves. The editor makes it and sets document and views.
 class CMainFrame : public IMainWindow {
@@ -32,20 +25,20 @@ public:
 
   /// The switchboard: the tree's code stays here, any other goes on to the view, without its value.
   /// The progress of an import is shown on the way.
-  void Notify(int code, std::intptr_t value) override;
+  void Notify(Notification code, std::intptr_t value) override;
   void SetModifiedFlag(bool modified) override;
 
   /// Carries out a command of application or view; false for an id without a handler.
-  bool OnCommand(int id);
+  bool OnCommand(CommandId id);
 
-  /// A command without a handler is disabled.
-  CommandState QueryCommand(int id) const;
+  /// How a command looks at the moment; one without a handler is disabled.
+  CommandState QueryCommand(CommandId id) const;
 
-  /// Selects a look by its command, shows it and stores it.
-  void OnApplicationLook(int look);
+  /// Selects a look, shows it and stores it.
+  void OnApplicationLook(Look look);
 
   /// The image that the side drop-down bears.
-  void SetViewButtonImage(int command);
+  void SetViewButtonImage(CommandId command);
   void InvalidateToolBar();
 
   /// Shows in the status bar what came of a command, until the next one.
@@ -55,10 +48,10 @@ public:
   CHullwrightView* view = nullptr;
   CObjectView* objectView = nullptr;
   bool hasWindow = false;
-  int viewButtonImage;  ///< command whose image the side drop-down bears
+  CommandId viewButtonImage;  ///< command whose image the side drop-down bears
 
 private:
-  void ShowImport(int code, std::intptr_t value);
+  void ShowImport(Notification code, std::intptr_t value);
 
   CHullwrightApp& app_;
   IFrameWidgets& widgets_;

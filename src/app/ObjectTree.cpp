@@ -7,7 +7,7 @@ namespace hullwright {
 namespace {
 
 struct SideNode {
-  std::int32_t code;
+  ViewSide code;
   std::u16string_view label;
 };
 
@@ -119,7 +119,7 @@ void CObjectTree::KeepText(const CShapeVertex& vertex)
   if (!keptTexts_.contains(&vertex)) keptTexts_[&vertex] = PointText(vertex);
 }
 
-int CObjectTree::Image(const TreeItem& item) const
+TreeImage CObjectTree::Image(const TreeItem& item) const
 {
   if (const PolylineNode* const node = Node(item)) {
     return item.level == TreeLevel::Point ? TreeImage::Point : node->image;
@@ -149,7 +149,7 @@ CAnchor* CObjectTree::Anchor(const TreeItem& item) const
   return isAnchor && item.row < anchors_.size() ? anchors_[item.row] : nullptr;
 }
 
-void CObjectTree::SetImage(const TreeItem& polyline, int image)
+void CObjectTree::SetImage(const TreeItem& polyline, TreeImage image)
 {
   if (Shape(polyline) != nullptr) sides_[polyline.side][polyline.row].image = image;
 }

@@ -26,16 +26,16 @@ struct TreeItem {
   friend bool operator==(const TreeItem&, const TreeItem&) = default;
 };
 
-/// Images of the tree's strip.
-namespace TreeImage {
-inline constexpr int Node = 0;
-inline constexpr int PolylineUnmarked = 2;
-inline constexpr int Point = 3;
-inline constexpr int Anchor = 4;
-inline constexpr int Polyline = 5;
-inline constexpr int PolylineMarked = 7;
-inline constexpr int AnchorMarked = 9;
-}  // namespace TreeImage
+/// Images of the tree's strip. Marking a polyline adds up, so that any number may stand here.
+enum class TreeImage : int {
+  Node = 0,
+  PolylineUnmarked = 2,
+  Point = 3,
+  Anchor = 4,
+  Polyline = 5,
+  PolylineMarked = 7,
+  AnchorMarked = 9,
+};
 
 /// The design as a tree: sides with their polylines and points, and the anchors. It refers to the
 /// design and copies nothing of it but what is needed to stay as it is until the next rebuild: a
@@ -59,7 +59,7 @@ public:
   /// Keeps the text that a vertex has now, whatever becomes of it, until the next rebuild.
   void KeepText(const CShapeVertex& vertex);
 
-  int Image(const TreeItem& item) const;
+  TreeImage Image(const TreeItem& item) const;
 
   // What an item stands for; null for an item of another level, or of before a rebuild.
   CShape* Shape(const TreeItem& item) const;
@@ -67,7 +67,7 @@ public:
   CAnchor* Anchor(const TreeItem& item) const;
 
   /// Gives a polyline's node an image; the next rebuild takes it away.
-  void SetImage(const TreeItem& polyline, int image);
+  void SetImage(const TreeItem& polyline, TreeImage image);
 
   bool IsCurrent(const TreeItem& item) const { return item && item.build == build_; }
 
@@ -75,7 +75,7 @@ private:
   struct PolylineNode {
     CShape* shape;
     std::size_t points;
-    int image;
+    TreeImage image;
   };
 
   static constexpr std::size_t sideCount = 7;

@@ -1,28 +1,44 @@
 #include "app/ObjectView.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
+#include "base/Code.h"
 #include "model/ShapePolyline.h"
 #include "render/ViewPort.h"
-#include "resources/CommandIds.h"
+#include "resources/CommandHandler.h"
+#include "resources/Commands.h"
 #include "resources/Strings.h"
 
 namespace hullwright {
 namespace {
 
-constexpr PopupEntry addPolyline{Command::AddPolyline, u"&Add Polyline..."};
-constexpr PopupEntry removeAll{Command::RemoveAllPolylines, u"&Remove All Polylines..."};
-constexpr PopupEntry addAnchor{Command::AddAnchor, u"&Add Anchor..."};
-constexpr PopupEntry addPoint{Command::AddVertex, u"&Add Point..."};
-constexpr PopupEntry removePolyline{Command::RemovePolyline, u"&Remove Polyline..."};
-constexpr PopupEntry zoomPolyline{Command::ZoomPolyline, u"&Zoom Polyline..."};
-constexpr PopupEntry removeAnchor{Command::RemoveAnchor, u"&Remove Anchor..."};
-constexpr PopupEntry modifyAnchor{Command::ModifyAnchor, u"&Modify Anchor..."};
-constexpr PopupEntry editPoint{Command::EditVertex, u"&Edit Point..."};
-constexpr PopupEntry removePoint{Command::RemoveVertex, u"&Remove Point..."};
+/// The entries of the menus that do nothing.
+constexpr std::array idle = {CommandId::RemoveAnchor, CommandId::ModifyAnchor};
 
 }  // namespace
+
+struct CObjectView::CommandTable {
+  using View = CObjectView;
+
+  static constexpr auto rows = std::to_array<CommandHandler<View>>({
+      {CommandId::AddPolyline, [](View& view) { view.AddPolyline(); }},
+      {CommandId::RemoveAllPolylines, [](View& view) { view.RemoveAllPolylines(); }},
+      {CommandId::AddAnchor, [](View& view) { view.AddAnchor(); }},
+      {CommandId::AddVertex, [](View& view) { view.AddPoint(); }},
+      {CommandId::RemovePolyline, [](View& view) { view.RemovePolyline(); }},
+      {CommandId::ZoomPolyline, [](View& view) { view.ZoomPolyline(); }},
+      {CommandId::EditVertex, [](View& view) { view.EditPoint(); }},
+      {CommandId::RemoveVertex, [](View& view) { view.RemovePoint(); }},
+  });
+
+  static constexpr bool IsHandled(CommandId id)
+  {
+    return id == CommandId::None || FindHandler(rows, id) != nullptr ||
+           std::ranges::find(idle, id) != idle.end();
+  }
+};
 
 void CObjectView::BuildTree()
 {
@@ -56,14 +72,14 @@ void CObjectView::ShowMarks()
 {
   // The value runs on from child to child: the marked polyline and all behind it show the marked
   // image.
-  constexpr int step = TreeImage::PolylineMarked - TreeImage::PolylineUnmarked;
-  int image = TreeImage::PolylineUnmarked;
+  constexpr int step = NumberOf(TreeImage::PolylineMarked) - NumberOf(TreeImage::PolylineUnmarked);
+  int image = NumberOf(TreeImage::PolylineUnmarked);
   for (std::size_t i = 0; i < tree_.ChildCount(sideItem); ++i) {
     const TreeItem child = tree_.Child(sideItem, i);
     const CShape* const shape = tree_.Shape(child);
     if (shape == nullptr) continue;
     if (shape->editing) image += step;
-    tree_.SetImage(child, image);
+    tree_.SetImage(child, TreeImage{image});
   }
   control_.ImagesChanged();
 }
@@ -72,36 +88,30 @@ void CObjectView::OnContextMenu(const TreeItem& item)
 {
   if (!item) return;
   selectedItem = item;
-  const std::vector<PopupEntry> entries = MenuOf(item);
-  if (!entries.empty()) control_.ShowMenu(entries);
+  static_assert(std::ranges::all_of(treeMenus, [](const TreeMenu& menu) {
+    return std::ranges::all_of(menu.entries, CommandTable::IsHandled);
+  }));
+  const auto* const menu = std::ranges::find(treeMenus, MenuOf(item), &TreeMenu::kind);
+  std::vector<PopupEntry> entries;
+  for (const CommandId id : menu->entries) {
+    if (id != CommandId::None) entries.push_back({id, TreeMenuText(id)});
+  }
+  control_.ShowMenu(entries);
 }
 
-std::vector<PopupEntry> CObjectView::MenuOf(const TreeItem& item) const
+TreeMenuKind CObjectView::MenuOf(const TreeItem& item) const
 {
   const TreeItem parent = tree_.Parent(item);
-  if (parent == tree_.Root()) return {addPolyline, removeAll};
-  if (item == tree_.Anchors()) return {addAnchor};
+  if (parent == tree_.Root()) return TreeMenuKind::Side;
+  if (item == tree_.Anchors()) return TreeMenuKind::Anchors;
   // The parent of no item is asked for here, not that of the item, so that no polyline gets this
   // menu.
-  if (tree_.Parent(TreeItem{}) == tree_.Root()) return {addPoint, removePolyline, zoomPolyline};
-  if (parent && parent == tree_.Anchors()) return {removeAnchor, modifyAnchor};
-  return {editPoint, removePoint};
+  if (tree_.Parent(TreeItem{}) == tree_.Root()) return TreeMenuKind::Polyline;
+  if (parent && parent == tree_.Anchors()) return TreeMenuKind::Anchor;
+  return TreeMenuKind::Point;
 }
 
-void CObjectView::OnCommand(int id)
-{
-  switch (id) {
-    case Command::AddPolyline: AddPolyline(); break;
-    case Command::RemoveAllPolylines: RemoveAllPolylines(); break;
-    case Command::AddAnchor: AddAnchor(); break;
-    case Command::AddVertex: AddPoint(); break;
-    case Command::RemovePolyline: RemovePolyline(); break;
-    case Command::ZoomPolyline: ZoomPolyline(); break;
-    case Command::EditVertex: EditPoint(); break;
-    case Command::RemoveVertex: RemovePoint(); break;
-    default: break;  // removing and modifying an anchor are offered and do nothing
-  }
-}
+void CObjectView::OnCommand(CommandId id) { RunCommand(CommandTable::rows, *this, id); }
 
 CShapes* CObjectView::Group() { return GetShapes(app_.shapeGroups, app_.activeView); }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "app/HullwrightApp.h"
 #include "app/ObjectTree.h"
 #include "platform/TreeControl.h"
+#include "resources/Menus.h"
 
 namespace hullwright {
 
@@ -27,7 +26,7 @@ public:
   void OnContextMenu(const TreeItem& item);
 
   /// A command of the pane's context menu; any other id does nothing.
-  void OnCommand(int id);
+  void OnCommand(CommandId id);
 
   CObjectTree& Tree() { return tree_; }
 
@@ -35,7 +34,9 @@ public:
   TreeItem sideItem;  ///< side node under which the last click fell; a rebuild does not clear it
 
 private:
-  std::vector<PopupEntry> MenuOf(const TreeItem& item) const;
+  struct CommandTable;
+
+  TreeMenuKind MenuOf(const TreeItem& item) const;
   void MarkForEditing(const TreeItem& polyline);
   void ShowMarks();
 

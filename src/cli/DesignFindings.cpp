@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignNumbers.h"
@@ -120,7 +121,7 @@ std::string PlaceOf(const DesignNumber& number)
 
 }  // namespace
 
-std::string GroupName(std::int32_t viewCode)
+std::string GroupName(ViewSide viewCode)
 {
   if (const ViewSideEntry* const side = FindViewSide(viewCode)) return std::string(side->name);
   if (viewCode == ViewSide::All) return "all";
@@ -158,12 +159,12 @@ std::vector<std::string> NumberFindings(const DesignState& design)
 
 std::vector<std::string> UnitFindings(CHullwrightApp& app)
 {
-  const std::int32_t code = app.unitCode;
+  const std::int32_t code = NumberOf(app.unitCode);
   // Code 0 is told as one that a save leaves out.
-  if (code == 0 || HasUnitFactor(code)) return {};
+  if (code == 0 || HasUnitFactor(app.unitCode)) return {};
   std::string text = "the unit code " + std::to_string(code);
   const std::vector<UnitRecord> units = app.ReadUnits();
-  const auto unit = std::ranges::find(units, code, &UnitRecord::numId);
+  const auto unit = std::ranges::find(units, app.unitCode, &UnitRecord::numId);
   // EPSG keeps angles and ratios in ranges of their own.
   const bool isAngle = code / 100 == 91;
   const bool isRatio = code / 100 == 92;

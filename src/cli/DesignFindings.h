@@ -19,6 +19,6 @@ std::vector<std::string> NumberFindings(const DesignState& design);
 std::vector<std::string> UnitFindings(CHullwrightApp& app);
 
 /// What a view code is called: the name of its side, "all", or "view 03" for one of no side.
-std::string GroupName(std::int32_t viewCode);
+std::string GroupName(ViewSide viewCode);
 
 }  // namespace hullwright

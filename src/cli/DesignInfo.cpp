@@ -3,6 +3,7 @@
 #include <cinttypes>
 #include <cstdio>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "cli/DesignFindings.h"
@@ -70,7 +71,7 @@ void WriteGroup(JsonWriter& json, const CShapes& group)
   const GroupSummary summary = Summarise(group);
   json.BeginObject();
   json.Key("view");
-  json.Integer(group.viewCode);
+  json.Integer(NumberOf(group.viewCode));
   json.Key("side");
   json.Ascii(summary.side);
   json.Key("polylines");
@@ -92,7 +93,7 @@ void PrintDesign(HeadlessEditor& editor, const std::string& name)
 {
   const CHullwrightApp& app = editor.App();
   std::printf("%s: design\n  unit          %s (EPSG %" PRId32 ")\n", name.c_str(),
-              UnitOf(editor).c_str(), app.unitCode);
+              UnitOf(editor).c_str(), NumberOf(app.unitCode));
   for (const Offset& offset : OffsetsOf(app)) {
     std::printf("  %-12s  %s, %s\n", offset.title, Place(offset.place.x, offset.place.y).c_str(),
                 FormatFixed(offset.place.z, 3).c_str());
@@ -125,7 +126,7 @@ void WriteDesignJson(JsonWriter& json, HeadlessEditor& editor, const std::string
   json.Key("unit");
   json.BeginObject();
   json.Key("code");
-  json.Integer(app.unitCode);
+  json.Integer(NumberOf(app.unitCode));
   json.Key("name");
   json.Text(WideFromUtf8(UnitOf(editor)));
   json.EndObject();

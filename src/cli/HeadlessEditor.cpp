@@ -85,7 +85,7 @@ Extents HeadlessEditor::SideBox() const
   return box;
 }
 
-void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
+void HeadlessEditor::ShowSide(ViewSide side, int width, int height)
 {
   constexpr double margin = 1.0 / 6.0;
   editor_.app.activeView = side;
@@ -93,7 +93,7 @@ void HeadlessEditor::ShowSide(std::int32_t side, int width, int height)
   Frame(SideBox(), margin);
 }
 
-void HeadlessEditor::ShowSide(std::int32_t side, int width, int height, const Extents& stretch)
+void HeadlessEditor::ShowSide(ViewSide side, int width, int height, const Extents& stretch)
 {
   editor_.app.activeView = side;
   editor_.view.OnSize(width, height);

@@ -46,8 +46,8 @@ public:
 
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
   /// and anchors if they are not removed, or with at least a stretch of the world.
-  void ShowSide(std::int32_t side, int width, int height);
-  void ShowSide(std::int32_t side, int width, int height, const Extents& stretch);
+  void ShowSide(ViewSide side, int width, int height);
+  void ShowSide(ViewSide side, int width, int height, const Extents& stretch);
 
   /// Draws the side in view as one frame.
   void Draw() { editor_.view.Repaint(); }

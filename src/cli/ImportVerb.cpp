@@ -44,7 +44,7 @@ struct Options {
   std::vector<std::string> drawings;
   std::string into;
   std::string output;
-  std::int32_t side = ViewSide::Top;
+  ViewSide side = ViewSide::Top;
   bool json = false;
 };
 
@@ -75,7 +75,7 @@ private:
 /// Hears of the progress where there is no frame.
 class ImportWindow : public SilentWindow {
 public:
-  void Notify(int code, std::intptr_t value) override
+  void Notify(Notification code, std::intptr_t value) override
   {
     if (code == Notification::ImportProgress) progress_.ShowProgress(static_cast<int>(value));
     if (code == Notification::ImportEnd) progress_.EndProgress();

@@ -1,5 +1,6 @@
 #include "cli/ShapesJson.h"
 
+#include "base/Code.h"
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
 #include "model/ShapeText.h"
@@ -71,7 +72,7 @@ void WriteShape(JsonWriter& json, const CShape& shape)
 {
   json.BeginObject();
   json.Key("type");
-  json.Integer(shape.type);
+  json.Integer(NumberOf(shape.type));
   json.Key("tag");
   json.Integer(shape.tag);
   json.Key("style");
@@ -114,7 +115,7 @@ void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u1
   json.BeginArray();
   for (const KeptTrace::Record& record : log.records) {
     json.BeginArray();
-    json.Integer(record.level);
+    json.Integer(NumberOf(record.level));
     json.Text(record.category);
     json.Text(WithoutPath(record.text, path));
     json.EndArray();

@@ -29,7 +29,7 @@ CFileDxf::CFileDxf(IMainWindow* frame, const ITrace& log, const DxfOptions& opti
 {
 }
 
-void CFileDxf::Log(std::int32_t level, std::u16string_view category, std::u16string_view text) const
+void CFileDxf::Log(TraceLevel level, std::u16string_view category, std::u16string_view text) const
 {
   LogRecord(context_.log, level, category, text);
 }

@@ -37,7 +37,7 @@ private:
   /// Walks the sections of the loaded text. -1 without a group to read into and without a window.
   int ProcessFile();
 
-  void Log(std::int32_t level, std::u16string_view category, std::u16string_view text) const;
+  void Log(TraceLevel level, std::u16string_view category, std::u16string_view text) const;
 
   IMainWindow* frame_;
   CLayer* targetLayer_ = nullptr;

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-void LogRecord(const ITrace& log, std::int32_t level, std::u16string_view category,
+void LogRecord(const ITrace& log, TraceLevel level, std::u16string_view category,
                std::u16string_view text)
 {
   using std::chrono::milliseconds;

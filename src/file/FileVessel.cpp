@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "file/DesignElements.h"
 
@@ -52,7 +53,7 @@ void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups, EmptyGroups em
 void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShapes>& shapeGroups,
                             EmptyGroups emptyGroups)
 {
-  if (element.kind == ElementKind::Unit && unitCode != 0) {
+  if (element.kind == ElementKind::Unit && NumberOf(unitCode) != 0) {
     WriteEmptyElement(element.name,
                       {{std::u16string(element.attribute), MemberText(element, *this)}});
   } else if (element.kind == ElementKind::Group) {
@@ -127,7 +128,7 @@ void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& att
     case ElementKind::Group:
       currentGroup_ = std::make_unique<CShapes>();
       ReadMember(*element, *currentGroup_, AttributeValue(attributes, element->attribute));
-      if (currentGroup_->viewCode == 0) currentGroup_->viewCode = ViewSide::Top;
+      if (currentGroup_->viewCode == ViewSide::None) currentGroup_->viewCode = ViewSide::Top;
       state_ = State::InGroup;
       break;
     case ElementKind::Polyline:

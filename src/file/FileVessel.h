@@ -37,7 +37,7 @@ public:
   void EndElement(std::u16string_view name) override;
   void Characters(std::u16string_view text) override;
 
-  std::int32_t unitCode = 9001;
+  UnitCode unitCode = UnitCode::Metre;
   std::unique_ptr<CShapeVertex> gps = std::make_unique<CShapeVertex>();
   std::unique_ptr<CShapeVertex> txd = std::make_unique<CShapeVertex>();
   std::unique_ptr<CShapeVertex> piv = std::make_unique<CShapeVertex>();

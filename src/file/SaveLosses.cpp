@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignElements.h"
@@ -39,9 +40,9 @@ bool HasAttribute(const DesignElement& element, std::u16string_view attribute)
 /// reader takes them.
 bool IsSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
 
-bool IsSide(std::int32_t viewCode)
+bool IsSide(ViewSide viewCode)
 {
-  return std::ranges::find(ViewSide::each, viewCode) != ViewSide::each.end();
+  return std::ranges::find(eachViewSide, viewCode) != eachViewSide.end();
 }
 
 constexpr std::u16string_view anchorName = ElementOf(ElementKind::Anchor).name;
@@ -116,7 +117,7 @@ void CSaveLosses::CheckUnit(const DesignElement& element, std::u16string_view te
   if (MemberText(element, static_cast<const CFileVessel&>(*this)) != text) {
     Add(LossKind::UnitChanges, place);
   }
-  if (unitCode == 0) Add(LossKind::UnitIsZero, place);
+  if (NumberOf(unitCode) == 0) Add(LossKind::UnitIsZero, place);
 }
 
 void CSaveLosses::CheckView(const DesignElement& element, std::u16string_view text)
@@ -124,7 +125,7 @@ void CSaveLosses::CheckView(const DesignElement& element, std::u16string_view te
   CShapes group;
   ReadMember(element, group, text);
   const LossPlace place = AttributePlace(element, text);
-  if (group.viewCode == 0) {
+  if (group.viewCode == ViewSide::None) {
     Add(LossKind::GroupWithoutView, place);
     group.viewCode = ViewSide::Top;
   } else if (!IsSide(group.viewCode) && group.viewCode != ViewSide::All) {

@@ -86,7 +86,7 @@ private:
 
   std::vector<std::u16string> path_;  ///< names of the open elements
   std::map<LossKind, Loss> found_;
-  std::map<std::int32_t, int> groups_;     ///< how often a view code came
+  std::map<ViewSide, int> groups_;         ///< how often a view code came
   std::map<std::u16string, int> singles_;  ///< how often an element came that should come once
   std::set<std::u16string> anchorFields_;  ///< of the anchor being read
   bool nameBehindLineBreak_ = false;       ///< so far, of the name being read

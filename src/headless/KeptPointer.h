@@ -24,8 +24,8 @@ public:
 
   std::vector<CursorShape> shapes;
   std::vector<std::pair<ClientPoint, ClientPoint>> lines;
-  std::vector<std::pair<int, std::u16string>> offered;  ///< entries of the last menu
-  ClientPoint place;                                    ///< of that menu
+  std::vector<std::pair<CommandId, std::u16string>> offered;  ///< entries of the last menu
+  ClientPoint place;                                          ///< of that menu
 };
 
 }  // namespace hullwright

@@ -12,12 +12,12 @@ namespace hullwright {
 class KeptTrace : public ITrace {
 public:
   struct Record {
-    std::int32_t level;
+    TraceLevel level;
     std::u16string category;
     std::u16string text;
   };
 
-  void Trace(double, std::int32_t level, std::u16string_view category,
+  void Trace(double, TraceLevel level, std::u16string_view category,
              std::u16string_view text) const override
   {
     records.push_back({level, std::u16string(category), std::u16string(text)});

@@ -7,9 +7,9 @@ namespace hullwright {
 /// Hears of the frame's look and shows nothing; a base for what shows a part of it.
 class NoWidgets : public IFrameWidgets {
 public:
-  void SetViewButtonImage(int) override {}
+  void SetViewButtonImage(CommandId) override {}
   void InvalidateToolBar() override {}
-  void ApplyLook(int) override {}
+  void ApplyLook(Look) override {}
   void ShowNote(std::u16string_view) override {}
   void StartProgress(std::string_view) override {}
   void ShowProgress(int) override {}

@@ -8,7 +8,7 @@ namespace hullwright {
 class SilentWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return true; }
-  void Notify(int, std::intptr_t) override {}
+  void Notify(Notification, std::intptr_t) override {}
   void SetModifiedFlag(bool) override {}
 };
 

@@ -25,8 +25,8 @@ struct DesignState {
   std::unique_ptr<CShapeVertex> offsetGps = std::make_unique<CShapeVertex>(10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetTransducer = std::make_unique<CShapeVertex>(-10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetPivot = std::make_unique<CShapeVertex>(0.0, 10.0, 0.0);
-  std::int32_t unitCode = 9001;             ///< EPSG unit of measure; 9001 is the metre
-  std::int32_t activeView = ViewSide::Top;  ///< the side shown and edited
+  UnitCode unitCode = UnitCode::Metre;
+  ViewSide activeView = ViewSide::Top;  ///< the side shown and edited
 };
 
 /// Gives the design's view, where zooming no longer leads on from it, the window that it began

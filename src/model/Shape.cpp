@@ -22,7 +22,7 @@ void CShape::Rotate(double) {}
 
 void CShape::Reset()
 {
-  type = 0;
+  type = ShapeType::None;
   tag = 0;
   selected = false;
   vertices.clear();

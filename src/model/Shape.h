@@ -15,13 +15,14 @@ namespace hullwright {
 class CViewPort;
 
 /// Codes of the concrete shapes. Only polylines reach the design file and the object tree.
-namespace ShapeType {
-inline constexpr std::uint16_t Point = 1;
-inline constexpr std::uint16_t Polyline = 2;
-inline constexpr std::uint16_t Polygon = 3;
-inline constexpr std::uint16_t Text = 8;
-inline constexpr std::uint16_t Ring = 9;
-}  // namespace ShapeType
+enum class ShapeType : std::uint16_t {
+  None = 0,  ///< of a shape that was reset
+  Point = 1,
+  Polyline = 2,
+  Polygon = 3,
+  Text = 8,
+  Ring = 9,
+};
 
 /// Base of everything that is drawn in a view group. All coordinates are world coordinates in the
 /// design's length unit, all angles degrees. A shape owns its vertices, style and attributes and is
@@ -76,7 +77,7 @@ public:
   std::int32_t tag = 0;                          ///< an importer's handle
   bool selected = false;                         ///< drawn with a yellow highlight
   bool editing = false;  ///< marked in the object tree; one of a group at most
-  std::uint16_t type = 0;
+  ShapeType type = ShapeType::None;
   mutable std::uint32_t cursor = 0;
   OwnedArray<CShapeVertex> vertices;  ///< the outline, in drawing order
 };

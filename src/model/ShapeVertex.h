@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "model/Units.h"
+
 namespace hullwright {
 
 /// One 3-D world coordinate in the design's length unit. `z` is carried and saved; drawing and hit
@@ -42,7 +44,7 @@ public:
 
   /// Takes all three coordinates from one unit to another. False, with nothing changed, at the
   /// origin and when the units are the same.
-  bool ConvertUnits(std::int32_t fromCode, std::int32_t toCode);
+  bool ConvertUnits(UnitCode from, UnitCode to);
 
   // Carried state: copied where an operation says so, otherwise written as 0 and read by nothing.
   std::uint8_t flag = 0;

@@ -27,21 +27,21 @@ void CShapes::GetExtents(Extents& box) const
   Walk(cursor, shapes, [&box](const CShape& shape) { shape.GetExtents(box); });
 }
 
-bool CShapes::AnswersFor(std::int32_t side) const
+bool CShapes::AnswersFor(ViewSide side) const
 {
   return viewCode == side || viewCode == ViewSide::All;
 }
 
-CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode)
+CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, ViewSide viewCode)
 {
   const auto found = std::ranges::find_if(
       shapeGroups, [viewCode](const auto& group) { return group && group->AnswersFor(viewCode); });
   return found == shapeGroups.end() ? nullptr : found->get();
 }
 
-CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode)
+CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, ViewSide viewCode)
 {
-  if (viewCode == 0) return nullptr;
+  if (viewCode == ViewSide::None) return nullptr;
   if (CShapes* group = FindViewGroup(shapeGroups, viewCode)) return group;
   return shapeGroups.emplace_back(std::make_unique<CShapes>(viewCode)).get();
 }

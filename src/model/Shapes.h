@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "model/Shape.h"
+#include "model/ViewSide.h"
 #include "model/Walk.h"
 
 namespace hullwright {
@@ -11,7 +12,7 @@ namespace hullwright {
 class CShapes {
 public:
   CShapes() = default;
-  explicit CShapes(std::int32_t code) : viewCode(code) {}
+  explicit CShapes(ViewSide code) : viewCode(code) {}
   CShapes(const CShapes&) = delete;
   CShapes& operator=(const CShapes&) = delete;
   virtual ~CShapes() = default;
@@ -31,18 +32,18 @@ public:
   void GetExtents(Extents& box) const;
 
   /// Whether the group answers for a side: it bears the side's code, or the code of all sides.
-  bool AnswersFor(std::int32_t side) const;
+  bool AnswersFor(ViewSide side) const;
 
   mutable std::uint32_t cursor = 0;
-  std::int32_t viewCode = 0;
+  ViewSide viewCode = ViewSide::None;
   OwnedArray<CShape> shapes;
 };
 
 /// The first group that answers for the side; null if there is none.
-CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode);
+CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, ViewSide viewCode);
 
 /// The first group that answers for the side, made and appended if there is none. Null for code 0.
-CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, std::int32_t viewCode);
+CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, ViewSide viewCode);
 
 /// Releases every group.
 void ClearGroups(OwnedArray<CShapes>& shapeGroups);

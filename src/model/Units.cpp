@@ -10,16 +10,19 @@ namespace {
 
 /// A unit of length and how many metres one of it is.
 struct UnitFactor {
-  std::int32_t code;
+  UnitCode code;
   double toMetres;
   double fromMetres;
 };
 
-constexpr UnitFactor Same(std::int32_t code, double factor) { return {code, factor, factor}; }
+constexpr UnitFactor Same(std::int32_t code, double factor)
+{
+  return {UnitCode{code}, factor, factor};
+}
 
 constexpr std::array unitFactors = std::to_array<UnitFactor>({
     Same(9002, 0.3048),
-    {9003, 0.3048006096012192, 0.304800609601219},
+    {UnitCode{9003}, 0.3048006096012192, 0.304800609601219},
     Same(9005, 0.3047972654),
     Same(9031, 1.0000135965),
     Same(9033, 20.1168402336805),
@@ -44,7 +47,7 @@ constexpr std::array unitFactors = std::to_array<UnitFactor>({
 });
 
 /// The factors of a unit; null for one that counts as the metre.
-const UnitFactor* Find(std::int32_t code)
+const UnitFactor* Find(UnitCode code)
 {
   const auto* const found = std::ranges::find(unitFactors, code, &UnitFactor::code);
   return found == unitFactors.end() ? nullptr : found;
@@ -52,30 +55,26 @@ const UnitFactor* Find(std::int32_t code)
 
 }  // namespace
 
-double ToMetres(std::int32_t unitCode, double value)
+double ToMetres(UnitCode code, double value)
 {
-  const UnitFactor* const unit = Find(unitCode);
+  const UnitFactor* const unit = Find(code);
   return unit == nullptr ? value : value * unit->toMetres;
 }
 
-double FromMetres(std::int32_t unitCode, double value)
+double FromMetres(UnitCode code, double value)
 {
-  const UnitFactor* const unit = Find(unitCode);
+  const UnitFactor* const unit = Find(code);
   return unit == nullptr ? value : value / unit->fromMetres;
 }
 
-bool HasUnitFactor(std::int32_t unitCode)
-{
-  constexpr std::int32_t metre = 9001;
-  return unitCode == metre || Find(unitCode) != nullptr;
-}
+bool HasUnitFactor(UnitCode code) { return code == UnitCode::Metre || Find(code) != nullptr; }
 
-bool CShapeVertex::ConvertUnits(std::int32_t fromCode, std::int32_t toCode)
+bool CShapeVertex::ConvertUnits(UnitCode from, UnitCode to)
 {
   if (x == 0.0 && y == 0.0 && z == 0.0) return false;
-  if (fromCode == toCode) return false;
+  if (from == to) return false;
   for (double* const coordinate : {&x, &y, &z}) {
-    *coordinate = FromMetres(toCode, ToMetres(fromCode, *coordinate));
+    *coordinate = FromMetres(to, ToMetres(from, *coordinate));
   }
   return true;
 }

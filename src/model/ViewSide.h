@@ -3,18 +3,24 @@
 #include <array>
 #include <cstdint>
 
-/// Codes of the vessel's sides. They are compared by equality, never as a bit mask.
-namespace hullwright::ViewSide {
+namespace hullwright {
 
-inline constexpr std::int32_t Top = 1;
-inline constexpr std::int32_t Bottom = 2;
-inline constexpr std::int32_t Right = 4;
-inline constexpr std::int32_t Left = 8;
-inline constexpr std::int32_t Front = 16;
-inline constexpr std::int32_t Rear = 32;
-inline constexpr std::int32_t All = 63;  ///< a group that answers for every side
+/// A side of the vessel. Files and settings may hold any number here, which is kept; sides are
+/// compared by equality, never as a bit mask.
+enum class ViewSide : std::int32_t {
+  None = 0,  ///< has no group
+  Top = 1,
+  Bottom = 2,
+  Right = 4,
+  Left = 8,
+  Front = 16,
+  Rear = 32,
+  All = 63,  ///< of a group that answers for every side
+};
 
 /// The six sides that can be in view, in the order of their codes.
-inline constexpr std::array<std::int32_t, 6> each = {Top, Bottom, Right, Left, Front, Rear};
+inline constexpr std::array<ViewSide, 6> eachViewSide = {ViewSide::Top,   ViewSide::Bottom,
+                                                         ViewSide::Right, ViewSide::Left,
+                                                         ViewSide::Front, ViewSide::Rear};
 
-}  // namespace hullwright::ViewSide
+}  // namespace hullwright

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "resources/CommandIds.h"
+
 namespace hullwright {
 
 /// What start-up and exit need of the application framework, in the order of use. Steps that can
@@ -36,13 +38,13 @@ public:
   virtual ~IFrameWidgets() = default;
 
   /// Gives the side drop-down the image of a command.
-  virtual void SetViewButtonImage(int command) = 0;
+  virtual void SetViewButtonImage(CommandId command) = 0;
 
   /// Draws the whole toolbar anew.
   virtual void InvalidateToolBar() = 0;
 
-  /// Gives the program the look of a command and draws the frame anew.
-  virtual void ApplyLook(int look) = 0;
+  /// Gives the program a look and draws the frame anew.
+  virtual void ApplyLook(Look look) = 0;
 
   /// Shows what came of a command, until the next one.
   virtual void ShowNote(std::u16string_view text) = 0;

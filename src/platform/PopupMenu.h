@@ -4,12 +4,13 @@
 #include <string_view>
 
 #include "platform/Pointer.h"
+#include "resources/CommandIds.h"
 
 namespace hullwright {
 
-/// One row of a menu that is built at run time; an id of 0 is a separator.
+/// One row of a menu that is built at run time; without a command it is a separator.
 struct PopupEntry {
-  int id = 0;
+  CommandId id = CommandId::None;
   std::u16string_view text;
 };
 

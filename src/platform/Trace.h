@@ -6,11 +6,11 @@
 namespace hullwright {
 
 /// Levels of log records.
-namespace TraceLevel {
-inline constexpr std::int32_t Failure = 1;
-inline constexpr std::int32_t Progress = 4;
-inline constexpr std::int32_t Success = 32;
-}  // namespace TraceLevel
+enum class TraceLevel : std::int32_t {
+  Failure = 1,
+  Progress = 4,
+  Success = 32,
+};
 
 /// Where records of the log go.
 class ITrace {
@@ -18,7 +18,7 @@ public:
   virtual ~ITrace() = default;
 
   /// Adds a record to the log of a category. `text` is the formatted message.
-  virtual void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+  virtual void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
                      std::u16string_view text) const = 0;
 };
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
+
+#include "model/Units.h"
 
 namespace hullwright {
 
@@ -10,7 +11,7 @@ namespace hullwright {
 struct UnitRecord {
   std::u16string strUnitShort;
   std::u16string strUnit;
-  std::int32_t numId = 0;  ///< EPSG code
+  UnitCode numId{};
 };
 
 /// Where the units of length are kept.

@@ -5,7 +5,6 @@
 
 #include "qt/Icons.h"
 #include "qt/QtText.h"
-#include "resources/Accelerators.h"
 #include "resources/Commands.h"
 
 namespace hullwright {
@@ -20,13 +19,13 @@ QString TwoLines(std::u16string_view label)
   return ToQString(label).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
-Actions::Actions(QWidget* window, std::function<void(int)> run)
+Actions::Actions(QWidget* window, std::function<void(CommandId)> run)
     : QObject(window), window_(window), looks_(new QActionGroup(this)), run_(std::move(run))
 {
   looks_->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
 }
 
-QAction* Actions::Get(int command)
+QAction* Actions::Get(CommandId command)
 {
   if (const auto found = actions_.find(command); found != actions_.end()) return found->second;
   auto* const action = new QAction(this);
@@ -38,18 +37,18 @@ QAction* Actions::Get(int command)
     action->setText(OneLine(tooltip));
     action->setIconText(TwoLines(tooltip));
     action->setToolTip(OneLine(tooltip));
+    SetKeys(*entry, *action);
   }
-  if (command >= Command::LookFirst && command <= Command::LookLast) looks_->addAction(action);
-  SetKeys(command, *action);
+  if (LookOf(command)) looks_->addAction(action);
   connect(action, &QAction::triggered, this, [this, command] { run_(command); });
   return action;
 }
 
-void Actions::SetKeys(int command, QAction& action)
+void Actions::SetKeys(const CommandEntry& command, QAction& action)
 {
   QList<QKeySequence> keys;
-  for (const Accelerator& accelerator : accelerators) {
-    if (accelerator.command == command) keys.append(QKeySequence(ToQString(accelerator.key)));
+  for (const std::string_view key : {command.key, command.otherKey}) {
+    if (!key.empty()) keys.append(QKeySequence(ToQString(key)));
   }
   if (keys.isEmpty()) return;
   action.setShortcuts(keys);
@@ -61,7 +60,7 @@ void Actions::SetKeys(int command, QAction& action)
 void Actions::FillMenuBar(QMenuBar& bar, std::span<const MenuItem> rows)
 {
   for (std::size_t i = 0; i < rows.size();) {
-    QMenu* const menu = bar.addMenu(ToQString(rows[i].text));
+    QMenu* const menu = bar.addMenu(ToQString(rows[i].title));
     std::size_t end = i + 1;
     while (end < rows.size() && rows[end].row != MenuRow::Menu) ++end;
     FillMenu(*menu, rows.subspan(i + 1, end - i - 1));
@@ -76,38 +75,39 @@ void Actions::FillMenu(QMenu& menu, std::span<const MenuItem> rows)
   for (const MenuItem& item : rows) {
     switch (item.row) {
       case MenuRow::SubMenu:
-        current = current->addMenu(ToQString(item.text));
+        current = current->addMenu(ToQString(item.title));
         if (onMenu) onMenu(*current);
         break;
       case MenuRow::EndSubMenu: current = qobject_cast<QMenu*>(current->parent()); break;
       case MenuRow::Separator: current->addSeparator(); break;
-      default: AddEntry(*current, item);
+      default: AddEntry(*current, item.id);
     }
   }
 }
 
-void Actions::AddEntry(QMenu& menu, const MenuItem& item)
+void Actions::AddEntry(QMenu& menu, CommandId command)
 {
-  QAction* const action = Get(item.id);
+  QAction* const action = Get(command);
   const QString label = action->iconText();
   const QString tip = action->toolTip();
-  QString text = ToQString(item.text);
-  // A key that works is shown by the action itself; one that is only named stays in the text.
-  if (!action->shortcut().isEmpty()) text = text.section(QLatin1Char('\t'), 0, 0);
-  action->setText(text);
+  const CommandEntry& entry = *FindCommand(command);
+  const QString text = ToQString(entry.text);
+  // A key that works is shown by the action itself.
+  action->setText(entry.shownKey.empty() ? text
+                                         : text + QLatin1Char('\t') + ToQString(entry.shownKey));
   action->setIconText(label.isEmpty() ? QString(text).remove(QLatin1Char('&')) : label);
   if (!tip.isEmpty()) action->setToolTip(tip);
   menu.addAction(action);
 }
 
-void Actions::ForEach(const std::function<void(int, QAction&)>& visit)
+void Actions::ForEach(const std::function<void(CommandId, QAction&)>& visit)
 {
   for (const auto& [command, action] : actions_) visit(command, *action);
 }
 
 void Actions::RefreshIcons()
 {
-  ForEach([this](int command, QAction& action) {
+  ForEach([this](CommandId command, QAction& action) {
     const CommandEntry* const entry = FindCommand(command);
     if (entry != nullptr) action.setIcon(ThemedIcon(entry->icon, window_->palette()));
   });

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/Code.h"
 #include "qt/Icons.h"
 #include "qt/QtText.h"
 #include "resources/ToolBars.h"
@@ -94,12 +95,12 @@ QPushButton* CustomizeDialog::MakeButton(const QString& text, void (CustomizeDia
   return button;
 }
 
-QListWidgetItem* CustomizeDialog::MakeItem(int command)
+QListWidgetItem* CustomizeDialog::MakeItem(CommandId command)
 {
   auto* const item = new QListWidgetItem;
-  item->setData(Qt::UserRole, command);
+  item->setData(Qt::UserRole, NumberOf(command));
   item->setIcon(NoImage());
-  if (command == toolBarSeparator) {
+  if (command == CommandId::None) {
     item->setText(tr("Separator"));
     return item;
   }
@@ -115,8 +116,8 @@ QListWidgetItem* CustomizeDialog::MakeItem(int command)
 
 void CustomizeDialog::FillAvailable()
 {
-  available_->addItem(MakeItem(toolBarSeparator));
-  for (const int command : ToolBars::Available()) available_->addItem(MakeItem(command));
+  available_->addItem(MakeItem(CommandId::None));
+  for (const CommandId command : ToolBars::Available()) available_->addItem(MakeItem(command));
   available_->setCurrentRow(0);
 }
 
@@ -124,16 +125,16 @@ void CustomizeDialog::ShowToolBar(int index)
 {
   current_ = index;
   shown_->clear();
-  for (const int command : specs_.at(index).commands) shown_->addItem(MakeItem(command));
+  for (const CommandId command : specs_.at(index).commands) shown_->addItem(MakeItem(command));
   shown_->setCurrentRow(0);
   UpdateButtons();
 }
 
 void CustomizeDialog::TakeOver()
 {
-  QList<int> commands;
+  QList<CommandId> commands;
   for (int row = 0; row < shown_->count(); ++row) {
-    commands.append(shown_->item(row)->data(Qt::UserRole).toInt());
+    commands.append(CommandId{shown_->item(row)->data(Qt::UserRole).toInt()});
   }
   specs_[current_].commands = commands;
 }
@@ -143,7 +144,7 @@ void CustomizeDialog::Add()
   const QListWidgetItem* const chosen = available_->currentItem();
   if (chosen == nullptr) return;
   const int row = shown_->currentRow() + 1;
-  shown_->insertItem(row, MakeItem(chosen->data(Qt::UserRole).toInt()));
+  shown_->insertItem(row, MakeItem(CommandId{chosen->data(Qt::UserRole).toInt()}));
   shown_->setCurrentRow(row);
 }
 
@@ -160,7 +161,7 @@ void CustomizeDialog::MoveBy(int rows)
 
 void CustomizeDialog::Reset()
 {
-  specs_[current_].commands = current_ == 0 ? standard_.commands : QList<int>();
+  specs_[current_].commands = current_ == 0 ? standard_.commands : QList<CommandId>();
   ShowToolBar(current_);
 }
 

@@ -21,7 +21,7 @@ public:
   QList<ToolBarSpec> Specs() const { return specs_; }
 
 private:
-  QListWidgetItem* MakeItem(int command);
+  QListWidgetItem* MakeItem(CommandId command);
   QPushButton* MakeButton(const QString& text, void (CustomizeDialog::*act)());
   void FillAvailable();
   void ShowToolBar(int index);

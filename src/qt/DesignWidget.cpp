@@ -56,7 +56,7 @@ void DesignWidget::Show(std::span<const PopupEntry> entries, ClientPoint at)
   auto* const menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (const PopupEntry& entry : entries) {
-    if (entry.id == 0) {
+    if (entry.id == CommandId::None) {
       menu->addSeparator();
       continue;
     }

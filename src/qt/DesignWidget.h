@@ -30,7 +30,7 @@ public:
   void Show(std::span<const PopupEntry> entries, ClientPoint at) override;
 
   /// Gives the entries of context menus their images.
-  std::function<QIcon(int)> iconOf;
+  std::function<QIcon(CommandId)> iconOf;
 
 Q_SIGNALS:
   /// A button is being pressed; the view has not seen it yet.

@@ -13,8 +13,8 @@ namespace hullwright {
 namespace {
 
 /// A look by its colours: the window's, and that of what is chosen. Palettes follow from the two.
-struct Look {
-  int id;
+struct LookColours {
+  Look look;
   const char* style;
   QRgb window;
   QRgb highlight;
@@ -23,21 +23,21 @@ struct Look {
 constexpr QRgb plainWindow = qRgb(0xef, 0xef, 0xef);
 constexpr QRgb plainHighlight = qRgb(0x20, 0x6f, 0xa8);
 
-constexpr auto looks = std::to_array<Look>({
-    {Command::LookWindows2000, "Windows", qRgb(0xd4, 0xd0, 0xc8), qRgb(0x0a, 0x24, 0x6a)},
-    {Command::LookOfficeXp, "Fusion", qRgb(0xec, 0xe9, 0xd8), qRgb(0x31, 0x6a, 0xc5)},
-    {Command::LookWindowsXp, "Fusion", qRgb(0xf1, 0xef, 0xe2), qRgb(0x31, 0x6a, 0xc5)},
-    {Command::LookOffice2003, "Fusion", qRgb(0xdd, 0xe8, 0xf7), qRgb(0x31, 0x6a, 0xc5)},
-    {Command::LookVisualStudio2005, "Fusion", qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
-    {Command::LookVisualStudio2008, "Fusion", plainWindow, plainHighlight},
-    {Command::LookBlue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
-    {Command::LookBlack, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
-    {Command::LookSilver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x45, 0x5f, 0x85)},
-    {Command::LookAqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
-    {Command::LookLast, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
+constexpr auto looks = std::to_array<LookColours>({
+    {Look::Windows2000, "Windows", qRgb(0xd4, 0xd0, 0xc8), qRgb(0x0a, 0x24, 0x6a)},
+    {Look::OfficeXp, "Fusion", qRgb(0xec, 0xe9, 0xd8), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::WindowsXp, "Fusion", qRgb(0xf1, 0xef, 0xe2), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::Office2003, "Fusion", qRgb(0xdd, 0xe8, 0xf7), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::VisualStudio2005, "Fusion", qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::VisualStudio2008, "Fusion", plainWindow, plainHighlight},
+    {Look::Blue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
+    {Look::Black, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
+    {Look::Silver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x45, 0x5f, 0x85)},
+    {Look::Aqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
+    {Look::Windows7, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
 });
 
-QPalette PaletteOf(const Look& look)
+QPalette PaletteOf(const LookColours& look)
 {
   QPalette palette = QPalette(QColor(look.window));
   palette.setColor(QPalette::Highlight, QColor(look.highlight));
@@ -61,10 +61,10 @@ QPalette PaletteOf(const Look& look)
 
 }  // namespace
 
-void ApplyLook(int look)
+void ApplyLook(Look look)
 {
-  const auto* found = std::ranges::find(looks, look, &Look::id);
-  if (found == looks.end()) found = std::ranges::find(looks, Command::LookBlue, &Look::id);
+  const auto* found = std::ranges::find(looks, look, &LookColours::look);
+  if (found == looks.end()) found = std::ranges::find(looks, Look::Blue, &LookColours::look);
   QApplication::setStyle(QStyleFactory::create(QLatin1String(found->style)));
   QApplication::setPalette(PaletteOf(*found));
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "resources/CommandIds.h"
+
 namespace hullwright {
 
-/// Gives the whole program the look of a command: a style of the toolkit and a palette. Numbers
+/// Gives the whole program a look: a style of the toolkit and a palette. Numbers
 /// between the looks take the blue one.
-void ApplyLook(int look);
+void ApplyLook(Look look);
 
 }  // namespace hullwright

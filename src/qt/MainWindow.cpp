@@ -15,11 +15,9 @@
 #include "qt/Looks.h"
 #include "qt/MenuKeys.h"
 #include "qt/QtText.h"
-#include "resources/Accelerators.h"
+#include "qt/ShellCommandTable.h"
 #include "resources/Commands.h"
-#include "resources/Menus.h"
 #include "resources/Strings.h"
-#include "resources/ToolBars.h"
 
 namespace hullwright {
 namespace {
@@ -40,18 +38,20 @@ MainWindow::MainWindow(const DeskPorts& ports)
       documents_(document_, app_,
                  {documentDialogs_, recentFiles_, ports.formerVersions, *this,
                   [this] { return view_.drawing && !view_.newShape->vertices.empty(); }}),
-      actions_(new Actions(this, [this](int command) { RunCommand(command); }))
+      actions_(new Actions(this, [this](CommandId command) { RunCommand(command); }))
 {
   setWindowIcon(ApplicationIcon());
   setCentralWidget(design_);
   BuildMenus();
   BuildStatusBar();
   BuildObjectPane();
-  for (const Accelerator& accelerator : accelerators) actions_->Get(accelerator.command);
+  for (const CommandEntry& command : Commands()) {
+    if (!command.key.empty()) actions_->Get(command.id);
+  }
   documents_.onChange = [this] { UpdateAll(); };
   connect(design_, &DesignWidget::Pressed, this, [this] { note_.clear(); });
   connect(design_, &DesignWidget::ViewChanged, this, [this] { UpdateAll(); });
-  design_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
+  design_->iconOf = [this](CommandId command) { return actions_->Get(command)->icon(); };
   design_->Attach(view_);
   UpdateCommands();
   UpdateTitle();
@@ -98,24 +98,23 @@ void MainWindow::BuildMenus()
   };
   actions_->FillMenuBar(*menuBar(), mainMenu);
   recentMenu_ = new QMenu(this);
-  actions_->Get(Command::RecentFile)->setMenu(recentMenu_);
+  actions_->Get(CommandId::RecentFile)->setMenu(recentMenu_);
   toolBarsMenu_ = new QMenu(this);
-  actions_->Get(Command::ViewToolbars)->setMenu(toolBarsMenu_);
+  actions_->Get(CommandId::ViewToolbars)->setMenu(toolBarsMenu_);
   connect(recentMenu_, &QMenu::aboutToShow, this, [this] { FillRecentFiles(*recentMenu_); });
 }
 
 void MainWindow::BuildToolBars()
 {
-  const std::span<const int> commands = app_.paneStyleFlag != 0
-                                            ? std::span<const int>(mainToolBar)
-                                            : std::span<const int>(smallToolBar);
-  toolBars_ = new ToolBars(*this, *actions_, QList<int>(commands.begin(), commands.end()));
+  using Row = std::span<const CommandId>;
+  const Row commands = app_.paneStyleFlag != 0 ? Row(mainToolBar) : Row(smallToolBar);
+  toolBars_ = new ToolBars(*this, *actions_, QList<CommandId>(commands.begin(), commands.end()));
   if (const QSettings* const file = settings_.File()) {
     toolBars_->Load(*file);
   } else {
     toolBars_->Build({toolBars_->StandardSpec()});
   }
-  QAction* const customize = actions_->Get(Command::Customize);
+  QAction* const customize = actions_->Get(CommandId::Customize);
   customize->setText(ToQString(Strings::customize));
   connect(toolBarsMenu_, &QMenu::aboutToShow, this, [this] { FillToolBarsMenu(); });
 }
@@ -128,7 +127,7 @@ void MainWindow::FillToolBarsMenu()
   }
   toolBarsMenu_->addAction(objectPane_->toggleViewAction());
   toolBarsMenu_->addSeparator();
-  toolBarsMenu_->addAction(actions_->Get(Command::Customize));
+  toolBarsMenu_->addAction(actions_->Get(CommandId::Customize));
 }
 
 QMenu* MainWindow::createPopupMenu()
@@ -171,8 +170,8 @@ void MainWindow::BuildStatusBar()
   constexpr auto widths = PaneWidths(0);
   coordinatesPane_ = dataPane(widths[1]);
   unitsPane_ = dataPane(widths[2]);
-  unitsPane_->onPress = [this] { RunCommand(Command::Units); };
-  QAction* const toggle = actions_->Get(Command::ViewStatusBar);
+  unitsPane_->onPress = [this] { RunCommand(CommandId::Units); };
+  QAction* const toggle = actions_->Get(CommandId::ViewStatusBar);
   toggle->setCheckable(true);
   toggle->setChecked(true);
 }
@@ -182,7 +181,7 @@ void MainWindow::BuildObjectPane()
   constexpr int startWidth = 200;
   constexpr int leastWidth = 120;
   tree_->setMinimumWidth(leastWidth);  // a window made tiny would keep it at a sliver
-  tree_->iconOf = [this](int command) { return actions_->Get(command)->icon(); };
+  tree_->iconOf = [this](CommandId command) { return actions_->Get(command)->icon(); };
   tree_->Attach(editor_.objects);
   editor_.objects.BuildTree();
   objectPane_ = new QDockWidget(ToQString(Strings::objectView), this);
@@ -203,7 +202,7 @@ void MainWindow::GoToNextPane()
   next->setFocus(Qt::ShortcutFocusReason);
 }
 
-void MainWindow::ApplyLook(int look)
+void MainWindow::ApplyLook(Look look)
 {
   QApplication::setOverrideCursor(Qt::WaitCursor);
   hullwright::ApplyLook(look);
@@ -271,7 +270,7 @@ void MainWindow::OpenFromOutside(const QStringList& paths)
   UpdateAll();
 }
 
-void MainWindow::SetViewButtonImage(int command)
+void MainWindow::SetViewButtonImage(CommandId command)
 {
   if (toolBars_ != nullptr) toolBars_->SetViewImage(command);
 }
@@ -282,47 +281,23 @@ void MainWindow::InvalidateToolBar()
   for (QToolBar* const bar : toolBars_->Bars()) bar->update();
 }
 
-void MainWindow::RunCommand(int command)
+void MainWindow::RunCommand(CommandId command)
 {
   if (!Query(command).enabled) return;
   note_.clear();
-  if (!RunShellCommand(command)) frame_.OnCommand(command);
+  if (!hullwright::RunCommand(ShellCommandTable::rows, *this, command)) frame_.OnCommand(command);
   UpdateAll();
 }
 
-bool MainWindow::RunShellCommand(int command)
+CommandState MainWindow::Query(CommandId command) const
 {
-  switch (command) {
-    case Command::FileNew: documents_.New(); return true;
-    case Command::FileOpen: documents_.Open(); return true;
-    case Command::FileSave: documents_.Save(); return true;
-    case Command::FileSaveAs: documents_.SaveAs(); return true;
-    case Command::Exit: close(); return true;
-    case Command::Customize: Customize(); return true;
-    case Command::NextPane:
-    case Command::PreviousPane: GoToNextPane(); return true;
-    case Command::ViewStatusBar: statusBar()->setVisible(statusBar()->isHidden()); return true;
-    default: return false;
-  }
+  const bool isOwn = FindHandler(ShellCommandTable::rows, command) != nullptr;
+  return isOwn ? StateOf(ShellCommandTable::rows, *this, command) : frame_.QueryCommand(command);
 }
 
-CommandState MainWindow::Query(int command) const
-{
-  switch (command) {
-    case Command::FileNew:
-    case Command::FileOpen:
-    case Command::FileSave:
-    case Command::FileSaveAs:
-    case Command::Exit:
-    case Command::Customize:
-    case Command::NextPane:
-    case Command::PreviousPane:
-    case Command::ViewToolbars: return {true};
-    case Command::RecentFile: return {!documents_.RecentFiles().empty()};
-    case Command::ViewStatusBar: return {true, !statusBar()->isHidden(), true};
-    default: return frame_.QueryCommand(command);
-  }
-}
+bool MainWindow::ShowsStatusBar() const { return !statusBar()->isHidden(); }
+
+void MainWindow::ToggleStatusBar() { statusBar()->setVisible(!ShowsStatusBar()); }
 
 void MainWindow::UpdateAll()
 {
@@ -333,7 +308,7 @@ void MainWindow::UpdateAll()
 
 void MainWindow::UpdateCommands()
 {
-  actions_->ForEach([this](int command, QAction& action) {
+  actions_->ForEach([this](CommandId command, QAction& action) {
     const CommandState state = Query(command);
     action.setEnabled(state.enabled);
     action.setCheckable(state.checkable);

@@ -55,14 +55,14 @@ public:
   const std::u16string& OpenProblem() const { return document_.OpenProblem(); }
 
   /// Carries out a command of menu, toolbar or key, if it is enabled.
-  void RunCommand(int command);
+  void RunCommand(CommandId command);
 
   /// Shows the window where and as it was closed last.
   void ShowAsBefore();
 
-  void SetViewButtonImage(int command) override;
+  void SetViewButtonImage(CommandId command) override;
   void InvalidateToolBar() override;
-  void ApplyLook(int look) override;
+  void ApplyLook(Look look) override;
   void ShowNote(std::u16string_view text) override;
   void StartProgress(std::string_view text) override;
   void ShowProgress(int percent) override;
@@ -78,6 +78,8 @@ protected:
   QMenu* createPopupMenu() override;
 
 private:
+  friend struct ShellCommandTable;
+
   void BuildMenus();
   void BuildToolBars();
   void FillToolBarsMenu();
@@ -88,8 +90,9 @@ private:
   void FillRecentFiles(QMenu& menu);
   void OpenFromOutside(const QStringList& paths);
 
-  bool RunShellCommand(int command);
-  CommandState Query(int command) const;
+  CommandState Query(CommandId command) const;
+  bool ShowsStatusBar() const;
+  void ToggleStatusBar();
   void UpdateAll();
   void UpdateCommands();
   void UpdatePanes();

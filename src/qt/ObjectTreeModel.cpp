@@ -90,6 +90,6 @@ QVariant ObjectTreeModel::data(const QModelIndex& index, int role) const
   return icon == icons_.end() ? QVariant() : QVariant(icon->second);
 }
 
-void ObjectTreeModel::SetIcons(std::map<int, QIcon> icons) { icons_ = std::move(icons); }
+void ObjectTreeModel::SetIcons(std::map<TreeImage, QIcon> icons) { icons_ = std::move(icons); }
 
 }  // namespace hullwright

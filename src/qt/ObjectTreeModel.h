@@ -28,13 +28,13 @@ public:
   void BeginReset() { beginResetModel(); }
   void EndReset() { endResetModel(); }
 
-  void SetIcons(std::map<int, QIcon> icons);
+  void SetIcons(std::map<TreeImage, QIcon> icons);
 
 private:
   QModelIndex IndexOf(const TreeItem& item) const;
 
   const CObjectTree& tree_;
-  std::map<int, QIcon> icons_;  ///< by the numbers of the tree's images
+  std::map<TreeImage, QIcon> icons_;  ///< by the numbers of the tree's images
 };
 
 }  // namespace hullwright

@@ -28,7 +28,7 @@ public:
   void ShowMenu(std::span<const PopupEntry> entries) override;
 
   /// Gives the entries of context menus their images.
-  std::function<QIcon(int)> iconOf;
+  std::function<QIcon(CommandId)> iconOf;
 
 Q_SIGNALS:
   /// A click or a command has run, which may have changed what panes and commands show.

@@ -6,6 +6,7 @@
 #include <QToolButton>
 #include <utility>
 
+#include "base/Code.h"
 #include "qt/QtText.h"
 #include "resources/Commands.h"
 #include "resources/Menus.h"
@@ -26,41 +27,41 @@ QString ToText(const ToolBarSpec& spec)
 {
   QStringList words;
   if (spec.number != 0) words.append(numberMark + QString::number(spec.number));
-  for (const int command : spec.commands) words.append(QString::number(command));
+  for (const CommandId command : spec.commands) words.append(QString::number(NumberOf(command)));
   return words.join(QLatin1Char(' ')) + QLatin1Char('|') + spec.title;
 }
 
-void ShowSide(QToolButton& button, const QAction& side, int command)
+void ShowSide(QToolButton& button, const QAction& side, CommandId command)
 {
   button.setIcon(side.icon());
-  button.setAccessibleDescription(command == Command::SelectView ? QString() : side.text());
+  button.setAccessibleDescription(command == CommandId::SelectView ? QString() : side.text());
 }
 
 constexpr const char* viewButtonName = "SideButton";
 
 }  // namespace
 
-ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<int> standardCommands)
+ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<CommandId> standardCommands)
     : QObject(&window),
       window_(window),
       actions_(actions),
       standardCommands_(std::move(standardCommands)),
-      viewImage_(Command::SelectView)
+      viewImage_(CommandId::SelectView)
 {
 }
 
-QList<int> ToolBars::Available()
+QList<CommandId> ToolBars::Available()
 {
-  QList<int> commands;
-  const auto add = [&commands](int command) {
+  QList<CommandId> commands;
+  const auto add = [&commands](CommandId command) {
     // Placeholders of lists that a menu is filled with are no buttons.
-    const bool isList = command == Command::RecentFile || command == Command::ViewToolbars;
-    if (command != toolBarSeparator && !isList && !commands.contains(command)) {
+    const bool isList = command == CommandId::RecentFile || command == CommandId::ViewToolbars;
+    if (command != CommandId::None && !isList && !commands.contains(command)) {
       commands.append(command);
     }
   };
   for (const MenuItem& item : mainMenu) add(item.id);
-  for (const int command : mainToolBar) add(command);
+  for (const CommandId command : mainToolBar) add(command);
   for (const MenuItem& item : viewMenu) add(item.id);
   return commands;
 }
@@ -68,13 +69,14 @@ QList<int> ToolBars::Available()
 /// Leaves out what is no command of a button, as an older or newer program may have stored.
 ToolBarSpec ToolBars::FromText(const QString& text) const
 {
-  const QList<int> available = Available() + standardCommands_ + QList<int>{toolBarSeparator};
+  const QList<CommandId> available =
+      Available() + standardCommands_ + QList<CommandId>{CommandId::None};
   ToolBarSpec spec;
   spec.title = text.section(QLatin1Char('|'), 1);
   for (const QString& word : text.section(QLatin1Char('|'), 0, 0).split(QLatin1Char(' '))) {
     if (word.startsWith(numberMark)) spec.number = word.mid(1).toInt();
     bool isNumber = false;
-    const int command = word.toInt(&isNumber);
+    const CommandId command{word.toInt(&isNumber)};
     if (isNumber && available.contains(command)) spec.commands.append(command);
   }
   return spec;
@@ -149,12 +151,12 @@ void ToolBars::NumberBars()
   }
 }
 
-void ToolBars::Fill(QToolBar& bar, const QList<int>& commands)
+void ToolBars::Fill(QToolBar& bar, const QList<CommandId>& commands)
 {
-  for (const int command : commands) {
-    if (command == toolBarSeparator) {
+  for (const CommandId command : commands) {
+    if (command == CommandId::None) {
       bar.addSeparator();
-    } else if (command == Command::SelectView) {
+    } else if (command == CommandId::SelectView) {
       bar.addWidget(MakeViewButton());
     } else {
       AddButton(bar, *actions_.Get(command));
@@ -173,7 +175,7 @@ void ToolBars::AddButton(QToolBar& bar, QAction& action)
 
 void ToolBars::AddCustomizeButton(QToolBar& bar)
 {
-  QAction* const action = actions_.Get(Command::Customize);
+  QAction* const action = actions_.Get(CommandId::Customize);
   AddButton(bar, *action);
   // Its image alone: it stands on every toolbar and must not take the place of a command's.
   if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
@@ -195,10 +197,10 @@ QToolButton* ToolBars::MakeViewButton()
   button->setFocusPolicy(Qt::TabFocus);
   button->setText(TwoLines(viewButtonText));
   button->setAccessibleName(OneLine(viewButtonText));
-  const CommandEntry* const entry = FindCommand(Command::SelectView);
+  const CommandEntry* const entry = FindCommand(CommandId::SelectView);
   button->setToolTip(OneLine(TooltipText(*entry)));
   button->setStatusTip(ToQString(StatusText(*entry)));
-  ShowSide(*button, *actions_.Get(Command::SelectView), Command::SelectView);
+  ShowSide(*button, *actions_.Get(CommandId::SelectView), CommandId::SelectView);
   return button;
 }
 
@@ -213,7 +215,7 @@ QToolButton* ToolBars::FirstViewButton() const
   return nullptr;
 }
 
-void ToolBars::SetViewImage(int command)
+void ToolBars::SetViewImage(CommandId command)
 {
   viewImage_ = command;
   if (QToolButton* const button = FirstViewButton()) {

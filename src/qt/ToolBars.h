@@ -13,10 +13,10 @@ class QToolButton;
 
 namespace hullwright {
 
-/// A toolbar as its title and the commands of its buttons in order; 0 is a separator.
+/// A toolbar as its title and the commands of its buttons in order; no command is a separator.
 struct ToolBarSpec {
   QString title;
-  QList<int> commands;
+  QList<CommandId> commands;
   int number = 0;  ///< of a toolbar of the user's own, which keeps its place by it; 0 for none yet
   friend bool operator==(const ToolBarSpec&, const ToolBarSpec&) = default;
 };
@@ -27,11 +27,11 @@ class ToolBars : public QObject {
 public:
   static constexpr qsizetype mostUserToolBars = 10;
 
-  ToolBars(QMainWindow& window, Actions& actions, QList<int> standardCommands);
+  ToolBars(QMainWindow& window, Actions& actions, QList<CommandId> standardCommands);
 
   /// The commands that can stand on a toolbar: those of the menus, then those that the main toolbar
   /// alone has, each once.
-  static QList<int> Available();
+  static QList<CommandId> Available();
 
   /// What the user has stored; the standard toolbar alone where that is nothing, or nothing usable.
   void Load(const QSettings& settings);
@@ -48,14 +48,14 @@ public:
 
   /// Shows the image of a side's command on the first side drop-down of the standard toolbar; any
   /// other keeps its own.
-  void SetViewImage(int command);
+  void SetViewImage(CommandId command);
 
 private:
   ToolBarSpec FromText(const QString& text) const;
 
   /// Gives each toolbar of the user's own a number of its own, the lowest that is free.
   void NumberBars();
-  void Fill(QToolBar& bar, const QList<int>& commands);
+  void Fill(QToolBar& bar, const QList<CommandId>& commands);
   void AddButton(QToolBar& bar, QAction& action);
   void AddCustomizeButton(QToolBar& bar);
   QToolButton* MakeViewButton();
@@ -63,10 +63,10 @@ private:
 
   QMainWindow& window_;
   Actions& actions_;
-  QList<int> standardCommands_;
+  QList<CommandId> standardCommands_;
   QList<ToolBarSpec> specs_;
   QList<QToolBar*> bars_;
-  int viewImage_;
+  CommandId viewImage_;
 };
 
 }  // namespace hullwright

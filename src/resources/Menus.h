@@ -15,91 +15,132 @@ enum class MenuRow {
   Separator
 };
 
-/// One row of a menu. Texts mark the access key with '&' and set the shortcut's name off with a
-/// tab.
+/// One row of a menu: a command, or the title of a menu that begins here, with '&' before its
+/// access key.
 struct MenuItem {
   MenuRow row;
-  int id = 0;
-  std::u16string_view text = {};
+  CommandId id = CommandId::None;
+  std::u16string_view title = {};
 };
 
 /// The menu bar.
 inline constexpr auto mainMenu = std::to_array<MenuItem>({
-    {MenuRow::Menu, 0, u"&File"},
-    {MenuRow::Entry, Command::FileNew, u"&New Design\tCtrl+N"},
-    {MenuRow::Entry, Command::FileOpen, u"&Open Design...\tCtrl+O"},
-    {MenuRow::Entry, Command::FileSave, u"&Save Design\tCtrl+S"},
-    {MenuRow::Entry, Command::FileSaveAs, u"Save Design &As..."},
+    {MenuRow::Menu, CommandId::None, u"&File"},
+    {MenuRow::Entry, CommandId::FileNew},
+    {MenuRow::Entry, CommandId::FileOpen},
+    {MenuRow::Entry, CommandId::FileSave},
+    {MenuRow::Entry, CommandId::FileSaveAs},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::ImportDxf, u"Import DXF File..."},
+    {MenuRow::Entry, CommandId::ImportDxf},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::RecentFile, u"Recent File"},
+    {MenuRow::Entry, CommandId::RecentFile},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::Exit, u"E&xit"},
+    {MenuRow::Entry, CommandId::Exit},
 
-    {MenuRow::Menu, 0, u"&View"},
-    {MenuRow::Entry, Command::ViewToolbars, u"&Toolbars and Docking Windows"},
-    {MenuRow::Entry, Command::ViewStatusBar, u"&Status Bar"},
-    {MenuRow::SubMenu, 0, u"&Application Look"},
-    {MenuRow::Entry, Command::LookWindows2000, u"Windows &2000"},
-    {MenuRow::Entry, Command::LookOfficeXp, u"Office &XP"},
-    {MenuRow::Entry, Command::LookWindowsXp, u"&Windows XP"},
-    {MenuRow::Entry, Command::LookOffice2003, u"Office 200&3"},
-    {MenuRow::Entry, Command::LookVisualStudio2005, u"Visual Studio 200&5"},
-    {MenuRow::Entry, Command::LookVisualStudio2008, u"Visual Studio 200&8"},
-    {MenuRow::SubMenu, 0, u"Office 200&7"},
-    {MenuRow::Entry, Command::LookBlue, u"&Blue Style"},
-    {MenuRow::Entry, Command::LookBlack, u"B&lack Style"},
-    {MenuRow::Entry, Command::LookSilver, u"&Silver Style"},
-    {MenuRow::Entry, Command::LookAqua, u"&Aqua Style"},
+    {MenuRow::Menu, CommandId::None, u"&View"},
+    {MenuRow::Entry, CommandId::ViewToolbars},
+    {MenuRow::Entry, CommandId::ViewStatusBar},
+    {MenuRow::SubMenu, CommandId::None, u"&Application Look"},
+    {MenuRow::Entry, CommandOf(Look::Windows2000)},
+    {MenuRow::Entry, CommandOf(Look::OfficeXp)},
+    {MenuRow::Entry, CommandOf(Look::WindowsXp)},
+    {MenuRow::Entry, CommandOf(Look::Office2003)},
+    {MenuRow::Entry, CommandOf(Look::VisualStudio2005)},
+    {MenuRow::Entry, CommandOf(Look::VisualStudio2008)},
+    {MenuRow::SubMenu, CommandId::None, u"Office 200&7"},
+    {MenuRow::Entry, CommandOf(Look::Blue)},
+    {MenuRow::Entry, CommandOf(Look::Black)},
+    {MenuRow::Entry, CommandOf(Look::Silver)},
+    {MenuRow::Entry, CommandOf(Look::Aqua)},
     {MenuRow::EndSubMenu},
     {MenuRow::EndSubMenu},
 
-    {MenuRow::Menu, 0, u"&Edit"},
-    {MenuRow::Entry, Command::EditUndo, u"&Undo\tCtrl+Z"},
-    {MenuRow::Entry, Command::EditRedo, u"&Redo\tCtrl+Y"},
+    {MenuRow::Menu, CommandId::None, u"&Edit"},
+    {MenuRow::Entry, CommandId::EditUndo},
+    {MenuRow::Entry, CommandId::EditRedo},
 
-    {MenuRow::Menu, 0, u"Modify"},
-    {MenuRow::Entry, Command::MirrorVertically, u"Mirror Vertically"},
-    {MenuRow::Entry, Command::MirrorHorizontally, u"Mirror Horizontally"},
+    {MenuRow::Menu, CommandId::None, u"Modify"},
+    {MenuRow::Entry, CommandId::MirrorVertically},
+    {MenuRow::Entry, CommandId::MirrorHorizontally},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::RotateRight, u"Rotate Right..."},
-    {MenuRow::Entry, Command::RotateLeft, u"Rotate Left..."},
+    {MenuRow::Entry, CommandId::RotateRight},
+    {MenuRow::Entry, CommandId::RotateLeft},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::Scale, u"Scale..."},
+    {MenuRow::Entry, CommandId::Scale},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::Move, u"Move..."},
+    {MenuRow::Entry, CommandId::Move},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::Offsets, u"Offsets..."},
+    {MenuRow::Entry, CommandId::Offsets},
 
-    {MenuRow::Menu, 0, u"&Options"},
-    {MenuRow::Entry, Command::Grid, u"Grid..."},
+    {MenuRow::Menu, CommandId::None, u"&Options"},
+    {MenuRow::Entry, CommandId::Grid},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::Units, u"&Units..."},
+    {MenuRow::Entry, CommandId::Units},
 
-    {MenuRow::Menu, 0, u"Cursor"},
-    {MenuRow::Entry, Command::CursorZoomIn, u"Zoom &In"},
-    {MenuRow::Entry, Command::CursorZoomOut, u"Zoom &Out"},
+    {MenuRow::Menu, CommandId::None, u"Cursor"},
+    {MenuRow::Entry, CommandId::CursorZoomIn},
+    {MenuRow::Entry, CommandId::CursorZoomOut},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::CursorMove, u"&Move"},
+    {MenuRow::Entry, CommandId::CursorMove},
     {MenuRow::Separator},
-    {MenuRow::Entry, Command::DrawPolyline, u"Draw &Polyline"},
+    {MenuRow::Entry, CommandId::DrawPolyline},
 
-    {MenuRow::Menu, 0, u"&Help"},
-    {MenuRow::Entry, Command::About, u"&About Sondaris..."},
+    {MenuRow::Menu, CommandId::None, u"&Help"},
+    {MenuRow::Entry, CommandId::About},
 });
 
 /// The menu of the side drop-down.
 inline constexpr auto viewMenu = std::to_array<MenuItem>({
-    {MenuRow::Entry, Command::ViewTop, u"Top"},
-    {MenuRow::Entry, Command::ViewBottom, u"Bottom"},
-    {MenuRow::Entry, Command::ViewFront, u"Front"},
-    {MenuRow::Entry, Command::ViewRear, u"Rear"},
-    {MenuRow::Entry, Command::ViewRight, u"Right"},
-    {MenuRow::Entry, Command::ViewLeft, u"Left"},
+    {MenuRow::Entry, CommandId::ViewTop},
+    {MenuRow::Entry, CommandId::ViewBottom},
+    {MenuRow::Entry, CommandId::ViewFront},
+    {MenuRow::Entry, CommandId::ViewRear},
+    {MenuRow::Entry, CommandId::ViewRight},
+    {MenuRow::Entry, CommandId::ViewLeft},
 });
 
 /// Title of the side drop-down, a carriage return marking its line break.
 inline constexpr std::u16string_view viewButtonText = u"Select\rView";
+
+/// When an entry of the design view's context menu is offered, by what lies under the mouse.
+enum class Offered { Always, OnHit, OnNoHitOrVertex, OnVertex, OnNoHit, OnAnchor };
+
+/// One row of that menu; without a command it is a separator.
+struct ContextMenuRow {
+  CommandId id;
+  Offered offered;
+};
+
+/// The context menu of the design view.
+inline constexpr auto contextMenu = std::to_array<ContextMenuRow>({
+    {CommandId::MenuZoomIn, Offered::Always},
+    {CommandId::MenuZoomOut, Offered::Always},
+    {CommandId::MenuCenter, Offered::Always},
+    {CommandId::None, Offered::Always},
+    {CommandId::EditVertex, Offered::OnHit},
+    {CommandId::AddVertex, Offered::OnNoHitOrVertex},
+    {CommandId::RemoveVertex, Offered::OnVertex},
+    {CommandId::AddAnchor, Offered::OnNoHit},
+    {CommandId::RemoveAnchor, Offered::OnAnchor},
+});
+
+/// What an item of the object tree is to its context menu.
+enum class TreeMenuKind { Side, Anchors, Polyline, Anchor, Point };
+
+/// The context menu of a kind of item.
+struct TreeMenu {
+  TreeMenuKind kind;
+  std::array<CommandId, 3> entries;  ///< CommandId::None where there are fewer
+};
+
+/// The context menus of the object tree, by the kind of item.
+inline constexpr auto treeMenus = std::to_array<TreeMenu>({
+    {TreeMenuKind::Side, {CommandId::AddPolyline, CommandId::RemoveAllPolylines}},
+    {TreeMenuKind::Anchors, {CommandId::AddAnchor}},
+    {TreeMenuKind::Polyline,
+     {CommandId::AddVertex, CommandId::RemovePolyline, CommandId::ZoomPolyline}},
+    {TreeMenuKind::Anchor, {CommandId::RemoveAnchor, CommandId::ModifyAnchor}},
+    {TreeMenuKind::Point, {CommandId::EditVertex, CommandId::RemoveVertex}},
+});
 
 }  // namespace hullwright

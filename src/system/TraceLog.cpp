@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/OpenFile.h"
 #include "base/Text.h"
@@ -75,7 +76,7 @@ std::u16string CTraceLog::PathOf(std::u16string_view category) const
   return folder_() + u"/Sondaris/Tracing/Trace_" + std::u16string(category) + u".txt";
 }
 
-void CTraceLog::Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+void CTraceLog::Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
                       std::u16string_view text) const
 {
   const std::u16string path = PathOf(category);
@@ -85,7 +86,7 @@ void CTraceLog::Trace(double elapsedSeconds, std::int32_t level, std::u16string_
   if (!file) return;
   ++log.sequence;
   const std::string record = Decimal(log.sequence) + "|" + FormatFixed(elapsedSeconds, 3) + "|" +
-                             std::to_string(level) + "|" +
+                             std::to_string(NumberOf(level)) + "|" +
                              AnsiFromWide(text.substr(0, text.find(u'\0')));
   log.records.push_back(OnOneLine(record) + "\r\n");
   std::fprintf(file.get(), "%s\n", Decimal(log.sequence).c_str());

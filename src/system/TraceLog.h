@@ -24,7 +24,7 @@ public:
 
   /// Adds one record, rewriting the log whole. `text` is the formatted message, which ends at a
   /// NUL; its line breaks and tabs become "<CR>", "<LF>" and "<TAB>".
-  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+  void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
              std::u16string_view text) const override;
 
   /// Path of a category's log.

@@ -22,8 +22,10 @@ std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& message
   if (database.Load() != 0 || database.Open(databasePath) != 0) return units;
   if (database.SelectUnits() != 1) return units;
   UnitRecord row;
+  std::int32_t code = 0;
   do {
-    database.GetInt("numId", row.numId);
+    database.GetInt("numId", code);
+    row.numId = UnitCode{code};
     database.GetText("strUnit", row.strUnit);
     database.GetText("strUnitShort", row.strUnitShort);
     units.push_back(row);

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/Units.h"
 #include "platform/LibraryLoader.h"
 #include "platform/MessageBoxes.h"
 #include "platform/UnitDatabase.h"

@@ -1,35 +1,14 @@
 #include <algorithm>
-#include <array>
 #include <vector>
 
-#include "resources/CommandIds.h"
-#include "view/HullwrightView.h"
+#include "resources/Commands.h"
+#include "resources/Menus.h"
+#include "view/ViewCommandTable.h"
 
 namespace hullwright {
 namespace {
 
-/// When an entry of the context menu is offered.
-enum class Offered { Always, OnHit, OnNoHitOrVertex, OnVertex, OnNoHit, OnAnchor };
-
-struct MenuEntry {
-  int id;
-  std::u16string_view text;
-  Offered offered;
-};
-
-constexpr auto menuEntries = std::to_array<MenuEntry>({
-    {Command::MenuZoomIn, u"Zoom &In", Offered::Always},
-    {Command::MenuZoomOut, u"Zoom &Out", Offered::Always},
-    {Command::MenuCenter, u"Ce&nter", Offered::Always},
-    {0, u"-", Offered::Always},
-    {Command::EditVertex, u"&Edit Vertex...", Offered::OnHit},
-    {Command::AddVertex, u"&Add Vertex...", Offered::OnNoHitOrVertex},
-    {Command::RemoveVertex, u"&Remove Vertex...", Offered::OnVertex},
-    {Command::AddAnchor, u"&Add Anchor", Offered::OnNoHit},
-    {Command::RemoveAnchor, u"&Remove Anchor...", Offered::OnAnchor},
-});
-
-bool IsOffered(Offered offered, bool hit, std::int32_t kind)
+bool IsOffered(Offered offered, bool hit, HitKind kind)
 {
   switch (offered) {
     case Offered::Always: return true;
@@ -42,39 +21,32 @@ bool IsOffered(Offered offered, bool hit, std::int32_t kind)
   return false;
 }
 
+static_assert(std::ranges::all_of(contextMenu, [](const ContextMenuRow& row) {
+  return row.id == CommandId::None || FindHandler(ViewCommandTable::menuRows, row.id) != nullptr;
+}));
+
 }  // namespace
 
 void CHullwrightView::OfferMenu(ClientPoint point, bool hit)
 {
   std::vector<PopupEntry> entries;
-  for (const MenuEntry& entry : menuEntries) {
-    if (IsOffered(entry.offered, hit, hitKind)) entries.push_back({entry.id, entry.text});
+  for (const ContextMenuRow& row : contextMenu) {
+    if (!IsOffered(row.offered, hit, hitKind)) continue;
+    entries.push_back({row.id, row.id == CommandId::None ? u"-" : MenuText(row.id)});
   }
   menuPoint = point;
   ports_.popupMenu.Show(entries, point);
 }
 
-void CHullwrightView::OnMenuCommand(int id)
+void CHullwrightView::OnMenuCommand(CommandId id)
 {
-  switch (id) {
-    case Command::AddVertex: AddVertex(menuPoint); break;
-    case Command::EditVertex: EditItem(menuPoint); break;
-    case Command::RemoveVertex:
-    case Command::RemoveAnchor: RemoveHit(); break;
-    case Command::AddAnchor: AddAnchor(menuPoint); break;
-    case Command::MenuZoomIn:
-    case Command::MenuZoomOut:
-    case Command::MenuCenter: ZoomByMenu(id); break;
-    default: break;
-  }
+  RunCommand(ViewCommandTable::menuRows, *this, id);
 }
 
-void CHullwrightView::ZoomByMenu(int id)
+void CHullwrightView::ZoomByMenu(void (CViewPort::*zoom)(double, double))
 {
   if (viewPort == nullptr) return;
-  if (id == Command::MenuZoomIn) viewPort->ZoomIn(menuPoint.x, menuPoint.y);
-  if (id == Command::MenuZoomOut) viewPort->ZoomOut(menuPoint.x, menuPoint.y);
-  if (id == Command::MenuCenter) viewPort->CenterOn(menuPoint.x, menuPoint.y);
+  (viewPort.get()->*zoom)(menuPoint.x, menuPoint.y);
   Repaint();
 }
 

@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "platform/MainWindow.h"
 #include "render/Scene.h"
-#include "resources/CommandIds.h"
+#include "view/ViewCommandTable.h"
 
 namespace hullwright {
 
@@ -41,7 +41,7 @@ void CHullwrightView::OnSize(int cx, int cy)
 
 void CHullwrightView::OnLButtonDown(ClientPoint point)
 {
-  const std::int32_t tool = host_.GetCursorTool();
+  const CursorTool tool = host_.GetCursorTool();
   if (HitVertex(point)) return;
   if (drawing) {
     AddPolylineVertex();
@@ -109,15 +109,19 @@ void CHullwrightView::OnSetCursor()
   ports_.cursor.SetCursor(dragging ? CursorShape::Hand : CursorShape::Cross);
 }
 
-void CHullwrightView::OnUser(int code)
+void CHullwrightView::OnUser(Notification code)
 {
   if (code == Notification::RepaintDesign) Repaint();
 }
 
-void CHullwrightView::OnCommand(int id)
+bool CHullwrightView::OnCommand(CommandId id)
 {
-  if (id == Command::ShowAll) ShowAllShapes();
-  if (id == Command::DrawPolyline) BeginPolyline();
+  return RunCommand(ViewCommandTable::rows, *this, id);
+}
+
+CommandState CHullwrightView::QueryCommand(CommandId id) const
+{
+  return StateOf(ViewCommandTable::rows, *this, id);
 }
 
 std::u16string CHullwrightView::UnitsPaneText() { return u"Units: " + host_.GetUnitName(); }

@@ -7,11 +7,13 @@
 #include "model/DesignState.h"
 #include "model/ShapePolyline.h"
 #include "platform/Drawing.h"
+#include "platform/MainWindow.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pointer.h"
 #include "platform/PopupMenu.h"
 #include "render/Canvas.h"
 #include "render/ViewPort.h"
+#include "resources/CommandHandler.h"
 #include "view/PickedItem.h"
 #include "view/ViewHost.h"
 
@@ -53,13 +55,16 @@ public:
   void OnSetCursor();
 
   /// A notification passed on by the main window; only the repaint is acted on.
-  void OnUser(int code);
+  void OnUser(Notification code);
 
-  /// The view's own commands; any other id does nothing.
-  void OnCommand(int id);
+  /// Carries out one of the view's own commands; false for any other.
+  bool OnCommand(CommandId id);
+
+  /// How one of the view's own commands looks at the moment; disabled for any other.
+  CommandState QueryCommand(CommandId id) const;
 
   /// A command of the context menu; any other id does nothing.
-  void OnMenuCommand(int id);
+  void OnMenuCommand(CommandId id);
 
   /// Text of the units pane.
   std::u16string UnitsPaneText();
@@ -78,7 +83,7 @@ public:
   PickedItem hitVertex;   ///< what was hit last; outlives the hover
   bool dragging = false;
   bool drawing = false;
-  std::int32_t hitKind = HitKind::None;
+  HitKind hitKind = HitKind::None;
   ClientPoint cursorPoint;                      ///< free end of the rubber band
   ClientPoint lastPoint;                        ///< fixed end of the rubber band
   ClientPoint menuPoint;                        ///< where the last context menu was opened
@@ -87,6 +92,8 @@ public:
   std::u16string statusText;                    ///< text of the coordinates pane
 
 private:
+  friend struct ViewCommandTable;
+
   // Picking and dragging (VertexPicking.cpp)
   bool HitVertex(ClientPoint point);
   void ClearPick();
@@ -96,7 +103,7 @@ private:
 
   // Context menu (ContextMenu.cpp)
   void OfferMenu(ClientPoint point, bool hit);
-  void ZoomByMenu(int id);
+  void ZoomByMenu(void (CViewPort::*zoom)(double, double));
   void EditItem(ClientPoint point);
 
   /// The polyline marked in the tree, which takes new vertices whatever is under the mouse. Null if

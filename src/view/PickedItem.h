@@ -8,14 +8,14 @@
 namespace hullwright {
 
 /// What a pick points at.
-namespace HitKind {
-inline constexpr std::int32_t None = 0;
-inline constexpr std::int32_t Anchor = 6;
-inline constexpr std::int32_t Vertex = 7;
-inline constexpr std::int32_t Gps = 12;
-inline constexpr std::int32_t Transducer = 13;
-inline constexpr std::int32_t Pivot = 14;
-}  // namespace HitKind
+enum class HitKind : std::int32_t {
+  None = 0,
+  Anchor = 6,
+  Vertex = 7,
+  Gps = 12,
+  Transducer = 13,
+  Pivot = 14,
+};
 
 /// Stands for an item that was picked and has been released since.
 struct ReleasedItem {
@@ -36,7 +36,7 @@ void MoveItem(const PickedItem& item, double x, double y);
 /// right and bottom edges excluded, and its kind. Offsets go before anchors, both on the top side
 /// only, and those before the vertices of the group's polylines.
 struct Pick {
-  std::int32_t kind = HitKind::None;
+  HitKind kind = HitKind::None;
   PickedItem item;
 };
 Pick FindItemAt(const DesignState& design, std::int32_t x, std::int32_t y);

@@ -7,16 +7,17 @@
 #include "model/GridSettings.h"
 #include "model/ShapeVertex.h"
 #include "render/ViewPort.h"
+#include "view/PickedItem.h"
 
 namespace hullwright {
 
 /// Values of the application's `cursorTool`: what a left press on empty space does.
-namespace CursorTool {
-inline constexpr std::int32_t None = 0;
-inline constexpr std::int32_t ZoomIn = 1;
-inline constexpr std::int32_t ZoomOut = 2;
-inline constexpr std::int32_t Move = 8;
-}  // namespace CursorTool
+enum class CursorTool : std::int32_t {
+  None = 0,
+  ZoomIn = 1,
+  ZoomOut = 2,
+  Move = 8,
+};
 
 /// What the design view asks of the application.
 class IViewHost {
@@ -31,7 +32,7 @@ public:
   virtual GridSettings LoadGridSettings() const = 0;
 
   /// One of the values of `CursorTool`.
-  virtual std::int32_t GetCursorTool() const = 0;
+  virtual CursorTool GetCursorTool() const = 0;
 
   /// Long name of the design's unit; empty when it is not known.
   virtual std::u16string GetUnitName() = 0;
@@ -40,7 +41,7 @@ public:
   virtual bool EditVertex(CShapeVertex& vertex) = 0;
 
   /// Lets the user edit the offsets, beginning with the one of a kind of pick.
-  virtual bool EditOffsets(std::int32_t focus) = 0;
+  virtual bool EditOffsets(HitKind focus) = 0;
 
   /// A vertex is about to change without the object tree being told: the tree goes on showing where
   /// the vertex was.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "support/CommandFixture.h"
 
@@ -18,7 +19,7 @@ class Commands : public test::CommandFixture {};
 
 struct CommandCase {
   const char* name;
-  int id;
+  CommandId id;
   bool hasDialog;
   std::vector<std::string> told;         ///< accepted, with a group
   std::vector<std::string> toldWithout;  ///< accepted, without a group
@@ -32,27 +33,32 @@ const std::vector<std::string> repaint = {"repaint"};
 const std::vector<CommandCase>& CommandCases()
 {
   static const std::vector<CommandCase> cases = {
-      {"MirrorVertically", Command::MirrorVertically, false, all, none, false},
-      {"MirrorHorizontally", Command::MirrorHorizontally, false, all, none, false},
-      {"Scale", Command::Scale, true, all, none, false},
-      {"Move", Command::Move, true, all, none, false},
-      {"RotateLeft", Command::RotateLeft, true, all, all, true},
-      {"RotateRight", Command::RotateRight, true, all, all, true},
-      {"Offsets", Command::Offsets, true, {"repaint", "modified"}, {"repaint", "modified"}, false},
-      {"Grid", Command::Grid, true, repaint, repaint, false},
-      {"Units", Command::Units, true, all, all, true},
-      {"ToggleGrid", Command::ToggleGrid, false, repaint, repaint, false},
-      {"ToggleSnap", Command::ToggleSnap, false, none, none, false},
-      {"CursorZoomIn", Command::CursorZoomIn, false, none, none, false},
-      {"CursorZoomOut", Command::CursorZoomOut, false, none, none, false},
-      {"CursorMove", Command::CursorMove, false, none, none, false},
-      {"ViewTop", Command::ViewTop, false, repaint, repaint, false},
-      {"ViewBottom", Command::ViewBottom, false, repaint, repaint, false},
-      {"ViewRight", Command::ViewRight, false, repaint, repaint, false},
-      {"ViewLeft", Command::ViewLeft, false, repaint, repaint, false},
-      {"ViewFront", Command::ViewFront, false, repaint, repaint, false},
-      {"ViewRear", Command::ViewRear, false, repaint, repaint, false},
-      {"About", Command::About, true, none, none, false},
+      {"MirrorVertically", CommandId::MirrorVertically, false, all, none, false},
+      {"MirrorHorizontally", CommandId::MirrorHorizontally, false, all, none, false},
+      {"Scale", CommandId::Scale, true, all, none, false},
+      {"Move", CommandId::Move, true, all, none, false},
+      {"RotateLeft", CommandId::RotateLeft, true, all, all, true},
+      {"RotateRight", CommandId::RotateRight, true, all, all, true},
+      {"Offsets",
+       CommandId::Offsets,
+       true,
+       {"repaint", "modified"},
+       {"repaint", "modified"},
+       false},
+      {"Grid", CommandId::Grid, true, repaint, repaint, false},
+      {"Units", CommandId::Units, true, all, all, true},
+      {"ToggleGrid", CommandId::ToggleGrid, false, repaint, repaint, false},
+      {"ToggleSnap", CommandId::ToggleSnap, false, none, none, false},
+      {"CursorZoomIn", CommandId::CursorZoomIn, false, none, none, false},
+      {"CursorZoomOut", CommandId::CursorZoomOut, false, none, none, false},
+      {"CursorMove", CommandId::CursorMove, false, none, none, false},
+      {"ViewTop", CommandId::ViewTop, false, repaint, repaint, false},
+      {"ViewBottom", CommandId::ViewBottom, false, repaint, repaint, false},
+      {"ViewRight", CommandId::ViewRight, false, repaint, repaint, false},
+      {"ViewLeft", CommandId::ViewLeft, false, repaint, repaint, false},
+      {"ViewFront", CommandId::ViewFront, false, repaint, repaint, false},
+      {"ViewRear", CommandId::ViewRear, false, repaint, repaint, false},
+      {"About", CommandId::About, true, none, none, false},
   };
   return cases;
 }
@@ -106,7 +112,7 @@ TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
   EXPECT_TRUE(heard.list.empty());
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_TRUE(settings.written.empty());
-  EXPECT_EQ(app.unitCode, 9001);
+  EXPECT_EQ(app.unitCode, UnitCode::Metre);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, EachDialog, testing::ValuesIn(DialogCases()),
@@ -118,12 +124,12 @@ INSTANTIATE_TEST_SUITE_P(Table, EachDialog, testing::ValuesIn(DialogCases()),
 TEST_F(Commands, MirrorsNegateTheirAxisAndTwiceBringEveryBitBack)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {0.1, 0.7, 3.0});
-  Run(Command::MirrorVertically);
+  Run(CommandId::MirrorVertically);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.1, -0.7, 3.0));
-  Run(Command::MirrorHorizontally);
+  Run(CommandId::MirrorHorizontally);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-0.1, -0.7, 3.0));
-  Run(Command::MirrorVertically);
-  Run(Command::MirrorHorizontally);
+  Run(CommandId::MirrorVertically);
+  Run(CommandId::MirrorHorizontally);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.1, 0.7, 3.0));
 }
 
@@ -131,17 +137,17 @@ TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
 {
   AddLine(ViewSide::Top, {1.0, 1.0, 1.0});
   std::vector<const CShapePolyline*> others;
-  for (const std::int32_t side : ViewSide::each) {
+  for (const ViewSide side : eachViewSide) {
     if (side != ViewSide::Top) others.push_back(&AddLine(side, {1.0, 0.0, 1.0}));
   }
   app.anchors->items.push_back(app.anchors->NewAnchor());
   app.anchors->items[0]->attachmentX = 5.0;
   app.anchors->items[0]->attachmentY = 0.0;
-  Run(Command::MirrorVertically);
-  Run(Command::MirrorHorizontally);
-  Run(Command::Scale, {.ok = true, .fields = {{1011, u"3"}}});
-  Run(Command::Move, {.ok = true, .fields = {{1024, u"3"}, {1025, u"3"}}});
-  Run(Command::RotateRight, {.ok = true});
+  Run(CommandId::MirrorVertically);
+  Run(CommandId::MirrorHorizontally);
+  Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"3"}}});
+  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"3"}, {1025, u"3"}}});
+  Run(CommandId::RotateRight, {.ok = true});
   for (const CShapePolyline* const line : others) {
     EXPECT_TRUE(*line->vertices[0] == CShapeVertex(1.0, 0.0, 1.0));
     EXPECT_FALSE(std::signbit(line->vertices[0]->y));
@@ -156,20 +162,20 @@ TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
 TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
 {
   const CShapePolyline& wildcard = AddLine(ViewSide::All, {1.0, 1.0, 0.0});
-  for (const std::int32_t side : ViewSide::each) {
+  for (const ViewSide side : eachViewSide) {
     app.shapeGroups.push_back(std::make_unique<CShapes>(side));
     app.activeView = side;
-    Run(Command::MirrorHorizontally);
-    EXPECT_EQ(wildcard.vertices[0]->x, -1.0) << side;
-    Run(Command::Scale, {.ok = true, .fields = {{1011, u"-2"}}});
-    EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << side;
-    Run(Command::Move, {.ok = true, .fields = {{1024, u"-1"}}});
+    Run(CommandId::MirrorHorizontally);
+    EXPECT_EQ(wildcard.vertices[0]->x, -1.0) << NumberOf(side);
+    Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"-2"}}});
+    EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << NumberOf(side);
+    Run(CommandId::Move, {.ok = true, .fields = {{1024, u"-1"}}});
     *wildcard.vertices[0] = CShapeVertex(1.0, 1.0, 0.0);
   }
 }
 
 struct WalkCase {
-  int command;
+  CommandId command;
   DialogScript script;
 };
 
@@ -189,17 +195,17 @@ TEST_P(EachWalk, EndsAtAnEmptySlotAndTellsAll)
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, EachWalk,
-    testing::Values(WalkCase{Command::MirrorVertically, {}},
-                    WalkCase{Command::MirrorHorizontally, {}},
-                    WalkCase{Command::Scale, {.ok = true, .fields = {{1011, u"2"}}}},
-                    WalkCase{Command::Move, {.ok = true, .fields = {{1024, u"2"}}}},
-                    WalkCase{Command::RotateLeft, {.ok = true}},
-                    WalkCase{Command::RotateRight, {.ok = true}}));
+    testing::Values(WalkCase{CommandId::MirrorVertically, {}},
+                    WalkCase{CommandId::MirrorHorizontally, {}},
+                    WalkCase{CommandId::Scale, {.ok = true, .fields = {{1011, u"2"}}}},
+                    WalkCase{CommandId::Move, {.ok = true, .fields = {{1024, u"2"}}}},
+                    WalkCase{CommandId::RotateLeft, {.ok = true}},
+                    WalkCase{CommandId::RotateRight, {.ok = true}}));
 
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
-  Run(Command::Scale, {.ok = true, .fields = {{1011, u"-2 times"}}});
+  Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"-2 times"}}});
   EXPECT_EQ(dialogs.startTexts[1011], u"1.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-2.0, -4.0, -6.0));
 }
@@ -208,7 +214,7 @@ TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
-    Run(Command::Scale, {.ok = true, .fields = {{1011, text}}});
+    Run(CommandId::Scale, {.ok = true, .fields = {{1011, text}}});
   }
   EXPECT_TRUE(heard.list.empty());
   EXPECT_FALSE(document.IsModified());
@@ -219,9 +225,9 @@ TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
-  Run(Command::Move, {.ok = true, .fields = {{1024, u"east"}, {1025, u"0"}}});
+  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"east"}, {1025, u"0"}}});
   EXPECT_EQ(line.vertices[0]->x, 1.0);
-  Run(Command::Move, {.ok = true, .fields = {{1024, u"1.5 m"}, {1025, u"two"}}});
+  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"1.5 m"}, {1025, u"two"}}});
   EXPECT_EQ(dialogs.startTexts[1024], u"0.00");
   EXPECT_EQ(dialogs.startTexts[1025], u"0.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(2.5, 2.0, 3.0));
@@ -232,11 +238,11 @@ TEST_F(Commands, RotationTurnsPolylinesOnly)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 0.0, 3.0});
   const CShapePoint& point = AddPoint(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(Command::RotateLeft, {.ok = true});
+  Run(CommandId::RotateLeft, {.ok = true});
   EXPECT_NEAR(line.vertices[0]->y, 1.0, 1e-15);
   EXPECT_EQ(line.vertices[0]->z, 3.0);
   EXPECT_EQ(point.position.x, 1.0);
-  Run(Command::RotateRight, {.ok = true});
+  Run(CommandId::RotateRight, {.ok = true});
   EXPECT_NEAR(line.vertices[0]->x, 1.0, 1e-15);
   EXPECT_NEAR(line.vertices[0]->y, 0.0, 1e-15);
 }
@@ -244,23 +250,23 @@ TEST_F(Commands, RotationTurnsPolylinesOnly)
 /// A shape of a kind that no rotation may reach.
 class Unturnable : public CShapePoint {
 public:
-  explicit Unturnable(std::uint16_t kind) { type = kind; }
-  void Rotate(double) override { ADD_FAILURE() << "turned a shape of type " << type; }
+  explicit Unturnable(ShapeType kind) { type = kind; }
+  void Rotate(double) override { ADD_FAILURE() << "turned a shape of type " << NumberOf(type); }
 };
 
 TEST_F(Commands, NoOtherKindOfShapeIsTurned)
 {
-  for (const std::uint16_t kind :
+  for (const ShapeType kind :
        {ShapeType::Point, ShapeType::Polygon, ShapeType::Text, ShapeType::Ring}) {
-    GetShapes(app.shapeGroups, 1)->shapes.push_back(std::make_unique<Unturnable>(kind));
+    GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(std::make_unique<Unturnable>(kind));
   }
   const CShapePolyline& last = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(Command::RotateLeft, {.ok = true});
+  Run(CommandId::RotateLeft, {.ok = true});
   EXPECT_NEAR(last.vertices[0]->y, 1.0, 1e-15);
 }
 
 struct AngleCase {
-  int command;
+  CommandId command;
   DialogScript script;
   double degrees;  ///< where (1, 0) comes to lie
 };
@@ -278,54 +284,54 @@ TEST_P(Angle, ComesFromButtonFieldAndDirection)
 
 INSTANTIATE_TEST_SUITE_P(
     Choices, Angle,
-    testing::Values(AngleCase{Command::RotateLeft, {.ok = true}, 90.0},
-                    AngleCase{Command::RotateRight, {.ok = true}, -90.0},
-                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1014, true}}}, 180.0},
-                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1015, true}}}, 270.0},
-                    AngleCase{Command::RotateLeft, {.ok = true, .clicks = {{1021, true}}}, -90.0},
-                    AngleCase{Command::RotateRight, {.ok = true, .clicks = {{1022, true}}}, 90.0},
-                    AngleCase{Command::RotateLeft,
+    testing::Values(AngleCase{CommandId::RotateLeft, {.ok = true}, 90.0},
+                    AngleCase{CommandId::RotateRight, {.ok = true}, -90.0},
+                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1014, true}}}, 180.0},
+                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1015, true}}}, 270.0},
+                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1021, true}}}, -90.0},
+                    AngleCase{CommandId::RotateRight, {.ok = true, .clicks = {{1022, true}}}, 90.0},
+                    AngleCase{CommandId::RotateLeft,
                               {.ok = true, .fields = {{1017, u"30"}}, .clicks = {{1016, true}}},
                               30.0},
-                    AngleCase{Command::RotateRight,
+                    AngleCase{CommandId::RotateRight,
                               {.ok = true, .fields = {{1017, u"-30"}}, .clicks = {{1016, true}}},
                               30.0},
-                    AngleCase{Command::RotateLeft,
+                    AngleCase{CommandId::RotateLeft,
                               {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}},
                               0.0}));
 
 TEST_F(Commands, ARotationByNothingStillModifies)
 {
   AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(Command::RotateLeft, {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}});
+  Run(CommandId::RotateLeft, {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}});
   EXPECT_THAT(heard.list, ElementsAreArray(all));
 }
 
 TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)
 {
-  Run(Command::RotateRight, {});
+  Run(CommandId::RotateRight, {});
   EXPECT_TRUE(dialogs.startChecks[1013]);
   EXPECT_TRUE(dialogs.startChecks[1021]);
   EXPECT_FALSE(dialogs.startChecks[1022]);
   EXPECT_EQ(dialogs.startTexts[1017], u"0.0");
-  Run(Command::RotateLeft, {});
+  Run(CommandId::RotateLeft, {});
   EXPECT_FALSE(dialogs.startChecks[1021]);
   EXPECT_TRUE(dialogs.startChecks[1022]);
 }
 
 TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)
 {
-  EXPECT_TRUE(frame.QueryCommand(Command::ToggleGrid).checked);
-  Run(Command::ToggleGrid);
+  EXPECT_TRUE(frame.QueryCommand(CommandId::ToggleGrid).checked);
+  Run(CommandId::ToggleGrid);
   EXPECT_EQ(settings.values["Grid/Show"], 0);
-  EXPECT_FALSE(frame.QueryCommand(Command::ToggleGrid).checked);
+  EXPECT_FALSE(frame.QueryCommand(CommandId::ToggleGrid).checked);
   settings.values["Grid/Show"] = 7;
-  Run(Command::ToggleGrid);
+  Run(CommandId::ToggleGrid);
   EXPECT_EQ(settings.values["Grid/Show"], 0);
-  Run(Command::ToggleSnap);
+  Run(CommandId::ToggleSnap);
   EXPECT_EQ(settings.values["Grid/Snap"], 0);
-  Run(Command::ToggleSnap);
-  EXPECT_TRUE(frame.QueryCommand(Command::ToggleSnap).checked);
+  Run(CommandId::ToggleSnap);
+  EXPECT_TRUE(frame.QueryCommand(CommandId::ToggleSnap).checked);
   EXPECT_FALSE(document.IsModified());
 }
 

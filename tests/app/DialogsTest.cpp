@@ -11,9 +11,12 @@ namespace {
 
 class Dialogs : public test::AppFixture {
 protected:
-  Dialogs() { app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}}; }
+  Dialogs()
+  {
+    app.unitTable = {{u"m", u"metre", UnitCode::Metre}, {u"ft", u"foot", UnitCode{9002}}};
+  }
 
-  void Run(int command, DialogScript script)
+  void Run(CommandId command, DialogScript script)
   {
     dialogs.script = std::move(script);
     frame.OnCommand(command);
@@ -25,7 +28,7 @@ protected:
 TEST_F(Dialogs, TheGridDialogShowsTheSettingsWithTwoDecimals)
 {
   settings.values = {{"Grid/Show", 0}, {"Grid/SpacingShowX", 114}, {"Grid/SpacingSnapY", 10000}};
-  Run(Command::Grid, {});
+  Run(CommandId::Grid, {});
   EXPECT_FALSE(dialogs.startChecks[1002]);
   EXPECT_TRUE(dialogs.startChecks[1001]);
   EXPECT_EQ(Start(1000), u"1.14");
@@ -37,7 +40,7 @@ TEST_F(Dialogs, TheGridDialogShowsTheSettingsWithTwoDecimals)
 
 TEST_F(Dialogs, TheGridDialogEnablesEachGroupByItsCheckBox)
 {
-  Run(Command::Grid, {.ok = true, .fields = {{1000, u"9"}}, .clicks = {{1002, false}}});
+  Run(CommandId::Grid, {.ok = true, .fields = {{1000, u"9"}}, .clicks = {{1002, false}}});
   for (const int id : {1004, 1005, 1000, 1003, 1006, 1007}) {
     EXPECT_TRUE(dialogs.startEnabled.at(id)) << id;
     EXPECT_FALSE(dialogs.enabled.at(id)) << id;
@@ -50,9 +53,9 @@ TEST_F(Dialogs, TheGridDialogEnablesEachGroupByItsCheckBox)
 
 TEST_F(Dialogs, TheGridDialogStoresAllSixSettings)
 {
-  Run(Command::Grid, {.ok = true,
-                      .fields = {{1000, u"1.15"}, {1003, u"2"}, {1009, u"3 m"}, {1012, u"x"}},
-                      .clicks = {{1001, false}}});
+  Run(CommandId::Grid, {.ok = true,
+                        .fields = {{1000, u"1.15"}, {1003, u"2"}, {1009, u"3 m"}, {1012, u"x"}},
+                        .clicks = {{1001, false}}});
   EXPECT_EQ(settings.values, (std::map<std::string, std::int32_t>{{"Grid/Show", 1},
                                                                   {"Grid/Snap", 0},
                                                                   {"Grid/SpacingShowX", 114},
@@ -63,14 +66,14 @@ TEST_F(Dialogs, TheGridDialogStoresAllSixSettings)
 
 TEST_F(Dialogs, ASpacingTypedAsOneFifteenComesBackAsOneFourteen)
 {
-  Run(Command::Grid, {.ok = true, .fields = {{1009, u"1.15"}}});
-  Run(Command::Grid, {});
+  Run(CommandId::Grid, {.ok = true, .fields = {{1009, u"1.15"}}});
+  Run(CommandId::Grid, {});
   EXPECT_EQ(Start(1009), u"1.14");
 }
 
 TEST_F(Dialogs, ACancelledOffsetsDialogLeavesAllThree)
 {
-  Run(Command::Offsets, {.ok = false, .fields = {{1027, u"1"}, {1030, u"2"}, {1003, u"3"}}});
+  Run(CommandId::Offsets, {.ok = false, .fields = {{1027, u"1"}, {1030, u"2"}, {1003, u"3"}}});
   EXPECT_TRUE(*app.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetTransducer == CShapeVertex(-10.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetPivot == CShapeVertex(0.0, 10.0, 0.0));
@@ -79,14 +82,14 @@ TEST_F(Dialogs, ACancelledOffsetsDialogLeavesAllThree)
 TEST_F(Dialogs, WithoutOneOfTheOffsetsNothingIsStored)
 {
   app.offsetPivot.reset();
-  Run(Command::Offsets, {.ok = true, .fields = {{1027, u"1"}}});
+  Run(CommandId::Offsets, {.ok = true, .fields = {{1027, u"1"}}});
   EXPECT_EQ(app.offsetGps->x, 10.0);
 }
 
 TEST_F(Dialogs, TheOffsetsDialogShowsSevenNumbersAndFocusesTheFirst)
 {
   *app.offsetPivot = CShapeVertex(1.0, -2.5, 3.25);
-  Run(Command::Offsets, {});
+  Run(CommandId::Offsets, {});
   EXPECT_EQ(Start(1027), u"10.000");
   EXPECT_EQ(Start(1028), u"0.000");
   EXPECT_EQ(Start(1030), u"-10.000");
@@ -99,11 +102,14 @@ TEST_F(Dialogs, TheOffsetsDialogShowsSevenNumbersAndFocusesTheFirst)
 
 TEST_F(Dialogs, TheOffsetsDialogFocusesTheKindItWasOpenedFor)
 {
-  for (const auto& [kind, field] : std::map<std::int32_t, std::optional<int>>{
-           {12, 1027}, {13, 1030}, {14, 1001}, {7, std::nullopt}}) {
+  for (const auto& [kind, field] :
+       std::map<HitKind, std::optional<int>>{{HitKind::Gps, 1027},
+                                             {HitKind::Transducer, 1030},
+                                             {HitKind::Pivot, 1001},
+                                             {HitKind::Vertex, std::nullopt}}) {
     dialogs.script = {};
     EXPECT_FALSE(app.EditOffsets(kind));
-    EXPECT_EQ(dialogs.focus, field) << kind;
+    EXPECT_EQ(dialogs.focus, field) << NumberOf(kind);
   }
 }
 
@@ -112,7 +118,7 @@ TEST_F(Dialogs, OkInTheOffsetsDialogZeroesTheHeightsItHasNoFieldsFor)
   app.offsetGps->z = 1.0;
   app.offsetTransducer->z = 2.0;
   app.offsetPivot->z = 3.0;
-  Run(Command::Offsets, {.ok = true, .fields = {{1030, u"-7,5"}, {1003, u"4.5"}}});
+  Run(CommandId::Offsets, {.ok = true, .fields = {{1030, u"-7,5"}, {1003, u"4.5"}}});
   EXPECT_TRUE(*app.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetTransducer == CShapeVertex(-7.0, 0.0, 0.0));
   EXPECT_TRUE(*app.offsetPivot == CShapeVertex(0.0, 10.0, 4.5));
@@ -143,13 +149,13 @@ TEST_F(Dialogs, AVertexDialogWithoutAVertexEditsNothing)
 TEST_F(Dialogs, UnitLabelsFollowTheUnitAndTheNumbersDoNot)
 {
   CShapeVertex vertex(1.0, 2.0, 3.0);
-  app.unitCode = 9002;
+  app.unitCode = UnitCode{9002};
   app.EditVertex(vertex);
   for (const int label : {1004, 1005, 1010}) EXPECT_EQ(Start(label), u"ft") << label;
   EXPECT_EQ(Start(1008), u"1.000");
-  Run(Command::Move, {});
+  Run(CommandId::Move, {});
   for (const int label : {1004, 1005}) EXPECT_EQ(Start(label), u"ft") << label;
-  Run(Command::Offsets, {});
+  Run(CommandId::Offsets, {});
   for (const int label : {1004, 1005, 1010, 1013, 1006, 1007, 1008}) {
     EXPECT_EQ(Start(label), u"ft") << label;
   }
@@ -157,11 +163,11 @@ TEST_F(Dialogs, UnitLabelsFollowTheUnitAndTheNumbersDoNot)
 
 TEST_F(Dialogs, WithoutAUnitTheLabelsKeepTheTemplatesText)
 {
-  app.unitCode = 5;
+  app.unitCode = UnitCode{5};
   CShapeVertex vertex;
   app.EditVertex(vertex);
   EXPECT_EQ(Start(1004), u"meters");
-  Run(Command::Offsets, {});
+  Run(CommandId::Offsets, {});
   for (const int label : {1004, 1005, 1010, 1013, 1006, 1007, 1008}) {
     EXPECT_EQ(Start(label), u"Static") << label;
   }
@@ -177,7 +183,7 @@ TEST_F(Dialogs, EveryDialogHasItsTemplateAndTitle)
     EXPECT_EQ(FindDialogTemplate(id)->title, title);
   }
   EXPECT_EQ(FindDialogTemplate(1), nullptr);
-  Run(Command::About, {});
+  Run(CommandId::About, {});
   EXPECT_THAT(dialogs.shown, testing::ElementsAre(100));
 }
 

@@ -136,21 +136,22 @@ TEST_F(Life, EveryChangeOfWhatASaveWritesAsksWithoutAFlag)
   EXPECT_TRUE(changed([&] { FirstVertex().z = 0.001; }, [&] { FirstVertex().z = 0.0; }));
   EXPECT_TRUE(changed([&] { app.offsetGps->x = 7.0; }, [&] { app.offsetGps->x = 1.0; }));
   EXPECT_TRUE(changed([&] { app.offsetPivot->z = 1.0; }, [&] { app.offsetPivot->z = 0.0; }));
-  EXPECT_TRUE(changed([&] { app.unitCode = 9002; }, [&] { app.unitCode = 9001; }));
+  EXPECT_TRUE(
+      changed([&] { app.unitCode = UnitCode{9002}; }, [&] { app.unitCode = UnitCode::Metre; }));
   EXPECT_TRUE(changed([&] { app.anchors->items.push_back(app.anchors->NewAnchor()); },
                       [&] { app.anchors->Clear(); }));
-  EXPECT_TRUE(changed([&] { app.shapeGroups[0]->viewCode = 2; },
-                      [&] { app.shapeGroups[0]->viewCode = 1; }));
+  EXPECT_TRUE(changed([&] { app.shapeGroups[0]->viewCode = ViewSide::Bottom; },
+                      [&] { app.shapeGroups[0]->viewCode = ViewSide::Top; }));
 }
 
 TEST_F(Life, WhatNoSaveWritesIsNotAskedFor)
 {
   ASSERT_TRUE(OpenBoat());
-  app.activeView = 4;
+  app.activeView = ViewSide::Right;
   FirstVertex().x += 0.0001;
   app.anchors->enabled = 0;
   app.shapeGroups[0]->shapes.push_back(std::make_unique<CShapePoint>());
-  GetShapes(app.shapeGroups, 2);  // as a side gets that is only looked at
+  GetShapes(app.shapeGroups, ViewSide::Bottom);  // as a side gets that is only looked at
   EXPECT_FALSE(Asks());
 }
 
@@ -170,7 +171,7 @@ TEST_F(Life, APolylineThatIsBeingDrawnIsAskedForAndMissedByASave)
 TEST_F(Life, AnswersDecideWhetherTheDesignIsLeft)
 {
   ASSERT_TRUE(OpenBoat());
-  app.unitCode = 9002;
+  app.unitCode = UnitCode{9002};
   documentDialogs.answer = LeaveAnswer::Stay;
   life.New();
   EXPECT_EQ(app.shapeGroups.size(), 1U);
@@ -179,15 +180,15 @@ TEST_F(Life, AnswersDecideWhetherTheDesignIsLeft)
   life.New();
   EXPECT_NE(folder.Read("boat.xml").find("9002"), std::string::npos);
   EXPECT_TRUE(app.shapeGroups.empty());
-  app.unitCode = 9003;
+  app.unitCode = UnitCode{9003};
   documentDialogs.answer = LeaveAnswer::Discard;
   EXPECT_TRUE(OpenBoat());
-  EXPECT_EQ(app.unitCode, 9001);
+  EXPECT_EQ(app.unitCode, UnitCode::Metre);
 }
 
 TEST_F(Life, ChangesThatWereGivenUpForAFileThatCannotBeOpenedAreAskedForAgain)
 {
-  app.unitCode = 9002;
+  app.unitCode = UnitCode{9002};
   documentDialogs.answer = LeaveAnswer::Discard;
   EXPECT_FALSE(life.Open(folder.File("missing.xml")));
   EXPECT_TRUE(Asks());
@@ -197,7 +198,7 @@ TEST_F(Life, AFailedSaveCountsForTheFlagAndIsAskedForAgain)
 {
   ASSERT_TRUE(OpenBoat());
   document.SetModifiedFlag(true);
-  app.unitCode = 9002;
+  app.unitCode = UnitCode{9002};
   documentDialogs.toSave = folder.File("missing/boat.xml");
   EXPECT_FALSE(life.SaveAs());
   EXPECT_FALSE(document.IsModified());
@@ -267,15 +268,16 @@ TEST_F(Life, EveryNumberThatASaveWritesIsLookedThrough)
     return found.first;
   };
   ASSERT_TRUE(OpenBoat());
-  GetShapes(app.shapeGroups, 32)->shapes.push_back(app.shapeGroups[0]->shapes[0]->Clone());
+  GetShapes(app.shapeGroups, ViewSide::Rear)
+      ->shapes.push_back(app.shapeGroups[0]->shapes[0]->Clone());
   app.anchors->items.push_back(app.anchors->NewAnchor());
   EXPECT_EQ(place(FirstVertex().x), u"polyline 1 (top), point 1");
   EXPECT_EQ(place(FirstVertex().z), u"polyline 1 (top), point 1");
   EXPECT_EQ(place(app.shapeGroups[1]->shapes[0]->vertices[1]->y), u"polyline 1 (rear), point 2");
-  app.shapeGroups[1]->viewCode = 63;
+  app.shapeGroups[1]->viewCode = ViewSide::All;
   EXPECT_EQ(place(app.shapeGroups[1]->shapes[0]->vertices[0]->y),
             u"polyline 1 (all sides), point 1");
-  app.shapeGroups[1]->viewCode = 5;
+  app.shapeGroups[1]->viewCode = ViewSide{5};
   EXPECT_EQ(place(app.shapeGroups[1]->shapes[0]->vertices[0]->y), u"polyline 1 (view 05), point 1");
   EXPECT_EQ(place(app.offsetGps->y), u"GNSS antenna offset");
   EXPECT_EQ(place(app.offsetTransducer->z), u"transducer offset");

@@ -25,13 +25,13 @@ TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
 {
   settings.values["Workspace/ApplicationLook"] = 216;
   const Editor other(ports);
-  EXPECT_EQ(other.app.applicationLook, 216);
+  EXPECT_EQ(other.app.applicationLook, Look::Black);
 }
 
 /// Looks at what stands when the frame is told something.
 class EarlyListener : public SilentWindow {
 public:
-  void Notify(int, std::intptr_t) override { look(); }
+  void Notify(Notification, std::intptr_t) override { look(); }
   void SetModifiedFlag(bool) override { look(); }
   std::function<void()> look;
 };

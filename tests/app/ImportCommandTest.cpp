@@ -41,7 +41,7 @@ protected:
 
 TEST_F(ImportCommand, AsksForADrawingByItsExtension)
 {
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(fileDialogs.asked,
               ElementsAre(testing::Pair(u"dxf", u"AutoCad DXF Files (*.dxf)|*.dxf||")));
 }
@@ -49,7 +49,7 @@ TEST_F(ImportCommand, AsksForADrawingByItsExtension)
 TEST_F(ImportCommand, GivenUpDoesNothing)
 {
   fileDialogs.answer.reset();
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(heard.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
 }
@@ -57,7 +57,7 @@ TEST_F(ImportCommand, GivenUpDoesNothing)
 TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
 {
   app.activeView = ViewSide::Left;
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   ASSERT_EQ(app.shapeGroups.size(), 1U);
   EXPECT_EQ(app.shapeGroups[0]->viewCode, ViewSide::Left);
   ASSERT_EQ(ShapesOf(0).size(), 2U);
@@ -74,8 +74,8 @@ TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
 TEST_F(ImportCommand, AddsBehindWhatIsThereAndEveryTimeAgain)
 {
   AddLine(ViewSide::Top, {7.0, 7.0, 7.0});
-  Run(Command::ImportDxf);
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
+  Run(CommandId::ImportDxf);
   ASSERT_EQ(app.shapeGroups.size(), 1U);
   ASSERT_EQ(ShapesOf(0).size(), 5U);
   EXPECT_EQ(ShapesOf(0)[0]->vertices[0]->x, 7.0);
@@ -85,7 +85,7 @@ TEST_F(ImportCommand, PrefersAGroupOfAllSidesThatComesFirst)
 {
   AddLine(ViewSide::All, {7.0, 7.0, 7.0});
   app.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Top));
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_EQ(ShapesOf(0).size(), 3U);
   EXPECT_THAT(ShapesOf(1), IsEmpty());
 }
@@ -93,7 +93,7 @@ TEST_F(ImportCommand, PrefersAGroupOfAllSidesThatComesFirst)
 TEST_F(ImportCommand, OfAFileThatCannotBeReadLeavesNothingButARecord)
 {
   fileDialogs.answer = folder.File("missing.dxf");
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(heard.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
   EXPECT_THAT(messages.shown, IsEmpty());
@@ -105,7 +105,7 @@ TEST_F(ImportCommand, OfAFileThatCannotBeReadLeavesNothingButARecord)
 TEST_F(ImportCommand, OfAFileThatIsNoDrawingCountsAllTheSame)
 {
   fileDialogs.answer = folder.Write("letter.dxf", "Dear Sirs\n");
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_TRUE(document.IsModified());
   EXPECT_THAT(ShapesOf(0), IsEmpty());
   EXPECT_THAT(Log("General"),
@@ -114,7 +114,7 @@ TEST_F(ImportCommand, OfAFileThatIsNoDrawingCountsAllTheSame)
 
 TEST_F(ImportCommand, WritesItsRecordsToTheLogs)
 {
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(Log("Processing"), HasSubstr("added 2 map features to map layer.\r\n"));
   EXPECT_THAT(Log("General"), HasSubstr("1\n1|"));
 }
@@ -136,15 +136,15 @@ TEST_F(ImportCommand, TellsItsCallerWhatItTookInAndPassedOver)
 
 TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
 {
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   fileDialogs.answer = folder.Write("splines.dxf",
                                     "0\nSECTION\n2\nENTITIES\n0\nSPLINE\n8\n0\n0\nSPLINE\n8\n0\n"
                                     "0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   fileDialogs.answer = folder.Write("binary.dxf", "AutoCAD Binary DXF\r\n\x1A");
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   fileDialogs.answer = folder.File("missing.dxf");
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(
       widgets.notes,
       ElementsAre(u"1 polyline, 1 text", u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
@@ -160,7 +160,7 @@ TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)
     fileDialogs.answer =
         folder.Write("line.dxf", "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n" + x + "\n20\n" + y +
                                      "\n11\n" + x + "\n21\n" + y + "\n0\nENDSEC\n0\nEOF\n");
-    Run(Command::ImportDxf);
+    Run(CommandId::ImportDxf);
     return widgets.notes.at(0);
   };
   const std::u16string inside = u"1 polyline";
@@ -176,13 +176,13 @@ TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)
 TEST_F(ImportCommand, LeavesTheViewWhereItIs)
 {
   const double left = view.viewPort->left;
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_EQ(view.viewPort->left, left);
 }
 
 TEST_F(ImportCommand, ShowsItsProgressInTheFrame)
 {
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_EQ(widgets.calls.front(), "start Loading and processing DXF file, please wait...");
   EXPECT_EQ(widgets.calls.back(), "end");
   ASSERT_GT(widgets.calls.size(), 3U);
@@ -194,14 +194,14 @@ TEST_F(ImportCommand, ShowsItsProgressInTheFrame)
 TEST_F(ImportCommand, WithoutAWindowLeavesTheDesignAlone)
 {
   frame.hasWindow = false;
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   EXPECT_THAT(app.shapeGroups, IsEmpty());
   EXPECT_FALSE(document.IsModified());
 }
 
 TEST_F(ImportCommand, OnlyPolylinesAreSaved)
 {
-  Run(Command::ImportDxf);
+  Run(CommandId::ImportDxf);
   const std::u16string path = folder.File("saved.xml");
   ASSERT_TRUE(document.OnSaveDocument(path));
   ASSERT_TRUE(document.OnOpenDocument(path));

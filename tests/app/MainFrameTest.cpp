@@ -17,18 +17,18 @@ TEST_F(MainFrame, PassesEveryCodeButTheTreesOnToTheView)
   frame.Notify(Notification::RepaintDesign, 5);
   EXPECT_EQ(Frames(), 1);
   frame.Notify(Notification::RebuildTree, 0);
-  frame.Notify(1044, 50);
-  frame.Notify(0, 0);
+  frame.Notify(Notification::ImportProgress, 50);
+  frame.Notify(Notification{}, 0);
   EXPECT_EQ(Frames(), 1);
 }
 
 TEST_F(MainFrame, ShowsTheProgressOfAnImport)
 {
-  frame.Notify(1046, reinterpret_cast<std::intptr_t>("Loading"));
-  frame.Notify(1044, 50);
-  frame.Notify(1045, 0);
+  frame.Notify(Notification::ImportStart, reinterpret_cast<std::intptr_t>("Loading"));
+  frame.Notify(Notification::ImportProgress, 50);
+  frame.Notify(Notification::ImportEnd, 0);
   EXPECT_THAT(widgets.calls, ElementsAre("start Loading", "50 %", "end"));
-  frame.Notify(1046, 0);  // without a text there is nothing to show
+  frame.Notify(Notification::ImportStart, 0);  // without a text there is nothing to show
   EXPECT_EQ(widgets.calls.size(), 3U);
 }
 
@@ -49,8 +49,8 @@ TEST_F(MainFrame, MarksItsDocument)
 }
 
 struct SideCase {
-  int command;
-  std::int32_t code;
+  CommandId command;
+  ViewSide side;
 };
 
 class SideCommand : public MainFrame, public testing::WithParamInterface<SideCase> {};
@@ -58,23 +58,26 @@ class SideCommand : public MainFrame, public testing::WithParamInterface<SideCas
 TEST_P(SideCommand, BringsTheSideIntoViewAndOntoTheDropDown)
 {
   EXPECT_TRUE(frame.OnCommand(GetParam().command));
-  EXPECT_EQ(app.activeView, GetParam().code);
+  EXPECT_EQ(app.activeView, GetParam().side);
   EXPECT_THAT(widgets.calls,
-              ElementsAre("image " + std::to_string(GetParam().command), "invalidate"));
+              ElementsAre("image " + std::to_string(NumberOf(GetParam().command)), "invalidate"));
   EXPECT_EQ(frame.viewButtonImage, GetParam().command);
   EXPECT_EQ(Frames(), 1);
   EXPECT_FALSE(document.IsModified());
 }
 
 INSTANTIATE_TEST_SUITE_P(Sides, SideCommand,
-                         testing::Values(SideCase{32804, 1}, SideCase{32805, 2}, SideCase{32802, 4},
-                                         SideCase{32803, 8}, SideCase{32806, 16},
-                                         SideCase{32807, 32}));
+                         testing::Values(SideCase{CommandId{32804}, ViewSide::Top},
+                                         SideCase{CommandId{32805}, ViewSide::Bottom},
+                                         SideCase{CommandId{32802}, ViewSide::Right},
+                                         SideCase{CommandId{32803}, ViewSide::Left},
+                                         SideCase{CommandId{32806}, ViewSide::Front},
+                                         SideCase{CommandId{32807}, ViewSide::Rear}));
 
 TEST_F(MainFrame, AnotherCodeLeavesTheImage)
 {
-  app.SetViewSide(63);
-  EXPECT_EQ(app.activeView, 63);
+  app.SetViewSide(ViewSide::All);
+  EXPECT_EQ(app.activeView, ViewSide::All);
   EXPECT_THAT(widgets.calls, ElementsAre("invalidate"));
   EXPECT_EQ(Frames(), 1);
 }
@@ -84,42 +87,43 @@ TEST_F(MainFrame, ASideChangeKeepsToolAndViewRectangle)
   app.cursorTool = CursorTool::Move;
   view.OnMouseWheel(120, {100, 100});
   const double left = view.viewPort->left;
-  frame.OnCommand(Command::ViewLeft);
+  frame.OnCommand(CommandId::ViewLeft);
   EXPECT_EQ(app.cursorTool, CursorTool::Move);
   EXPECT_EQ(view.viewPort->left, left);
 }
 
 TEST_F(MainFrame, CursorModesExcludeEachOtherAndDoNotRepaint)
 {
-  EXPECT_FALSE(frame.QueryCommand(Command::CursorZoomIn).checked);
-  frame.OnCommand(Command::CursorZoomIn);
-  EXPECT_EQ(app.cursorTool, 1);
-  EXPECT_TRUE(frame.QueryCommand(Command::CursorZoomIn).checked);
-  frame.OnCommand(Command::CursorZoomOut);
-  EXPECT_EQ(app.cursorTool, 2);
-  EXPECT_FALSE(frame.QueryCommand(Command::CursorZoomIn).checked);
-  frame.OnCommand(Command::CursorMove);
-  EXPECT_EQ(app.cursorTool, 8);
-  frame.OnCommand(Command::CursorMove);
-  EXPECT_EQ(app.cursorTool, 8);
+  EXPECT_FALSE(frame.QueryCommand(CommandId::CursorZoomIn).checked);
+  frame.OnCommand(CommandId::CursorZoomIn);
+  EXPECT_EQ(app.cursorTool, CursorTool::ZoomIn);
+  EXPECT_TRUE(frame.QueryCommand(CommandId::CursorZoomIn).checked);
+  frame.OnCommand(CommandId::CursorZoomOut);
+  EXPECT_EQ(app.cursorTool, CursorTool::ZoomOut);
+  EXPECT_FALSE(frame.QueryCommand(CommandId::CursorZoomIn).checked);
+  frame.OnCommand(CommandId::CursorMove);
+  EXPECT_EQ(app.cursorTool, CursorTool::Move);
+  frame.OnCommand(CommandId::CursorMove);
+  EXPECT_EQ(app.cursorTool, CursorTool::Move);
   EXPECT_EQ(Frames(), 0);
 }
 
 TEST_F(MainFrame, TheDrawCommandIsCheckedWhileDrawing)
 {
-  EXPECT_FALSE(frame.QueryCommand(Command::DrawPolyline).checked);
-  EXPECT_TRUE(frame.OnCommand(Command::DrawPolyline));
-  EXPECT_TRUE(frame.QueryCommand(Command::DrawPolyline).checked);
+  EXPECT_FALSE(frame.QueryCommand(CommandId::DrawPolyline).checked);
+  EXPECT_TRUE(frame.OnCommand(CommandId::DrawPolyline));
+  EXPECT_TRUE(frame.QueryCommand(CommandId::DrawPolyline).checked);
   view.OnRButtonDown({1, 1});
-  EXPECT_FALSE(frame.QueryCommand(Command::DrawPolyline).checked);
+  EXPECT_FALSE(frame.QueryCommand(CommandId::DrawPolyline).checked);
 }
 
 TEST_F(MainFrame, CommandsWithoutAHandlerAreDisabledAndDoNothing)
 {
-  for (const int id : {Command::EditUndo, Command::EditRedo, Command::EditCut, Command::EditCopy,
-                       Command::EditPaste, Command::FilePrint, 1}) {
-    EXPECT_FALSE(frame.QueryCommand(id).enabled) << id;
-    EXPECT_FALSE(frame.OnCommand(id)) << id;
+  for (const CommandId id :
+       {CommandId::EditUndo, CommandId::EditRedo, CommandId::EditCut, CommandId::EditCopy,
+        CommandId::EditPaste, CommandId::FilePrint, CommandId{1}}) {
+    EXPECT_FALSE(frame.QueryCommand(id).enabled) << NumberOf(id);
+    EXPECT_FALSE(frame.OnCommand(id)) << NumberOf(id);
   }
   EXPECT_EQ(Frames(), 0);
 }
@@ -138,7 +142,7 @@ TEST_F(MainFrame, ANewDesignDuringAHoverLeavesNothingToDrag)
 {
   auto line = std::make_unique<CShapePolyline>();
   line->AddVertex(0.0, 0.0, 0.0);
-  GetShapes(app.shapeGroups, 1)->shapes.push_back(std::move(line));
+  GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(std::move(line));
   view.OnMouseMove(false, {400, 300});
   ASSERT_EQ(view.hitKind, HitKind::Vertex);
   document.OnNewDocument();
@@ -149,22 +153,22 @@ TEST_F(MainFrame, ANewDesignDuringAHoverLeavesNothingToDrag)
 
 TEST_F(MainFrame, ALookIsShownThenStoredAndBearsTheMark)
 {
-  EXPECT_EQ(app.applicationLook, 210);
-  EXPECT_TRUE(frame.QueryCommand(210).checked);
-  EXPECT_TRUE(frame.OnCommand(216));
+  EXPECT_EQ(app.applicationLook, Look::VisualStudio2008);
+  EXPECT_TRUE(frame.QueryCommand(CommandOf(Look::VisualStudio2008)).checked);
+  EXPECT_TRUE(frame.OnCommand(CommandId{216}));
   EXPECT_THAT(widgets.calls, ElementsAre("look 216"));
   EXPECT_EQ(settings.values["Workspace/ApplicationLook"], 216);
-  EXPECT_TRUE(frame.QueryCommand(216).checked);
-  EXPECT_FALSE(frame.QueryCommand(210).checked);
-  EXPECT_TRUE(frame.OnCommand(213));
-  EXPECT_EQ(app.applicationLook, 213);
+  EXPECT_TRUE(frame.QueryCommand(CommandOf(Look::Black)).checked);
+  EXPECT_FALSE(frame.QueryCommand(CommandOf(Look::VisualStudio2008)).checked);
+  EXPECT_TRUE(frame.OnCommand(CommandId{213}));
+  EXPECT_EQ(app.applicationLook, Look{213});
 }
 
 /// Looks into the settings at the moment that a look is shown.
 class WatchingWidgets : public test::FakeWidgets {
 public:
   explicit WatchingWidgets(const MemorySettings& settings) : settings_(settings) {}
-  void ApplyLook(int look) override
+  void ApplyLook(Look look) override
   {
     FakeWidgets::ApplyLook(look);
     storedBefore = settings_.written;
@@ -179,7 +183,7 @@ TEST_F(MainFrame, ALookIsStoredOnlyAfterItIsShown)
 {
   WatchingWidgets watching(settings);
   CMainFrame watched(app, watching);
-  watched.OnApplicationLook(206);
+  watched.OnApplicationLook(Look{206});
   EXPECT_THAT(watching.calls, ElementsAre("look 206"));
   EXPECT_EQ(watching.storedBefore, std::vector<std::string>());
   EXPECT_THAT(settings.written, ElementsAre("Workspace/ApplicationLook"));
@@ -190,9 +194,9 @@ TEST_F(MainFrame, AStoredLookOf219MarksNoEntryOfTheMenu)
 {
   settings.values["Workspace/ApplicationLook"] = 219;
   app.LoadLook();
-  EXPECT_EQ(app.applicationLook, 219);
+  EXPECT_EQ(app.applicationLook, Look::Windows7);
   for (const int id : {205, 206, 207, 208, 209, 210, 215, 216, 217, 218}) {
-    EXPECT_FALSE(frame.QueryCommand(id).checked) << id;
+    EXPECT_FALSE(frame.QueryCommand(CommandId{id}).checked) << id;
   }
 }
 

@@ -14,7 +14,7 @@ class ObjectPaneCommands : public test::ObjectPaneFixture {};
 TEST_F(ObjectPaneCommands, AddPolylineAppendsAnEmptyOneToTheSideInView)
 {
   app.activeView = ViewSide::Left;
-  Command(Command::AddPolyline, At({0, 0}));
+  Command(CommandId::AddPolyline, At({0, 0}));
   EXPECT_TRUE(ToldAll());
   ASSERT_EQ(app.shapeGroups.size(), 1U);
   EXPECT_EQ(app.shapeGroups[0]->viewCode, ViewSide::Left);
@@ -28,11 +28,11 @@ TEST_F(ObjectPaneCommands, RemoveAllClearsTheSideInViewWhicheverNodeWasClicked)
   AddLine(ViewSide::Bottom, {});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::RemoveAllPolylines, At({0, 1}));
+  Command(CommandId::RemoveAllPolylines, At({0, 1}));
   EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete all shapes ?"));
   EXPECT_FALSE(ToldAll());
   messages.answer = true;
-  Command(Command::RemoveAllPolylines, At({0, 1}));
+  Command(CommandId::RemoveAllPolylines, At({0, 1}));
   EXPECT_TRUE(ToldAll());
   EXPECT_TRUE(FindViewGroup(app.shapeGroups, ViewSide::Top)->shapes.empty());
   EXPECT_EQ(FindViewGroup(app.shapeGroups, ViewSide::Bottom)->shapes.size(), 1U);
@@ -40,7 +40,7 @@ TEST_F(ObjectPaneCommands, RemoveAllClearsTheSideInViewWhicheverNodeWasClicked)
 
 TEST_F(ObjectPaneCommands, AddAnchorAppendsOneWithTheLowestNumber)
 {
-  Command(Command::AddAnchor, At({1}));
+  Command(CommandId::AddAnchor, At({1}));
   EXPECT_TRUE(ToldAll());
   ASSERT_EQ(app.anchors->items.size(), 1U);
   EXPECT_EQ(app.anchors->items[0]->id, 1U);
@@ -51,8 +51,8 @@ TEST_F(ObjectPaneCommands, RemoveAndModifyAnchorDoNothing)
   app.anchors->items.push_back(app.anchors->NewAnchor());
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::RemoveAnchor, At({1, 0}));
-  Command(Command::ModifyAnchor, At({1, 0}));
+  Command(CommandId::RemoveAnchor, At({1, 0}));
+  Command(CommandId::ModifyAnchor, At({1, 0}));
   EXPECT_FALSE(ToldAll());
   EXPECT_EQ(app.anchors->items.size(), 1U);
 }
@@ -62,9 +62,9 @@ TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledTellsNobody)
   const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::EditVertex, At({0, 0, 0, 0}), {.ok = false, .fields = {{1008, u"9"}}});
+  Command(CommandId::EditVertex, At({0, 0, 0, 0}), {.ok = false, .fields = {{1008, u"9"}}});
   EXPECT_FALSE(ToldAll());
-  Command(Command::EditVertex, At({0, 0, 0, 0}), {.ok = true, .fields = {{1008, u"9"}}});
+  Command(CommandId::EditVertex, At({0, 0, 0, 0}), {.ok = true, .fields = {{1008, u"9"}}});
   EXPECT_TRUE(ToldAll());
   EXPECT_EQ(line.vertices[0]->x, 9.0);
   EXPECT_THAT(Texts(At({0, 0, 0})), ElementsAre("+9.000,+2.000,+3.000"));
@@ -77,8 +77,8 @@ TEST_F(ObjectPaneCommands, PointCommandsOnNodesThatAreNoPointsDoNothing)
   control.rebuilds = 0;
   messages.answer = true;
   for (const TreeItem& item : {TreeItem{}, At({0}), At({0, 0}), At({0, 0, 0}), At({1})}) {
-    Command(Command::EditVertex, item, {.ok = true});
-    Command(Command::RemoveVertex, item);
+    Command(CommandId::EditVertex, item, {.ok = true});
+    Command(CommandId::RemoveVertex, item);
   }
   EXPECT_FALSE(ToldAll());
   EXPECT_THAT(dialogs.shown, IsEmpty());
@@ -90,13 +90,13 @@ TEST_F(ObjectPaneCommands, RemovePointAsksAndTakesItOut)
   const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}, {2.0, 0.0, 0.0}});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::RemoveVertex, At({0, 0, 0, 0}));
+  Command(CommandId::RemoveVertex, At({0, 0, 0, 0}));
   EXPECT_THAT(
       messages.asked,
       ElementsAre(u"Are you sure you want to delete the selected point from the polyline ?"));
   EXPECT_FALSE(ToldAll());
   messages.answer = true;
-  Command(Command::RemoveVertex, At({0, 0, 0, 0}));
+  Command(CommandId::RemoveVertex, At({0, 0, 0, 0}));
   EXPECT_TRUE(ToldAll());
   ASSERT_EQ(line.vertices.size(), 1U);
   EXPECT_EQ(line.vertices[0]->x, 2.0);
@@ -107,10 +107,10 @@ TEST_F(ObjectPaneCommands, AddPointAppendsAtTheEndOfTheSelectedPolyline)
   const CShapePolyline& line = AddLine(ViewSide::Bottom, {{1.0, 0.0, 0.0}});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::AddVertex, At({0, 1, 0}), {.ok = false});
-  Command(Command::AddVertex, At({0, 1}), {.ok = true});
+  Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = false});
+  Command(CommandId::AddVertex, At({0, 1}), {.ok = true});
   EXPECT_FALSE(ToldAll());
-  Command(Command::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{1009, u"4"}}});
+  Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{1009, u"4"}}});
   EXPECT_TRUE(ToldAll());
   EXPECT_EQ(dialogs.startTexts[1008], u"0.000");
   ASSERT_EQ(line.vertices.size(), 2U);
@@ -122,11 +122,11 @@ TEST_F(ObjectPaneCommands, RemovePolylineAsksAndReleasesIt)
   AddLine(ViewSide::Top, {});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::RemovePolyline, At({0, 0, 0}));
+  Command(CommandId::RemovePolyline, At({0, 0, 0}));
   EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete the selected shape ?"));
   EXPECT_FALSE(ToldAll());
   messages.answer = true;
-  Command(Command::RemovePolyline, At({0, 0, 0}));
+  Command(CommandId::RemovePolyline, At({0, 0, 0}));
   EXPECT_TRUE(ToldAll());
   EXPECT_TRUE(app.shapeGroups[0]->shapes.empty());
 }
@@ -136,7 +136,7 @@ TEST_F(ObjectPaneCommands, ZoomPolylineFramesItAndOnlyRepaints)
   AddLine(ViewSide::Bottom, {{10.0, 20.0, 0.0}, {50.0, 30.0, 0.0}});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(Command::ZoomPolyline, At({0, 1, 0}));
+  Command(CommandId::ZoomPolyline, At({0, 1, 0}));
   EXPECT_EQ(Frames(), 1);
   EXPECT_EQ(control.rebuilds, 0);
   EXPECT_FALSE(document.IsModified());

@@ -106,19 +106,19 @@ TEST_F(ObjectPane, MenusGoByTheOrderOfTheTests)
   app.anchors->items.push_back(app.anchors->NewAnchor());
   pane.BuildTree();
   pane.OnContextMenu(At({0, 1}));
-  EXPECT_THAT(control.menu, ElementsAre(Pair(32796, u"&Add Polyline..."),
-                                        Pair(32795, u"&Remove All Polylines...")));
+  EXPECT_THAT(control.menu, ElementsAre(Pair(CommandId{32796}, u"&Add Polyline..."),
+                                        Pair(CommandId{32795}, u"&Remove All Polylines...")));
   EXPECT_EQ(pane.selectedItem, At({0, 1}));
   pane.OnContextMenu(At({1}));
-  EXPECT_THAT(control.menu, ElementsAre(Pair(32815, u"&Add Anchor...")));
+  EXPECT_THAT(control.menu, ElementsAre(Pair(CommandId{32815}, u"&Add Anchor...")));
   pane.OnContextMenu(At({1, 0}));
-  EXPECT_THAT(control.menu,
-              ElementsAre(Pair(32816, u"&Remove Anchor..."), Pair(32817, u"&Modify Anchor...")));
+  EXPECT_THAT(control.menu, ElementsAre(Pair(CommandId{32816}, u"&Remove Anchor..."),
+                                        Pair(CommandId{32817}, u"&Modify Anchor...")));
   for (const TreeItem& item : {At({0}), At({0, 0, 0}), At({0, 0, 0, 0})}) {
     control.menu.clear();
     pane.OnContextMenu(item);
-    EXPECT_THAT(control.menu,
-                ElementsAre(Pair(32791, u"&Edit Point..."), Pair(32798, u"&Remove Point...")));
+    EXPECT_THAT(control.menu, ElementsAre(Pair(CommandId{32791}, u"&Edit Point..."),
+                                          Pair(CommandId{32798}, u"&Remove Point...")));
   }
   control.menu.clear();
   pane.OnContextMenu({});
@@ -188,10 +188,10 @@ TEST_F(ObjectPane, WithoutASideInViewShapeCommandsDoNothing)
   AddLine(ViewSide::Top, {});
   pane.BuildTree();
   control.rebuilds = 0;
-  app.activeView = 0;
+  app.activeView = ViewSide{0};
   messages.answer = true;
-  for (const int id : {hullwright::Command::AddPolyline, hullwright::Command::RemoveAllPolylines,
-                       hullwright::Command::RemovePolyline}) {
+  for (const CommandId id :
+       {CommandId::AddPolyline, CommandId::RemoveAllPolylines, CommandId::RemovePolyline}) {
     Command(id, At({0, 0, 0}));
   }
   EXPECT_FALSE(ToldAll());
@@ -201,7 +201,7 @@ TEST_F(ObjectPane, WithoutASideInViewShapeCommandsDoNothing)
 TEST_F(ObjectPane, WithoutAnAnchorListNoAnchorIsAdded)
 {
   app.anchors.reset();
-  Command(hullwright::Command::AddAnchor, At({0}));
+  Command(CommandId::AddAnchor, At({0}));
   EXPECT_FALSE(ToldAll());
 }
 

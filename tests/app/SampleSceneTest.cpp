@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/Code.h"
 #include "base/Text.h"
 #include "support/AppFixture.h"
 
@@ -127,12 +128,13 @@ TEST_P(SampleScene, IsDrawnNumberByNumber)
 {
   const std::string path = std::string(HULLWRIGHT_SAMPLES) + "/" + GetParam() + ".xml";
   ASSERT_TRUE(document.OnOpenDocument(WideFromUtf8(path)));
-  for (const std::int32_t side : ViewSide::each) {
+  for (const ViewSide side : eachViewSide) {
     app.SetViewSide(side);
-    view.OnCommand(32786);  // show all shapes
+    view.OnCommand(CommandId{32786});  // show all shapes
     view.OnMouseWheel(120, {333, 222});
-    EXPECT_EQ(recorder.Frame(), ExpectedFrame(app, app.LoadGridSettings()).Lines()) << side;
-    EXPECT_GT(recorder.Count("rect"), 0) << side;
+    EXPECT_EQ(recorder.Frame(), ExpectedFrame(app, app.LoadGridSettings()).Lines())
+        << NumberOf(side);
+    EXPECT_GT(recorder.Count("rect"), 0) << NumberOf(side);
   }
 }
 

@@ -55,7 +55,7 @@ TEST_F(StartUp, RunsInOrderAndEndsOnTheTopSide)
   EXPECT_THAT(framework.steps, ElementsAre("controls", "libraries", "store Quillmere 4", "template",
                                            "command line", "show", "drops"));
   EXPECT_EQ(app.activeView, ViewSide::Top);
-  EXPECT_EQ(frame.viewButtonImage, 32804);
+  EXPECT_EQ(frame.viewButtonImage, CommandId::ViewTop);
   EXPECT_EQ(Frames(), 1);
   EXPECT_TRUE(messages.shown.empty());
 }
@@ -63,7 +63,7 @@ TEST_F(StartUp, RunsInOrderAndEndsOnTheTopSide)
 TEST_F(StartUp, TheSideIsChosenBetweenTheWindowsShowAndItsFirstDrops)
 {
   app.activeView = ViewSide::Rear;
-  std::vector<std::int32_t> sides;
+  std::vector<ViewSide> sides;
   framework.onStep = [&] { sides.push_back(app.activeView); };
   ASSERT_TRUE(app.InitInstance(framework));
   EXPECT_THAT(sides, ElementsAre(ViewSide::Rear, ViewSide::Top));
@@ -124,7 +124,7 @@ protected:
 
 TEST_F(Application, BeginsWithItsDefaults)
 {
-  EXPECT_EQ(app.cursorTool, 0);
+  EXPECT_EQ(app.cursorTool, CursorTool::None);
   EXPECT_EQ(app.paneStyleFlag, 1);
   EXPECT_TRUE(app.unitTable.empty());
   ASSERT_NE(app.viewPort, nullptr);

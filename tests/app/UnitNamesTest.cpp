@@ -12,8 +12,8 @@ class UnitNames : public test::AppFixture {};
 
 TEST_F(UnitNames, ComeFromTheTable)
 {
-  app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
-  app.unitCode = 9002;
+  app.unitTable = {{u"m", u"metre", UnitCode::Metre}, {u"ft", u"foot", UnitCode{9002}}};
+  app.unitCode = UnitCode{9002};
   std::u16string label = u"meters";
   app.GetUnitLabel(label);
   EXPECT_EQ(label, u"ft");
@@ -22,8 +22,8 @@ TEST_F(UnitNames, ComeFromTheTable)
 
 TEST_F(UnitNames, AnUnknownUnitLeavesTheLabelAndThePaneWithoutAName)
 {
-  app.unitTable = {{u"m", u"metre", 9001}};
-  app.unitCode = 5;
+  app.unitTable = {{u"m", u"metre", UnitCode::Metre}};
+  app.unitCode = UnitCode{5};
   std::u16string label = u"meters";
   app.GetUnitLabel(label);
   EXPECT_EQ(label, u"meters");
@@ -39,7 +39,7 @@ TEST_F(UnitNames, TheTableIsLoadedAtItsFirstUseAndTriedAgainWhileEmpty)
                         std::filesystem::copy_options::overwrite_existing);
   EXPECT_EQ(view.UnitsPaneText(), u"Units: metre");
   std::filesystem::remove_all(dataFolder.Path() / "Sondaris");
-  app.unitCode = 9036;
+  app.unitCode = UnitCode{9036};
   EXPECT_EQ(view.UnitsPaneText(), u"Units: kilometre");
 }
 

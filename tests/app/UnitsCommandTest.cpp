@@ -13,20 +13,20 @@ class UnitsCommand : public test::CommandFixture {
 protected:
   UnitsCommand()
   {
-    app.unitTable = {{u"m", u"metre", 9001}, {u"ft", u"foot", 9002}};
+    app.unitTable = {{u"m", u"metre", UnitCode::Metre}, {u"ft", u"foot", UnitCode{9002}}};
     std::filesystem::create_directories(dataFolder.Path() / "Sondaris" / "Database");
     std::filesystem::copy(HULLWRIGHT_UNIT_DATABASE,
                           dataFolder.Path() / "Sondaris" / "Database" / "geo.db");
   }
 
   /// Chooses the foot, which is second in the list.
-  void ToFeet() { Run(Command::Units, {.ok = true, .select = 1}); }
+  void ToFeet() { Run(CommandId::Units, {.ok = true, .select = 1}); }
 };
 
 TEST_F(UnitsCommand, TheListStandsInTheOrderOfTheCodesWithTheUnitSelected)
 {
-  app.unitCode = 9003;
-  Run(Command::Units, {});
+  app.unitCode = UnitCode{9003};
+  Run(CommandId::Units, {});
   ASSERT_EQ(dialogs.list.size(), 24U);
   EXPECT_EQ(dialogs.list[0].text, u"metre");
   EXPECT_EQ(dialogs.list[2].data, 9003);
@@ -35,13 +35,13 @@ TEST_F(UnitsCommand, TheListStandsInTheOrderOfTheCodesWithTheUnitSelected)
 
 TEST_F(UnitsCommand, AnUnknownUnitSelectsNothingAndOkAsksForAChoice)
 {
-  app.unitCode = 5;
-  Run(Command::Units, {.ok = true});
+  app.unitCode = UnitCode{5};
+  Run(CommandId::Units, {.ok = true});
   EXPECT_FALSE(dialogs.startSelected.has_value());
   EXPECT_TRUE(dialogs.stayedOpen);
   EXPECT_THAT(messages.shown, ElementsAre(u"Please select an unit from the list first !"));
   EXPECT_TRUE(heard.list.empty());
-  EXPECT_EQ(app.unitCode, 5);
+  EXPECT_EQ(app.unitCode, UnitCode{5});
 }
 
 TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
@@ -63,7 +63,7 @@ TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
   EXPECT_EQ(app.offsetPivot->y, 10.0);
   EXPECT_EQ(bottom.vertices[0]->x, 1.0);
   EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
-  EXPECT_EQ(app.unitCode, 9002);
+  EXPECT_EQ(app.unitCode, UnitCode{9002});
   EXPECT_THAT(heard.list, ElementsAreArray(test::toldAll));
   EXPECT_TRUE(settings.written.empty());
 }
@@ -74,14 +74,14 @@ TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
   ToFeet();
   EXPECT_EQ(top.vertices[0]->x, 1.0);
   EXPECT_EQ(app.offsetGps->x, 10.0);
-  EXPECT_EQ(app.unitCode, 9002);
+  EXPECT_EQ(app.unitCode, UnitCode{9002});
   EXPECT_TRUE(document.IsModified());
 }
 
 TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
 {
   const CShapePolyline& top = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
-  std::vector<std::int32_t> units;
+  std::vector<UnitCode> units;
   messages.onQuestion = [&] {
     units.push_back(app.unitCode);
     EXPECT_EQ(top.vertices[0]->x, 3.048);
@@ -89,7 +89,7 @@ TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
   };
   messages.answer = true;
   ToFeet();
-  EXPECT_THAT(units, ElementsAre(9002));
+  EXPECT_THAT(units, ElementsAre(UnitCode{9002}));
   EXPECT_EQ(top.vertices[0]->x, 10.0);
 }
 
@@ -112,13 +112,13 @@ TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
   ToFeet();
   EXPECT_TRUE(messages.asked.empty());
   EXPECT_EQ(app.offsetGps->x, 10.0);
-  EXPECT_EQ(app.unitCode, 9002);
+  EXPECT_EQ(app.unitCode, UnitCode{9002});
 }
 
 TEST_F(UnitsCommand, TheSameUnitIsNotAskedAboutAndStillModifies)
 {
   AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(Command::Units, {.ok = true});
+  Run(CommandId::Units, {.ok = true});
   EXPECT_TRUE(messages.asked.empty());
   EXPECT_TRUE(document.IsModified());
 }

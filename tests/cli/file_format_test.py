@@ -109,9 +109,9 @@ class FileFormatTest(CliTest):
         rows = table(*("code", "metres") * 6)
         units = {int(row[i]): row[i + 1] for row in rows for i in range(0, len(row), 2)}
         source = (ROOT / "src" / "model" / "Units.cpp").read_text(encoding="utf-8")
-        factors = {int(unit): factor for unit, factor in re.findall(r"(?:Same\(|\{)(\d{4}), ([\d.]+)", source)}
+        factors = {int(unit): factor for unit, factor in re.findall(r"(?:Same\(|UnitCode\{)(\d{4})\}?, ([\d.]+)", source)}
         self.assertEqual(units, {9001: "1", **factors})
-        self.assertIn("(9003) has " + re.search(r"\{9003, [\d.]+, ([\d.]+)\}", source)[1] + ".", PAGE)
+        self.assertIn("(9003) has " + re.search(r"\{9003\}, [\d.]+, ([\d.]+)\}", source)[1] + ".", PAGE)
         designs = {}
         for unit in range(8999, 9110):
             designs[unit] = self.folder / f"{unit}.xml"

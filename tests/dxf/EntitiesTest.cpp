@@ -29,7 +29,7 @@ TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
                                  {21, "5"},
                                  {31, "6"}}));
   ASSERT_EQ(ShapeCount(), 1U);
-  EXPECT_EQ(At(0).type, 2);
+  EXPECT_EQ(At(0).type, ShapeType::Polyline);
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.5, -2.0, 3.0), ElementsAre(4.0, 5.0, 6.0)));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=D\xC3\xA4"
                                            "ck",
@@ -227,7 +227,7 @@ TEST_F(PlainEntities, CirclesAndEllipsesAreBlackInsteadOfByLayer)
 TEST_F(PlainEntities, APointHasAPositionAndNoVertices)
 {
   ImportEntities(Entity("POINT", {{10, "1"}, {20, "2"}, {30, "3"}, {8, "A"}, {5, "B"}}));
-  EXPECT_EQ(At<CShapePoint>(0).type, 1);
+  EXPECT_EQ(At<CShapePoint>(0).type, ShapeType::Point);
   EXPECT_TRUE(At<CShapePoint>(0).position == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=A", "HANDLE=B"));
 }
@@ -245,7 +245,7 @@ TEST_F(PlainEntities, ASolidIsOneRingOfItsCornersInFileOrder)
                                   {33, "7"},
                                   {62, "1"}}));
   const auto& solid = At<CShapePolygon>(0);
-  EXPECT_EQ(solid.type, 3);
+  EXPECT_EQ(solid.type, ShapeType::Polygon);
   ASSERT_EQ(solid.rings.size(), 1U);
   const auto& corners = solid.rings[0]->vertices;
   ASSERT_EQ(corners.size(), 4U);

@@ -33,7 +33,7 @@ TEST_F(Texts, ATextHasPlaceHeightAndNames)
                                            {51, "15"},
                                            {72, "4"},
                                            {73, "2"}});
-  EXPECT_EQ(label.type, 8);
+  EXPECT_EQ(label.type, ShapeType::Text);
   EXPECT_EQ(label.text, u"Winch");
   EXPECT_EQ(label.height, 2.5);
   EXPECT_EQ(label.angle, 0.0);

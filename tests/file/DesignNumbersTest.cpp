@@ -62,10 +62,7 @@ protected:
     return *design.anchors->items.back();
   }
 
-  void AddGroup(std::int32_t code)
-  {
-    design.shapeGroups.push_back(std::make_unique<CShapes>(code));
-  }
+  void AddGroup(ViewSide code) { design.shapeGroups.push_back(std::make_unique<CShapes>(code)); }
 
   DesignState design;
 };
@@ -104,7 +101,7 @@ TEST_F(NonFiniteNumbersOfADesign, AreToldInTheOrderOfASave)
 
 TEST_F(NonFiniteNumbersOfADesign, GroupsOfOneCodeAreNumbered)
 {
-  for (const std::int32_t code : {ViewSide::Top, ViewSide::Rear, ViewSide::Top}) AddGroup(code);
+  for (const ViewSide code : {ViewSide::Top, ViewSide::Rear, ViewSide::Top}) AddGroup(code);
   for (const std::size_t group : {0U, 1U, 2U}) AddLine(group).vertices[1]->x = infinity;
   EXPECT_THAT(Places(), ElementsAre("vertex.x 1/1 1.2", "vertex.x 32/1 1.2", "vertex.x 1/2 1.2"));
 }

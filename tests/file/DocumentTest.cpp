@@ -33,18 +33,18 @@ protected:
 
 TEST_F(Document, OpenReplacesTheDesign)
 {
-  design.shapeGroups.push_back(std::make_unique<CShapes>(32));
+  design.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Rear));
   design.anchors->items.push_back(design.anchors->NewAnchor());
   document.SetModifiedFlag(true);
   ASSERT_TRUE(Open(good));
   ASSERT_EQ(design.shapeGroups.size(), 1U);
-  EXPECT_EQ(design.shapeGroups[0]->viewCode, 1);
+  EXPECT_EQ(design.shapeGroups[0]->viewCode, ViewSide::Top);
   EXPECT_TRUE(*design.offsetGps == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_TRUE(*design.offsetTransducer == CShapeVertex(4.0, 0.0, 0.0));
   EXPECT_TRUE(*design.offsetPivot == CShapeVertex(5.0, 0.0, 0.0));
   ASSERT_EQ(design.anchors->items.size(), 1U);
   EXPECT_EQ(design.anchors->items[0]->id, 3U);
-  EXPECT_EQ(design.unitCode, 9002);
+  EXPECT_EQ(design.unitCode, UnitCode{9002});
   EXPECT_FALSE(document.IsModified());
   EXPECT_TRUE(messages.shown.empty());
 }
@@ -52,29 +52,30 @@ TEST_F(Document, OpenReplacesTheDesign)
 TEST_F(Document, OpenTellsRepaintThenTreeForEmptyingAndForFilling)
 {
   ASSERT_TRUE(Open(good));
-  EXPECT_THAT(window.codes, ElementsAre(1124, 1054, 1124, 1054));
+  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree,
+                                        Notification::RepaintDesign, Notification::RebuildTree));
 }
 
 TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeItIsTold)
 {
-  using Seen = std::tuple<std::int32_t, double, std::size_t, std::size_t>;
+  using Seen = std::tuple<UnitCode, double, std::size_t, std::size_t>;
   std::vector<Seen> seen;
   window.onTold = [&] {
     seen.emplace_back(design.unitCode, design.offsetPivot->x, design.shapeGroups.size(),
                       design.anchors->items.size());
   };
   ASSERT_TRUE(Open(good));
-  const Seen emptied(9001, 0.0, 0, 0);
-  const Seen filled(9002, 5.0, 1, 1);
+  const Seen emptied(UnitCode::Metre, 0.0, 0, 0);
+  const Seen filled(UnitCode{9002}, 5.0, 1, 1);
   EXPECT_THAT(seen, ElementsAre(emptied, emptied, filled, filled));
 }
 
 TEST_F(Document, OpenLeavesTheSideInViewAndCarriedFieldsOfOffsets)
 {
-  design.activeView = 4;
+  design.activeView = ViewSide::Right;
   design.offsetGps->tagA = 7;
   ASSERT_TRUE(Open(good));
-  EXPECT_EQ(design.activeView, 4);
+  EXPECT_EQ(design.activeView, ViewSide::Right);
   EXPECT_EQ(design.offsetGps->tagA, 7);
 }
 
@@ -84,19 +85,19 @@ TEST_F(Document, AMalformedFileAfterAGoodOneKeepsOffsetsAndUnit)
   window.codes.clear();
   EXPECT_FALSE(Open("<vessel><units id='9003'/><shapes view='02'/><gps x='9'/><anchor/><shapes>"));
   ASSERT_EQ(design.shapeGroups.size(), 1U);
-  EXPECT_EQ(design.shapeGroups[0]->viewCode, 2);
+  EXPECT_EQ(design.shapeGroups[0]->viewCode, ViewSide::Bottom);
   EXPECT_TRUE(design.anchors->items.empty());
   EXPECT_EQ(design.offsetGps->x, 1.0);
-  EXPECT_EQ(design.unitCode, 9002);
+  EXPECT_EQ(design.unitCode, UnitCode{9002});
   EXPECT_TRUE(messages.shown.empty());
-  EXPECT_THAT(window.codes, ElementsAre(1124, 1054));
+  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree));
 }
 
 TEST_F(Document, AFileWithoutAUnitIsInMetres)
 {
   ASSERT_TRUE(Open(good));
   ASSERT_TRUE(Open("<vessel/>"));
-  EXPECT_EQ(design.unitCode, 9001);
+  EXPECT_EQ(design.unitCode, UnitCode::Metre);
   EXPECT_TRUE(*design.offsetGps == CShapeVertex());
 }
 
@@ -150,17 +151,17 @@ TEST_F(Document, TellsWhyAndWhereAnOpenFailed)
 TEST_F(Document, NewKeepsOffsetsUnitAndSide)
 {
   ASSERT_TRUE(Open(good));
-  design.activeView = 8;
+  design.activeView = ViewSide::Left;
   window.codes.clear();
   document.SetModifiedFlag(true);
   EXPECT_TRUE(document.OnNewDocument());
   EXPECT_TRUE(design.shapeGroups.empty());
   EXPECT_TRUE(design.anchors->items.empty());
   EXPECT_EQ(design.offsetGps->x, 1.0);
-  EXPECT_EQ(design.unitCode, 9002);
-  EXPECT_EQ(design.activeView, 8);
+  EXPECT_EQ(design.unitCode, UnitCode{9002});
+  EXPECT_EQ(design.activeView, ViewSide::Left);
   EXPECT_FALSE(document.IsModified());
-  EXPECT_THAT(window.codes, ElementsAre(1124, 1054));
+  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree));
 }
 
 TEST_F(Document, BeforeThereIsAWindowEmptyingTellsNobody)

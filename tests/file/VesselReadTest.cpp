@@ -33,7 +33,7 @@ TEST_F(VesselRead, ReadsGroupsPolylinesAndVertices)
                  "</polyline><polyline/></shapes>"),
             0);
   ASSERT_EQ(groups.size(), 1U);
-  EXPECT_EQ(groups[0]->viewCode, 16);
+  EXPECT_EQ(groups[0]->viewCode, ViewSide::Front);
   ASSERT_EQ(groups[0]->shapes.size(), 2U);
   EXPECT_TRUE(*Shape(0, 0).vertices.at(0) == CShapeVertex(1.5, -2.0, 3.0));
   EXPECT_TRUE(*Shape(0, 0).vertices.at(1) == CShapeVertex(4.0, 0.0, 0.0));
@@ -44,16 +44,16 @@ TEST_F(VesselRead, AViewOfZeroOrNoneBecomesOne)
 {
   ASSERT_EQ(Read("<shapes view='0'/><shapes/><shapes view='x'/>"), 0);
   ASSERT_EQ(groups.size(), 3U);
-  for (const auto& group : groups) EXPECT_EQ(group->viewCode, 1);
+  for (const auto& group : groups) EXPECT_EQ(group->viewCode, ViewSide::Top);
 }
 
 TEST_F(VesselRead, ViewCodesAreHexadecimalInEitherCaseAndNotLimited)
 {
   ASSERT_EQ(Read("<shapes view='3f'/><shapes view='3F'/><shapes view='5'/><shapes view='-1'/>"), 0);
-  EXPECT_EQ(groups[0]->viewCode, 63);
-  EXPECT_EQ(groups[1]->viewCode, 63);
-  EXPECT_EQ(groups[2]->viewCode, 5);
-  EXPECT_EQ(groups[3]->viewCode, -1);
+  EXPECT_EQ(groups[0]->viewCode, ViewSide::All);
+  EXPECT_EQ(groups[1]->viewCode, ViewSide::All);
+  EXPECT_EQ(groups[2]->viewCode, ViewSide{5});
+  EXPECT_EQ(groups[3]->viewCode, ViewSide{-1});
 }
 
 TEST_F(VesselRead, GroupsOfTheSameCodeStayApart)
@@ -89,14 +89,14 @@ TEST_F(VesselRead, OffsetsAndUnitAreReadAndTheLastOneWins)
   EXPECT_TRUE(*file.gps == CShapeVertex(4.0, 0.0, 0.0));
   EXPECT_TRUE(*file.txd == CShapeVertex(0.0, 5.0, 0.0));
   EXPECT_TRUE(*file.piv == CShapeVertex(0.0, 0.0, 6.0));
-  EXPECT_EQ(file.unitCode, 9002);
+  EXPECT_EQ(file.unitCode, UnitCode{9002});
 }
 
 TEST_F(VesselRead, WhatIsAbsentIsZeroAndTheUnitIsTheMetre)
 {
   ASSERT_EQ(Read("<something/>"), 0);
   EXPECT_TRUE(*file.gps == CShapeVertex());
-  EXPECT_EQ(file.unitCode, 9001);
+  EXPECT_EQ(file.unitCode, UnitCode::Metre);
   EXPECT_TRUE(groups.empty());
 }
 
@@ -178,7 +178,7 @@ TEST_F(VesselRead, WhatWasFinishedBeforeAnErrorStands)
 {
   EXPECT_EQ(Read("<shapes view='01'><polyline/></shapes><shapes view='02'><polyline>"), -1);
   ASSERT_EQ(groups.size(), 1U);
-  EXPECT_EQ(groups[0]->viewCode, 1);
+  EXPECT_EQ(groups[0]->viewCode, ViewSide::Top);
 }
 
 TEST_F(VesselRead, WithoutATargetTheGroupsAreDropped)

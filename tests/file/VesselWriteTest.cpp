@@ -29,7 +29,7 @@ protected:
     return folder.Read("out.xml");
   }
 
-  CShapePolyline& AddLine(std::int32_t code)
+  CShapePolyline& AddLine(ViewSide code)
   {
     groups.push_back(std::make_unique<CShapes>(code));
     groups.back()->shapes.push_back(std::make_unique<CShapePolyline>());
@@ -44,7 +44,7 @@ protected:
 
 TEST_F(VesselWrite, TheExampleIsWrittenByteForByte)
 {
-  CShapePolyline& line = AddLine(1);
+  CShapePolyline& line = AddLine(ViewSide::Top);
   line.AddVertex(0.0, 0.0, 0.0);
   line.AddVertex(12.5, 0.0, 0.0);
   auto anchor = file.anchors->NewAnchor();
@@ -84,16 +84,16 @@ TEST_F(VesselWrite, ADesignWithoutGroupsAndAnchorsHasItsOffsetsOnly)
 
 TEST_F(VesselWrite, AUnitOfZeroIsLeftOutAndANegativeOneIsWritten)
 {
-  file.unitCode = 0;
+  file.unitCode = UnitCode{0};
   EXPECT_EQ(Save(), std::string(head) + tail + " <anchors>\n </anchors>\n</vessel>\n");
-  file.unitCode = -5;
+  file.unitCode = UnitCode{-5};
   EXPECT_NE(Save().find("<units id=\"-5\" />"), std::string::npos);
 }
 
 TEST_F(VesselWrite, ViewCodesAreUpperCaseHexadecimalOfAtLeastTwoDigits)
 {
-  for (const std::int32_t code : {8, 16, 63, 0, 300, -1}) {
-    groups.push_back(std::make_unique<CShapes>(code));
+  for (const int code : {8, 16, 63, 0, 300, -1}) {
+    groups.push_back(std::make_unique<CShapes>(ViewSide{code}));
   }
   const std::string text = Save();
   for (const char* view : {"08", "10", "3F", "00", "12C", "FFFFFFFF"}) {
@@ -104,29 +104,29 @@ TEST_F(VesselWrite, ViewCodesAreUpperCaseHexadecimalOfAtLeastTwoDigits)
 
 TEST_F(VesselWrite, OnlyPolylinesAreSaved)
 {
-  groups.push_back(std::make_unique<CShapes>(1));
+  groups.push_back(std::make_unique<CShapes>(ViewSide::Top));
   groups.back()->shapes.push_back(std::make_unique<CShapePoint>());
   EXPECT_NE(Save().find(" <shapes view=\"01\" >\n </shapes>\n"), std::string::npos);
 }
 
 TEST_F(VesselWrite, APolylineWithoutVerticesIsSaved)
 {
-  AddLine(2);
+  AddLine(ViewSide::Bottom);
   EXPECT_NE(Save().find("  <polyline>\n  </polyline>\n"), std::string::npos);
 }
 
 TEST_F(VesselWrite, CoordinatesHaveThreeDecimalsAndZeroKeepsItsSign)
 {
-  AddLine(1).AddVertex(-0.0004, 1.0005, 1234567.8915);
+  AddLine(ViewSide::Top).AddVertex(-0.0004, 1.0005, 1234567.8915);
   EXPECT_NE(Save().find("<vertex x=\"-0.000\" y=\"1.000\" z=\"1234567.891\" />"),
             std::string::npos);
 }
 
 TEST_F(VesselWrite, ANullGroupEndsTheGroups)
 {
-  AddLine(1);
+  AddLine(ViewSide::Top);
   groups.push_back(nullptr);
-  AddLine(2);
+  AddLine(ViewSide::Bottom);
   const std::string text = Save();
   EXPECT_NE(text.find("view=\"01\""), std::string::npos);
   EXPECT_EQ(text.find("view=\"02\""), std::string::npos);
@@ -134,10 +134,10 @@ TEST_F(VesselWrite, ANullGroupEndsTheGroups)
 
 TEST_F(VesselWrite, ANullShapeEndsItsGroupWithTheGroupsCursor)
 {
-  AddLine(1).AddVertex(1.0, 0.0, 0.0);
+  AddLine(ViewSide::Top).AddVertex(1.0, 0.0, 0.0);
   groups[0]->shapes.push_back(nullptr);
   groups[0]->shapes.push_back(std::make_unique<CShapePolyline>());
-  AddLine(2).AddVertex(2.0, 0.0, 0.0);
+  AddLine(ViewSide::Bottom).AddVertex(2.0, 0.0, 0.0);
   const std::string text = Save();
   EXPECT_NE(text.find(" <shapes view=\"01\" >\n  <polyline>\n   <vertex x=\"1.000\" y=\"0.000\" "
                       "z=\"0.000\" />\n  </polyline>\n </shapes>\n <shapes view=\"02\" >\n"),
@@ -148,7 +148,7 @@ TEST_F(VesselWrite, ANullShapeEndsItsGroupWithTheGroupsCursor)
 
 TEST_F(VesselWrite, ANullVertexEndsItsPolylineWithThePolylinesCursor)
 {
-  CShapePolyline& line = AddLine(1);
+  CShapePolyline& line = AddLine(ViewSide::Top);
   line.AddVertex(1.0, 0.0, 0.0);
   line.vertices.push_back(nullptr);
   line.AddVertex(2.0, 0.0, 0.0);
@@ -172,7 +172,7 @@ TEST_F(VesselWrite, ANullAnchorEndsTheAnchorsWithTheListsCursor)
 
 TEST_F(VesselWrite, WholeWalksLeaveTheirCursorsBehindTheEnd)
 {
-  AddLine(1).AddVertex(1.0, 0.0, 0.0);
+  AddLine(ViewSide::Top).AddVertex(1.0, 0.0, 0.0);
   file.anchors->items.push_back(file.anchors->NewAnchor());
   Save();
   EXPECT_EQ(groups[0]->cursor, 2U);
@@ -182,7 +182,7 @@ TEST_F(VesselWrite, WholeWalksLeaveTheirCursorsBehindTheEnd)
 
 TEST_F(VesselWrite, APolylineThatWasResetIsNotSaved)
 {
-  CShapePolyline& line = AddLine(1);
+  CShapePolyline& line = AddLine(ViewSide::Top);
   line.Reset();
   line.AddVertex(1.0, 0.0, 0.0);
   EXPECT_NE(Save().find(" <shapes view=\"01\" >\n </shapes>\n"), std::string::npos);

@@ -9,8 +9,8 @@ import sys
 # room: the rooms that it may include beside itself
 ROOMS = {
     "base": "",
-    "platform": "",
-    "system": "base platform",
+    "platform": "model resources",
+    "system": "base model platform",
     "headless": "base model platform resources",
     "model": "base",
     "render": "base model platform",

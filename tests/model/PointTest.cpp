@@ -9,7 +9,7 @@ namespace {
 TEST(Point, KeepsItsPositionApartFromTheVertices)
 {
   CShapePoint point;
-  EXPECT_EQ(point.type, 1);
+  EXPECT_EQ(point.type, ShapeType::Point);
   EXPECT_TRUE(point.vertices.empty());
   std::vector<CShapeVertex*> list;
   point.GetVertices(list);

@@ -36,7 +36,7 @@ std::unique_ptr<CShapePolygon> SquareWithHoleAndIsland()
 TEST(Ring, ContainsWhatLiesInsideOnAnEdgeOrOnACorner)
 {
   const auto ring = Square(0.0, 10.0);
-  EXPECT_EQ(ring->type, 9);
+  EXPECT_EQ(ring->type, ShapeType::Ring);
   for (const auto& [x, y] : {std::pair{5.0, 5.0},
                              {0.0, 5.0},
                              {10.0, 5.0},
@@ -139,7 +139,7 @@ TEST(Ring, CloneKeepsAllSixFields)
   ring->vertices[0]->tagB = 5;
   ring->selected = true;
   const auto copy = ring->Clone();
-  EXPECT_EQ(copy->type, 9);
+  EXPECT_EQ(copy->type, ShapeType::Ring);
   EXPECT_TRUE(copy->selected);
   ASSERT_EQ(copy->vertices.size(), 4U);
   EXPECT_EQ(copy->vertices[0]->flag, 3);
@@ -193,7 +193,7 @@ TEST_F(RingInView, IsNotVisibleWhereOnlyAnEdgeCrosses)
 TEST(Polygon, HitTestTurnsAtEveryRing)
 {
   const auto polygon = SquareWithHoleAndIsland();
-  EXPECT_EQ(polygon->type, 3);
+  EXPECT_EQ(polygon->type, ShapeType::Polygon);
   EXPECT_TRUE(polygon->HitTest(nullptr, 1.0, 1.0));
   EXPECT_FALSE(polygon->HitTest(nullptr, 3.0, 3.0));
   EXPECT_TRUE(polygon->HitTest(nullptr, 5.0, 5.0));
@@ -273,7 +273,7 @@ TEST(Polygon, CloneCopiesEveryRingInOrder)
   const auto copy = polygon->Clone();
   const auto& clone = dynamic_cast<const CShapePolygon&>(*copy);
   EXPECT_EQ(clone.tag, 77);
-  EXPECT_EQ(clone.type, 3);
+  EXPECT_EQ(clone.type, ShapeType::Polygon);
   ASSERT_EQ(clone.rings.size(), 3U);
   EXPECT_EQ(clone.rings[1]->vertices[2]->tagB, 9);
   EXPECT_EQ(clone.rings[1]->vertices[2]->x, 8.0);

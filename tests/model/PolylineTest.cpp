@@ -28,7 +28,7 @@ void UseUnitScale(CViewPort& viewPort)
 TEST(Polyline, BeginsWithoutStyleAttributesAndVertices)
 {
   const CShapePolyline line;
-  EXPECT_EQ(line.type, 2);
+  EXPECT_EQ(line.type, ShapeType::Polyline);
   EXPECT_EQ(line.style, nullptr);
   EXPECT_EQ(line.attributes, nullptr);
   EXPECT_TRUE(line.vertices.empty());

@@ -63,7 +63,7 @@ TEST(Shape, ResetClearsTypeTagSelectionAndVerticesButNotEditing)
   shape.selected = true;
   shape.editing = true;
   shape.Reset();
-  EXPECT_EQ(shape.type, 0);
+  EXPECT_EQ(shape.type, ShapeType::None);
   EXPECT_EQ(shape.tag, 0);
   EXPECT_FALSE(shape.selected);
   EXPECT_TRUE(shape.editing);
@@ -117,7 +117,7 @@ TEST(Shape, CopyBaseToReplacesAttributesAlsoByNone)
   source.CopyBaseTo(&target);
   ASSERT_NE(target.attributes, nullptr);
   EXPECT_TRUE(target.attributes->items.empty());
-  EXPECT_EQ(target.type, 0);
+  EXPECT_EQ(target.type, ShapeType::None);
   source.attributes->items.push_back(Pair(u"TYPE", u"LINE"));
   source.CopyBaseTo(&target);
   source.CopyBaseTo(&target);

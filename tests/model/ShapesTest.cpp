@@ -6,55 +6,55 @@
 namespace hullwright {
 namespace {
 
-OwnedArray<CShapes> Groups(std::initializer_list<std::int32_t> codes)
+OwnedArray<CShapes> Groups(std::initializer_list<ViewSide> codes)
 {
   OwnedArray<CShapes> groups;
-  for (const std::int32_t code : codes) groups.push_back(std::make_unique<CShapes>(code));
+  for (const ViewSide code : codes) groups.push_back(std::make_unique<CShapes>(code));
   return groups;
 }
 
 TEST(GetShapes, SideZeroGivesNothingAndAddsNothing)
 {
   auto groups = Groups({});
-  EXPECT_EQ(GetShapes(groups, 0), nullptr);
+  EXPECT_EQ(GetShapes(groups, ViewSide::None), nullptr);
   EXPECT_TRUE(groups.empty());
 }
 
 TEST(GetShapes, TheFirstGroupOfTheSideOrOfAllSidesAnswers)
 {
-  auto groups = Groups({1, 63});
-  EXPECT_EQ(GetShapes(groups, 1), groups[0].get());
-  EXPECT_EQ(GetShapes(groups, 2), groups[1].get());
+  auto groups = Groups({ViewSide::Top, ViewSide::All});
+  EXPECT_EQ(GetShapes(groups, ViewSide::Top), groups[0].get());
+  EXPECT_EQ(GetShapes(groups, ViewSide::Bottom), groups[1].get());
   EXPECT_EQ(groups.size(), 2U);
 }
 
 TEST(GetShapes, AGroupOfAllSidesHidesTheOnesBehindIt)
 {
-  auto groups = Groups({63, 1});
-  EXPECT_EQ(GetShapes(groups, 1), groups[0].get());
+  auto groups = Groups({ViewSide::All, ViewSide::Top});
+  EXPECT_EQ(GetShapes(groups, ViewSide::Top), groups[0].get());
 }
 
 TEST(GetShapes, MakesOneGroupAndFindsItAgain)
 {
   auto groups = Groups({});
-  CShapes* const made = GetShapes(groups, 4);
+  CShapes* const made = GetShapes(groups, ViewSide::Right);
   ASSERT_NE(made, nullptr);
-  EXPECT_EQ(made->viewCode, 4);
-  EXPECT_EQ(GetShapes(groups, 4), made);
+  EXPECT_EQ(made->viewCode, ViewSide::Right);
+  EXPECT_EQ(GetShapes(groups, ViewSide::Right), made);
   EXPECT_EQ(groups.size(), 1U);
 }
 
 TEST(GetShapes, AGroupWithACodeOfNoSideAnswersForNone)
 {
-  auto groups = Groups({5});
-  for (const std::int32_t side : ViewSide::each) EXPECT_EQ(FindViewGroup(groups, side), nullptr);
+  auto groups = Groups({ViewSide{5}});
+  for (const ViewSide side : eachViewSide) EXPECT_EQ(FindViewGroup(groups, side), nullptr);
   EXPECT_EQ(groups.size(), 1U);
 }
 
 TEST(FindViewGroup, MakesNothing)
 {
-  auto groups = Groups({2});
-  EXPECT_EQ(FindViewGroup(groups, 1), nullptr);
+  auto groups = Groups({ViewSide::Bottom});
+  EXPECT_EQ(FindViewGroup(groups, ViewSide::Top), nullptr);
   EXPECT_EQ(groups.size(), 1U);
 }
 
@@ -73,16 +73,16 @@ TEST(Shapes, AppendClonesCopiesUpToTheFirstNullEntry)
 
 TEST(Shapes, ClearReleasesEveryShape)
 {
-  CShapes group(1);
+  CShapes group(ViewSide::Top);
   group.shapes.push_back(std::make_unique<CShapePolyline>());
   group.Clear();
   EXPECT_TRUE(group.shapes.empty());
-  EXPECT_EQ(group.viewCode, 1);
+  EXPECT_EQ(group.viewCode, ViewSide::Top);
 }
 
 TEST(ClearGroups, EmptiesTheArray)
 {
-  auto groups = Groups({1, 2});
+  auto groups = Groups({ViewSide::Top, ViewSide::Bottom});
   ClearGroups(groups);
   EXPECT_TRUE(groups.empty());
 }
@@ -95,8 +95,8 @@ TEST(DesignState, BeginsWithTheDefaults)
   EXPECT_TRUE(*design.offsetGps == CShapeVertex(10.0, 0.0, 0.0));
   EXPECT_TRUE(*design.offsetTransducer == CShapeVertex(-10.0, 0.0, 0.0));
   EXPECT_TRUE(*design.offsetPivot == CShapeVertex(0.0, 10.0, 0.0));
-  EXPECT_EQ(design.unitCode, 9001);
-  EXPECT_EQ(design.activeView, 1);
+  EXPECT_EQ(design.unitCode, UnitCode::Metre);
+  EXPECT_EQ(design.activeView, ViewSide::Top);
 }
 
 }  // namespace

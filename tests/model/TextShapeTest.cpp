@@ -16,7 +16,7 @@ protected:
 TEST(NewLabel, IsEmptyAndHasNoBox)
 {
   const CShapeText label;
-  EXPECT_EQ(label.type, 8);
+  EXPECT_EQ(label.type, ShapeType::Text);
   EXPECT_TRUE(label.text.empty());
   EXPECT_EQ(label.angle, 0.0);
   EXPECT_EQ(label.height, 0.0);
@@ -37,7 +37,7 @@ TEST_F(Label, CloneCopiesEverythingButTheBox)
   label.attributes->Append(u"LAYER", u"Deck");
   const auto copy = label.Clone();
   const auto& clone = dynamic_cast<const CShapeText&>(*copy);
-  EXPECT_EQ(clone.type, 8);
+  EXPECT_EQ(clone.type, ShapeType::Text);
   EXPECT_EQ(clone.text, u"Winch");
   EXPECT_EQ(clone.angle, 30.0);
   EXPECT_EQ(clone.height, 2.5);

@@ -10,7 +10,7 @@ namespace {
 constexpr double value = 123.456;
 
 struct Factor {
-  std::int32_t code;
+  UnitCode code;
   double toMetres;
   double fromMetres;
 };
@@ -26,44 +26,50 @@ TEST_P(UnitFactor, MultipliesToMetresAndDividesFromThem)
 
 INSTANTIATE_TEST_SUITE_P(
     Codes, UnitFactor,
-    testing::Values(
-        Factor{9002, 0.3048, 0.3048}, Factor{9003, 0.3048006096012192, 0.304800609601219},
-        Factor{9005, 0.3047972654, 0.3047972654}, Factor{9031, 1.0000135965, 1.0000135965},
-        Factor{9033, 20.1168402336805, 20.1168402336805},
-        Factor{9034, 0.201168402336805, 0.201168402336805},
-        Factor{9035, 1609.34721869444, 1609.34721869444}, Factor{9036, 1000.0, 1000.0},
-        Factor{9037, 0.914391795, 0.914391795}, Factor{9038, 20.1166195164, 20.1166195164},
-        Factor{9039, 0.201166195164, 0.201166195164},
-        Factor{9040, 0.9143984146160287, 0.9143984146160287},
-        Factor{9041, 0.304799471538676, 0.304799471538676},
-        Factor{9042, 20.1167651215526, 20.1167651215526},
-        Factor{9043, 0.201167651215526, 0.201167651215526},
-        Factor{9062, 20.11678249437587, 20.11678249437587},
-        Factor{9080, 0.304799510248147, 0.304799510248147},
-        Factor{9084, 0.9143985307444408, 0.9143985307444408}, Factor{9093, 1609.344, 1609.344},
-        Factor{9094, 0.304799710181509, 0.304799710181509},
-        Factor{9095, 0.3048007491, 0.3048007491}, Factor{9097, 20.1168, 20.1168},
-        Factor{9098, 0.201168, 0.201168}));
+    testing::Values(Factor{UnitCode{9002}, 0.3048, 0.3048},
+                    Factor{UnitCode{9003}, 0.3048006096012192, 0.304800609601219},
+                    Factor{UnitCode{9005}, 0.3047972654, 0.3047972654},
+                    Factor{UnitCode{9031}, 1.0000135965, 1.0000135965},
+                    Factor{UnitCode{9033}, 20.1168402336805, 20.1168402336805},
+                    Factor{UnitCode{9034}, 0.201168402336805, 0.201168402336805},
+                    Factor{UnitCode{9035}, 1609.34721869444, 1609.34721869444},
+                    Factor{UnitCode{9036}, 1000.0, 1000.0},
+                    Factor{UnitCode{9037}, 0.914391795, 0.914391795},
+                    Factor{UnitCode{9038}, 20.1166195164, 20.1166195164},
+                    Factor{UnitCode{9039}, 0.201166195164, 0.201166195164},
+                    Factor{UnitCode{9040}, 0.9143984146160287, 0.9143984146160287},
+                    Factor{UnitCode{9041}, 0.304799471538676, 0.304799471538676},
+                    Factor{UnitCode{9042}, 20.1167651215526, 20.1167651215526},
+                    Factor{UnitCode{9043}, 0.201167651215526, 0.201167651215526},
+                    Factor{UnitCode{9062}, 20.11678249437587, 20.11678249437587},
+                    Factor{UnitCode{9080}, 0.304799510248147, 0.304799510248147},
+                    Factor{UnitCode{9084}, 0.9143985307444408, 0.9143985307444408},
+                    Factor{UnitCode{9093}, 1609.344, 1609.344},
+                    Factor{UnitCode{9094}, 0.304799710181509, 0.304799710181509},
+                    Factor{UnitCode{9095}, 0.3048007491, 0.3048007491},
+                    Factor{UnitCode{9097}, 20.1168, 20.1168},
+                    Factor{UnitCode{9098}, 0.201168, 0.201168}));
 
 TEST(Units, TheMetreAndCodesWithoutAnEntryLeaveTheValue)
 {
-  for (const std::int32_t code : {9001, 8999, 9000, 9099, 9004, 9030, 9096, 0, -1}) {
-    EXPECT_EQ(ToMetres(code, value), value) << code;
-    EXPECT_EQ(HasUnitFactor(code), code == 9001) << code;
-    EXPECT_EQ(FromMetres(code, value), value) << code;
+  for (const std::int32_t number : {9001, 8999, 9000, 9099, 9004, 9030, 9096, 0, -1}) {
+    const UnitCode code{number};
+    EXPECT_EQ(ToMetres(code, value), value) << number;
+    EXPECT_EQ(HasUnitFactor(code), code == UnitCode::Metre) << number;
+    EXPECT_EQ(FromMetres(code, value), value) << number;
   }
 }
 
 TEST(Units, TheUsSurveyFootDoesNotComeBackExactly)
 {
-  EXPECT_NE(FromMetres(9003, ToMetres(9003, 1.0)), 1.0);
+  EXPECT_NE(FromMetres(UnitCode{9003}, ToMetres(UnitCode{9003}, 1.0)), 1.0);
 }
 
 TEST(Units, AVertexIsConvertedInAllThreeCoordinates)
 {
   CShapeVertex vertex(1.0, -2.0, 3.0);
   vertex.tagA = 4;
-  EXPECT_TRUE(vertex.ConvertUnits(9001, 9002));
+  EXPECT_TRUE(vertex.ConvertUnits(UnitCode::Metre, UnitCode{9002}));
   EXPECT_TRUE(vertex == CShapeVertex(1.0 / 0.3048, -2.0 / 0.3048, 3.0 / 0.3048));
   EXPECT_EQ(vertex.tagA, 4);
 }
@@ -76,7 +82,7 @@ TEST(Units, BetweenTwoUnitsEveryBitGoesThroughTheMetre)
   constexpr double y = 34.937;
   constexpr double z = -34.979;
   CShapeVertex vertex(x, y, z);
-  ASSERT_TRUE(vertex.ConvertUnits(9003, 9039));
+  ASSERT_TRUE(vertex.ConvertUnits(UnitCode{9003}, UnitCode{9039}));
   EXPECT_TRUE(vertex == CShapeVertex(x * usFoot / clarkesLink, y * usFoot / clarkesLink,
                                      z * usFoot / clarkesLink));
   // One factor for both steps would differ in the last bits, as would multiplying by a reciprocal.
@@ -89,16 +95,16 @@ TEST(Units, BetweenTwoUnitsEveryBitGoesThroughTheMetre)
 TEST(Units, TheOriginAndEqualCodesAreNotConverted)
 {
   CShapeVertex origin(0.0, -0.0, 0.0);
-  EXPECT_FALSE(origin.ConvertUnits(9001, 9002));
+  EXPECT_FALSE(origin.ConvertUnits(UnitCode::Metre, UnitCode{9002}));
   CShapeVertex vertex(1.0, 0.0, 0.0);
-  EXPECT_FALSE(vertex.ConvertUnits(9003, 9003));
+  EXPECT_FALSE(vertex.ConvertUnits(UnitCode{9003}, UnitCode{9003}));
   EXPECT_EQ(vertex.x, 1.0);
 }
 
 TEST(Units, AnUnknownCodeConvertsAsTheMetre)
 {
   CShapeVertex vertex(1.0, 0.0, 0.0);
-  EXPECT_TRUE(vertex.ConvertUnits(9001, 9004));
+  EXPECT_TRUE(vertex.ConvertUnits(UnitCode::Metre, UnitCode{9004}));
   EXPECT_EQ(vertex.x, 1.0);
 }
 

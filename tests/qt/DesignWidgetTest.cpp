@@ -74,7 +74,7 @@ protected:
   /// Begins a polyline at a pixel.
   void BeginLineAt(QPointF at)
   {
-    view.OnCommand(Command::DrawPolyline);
+    view.OnCommand(CommandId::DrawPolyline);
     Move(at);
     Press(at, Qt::LeftButton);
     Release(at, Qt::LeftButton);
@@ -319,6 +319,7 @@ TEST_F(PixelRatio, ThePictureIsPaintedInThePixelsOfTheMonitor)
   design.activeView = ViewSide::Top;
   AddLine({{-50.0, -20.0, 0.0}, {-20.0, 30.0, 0.0}, {45.5, -31.0, 0.0}});
   view.Repaint();
+  widget.clearFocus();  // its mark lies over the picture
   const QImage shown = Shown();
   // The same frame painted at once in a picture of that many pixels.
   PaintSurface surface(800, 600, ratio);

@@ -141,7 +141,7 @@ TEST_F(DocumentFlow, YesSavesBeforeItGoesOn)
 {
   const QString path = Design("boat.xml");
   ASSERT_TRUE(Start(path));
-  shell->App().unitCode = 9002;
+  shell->App().unitCode = UnitCode{9002};
   Modify();
   Answer(QMessageBox::Yes);
   Documents().New();
@@ -152,7 +152,7 @@ TEST_F(DocumentFlow, YesSavesBeforeItGoesOn)
 TEST_F(DocumentFlow, TheReturnKeyAnswersTheQuestionWithYes)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
-  shell->App().unitCode = 9002;
+  shell->App().unitCode = UnitCode{9002};
   Modify();
   WhenAsked<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
   Documents().New();
@@ -221,7 +221,7 @@ TEST_F(DocumentFlow, ATargetThatIsGoneIsReportedInTheStatusBarAndStillAskedFor)
   Modify();
   std::filesystem::remove(folder.Path() / "boat.xml");
   std::filesystem::create_directory(folder.Path() / "boat.xml");
-  Window().RunCommand(Command::FileSave);
+  Window().RunCommand(CommandId::FileSave);
   EXPECT_EQ(dialogs, 0);
   EXPECT_EQ(Prompt(), QStringLiteral("Nothing was saved to \"boat.xml\": Is a directory."));
   // The flag is the document's, which counts a failed save as one; the changes are asked for all
@@ -253,7 +253,7 @@ TEST_F(DocumentFlow, AFullDiskIsToldOnceAndTheSaveThatWasAskedForKeepsTheWindowO
 TEST_F(DocumentFlow, ASaveKeepsWhatTheFileHeldBefore)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
-  Window().RunCommand(Command::FileSave);
+  Window().RunCommand(CommandId::FileSave);
   EXPECT_THAT(FormerVersions(), ElementsAre(oneLine));
   EXPECT_NE(folder.Read("boat.xml"), oneLine);
 }
@@ -261,7 +261,7 @@ TEST_F(DocumentFlow, ASaveKeepsWhatTheFileHeldBefore)
 TEST_F(DocumentFlow, AnOutlineThatWasDrawnIsAskedForThoughTheDesignIsNotModified)
 {
   ASSERT_TRUE(Start());
-  Window().RunCommand(Command::DrawPolyline);
+  Window().RunCommand(CommandId::DrawPolyline);
   EXPECT_EQ(Prompt(),
             QStringLiteral("Left click adds a vertex, right click ends the polyline: 0 so far"));
   auto* const design = Window().findChild<DesignWidget*>();

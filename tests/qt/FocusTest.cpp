@@ -34,7 +34,7 @@ TEST_F(Focus, TheDesignHasAFrameInTheHighlightColourWhileTheKeyboardIsThere)
 TEST_F(Focus, EveryLookShowsWhetherAChosenRowHasTheKeyboard)
 {
   for (const int look : {205, 206, 207, 208, 209, 210, 215, 216, 217, 218, 219}) {
-    ApplyLook(look);
+    ApplyLook(Look{look});
     const QPalette palette = QApplication::palette();
     const QColor with = palette.color(QPalette::Active, QPalette::Highlight);
     const QColor without = palette.color(QPalette::Inactive, QPalette::Highlight);
@@ -79,11 +79,11 @@ TEST_F(Focus, ShiftF10OpensTheMenuOfThePaneThatHasTheKeyboard)
   };
   View().setFocus();
   QTest::keyClick(&View(), Qt::Key_F10, Qt::ShiftModifier);
-  EXPECT_EQ(firstEntry(), QStringLiteral("Zoom In"));
+  EXPECT_EQ(firstEntry(), QStringLiteral("Zoom &In"));
   Tree().setFocus();
   Tree().setCurrentIndex(Tree().model()->index(0, 0, Tree().model()->index(0, 0)));
   QTest::keyClick(&Tree(), Qt::Key_F10, Qt::ShiftModifier);
-  EXPECT_EQ(firstEntry(), QStringLiteral("Add Polyline"));
+  EXPECT_EQ(firstEntry(), QStringLiteral("&Add Polyline..."));
 }
 
 TEST_F(Focus, TheObjectPaneDoesNotStayASliverAfterTheWindowWasTiny)

@@ -6,8 +6,8 @@
 #include <set>
 
 #include "qt/TemplateDialog.h"
-#include "resources/Accelerators.h"
 #include "resources/CommandIds.h"
+#include "resources/Commands.h"
 #include "support/DeskFixture.h"
 
 namespace hullwright {
@@ -17,7 +17,7 @@ struct KeyCase {
   const char* name;
   Qt::Key key;
   Qt::KeyboardModifiers modifiers;
-  int command;
+  CommandId command;
 };
 
 class Keys : public test::ShellFixture, public testing::WithParamInterface<KeyCase> {};
@@ -25,32 +25,32 @@ class Keys : public test::ShellFixture, public testing::WithParamInterface<KeyCa
 TEST_P(Keys, RunTheirCommand)
 {
   QWidget window;
-  std::vector<int> ran;
-  Actions actions(&window, [&ran](int command) { ran.push_back(command); });
-  for (const Accelerator& accelerator : accelerators) actions.Get(accelerator.command);
+  std::vector<CommandId> ran;
+  Actions actions(&window, [&ran](CommandId command) { ran.push_back(command); });
+  for (const CommandEntry& command : Commands()) actions.Get(command.id);
   window.show();
   window.activateWindow();
   QApplication::processEvents();
   QTest::keyClick(&window, GetParam().key, GetParam().modifiers);
-  EXPECT_EQ(ran, std::vector<int>{GetParam().command});
+  EXPECT_EQ(ran, std::vector<CommandId>{GetParam().command});
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Accelerators, Keys,
-    testing::Values(KeyCase{"CtrlN", Qt::Key_N, Qt::ControlModifier, 57600},
-                    KeyCase{"CtrlO", Qt::Key_O, Qt::ControlModifier, 57601},
-                    KeyCase{"CtrlS", Qt::Key_S, Qt::ControlModifier, 57603},
-                    KeyCase{"CtrlP", Qt::Key_P, Qt::ControlModifier, 57607},
-                    KeyCase{"CtrlZ", Qt::Key_Z, Qt::ControlModifier, 57643},
-                    KeyCase{"AltBackspace", Qt::Key_Backspace, Qt::AltModifier, 57643},
-                    KeyCase{"CtrlX", Qt::Key_X, Qt::ControlModifier, 57635},
-                    KeyCase{"ShiftDelete", Qt::Key_Delete, Qt::ShiftModifier, 57635},
-                    KeyCase{"CtrlC", Qt::Key_C, Qt::ControlModifier, 57634},
-                    KeyCase{"CtrlInsert", Qt::Key_Insert, Qt::ControlModifier, 57634},
-                    KeyCase{"CtrlV", Qt::Key_V, Qt::ControlModifier, 57637},
-                    KeyCase{"ShiftInsert", Qt::Key_Insert, Qt::ShiftModifier, 57637},
-                    KeyCase{"F6", Qt::Key_F6, Qt::NoModifier, 57680},
-                    KeyCase{"ShiftF6", Qt::Key_F6, Qt::ShiftModifier, 57681}),
+    testing::Values(KeyCase{"CtrlN", Qt::Key_N, Qt::ControlModifier, CommandId{57600}},
+                    KeyCase{"CtrlO", Qt::Key_O, Qt::ControlModifier, CommandId{57601}},
+                    KeyCase{"CtrlS", Qt::Key_S, Qt::ControlModifier, CommandId{57603}},
+                    KeyCase{"CtrlP", Qt::Key_P, Qt::ControlModifier, CommandId{57607}},
+                    KeyCase{"CtrlZ", Qt::Key_Z, Qt::ControlModifier, CommandId{57643}},
+                    KeyCase{"AltBackspace", Qt::Key_Backspace, Qt::AltModifier, CommandId{57643}},
+                    KeyCase{"CtrlX", Qt::Key_X, Qt::ControlModifier, CommandId{57635}},
+                    KeyCase{"ShiftDelete", Qt::Key_Delete, Qt::ShiftModifier, CommandId{57635}},
+                    KeyCase{"CtrlC", Qt::Key_C, Qt::ControlModifier, CommandId{57634}},
+                    KeyCase{"CtrlInsert", Qt::Key_Insert, Qt::ControlModifier, CommandId{57634}},
+                    KeyCase{"CtrlV", Qt::Key_V, Qt::ControlModifier, CommandId{57637}},
+                    KeyCase{"ShiftInsert", Qt::Key_Insert, Qt::ShiftModifier, CommandId{57637}},
+                    KeyCase{"F6", Qt::Key_F6, Qt::NoModifier, CommandId{57680}},
+                    KeyCase{"ShiftF6", Qt::Key_F6, Qt::ShiftModifier, CommandId{57681}}),
     [](const auto& row) { return row.param.name; });
 
 class Marks : public test::DeskFixture {
@@ -109,17 +109,25 @@ TEST_F(Marks, TheKeysOfTheWindowReachItsCommands)
 
 TEST_F(Marks, TheWindowKnowsEveryKeyAndThoseWithoutAHandlerAreGrey)
 {
-  const std::set<int> answered = {Command::FileNew, Command::FileOpen, Command::FileSave,
-                                  Command::NextPane, Command::PreviousPane};
-  for (const Accelerator& accelerator : accelerators) {
-    const QKeySequence key(QString::fromLatin1(accelerator.key.data()));
+  const std::set<CommandId> answered = {CommandId::FileNew, CommandId::FileOpen,
+                                        CommandId::FileSave, CommandId::NextPane,
+                                        CommandId::PreviousPane};
+  std::vector<std::pair<std::string_view, CommandId>> keys;
+  for (const CommandEntry& command : Commands()) {
+    for (const std::string_view key : {command.key, command.otherKey}) {
+      if (!key.empty()) keys.emplace_back(key, command.id);
+    }
+  }
+  ASSERT_EQ(keys.size(), 14U);
+  for (const auto& [name, command] : keys) {
+    const QKeySequence key(QString::fromLatin1(name.data()));
     int found = 0;
     for (const QAction* action : Window().actions()) {
       if (!action->shortcuts().contains(key)) continue;
       ++found;
-      EXPECT_EQ(action->isEnabled(), answered.contains(accelerator.command)) << accelerator.key;
+      EXPECT_EQ(action->isEnabled(), answered.contains(command)) << name;
     }
-    EXPECT_EQ(found, 1) << accelerator.key;
+    EXPECT_EQ(found, 1) << name;
   }
 }
 
@@ -186,10 +194,10 @@ TEST_F(Marks, TheLookThatIsShownBearsARadioMark)
 
 TEST_F(Marks, AStoredLookThatTheMenuLacksIsKeptAndMarksNone)
 {
-  Window().RunCommand(Command::LookLast);
+  Window().RunCommand(CommandOf(Look::Windows7));
   EXPECT_EQ(MarkedLooks(), QStringList());
   Restart();
-  EXPECT_EQ(shell->App().applicationLook, 219);
+  EXPECT_EQ(shell->App().applicationLook, Look::Windows7);
   EXPECT_EQ(MarkedLooks(), QStringList());
 }
 

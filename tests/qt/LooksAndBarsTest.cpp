@@ -47,7 +47,7 @@ protected:
   /// Runs the customisation with `act` on its dialog.
   void Customize(const std::function<void(QDialog&)>& act)
   {
-    Window().RunCommand(Command::Customize);
+    Window().RunCommand(CommandId::Customize);
     auto* const dialog = Window().findChild<CustomizeDialog*>();
     ASSERT_NE(dialog, nullptr);
     act(*dialog);
@@ -96,15 +96,15 @@ protected:
 
 TEST_F(Frame, TheLookIsStoredAndRestoredByItsId)
 {
-  EXPECT_EQ(shell->App().applicationLook, 210);
-  Window().RunCommand(Command::LookBlack);
+  EXPECT_EQ(shell->App().applicationLook, Look::VisualStudio2008);
+  Window().RunCommand(CommandOf(Look::Black));
   EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
   Restart();
-  EXPECT_EQ(shell->App().applicationLook, Command::LookBlack);
+  EXPECT_EQ(shell->App().applicationLook, Look::Black);
   EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
-  Window().RunCommand(Command::LookWindows2000);
+  Window().RunCommand(CommandOf(Look::Windows2000));
   EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("windows"));
-  Window().RunCommand(Command::LookVisualStudio2008);
+  Window().RunCommand(CommandOf(Look::VisualStudio2008));
   EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("fusion"));
 }
 
@@ -132,8 +132,8 @@ TEST_F(Frame, EveryToolBarEndsWithTheButtonThatCustomizes)
 
 TEST_F(Frame, CustomizingIsNotModalAndOpensOnce)
 {
-  Window().RunCommand(Command::Customize);
-  Window().RunCommand(Command::Customize);
+  Window().RunCommand(CommandId::Customize);
+  Window().RunCommand(CommandId::Customize);
   const auto open = Window().findChildren<CustomizeDialog*>();
   ASSERT_EQ(open.size(), 1);
   EXPECT_TRUE(open.first()->isVisible());
@@ -199,12 +199,12 @@ TEST_F(Frame, AToolBarKeepsItsPlaceWhenAnotherOneGoesAndANewOneComes)
 
 TEST_F(Frame, TheWindowClosesWithTheOpenDialogAndALookMayChangeUnderIt)
 {
-  Window().RunCommand(Command::Customize);
-  Window().RunCommand(Command::LookBlack);
+  Window().RunCommand(CommandId::Customize);
+  Window().RunCommand(CommandOf(Look::Black));
   QPointer<CustomizeDialog> dialog = Window().findChild<CustomizeDialog*>();
   ASSERT_NE(dialog, nullptr);
   Press(*dialog, "OK");
-  Window().RunCommand(Command::Customize);
+  Window().RunCommand(CommandId::Customize);
   EXPECT_TRUE(Window().close());
   Restart();
   EXPECT_EQ(dialog, nullptr);
@@ -219,7 +219,7 @@ TEST_F(Frame, OnlyTheFirstSideButtonOfTheStandardToolBarShowsTheSide)
     AddButton(dialog, "View Mode");
     Press(dialog, "OK");
   });
-  Window().RunCommand(Command::ViewRear);
+  Window().RunCommand(CommandId::ViewRear);
   QStringList shown;
   for (const QToolBar* const bar : Bars()) {
     for (QAction* const action : bar->actions()) {
@@ -303,9 +303,9 @@ TEST_F(Frame, AToolBarThatIsGivenNoNameTakesTheProposedOne)
 
 TEST_F(Frame, ToolBarsOfTheUsersOwnAreNumberedFrom59432)
 {
-  Actions actions(&Window(), [](int) {});
-  ToolBars bars(Window(), actions, {Command::FileNew});
-  const ToolBarSpec own = {QStringLiteral("Mine"), {Command::FileOpen}};
+  Actions actions(&Window(), [](CommandId) {});
+  ToolBars bars(Window(), actions, {CommandId::FileNew});
+  const ToolBarSpec own = {QStringLiteral("Mine"), {CommandId::FileOpen}};
   bars.Build({bars.StandardSpec(), own, own, own});
   QStringList names;
   for (const QToolBar* bar : bars.Bars()) names.append(bar->objectName());
@@ -315,12 +315,12 @@ TEST_F(Frame, ToolBarsOfTheUsersOwnAreNumberedFrom59432)
 
 TEST_F(Frame, TenToolBarsOfTheUsersOwnAreTheMost)
 {
-  QList<ToolBarSpec> specs = {{QStringLiteral("Standard"), {Command::FileNew}}};
-  for (int i = 0; i < 12; ++i) specs.append({QString::number(i), {Command::FileOpen}});
+  QList<ToolBarSpec> specs = {{QStringLiteral("Standard"), {CommandId::FileNew}}};
+  for (int i = 0; i < 12; ++i) specs.append({QString::number(i), {CommandId::FileOpen}});
   QSettings settings(QString::fromStdString((folder.Path() / "bars.ini").string()),
                      QSettings::IniFormat);
-  Actions actions(&Window(), [](int) {});
-  ToolBars bars(Window(), actions, {Command::FileNew});
+  Actions actions(&Window(), [](CommandId) {});
+  ToolBars bars(Window(), actions, {CommandId::FileNew});
   bars.Build(specs);
   bars.Store(settings);
   bars.Load(settings);
@@ -338,14 +338,16 @@ TEST_F(Frame, WhatAnotherProgramStoredIsLeftOut)
                      QSettings::IniFormat);
   settings.setValue(QStringLiteral("Workspace/ToolBars"),
                     QStringList{QStringLiteral("57600 abc 12345 0 32788|Renamed")});
-  Actions actions(&Window(), [](int) {});
-  ToolBars bars(Window(), actions, {Command::FileNew});
+  Actions actions(&Window(), [](CommandId) {});
+  ToolBars bars(Window(), actions, {CommandId::FileNew});
   bars.Load(settings);
   ASSERT_EQ(bars.Specs().size(), 1);
-  EXPECT_EQ(bars.Specs().first(), (ToolBarSpec{QStringLiteral("Standard"), {57600, 0, 32788}}));
+  EXPECT_EQ(bars.Specs().first(),
+            (ToolBarSpec{QStringLiteral("Standard"),
+                         {CommandId::FileNew, CommandId::None, CommandId::DrawPolyline}}));
   settings.setValue(QStringLiteral("Workspace/ToolBars"), QStringLiteral("nonsense"));
   bars.Load(settings);
-  EXPECT_EQ(bars.Specs().first().commands, QList<int>{Command::FileNew});
+  EXPECT_EQ(bars.Specs().first().commands, QList<CommandId>{CommandId::FileNew});
 }
 
 TEST_F(Frame, TheKeysF6AndShiftF6MoveTheFocusBetweenViewAndTree)
@@ -355,9 +357,9 @@ TEST_F(Frame, TheKeysF6AndShiftF6MoveTheFocusBetweenViewAndTree)
   Window().activateWindow();
   QApplication::processEvents();
   view->setFocus();
-  Window().RunCommand(Command::NextPane);
+  Window().RunCommand(CommandId::NextPane);
   EXPECT_EQ(Window().focusWidget(), tree);
-  Window().RunCommand(Command::PreviousPane);
+  Window().RunCommand(CommandId::PreviousPane);
   EXPECT_EQ(Window().focusWidget(), view);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModelTester>
 
+#include "base/Code.h"
 #include "model/ShapePolyline.h"
 #include "support/ShellFixture.h"
 
@@ -14,10 +15,10 @@ class TreeModel : public test::ShellFixture {
 protected:
   TreeModel()
   {
-    for (const std::int32_t side : {ViewSide::Top, ViewSide::Rear}) {
+    for (const ViewSide side : {ViewSide::Top, ViewSide::Rear}) {
       for (int line = 0; line < 3; ++line) {
         auto shape = std::make_unique<CShapePolyline>();
-        for (int i = 0; i <= line; ++i) shape->AddVertex(side, line, i);
+        for (int i = 0; i <= line; ++i) shape->AddVertex(NumberOf(side), line, i);
         GetShapes(design.shapeGroups, side)->shapes.push_back(std::move(shape));
       }
     }

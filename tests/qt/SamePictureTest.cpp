@@ -39,6 +39,7 @@ TEST_P(SamePicture, TheCommandLineDrawsWhatTheWindowShows)
   shell.Window()->resize(1000, 700);
   QApplication::processEvents();
   auto& widget = *shell.Window()->findChild<DesignWidget*>();
+  widget.clearFocus();  // its mark lies over the picture
   for (const ViewSideEntry& side : viewSides) {
     shell.App().SetViewSide(side.code);
     const QImage window = widget.grab().toImage();

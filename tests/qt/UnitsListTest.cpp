@@ -84,7 +84,7 @@ TEST_F(UnitsDesk, ADoubleClickWithNothingSelectedAsksForAChoiceAndKeepsTheDialog
   Action("Units...")->trigger();
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(lastQuestion, QStringLiteral("Please select an unit from the list first !"));
-  EXPECT_EQ(shell->App().unitCode, 9001);
+  EXPECT_EQ(shell->App().unitCode, UnitCode::Metre);
 }
 
 TEST_F(UnitsDesk, ADoubleClickOnAnEntryTakesItsUnit)
@@ -95,7 +95,7 @@ TEST_F(UnitsDesk, ADoubleClickOnAnEntryTakesItsUnit)
     DoubleClick(*list.viewport(), Qt::LeftButton, list.visualItemRect(list.item(1)).center());
   });
   Action("Units...")->trigger();
-  EXPECT_EQ(shell->App().unitCode, 9002);
+  EXPECT_EQ(shell->App().unitCode, UnitCode{9002});
   EXPECT_EQ(dialogs, 2);
 }
 

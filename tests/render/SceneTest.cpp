@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "base/Code.h"
 #include "support/SceneFixture.h"
 
 namespace hullwright {
@@ -35,7 +36,7 @@ TEST_F(Scene, BeginsWithTheBackgroundAndEnds)
 
 TEST_F(Scene, IsComposedInOrder)
 {
-  AddLine(1, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   AddAnchor(7, 0.0, 0.0);
   CShapePolyline newShape;
   newShape.AddVertex(0.0, 0.0, 0.0);
@@ -111,10 +112,10 @@ TEST_F(Scene, AnAnchorThatIsNotVisibleIsNotDrawn)
 TEST_F(Scene, OtherSidesShowNeitherDevicesNorAnchors)
 {
   AddAnchor(1, 0.0, 0.0);
-  for (const std::int32_t side : ViewSide::each) {
+  for (const ViewSide side : eachViewSide) {
     design.activeView = side;
     Draw();
-    EXPECT_EQ(recorder.Count("ellipse"), side == ViewSide::Top ? 4 : 0) << side;
+    EXPECT_EQ(recorder.Count("ellipse"), side == ViewSide::Top ? 4 : 0) << NumberOf(side);
   }
   design.activeView = ViewSide::All;
   Draw();
@@ -125,7 +126,7 @@ TEST_F(Scene, OtherSidesShowNeitherDevicesNorAnchors)
 TEST_F(Scene, OnlyTheFirstGroupThatAnswersIsDrawn)
 {
   design.activeView = ViewSide::Right;
-  AddLine(63, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  AddLine(ViewSide::All, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   design.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Right));
   auto hidden = std::make_unique<CShapePolyline>();
   hidden->AddVertex(0.0, 0.0, 0.0);
@@ -155,11 +156,11 @@ TEST_F(Scene, NothingIsDoneWithoutViewPortCanvasOrAnchorList)
 
 TEST_F(Scene, WithoutAnAnchorListNothingIsDrawnOnAnySide)
 {
-  AddLine(63, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  AddLine(ViewSide::All, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   design.anchors.reset();
   grid.show = 1;
   recorder.calls.clear();
-  for (const std::int32_t side : ViewSide::each) {
+  for (const ViewSide side : eachViewSide) {
     design.activeView = side;
     Draw();
   }
@@ -168,7 +169,7 @@ TEST_F(Scene, WithoutAnAnchorListNothingIsDrawnOnAnySide)
 
 TEST_F(Scene, WithoutATargetEveryStepIsSkipped)
 {
-  AddLine(1, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   AddAnchor(1, 0.0, 0.0);
   grid.show = 1;
   canvas.ReleaseResources();
@@ -193,7 +194,7 @@ TEST_F(Scene, AFailedFrameIsNotRepeatedAndALostDeviceComesBackAtTheNext)
 
 TEST_F(Scene, AMissingFormatOrBrushSkipsItsElementsOnly)
 {
-  AddLine(1, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}});
   AddAnchor(1, 0.0, 0.0);
   recorder.failing = DrawingFailure::TextStyle;
   Draw();

@@ -17,7 +17,7 @@ protected:
 
 TEST_F(ShapeDrawing, APolylineWithoutAStyleIsBlackAndOnePixelWide)
 {
-  AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
   EXPECT_THAT(recorder.Lines(),
               ElementsAre("geometry round hollow 400,300 : 400,300 500,300 open width 1 "
                           "colour 0 0 0 1"));
@@ -25,7 +25,7 @@ TEST_F(ShapeDrawing, APolylineWithoutAStyleIsBlackAndOnePixelWide)
 
 TEST_F(ShapeDrawing, APolylineTakesColourAndWidthFromItsStyle)
 {
-  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
+  CShapePolyline& line = AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
   line.style = std::make_unique<ShapeStyle>();
   line.style->lineColour = 0x00FF8000;
   line.style->lineWidth = 2.5F;
@@ -37,7 +37,7 @@ TEST_F(ShapeDrawing, APolylineTakesColourAndWidthFromItsStyle)
 
 TEST_F(ShapeDrawing, AWidthOfNothingOrLessIsHandedOverAsItIs)
 {
-  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
+  CShapePolyline& line = AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {0.0, 25.0, 0.0}});
   line.style = std::make_unique<ShapeStyle>();
   for (const float lineWidth : {0.0F, -2.0F}) {
     line.style->lineWidth = lineWidth;
@@ -50,7 +50,7 @@ TEST_F(ShapeDrawing, AWidthOfNothingOrLessIsHandedOverAsItIs)
 
 TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
 {
-  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
+  CShapePolyline& line = AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
   line.selected = true;
   line.Draw(&viewPort);
   ASSERT_EQ(recorder.Lines().size(), 2U);
@@ -60,27 +60,27 @@ TEST_F(ShapeDrawing, ASelectedPolylineIsDrawnTwice)
 
 TEST_F(ShapeDrawing, APolylineWithOneVertexOrNoneDrawsNothing)
 {
-  AddLine(1, {{0.0, 0.0, 0.0}}).Draw(&viewPort);
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}}).Draw(&viewPort);
   CShapePolyline().Draw(&viewPort);
   EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(ShapeDrawing, APolylineOutsideTheViewIsHandedOverAllTheSame)
 {
-  AddLine(1, {{500.0, 0.0, 0.0}, {600.0, 0.0, 0.0}}).Draw(&viewPort);
+  AddLine(ViewSide::Top, {{500.0, 0.0, 0.0}, {600.0, 0.0, 0.0}}).Draw(&viewPort);
   EXPECT_EQ(recorder.Lines().size(), 1U);
 }
 
 TEST_F(ShapeDrawing, APolylineTurnsWithTheView)
 {
   viewPort.SetRotation(180.0);
-  AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}}).Draw(&viewPort);
   EXPECT_THAT(recorder.Lines().at(0), testing::HasSubstr(" 300,"));
 }
 
 TEST_F(ShapeDrawing, NothingIsDrawnWithoutViewPortCanvasTargetOrBrush)
 {
-  CShapePolyline& line = AddLine(1, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
+  CShapePolyline& line = AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}, {25.0, 0.0, 0.0}});
   CShapePoint point;
   line.Draw(nullptr);
   point.Draw(nullptr);

@@ -37,32 +37,32 @@ int Scripts()
 /// Makes steps, mostly sensible ones.
 class StepMaker {
 private:
-  static constexpr int commands[] = {Command::Scale,
-                                     Command::MirrorVertically,
-                                     Command::MirrorHorizontally,
-                                     Command::RotateLeft,
-                                     Command::RotateRight,
-                                     Command::Offsets,
-                                     Command::Move,
-                                     Command::ToggleGrid,
-                                     Command::ToggleSnap,
-                                     Command::CursorZoomIn,
-                                     Command::CursorZoomOut,
-                                     Command::ShowAll,
-                                     Command::CursorMove,
-                                     Command::DrawPolyline,
-                                     Command::DrawPolyline,
-                                     Command::ViewRight,
-                                     Command::ViewTop,
-                                     Command::ViewTop,
-                                     Command::Grid,
-                                     Command::Units,
-                                     Command::About,
-                                     Command::LookSilver};
-  static constexpr int treeCommands[] = {
-      Command::AddPolyline,  Command::RemoveAllPolylines, Command::AddAnchor,
-      Command::RemoveAnchor, Command::AddVertex,          Command::RemovePolyline,
-      Command::ZoomPolyline, Command::EditVertex,         Command::RemoveVertex};
+  static constexpr CommandId commands[] = {CommandId::Scale,
+                                           CommandId::MirrorVertically,
+                                           CommandId::MirrorHorizontally,
+                                           CommandId::RotateLeft,
+                                           CommandId::RotateRight,
+                                           CommandId::Offsets,
+                                           CommandId::Move,
+                                           CommandId::ToggleGrid,
+                                           CommandId::ToggleSnap,
+                                           CommandId::CursorZoomIn,
+                                           CommandId::CursorZoomOut,
+                                           CommandId::ShowAll,
+                                           CommandId::CursorMove,
+                                           CommandId::DrawPolyline,
+                                           CommandId::DrawPolyline,
+                                           CommandId::ViewRight,
+                                           CommandId::ViewTop,
+                                           CommandId::ViewTop,
+                                           CommandId::Grid,
+                                           CommandId::Units,
+                                           CommandId::About,
+                                           CommandOf(Look::Silver)};
+  static constexpr CommandId treeCommands[] = {
+      CommandId::AddPolyline,  CommandId::RemoveAllPolylines, CommandId::AddAnchor,
+      CommandId::RemoveAnchor, CommandId::AddVertex,          CommandId::RemovePolyline,
+      CommandId::ZoomPolyline, CommandId::EditVertex,         CommandId::RemoveVertex};
   static constexpr const char* keys[] = {"Show", "Snap", "SpacingShowX", "SpacingSnapY"};
 
   static constexpr int types[] = {1, 2, 2, 2, 3, 8};
@@ -93,13 +93,14 @@ public:
       case 6: return At("rbuttondown");
       case 7: return At("wheel", {{"delta", Below(2) ? 120 : -120}});
       case 8:
-      case 9: return WithAnswers(Json::object({{"do", "command"}, {"id", AnyOf(commands)}}));
+      case 9:
+        return WithAnswers(Json::object({{"do", "command"}, {"id", NumberOf(AnyOf(commands))}}));
       case 10: return WithAnswers(Json::object({{"do", "menu"}, {"id", 32789 + Below(28)}}));
       case 11: return Json::object({{"do", "treeclick"}, {"path", Path()}});
       case 12: return Json::object({{"do", "treemenu"}, {"path", Path()}});
       case 13:
-        return WithAnswers(
-            Json::object({{"do", "treecommand"}, {"id", AnyOf(treeCommands)}, {"select", Path()}}));
+        return WithAnswers(Json::object(
+            {{"do", "treecommand"}, {"id", NumberOf(AnyOf(treeCommands))}, {"select", Path()}}));
       case 14: return PutShape();
       case 15: return Json::object({{"do", "putanchor"}, {"anchor", Anchor()}});
       case 16: return Json::object({{"do", Below(2) ? "save" : "open"}, {"path", "boat.xml"}});
@@ -187,7 +188,8 @@ private:
         "0\nINSERT\n2\nB\n50\n30\n0\nPOINT\n10\n3\n0\nCIRCLE\n40\n4\n0\nENDSEC\n0\nEOF\n";
     if (Below(4) == 0)
       return Json::object({{"do", "write"}, {"path", "hull.dxf"}, {"text", drawing}});
-    return Json::object({{"do", "command"}, {"id", Command::ImportDxf}, {"file", "hull.dxf"}});
+    return Json::object(
+        {{"do", "command"}, {"id", NumberOf(CommandId::ImportDxf)}, {"file", "hull.dxf"}});
   }
 
   Json Rare()
@@ -247,7 +249,8 @@ void ExpectNothingInTwoPlaces(const DesignState& design)
 void ExpectTreeListsTheDesign(ReplayEditor& editor)
 {
   editor.pane.BuildTree();
-  constexpr std::int32_t codes[] = {1, 2, 4, 8, 16, 32, 63};
+  constexpr ViewSide codes[] = {ViewSide::Top,   ViewSide::Bottom, ViewSide::Right, ViewSide::Left,
+                                ViewSide::Front, ViewSide::Rear,   ViewSide::All};
   CObjectTree& tree = editor.pane.Tree();
   ASSERT_EQ(tree.ChildCount(tree.Root()), std::size(codes));
   for (std::size_t side = 0; side < std::size(codes); ++side) {

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <span>
 
-#include "resources/Accelerators.h"
+#include "base/Code.h"
+#include "base/Text.h"
 #include "resources/Commands.h"
 #include "resources/Menus.h"
 #include "resources/Strings.h"
@@ -12,15 +14,26 @@
 namespace hullwright {
 namespace {
 
+/// What a row shows: the title, or the command's text with the key set off by a tab.
+std::u16string TextOf(const MenuItem& item)
+{
+  if (item.row == MenuRow::Separator) return u"-";
+  if (item.row != MenuRow::Entry) return std::u16string(item.title);
+  const CommandEntry& command = *FindCommand(item.id);
+  const std::string_view key = command.shownKey.empty() ? command.key : command.shownKey;
+  std::u16string text(command.text);
+  return key.empty() ? text : text + u'\t' + WideFromAscii(key);
+}
+
 /// The bar's menus in words: titles, entries with their ids, "-" for a separator.
 std::vector<std::pair<int, std::u16string>> Rows(std::u16string_view menu)
 {
   std::vector<std::pair<int, std::u16string>> rows;
   bool inside = false;
   for (const MenuItem& item : mainMenu) {
-    if (item.row == MenuRow::Menu) inside = item.text == menu;
+    if (item.row == MenuRow::Menu) inside = item.title == menu;
     if (!inside || item.row == MenuRow::Menu || item.row == MenuRow::EndSubMenu) continue;
-    rows.emplace_back(item.id, item.row == MenuRow::Separator ? u"-" : std::u16string(item.text));
+    rows.emplace_back(NumberOf(item.id), TextOf(item));
   }
   return rows;
 }
@@ -86,7 +99,7 @@ TEST(Menus, ViewMenuHasTheLooks)
 TEST(Menus, SideDropDown)
 {
   MenuRows rows;
-  for (const MenuItem& item : viewMenu) rows.emplace_back(item.id, item.text);
+  for (const MenuItem& item : viewMenu) rows.emplace_back(NumberOf(item.id), TextOf(item));
   EXPECT_EQ(rows, (MenuRows{{32804, u"Top"},
                             {32805, u"Bottom"},
                             {32806, u"Front"},
@@ -96,21 +109,32 @@ TEST(Menus, SideDropDown)
   EXPECT_EQ(viewButtonText, u"Select\rView");
 }
 
+std::vector<int> Numbers(std::span<const CommandId> commands)
+{
+  std::vector<int> numbers;
+  for (const CommandId command : commands) numbers.push_back(NumberOf(command));
+  return numbers;
+}
+
 TEST(ToolBars, StandInTheirOrder)
 {
-  EXPECT_EQ(std::vector<int>(mainToolBar.begin(), mainToolBar.end()),
+  EXPECT_EQ(Numbers(mainToolBar),
             (std::vector<int>{57600, 57601, 57603, 0,     32772, 0,     32808, 0,     32784,
                               32785, 32786, 0,     32787, 0,     57643, 57644, 0,     32775,
                               0,     32781, 0,     32776, 32777, 0,     32778, 32779, 0,
                               32780, 0,     32782, 32783, 0,     32788}));
-  EXPECT_EQ(std::vector<int>(smallToolBar.begin(), smallToolBar.end()),
+  EXPECT_EQ(Numbers(smallToolBar),
             (std::vector<int>{57600, 57601, 57603, 0, 57635, 57634, 57637, 0, 57607, 57664}));
 }
 
 TEST(Accelerators, EachKeyRunsItsCommandAndRedoHasNone)
 {
   std::map<std::string_view, int> keys;
-  for (const Accelerator& accelerator : accelerators) keys[accelerator.key] = accelerator.command;
+  for (const CommandEntry& command : Commands()) {
+    for (const std::string_view key : {command.key, command.otherKey}) {
+      if (!key.empty()) keys[key] = NumberOf(command.id);
+    }
+  }
   EXPECT_EQ(keys, (std::map<std::string_view, int>{{"Ctrl+N", 57600},
                                                    {"Ctrl+O", 57601},
                                                    {"Ctrl+S", 57603},
@@ -129,14 +153,14 @@ TEST(Accelerators, EachKeyRunsItsCommandAndRedoHasNone)
 
 TEST(Commands, PromptsHaveAStatusTextAndATooltip)
 {
-  const CommandEntry* const move = FindCommand(Command::Move);
+  const CommandEntry* const move = FindCommand(CommandId::Move);
   ASSERT_NE(move, nullptr);
   EXPECT_EQ(StatusText(*move), u"Move design in a specified direction");
   EXPECT_EQ(TooltipText(*move), u"Move\rDesign");
-  const CommandEntry* const grid = FindCommand(Command::Grid);
+  const CommandEntry* const grid = FindCommand(CommandId::Grid);
   EXPECT_EQ(StatusText(*grid), u"");
   EXPECT_EQ(TooltipText(*grid), u"");
-  EXPECT_EQ(FindCommand(1), nullptr);
+  EXPECT_EQ(FindCommand(CommandId{1}), nullptr);
 }
 
 struct Prompt {
@@ -148,8 +172,9 @@ class Prompts : public testing::TestWithParam<Prompt> {};
 
 TEST_P(Prompts, StandWordForWord)
 {
-  ASSERT_NE(FindCommand(GetParam().id), nullptr);
-  EXPECT_EQ(FindCommand(GetParam().id)->prompt, GetParam().text);
+  const CommandEntry* const command = FindCommand(CommandId{GetParam().id});
+  ASSERT_NE(command, nullptr);
+  EXPECT_EQ(command->prompt, GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -172,26 +197,26 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
 {
-  for (const int command : mainToolBar) {
-    if (command == toolBarSeparator) continue;
+  for (const CommandId command : mainToolBar) {
+    if (command == CommandId::None) continue;
     const CommandEntry* const entry = FindCommand(command);
-    ASSERT_NE(entry, nullptr) << command;
-    EXPECT_FALSE(entry->icon.empty()) << command;
-    EXPECT_FALSE(TooltipText(*entry).empty()) << command;
+    ASSERT_NE(entry, nullptr) << NumberOf(command);
+    EXPECT_FALSE(entry->icon.empty()) << NumberOf(command);
+    EXPECT_FALSE(TooltipText(*entry).empty()) << NumberOf(command);
   }
 }
 
 TEST(ViewSides, CodesAndCommandsBelongTogether)
 {
-  EXPECT_EQ(FindViewSide(1)->command, 32804);
-  EXPECT_EQ(FindViewSide(2)->command, 32805);
-  EXPECT_EQ(FindViewSide(4)->command, 32802);
-  EXPECT_EQ(FindViewSide(8)->command, 32803);
-  EXPECT_EQ(FindViewSide(16)->command, 32806);
-  EXPECT_EQ(FindViewSide(32)->command, 32807);
-  EXPECT_EQ(FindViewSide(63), nullptr);
-  EXPECT_EQ(FindViewSideByCommand(32802)->code, 4);
-  EXPECT_EQ(FindViewSideByCommand(32808), nullptr);
+  EXPECT_EQ(FindViewSide(ViewSide::Top)->command, CommandId{32804});
+  EXPECT_EQ(FindViewSide(ViewSide::Bottom)->command, CommandId{32805});
+  EXPECT_EQ(FindViewSide(ViewSide::Right)->command, CommandId{32802});
+  EXPECT_EQ(FindViewSide(ViewSide::Left)->command, CommandId{32803});
+  EXPECT_EQ(FindViewSide(ViewSide::Front)->command, CommandId{32806});
+  EXPECT_EQ(FindViewSide(ViewSide::Rear)->command, CommandId{32807});
+  EXPECT_EQ(FindViewSide(ViewSide::All), nullptr);
+  EXPECT_EQ(FindViewSideByCommand(CommandId::ViewRight)->code, ViewSide::Right);
+  EXPECT_EQ(FindViewSideByCommand(CommandId::SelectView), nullptr);
 }
 
 TEST(Strings, TheWindowsOwnTexts)

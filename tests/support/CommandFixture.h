@@ -14,7 +14,7 @@ namespace hullwright::test {
 /// The application with its design commands, and what they tell.
 class CommandFixture : public AppFixture {
 protected:
-  CShapePolyline& AddLine(std::int32_t side, const CShapeVertex& vertex)
+  CShapePolyline& AddLine(ViewSide side, const CShapeVertex& vertex)
   {
     auto line = std::make_unique<CShapePolyline>();
     line->AddVertex(vertex.x, vertex.y, vertex.z);
@@ -23,7 +23,7 @@ protected:
     return added;
   }
 
-  CShapePoint& AddPoint(std::int32_t side, const CShapeVertex& position)
+  CShapePoint& AddPoint(ViewSide side, const CShapeVertex& position)
   {
     auto point = std::make_unique<CShapePoint>();
     point->position = position;
@@ -32,10 +32,10 @@ protected:
     return added;
   }
 
-  void Run(int id, DialogScript script = {})
+  void Run(CommandId id, DialogScript script = {})
   {
     dialogs.script = std::move(script);
-    EXPECT_TRUE(frame.OnCommand(id)) << id;
+    EXPECT_TRUE(frame.OnCommand(id)) << NumberOf(id);
   }
 };
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Code.h"
 #include "base/Text.h"
 #include "dxf/FileDxf.h"
 #include "model/ShapePoint.h"
@@ -21,12 +22,12 @@ namespace hullwright::test {
 /// Keeps the records of the log as "level category: text".
 class FakeTrace : public ITrace {
 public:
-  void Trace(double elapsedSeconds, std::int32_t level, std::u16string_view category,
+  void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
              std::u16string_view text) const override
   {
     EXPECT_EQ(elapsedSeconds * 1000.0, std::round(elapsedSeconds * 1000.0));
     seconds.push_back(elapsedSeconds);
-    records.push_back(std::to_string(level) + " " + Utf8FromWide(category) + ": " +
+    records.push_back(std::to_string(NumberOf(level)) + " " + Utf8FromWide(category) + ": " +
                       Utf8FromWide(text));
   }
   mutable std::vector<std::string> records;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Code.h"
 #include "headless/NoTree.h"
 #include "headless/SilentWindow.h"
 #include "platform/Framework.h"
@@ -18,7 +19,7 @@ namespace hullwright::test {
 class FakeMainWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return hasWindow; }
-  void Notify(int code, std::intptr_t value) override
+  void Notify(Notification code, std::intptr_t value) override
   {
     codes.push_back(code);
     values.push_back(value);
@@ -31,7 +32,7 @@ public:
   }
 
   bool hasWindow = true;
-  std::vector<int> codes;
+  std::vector<Notification> codes;
   std::vector<std::intptr_t> values;
   std::vector<bool> flags;
   std::function<void()> onTold;  ///< looks at what stands when it is told something
@@ -40,11 +41,11 @@ public:
 /// Writes down what a main frame is told: "repaint", "tree", "modified", "clean", or a number.
 class HeardNotifications : public SilentWindow {
 public:
-  void Notify(int code, std::intptr_t) override
+  void Notify(Notification code, std::intptr_t) override
   {
     list.emplace_back(code == Notification::RepaintDesign ? "repaint"
                       : code == Notification::RebuildTree ? "tree"
-                                                          : std::to_string(code));
+                                                          : std::to_string(NumberOf(code)));
   }
   void SetModifiedFlag(bool modified) override
   {
@@ -56,16 +57,16 @@ public:
 /// Writes down what the frame shows.
 class FakeWidgets : public IFrameWidgets {
 public:
-  void SetViewButtonImage(int command) override
+  void SetViewButtonImage(CommandId command) override
   {
-    calls.push_back("image " + std::to_string(command));
+    calls.push_back("image " + std::to_string(NumberOf(command)));
   }
   void InvalidateToolBar() override
   {
     calls.emplace_back("invalidate");
     if (onInvalidate) onInvalidate();
   }
-  void ApplyLook(int look) override { calls.push_back("look " + std::to_string(look)); }
+  void ApplyLook(Look look) override { calls.push_back("look " + std::to_string(NumberOf(look))); }
   void ShowNote(std::u16string_view text) override { notes.emplace_back(text); }
   void StartProgress(std::string_view text) override
   {
@@ -97,7 +98,7 @@ public:
   int announced = 0;
   int rebuilds = 0;
   int imageChanges = 0;
-  std::vector<std::pair<int, std::u16string>> menu;
+  std::vector<std::pair<CommandId, std::u16string>> menu;
 };
 
 }  // namespace hullwright::test

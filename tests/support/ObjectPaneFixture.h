@@ -20,7 +20,7 @@ protected:
     control.rebuilds = 0;
   }
 
-  CShapePolyline& AddLine(std::int32_t side, std::initializer_list<CShapeVertex> vertices)
+  CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
   {
     auto line = std::make_unique<CShapePolyline>();
     for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
@@ -56,12 +56,12 @@ protected:
   {
     std::vector<int> images;
     for (std::size_t i = 0; i < pane.Tree().ChildCount(parent); ++i) {
-      images.push_back(pane.Tree().Image(pane.Tree().Child(parent, i)));
+      images.push_back(NumberOf(pane.Tree().Image(pane.Tree().Child(parent, i))));
     }
     return images;
   }
 
-  void Command(int id, const TreeItem& selected, DialogScript script = {})
+  void Command(CommandId id, const TreeItem& selected, DialogScript script = {})
   {
     pane.selectedItem = selected;
     dialogs.script = std::move(script);

@@ -34,7 +34,7 @@ protected:
     viewPort.KeepAspect();
   }
 
-  CShapePolyline& AddLine(std::int32_t side, std::initializer_list<CShapeVertex> vertices)
+  CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
   {
     auto line = std::make_unique<CShapePolyline>();
     for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Code.h"
 #include "headless/KeptMessages.h"
 #include "headless/KeptPointer.h"
 #include "model/ShapePolyline.h"
@@ -22,7 +23,7 @@ class FakeHost : public IViewHost {
 public:
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override { return std::move(viewPort); }
   GridSettings LoadGridSettings() const override { return grid; }
-  std::int32_t GetCursorTool() const override { return cursorTool; }
+  CursorTool GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override { return unitName; }
   bool EditVertex(CShapeVertex& vertex) override
   {
@@ -32,9 +33,9 @@ public:
     if (accept) vertex = typed;
     return accept;
   }
-  bool EditOffsets(std::int32_t focus) override
+  bool EditOffsets(HitKind focus) override
   {
-    events.push_back("edit offsets " + std::to_string(focus));
+    events.push_back("edit offsets " + std::to_string(NumberOf(focus)));
     return accept;
   }
   void BeforeChange(const CShapeVertex& vertex) override { before.push_back(vertex.x); }
@@ -46,7 +47,7 @@ public:
 
   std::unique_ptr<CViewPortDesigner> viewPort;
   GridSettings grid;
-  std::int32_t cursorTool = CursorTool::None;
+  CursorTool cursorTool = CursorTool::None;
   std::u16string unitName;
   std::vector<std::string> events;
   std::vector<double> before;          ///< x of each vertex that was about to change

@@ -190,9 +190,9 @@ TEST_F(SqliteBinding, ACodeThatIsNullKeepsThatOfTheRowBefore)
   library.rows = {{std::nullopt, "nameless", "?"}, {9002, "foot", "ft"}, {std::nullopt, "x", "y"}};
   const auto units = ReadUnits(library, messages, u"geo.db");
   ASSERT_EQ(units.size(), 3U);
-  EXPECT_EQ(units[0].numId, 0);
-  EXPECT_EQ(units[1].numId, 9002);
-  EXPECT_EQ(units[2].numId, 9002);
+  EXPECT_EQ(units[0].numId, UnitCode{0});
+  EXPECT_EQ(units[1].numId, UnitCode{9002});
+  EXPECT_EQ(units[2].numId, UnitCode{9002});
   EXPECT_EQ(units[2].strUnit, u"x");
 }
 

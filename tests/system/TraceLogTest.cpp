@@ -38,16 +38,16 @@ TEST_F(TraceLog, TheFirstRecordHasNumberOne)
 TEST_F(TraceLog, RecordsAddUpAndTheHeaderCountsThem)
 {
   MakeFolder();
-  log.Trace(0.0, 1, u"General", u"first");
-  log.Trace(0.5, 32, u"General", u"second|with a bar");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"first");
+  log.Trace(0.5, TraceLevel::Success, u"General", u"second|with a bar");
   EXPECT_EQ(General(), "2\n1|0.000|1|first\r\n2|0.500|32|second|with a bar\r\n");
 }
 
 TEST_F(TraceLog, EachCategoryHasItsOwnFile)
 {
   MakeFolder();
-  log.Trace(0.0, 1, u"General", u"a");
-  log.Trace(0.0, 1, u"Processing", u"b");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"a");
+  log.Trace(0.0, TraceLevel::Failure, u"Processing", u"b");
   EXPECT_EQ(General(), "1\n1|0.000|1|a\r\n");
   EXPECT_EQ(folder.Read("Sondaris/Tracing/Trace_Processing.txt"), "1\n1|0.000|1|b\r\n");
 }
@@ -55,21 +55,21 @@ TEST_F(TraceLog, EachCategoryHasItsOwnFile)
 TEST_F(TraceLog, ARecordStaysOnOneLine)
 {
   MakeFolder();
-  log.Trace(0.0, 1, u"General", u"a\r\nb\tc");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"a\r\nb\tc");
   EXPECT_EQ(General(), "1\n1|0.000|1|a<CR><LF>b<TAB>c\r\n");
 }
 
 TEST_F(TraceLog, TextIsWrittenInTheAnsiCodePage)
 {
   MakeFolder();
-  log.Trace(0.0, 1, u"General", u"\u00FC\u20AC");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"\u00FC\u20AC");
   EXPECT_EQ(General(), "1\n1|0.000|1|\xFC\x80\r\n");
 }
 
 TEST_F(TraceLog, TheTwoHundredAndFirstRecordDropsTheOldest)
 {
   MakeFolder();
-  for (int i = 1; i <= 201; ++i) log.Trace(0.0, 1, u"General", u"x");
+  for (int i = 1; i <= 201; ++i) log.Trace(0.0, TraceLevel::Failure, u"General", u"x");
   const std::string text = General();
   EXPECT_TRUE(text.starts_with("201\n2|0.000|1|x\r\n"));
   EXPECT_TRUE(text.ends_with("201|0.000|1|x\r\n"));
@@ -80,7 +80,7 @@ TEST_F(TraceLog, GoesOnFromTheHeaderOfAnOlderLog)
 {
   MakeFolder();
   folder.Write("Sondaris/Tracing/Trace_General.txt", "41\nold\r\n");
-  log.Trace(0.0, 1, u"General", u"new");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
   EXPECT_EQ(General(), "42\nold\r\n42|0.000|1|new\r\n");
 }
 
@@ -89,7 +89,7 @@ TEST_F(TraceLog, BlankLinesAreDroppedAndLongOnesKeptWhole)
   MakeFolder();
   const std::string longest(2048, 'x');
   folder.Write("Sondaris/Tracing/Trace_General.txt", "1\n\n\r\n" + longest + "\r\n");
-  log.Trace(0.0, 1, u"General", u"new");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
   EXPECT_EQ(General(), "2\n" + longest + "\r\n2|0.000|1|new\r\n");
 }
 
@@ -99,7 +99,7 @@ TEST_F(TraceLog, ARecordLongerThanItsBufferCountsAsSeveralLinesOfTheLimit)
   std::string old = "200\n" + std::string(5000, 'x') + "\r\n";
   for (int i = 0; i < 198; ++i) old += "y\r\n";
   folder.Write("Sondaris/Tracing/Trace_General.txt", old);
-  log.Trace(0.0, 1, u"General", u"new");  // three pieces and 198 lines
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");  // three pieces and 198 lines
   const std::string text = General();
   EXPECT_TRUE(text.starts_with("201\n" + std::string(5000 - 2 * 2048, 'x') + "\r\ny"));
   EXPECT_TRUE(text.ends_with("y\r\n201|0.000|1|new\r\n"));
@@ -108,7 +108,7 @@ TEST_F(TraceLog, ARecordLongerThanItsBufferCountsAsSeveralLinesOfTheLimit)
 TEST_F(TraceLog, TextEndsAtANul)
 {
   MakeFolder();
-  log.Trace(0.0, 1, u"General", std::u16string_view(u"ab\0cd", 5));
+  log.Trace(0.0, TraceLevel::Failure, u"General", std::u16string_view(u"ab\0cd", 5));
   EXPECT_EQ(General(), "1\n1|0.000|1|ab\r\n");
 }
 
@@ -116,7 +116,7 @@ TEST_F(TraceLog, AHeaderThatIsNoNumberCountsFromZero)
 {
   MakeFolder();
   folder.Write("Sondaris/Tracing/Trace_General.txt", "abc\n");
-  log.Trace(0.0, 1, u"General", u"new");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
   EXPECT_EQ(General(), "1\n1|0.000|1|new\r\n");
 }
 
@@ -124,7 +124,7 @@ TEST_F(TraceLog, ALineOfBlanksIsKeptAsARecord)
 {
   MakeFolder();
   folder.Write("Sondaris/Tracing/Trace_General.txt", "5\n   \n\t\r\n\n");
-  log.Trace(0.0, 1, u"General", u"new");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
   EXPECT_EQ(General(), "6\n   \n\t\r\n6|0.000|1|new\r\n");
 }
 
@@ -133,7 +133,7 @@ TEST_F(TraceLog, AHeaderBeyondTheLargestNumberCountsOnFromTheLargest)
   MakeFolder();
   for (const char* header : {"2147483648\n", "4294967295\n", "99999999999\n"}) {
     folder.Write("Sondaris/Tracing/Trace_General.txt", header);
-    log.Trace(0.0, 1, u"General", u"new");
+    log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
     EXPECT_EQ(General(), "-2147483648\n-2147483648|0.000|1|new\r\n") << header;
   }
 }
@@ -146,9 +146,9 @@ TEST_F(TraceLog, TheFolderIsAskedForAtEachRecord)
     return folder.File("");
   });
   EXPECT_EQ(asked, 0);
-  counting.Trace(0.0, 1, u"General", u"lost");
+  counting.Trace(0.0, TraceLevel::Failure, u"General", u"lost");
   MakeFolder();
-  counting.Trace(0.0, 1, u"General", u"first");
+  counting.Trace(0.0, TraceLevel::Failure, u"General", u"first");
   EXPECT_EQ(asked, 2);
   EXPECT_EQ(General(), "1\n1|0.000|1|first\r\n");
 }
@@ -162,16 +162,16 @@ TEST_F(TraceLog, APathOf259CharactersIsWrittenAndOneOf260IsNot)
         std::filesystem::directory_iterator(folder.Path() / "Sondaris" / "Tracing"),
         std::filesystem::directory_iterator());
   };
-  log.Trace(0.0, 1, category + u"c", u"x");
+  log.Trace(0.0, TraceLevel::Failure, category + u"c", u"x");
   EXPECT_EQ(files(), 0);
-  log.Trace(0.0, 1, category, u"x");
+  log.Trace(0.0, TraceLevel::Failure, category, u"x");
   EXPECT_EQ(files(), 1);
 }
 
 TEST_F(TraceLog, APathBeyondItsBufferIsNotWritten)
 {
   MakeFolder();
-  log.Trace(0.0, 1, std::u16string(300, u'c'), u"x");
+  log.Trace(0.0, TraceLevel::Failure, std::u16string(300, u'c'), u"x");
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path() / "Sondaris" / "Tracing"));
 }
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "base/Code.h"
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
 #include "support/TempFolder.h"
@@ -89,8 +90,8 @@ protected:
     std::vector<std::string> lines;
     const auto path = GetDatabasePath(WideFromUtf8(folder.Path().string()));
     for (const UnitRecord& unit : ReadUnits(libraries, messages, path)) {
-      lines.push_back(std::to_string(unit.numId) + " " + Utf8FromWide(unit.strUnit) + " " +
-                      Utf8FromWide(unit.strUnitShort));
+      lines.push_back(std::to_string(NumberOf(unit.numId)) + " " + Utf8FromWide(unit.strUnit) +
+                      " " + Utf8FromWide(unit.strUnitShort));
     }
     return lines;
   }
@@ -202,9 +203,9 @@ TEST_F(Units, TheDatabaseOfTheProgramHasTheMetreAndEveryUnitWithAFactor)
 {
   const auto units = ReadUnits(libraries, messages, WideFromUtf8(HULLWRIGHT_UNIT_DATABASE));
   ASSERT_EQ(units.size(), 24U);
-  EXPECT_EQ(units.front().numId, 9001);
+  EXPECT_EQ(units.front().numId, UnitCode::Metre);
   EXPECT_EQ(units.front().strUnit, u"metre");
-  EXPECT_EQ(units.back().numId, 9098);
+  EXPECT_EQ(units.back().numId, UnitCode{9098});
 }
 
 }  // namespace

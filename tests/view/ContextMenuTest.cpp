@@ -16,7 +16,7 @@ protected:
   std::vector<int> Offered() const
   {
     std::vector<int> ids;
-    for (const auto& [id, text] : pointer.offered) ids.push_back(id);
+    for (const auto& [id, text] : pointer.offered) ids.push_back(NumberOf(id));
     return ids;
   }
 };
@@ -24,10 +24,12 @@ protected:
 TEST_F(ContextMenu, OnEmptySpaceOffersZoomVertexAndAnchor)
 {
   view.OnRButtonDown({123, 45});
-  EXPECT_THAT(
-      pointer.offered,
-      ElementsAre(Pair(32790, u"Zoom &In"), Pair(32792, u"Zoom &Out"), Pair(32793, u"Ce&nter"),
-                  Pair(0, u"-"), Pair(32789, u"&Add Vertex..."), Pair(32815, u"&Add Anchor")));
+  EXPECT_THAT(pointer.offered,
+              ElementsAre(Pair(CommandId::MenuZoomIn, u"Zoom &In"),
+                          Pair(CommandId::MenuZoomOut, u"Zoom &Out"),
+                          Pair(CommandId::MenuCenter, u"Ce&nter"), Pair(CommandId::None, u"-"),
+                          Pair(CommandId::AddVertex, u"&Add Vertex..."),
+                          Pair(CommandId::AddAnchor, u"&Add Anchor")));
   EXPECT_EQ(pointer.place, (ClientPoint{123, 45}));
   EXPECT_EQ(view.menuPoint, (ClientPoint{123, 45}));
 }
@@ -46,7 +48,7 @@ TEST_F(ContextMenu, OnAnAnchorAndOnAnOffsetOffersWhatTheyTake)
   design.activeView = ViewSide::Top;
   AddAnchor(50.0, 50.0);
   view.OnRButtonDown({600, 100});
-  EXPECT_THAT(pointer.offered.back(), Pair(32816, u"&Remove Anchor..."));
+  EXPECT_THAT(pointer.offered.back(), Pair(CommandId::RemoveAnchor, u"&Remove Anchor..."));
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791, 32816));
   view.OnRButtonDown({440, 300});
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32791));
@@ -66,7 +68,7 @@ TEST_F(ContextMenu, TheRightPressMakesTheGroupAndWhileDrawingOpensNoMenu)
   view.OnRButtonDown({1, 1});
   EXPECT_EQ(design.shapeGroups.size(), 1U);
   pointer.offered.clear();
-  view.OnCommand(Command::DrawPolyline);
+  view.OnCommand(CommandId::DrawPolyline);
   view.OnRButtonDown({1, 1});
   EXPECT_THAT(pointer.offered, IsEmpty());
 }
@@ -74,12 +76,12 @@ TEST_F(ContextMenu, TheRightPressMakesTheGroupAndWhileDrawingOpensNoMenu)
 TEST_F(ContextMenu, ZoomsAndCentersAtThePress)
 {
   view.OnRButtonDown({600, 300});
-  view.OnMenuCommand(Command::MenuZoomIn);
+  view.OnMenuCommand(CommandId::MenuZoomIn);
   EXPECT_EQ(view.viewPort->width, 150.0);
   EXPECT_EQ((view.viewPort->left + view.viewPort->right) * 0.5, 50.0);
-  view.OnMenuCommand(Command::MenuZoomOut);
+  view.OnMenuCommand(CommandId::MenuZoomOut);
   EXPECT_DOUBLE_EQ(view.viewPort->width, 200.0);
-  view.OnMenuCommand(Command::MenuCenter);
+  view.OnMenuCommand(CommandId::MenuCenter);
   EXPECT_NEAR((view.viewPort->left + view.viewPort->right) * 0.5, 137.5, 1e-9);
   EXPECT_DOUBLE_EQ(view.viewPort->width, 200.0);
   EXPECT_EQ(Frames(), 3);
@@ -87,7 +89,9 @@ TEST_F(ContextMenu, ZoomsAndCentersAtThePress)
 
 TEST_F(ContextMenu, OtherIdsOfItsRangeDoNothing)
 {
-  for (const int id : {32794, 32795, 32799, 32801, 32808, 32814, 1}) view.OnMenuCommand(id);
+  for (const int id : {32794, 32795, 32799, 32801, 32808, 32814, 1}) {
+    view.OnMenuCommand(CommandId{id});
+  }
   EXPECT_THAT(host.events, IsEmpty());
   EXPECT_EQ(Frames(), 0);
 }
@@ -98,7 +102,7 @@ TEST_F(ContextMenu, EditingAVertexRepaintsAndTellsNobody)
   host.accept = true;
   host.typed = CShapeVertex(1.0, 2.0, 3.0);
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_EQ(host.edited.z, 5.0);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_THAT(host.before, ElementsAre(0.0));
@@ -110,7 +114,7 @@ TEST_F(ContextMenu, ACancelledEditChangesNothingAndDoesNotRepaint)
 {
   const CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}});
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.0, 0.0, 5.0));
   EXPECT_EQ(Frames(), 0);
 }
@@ -120,7 +124,7 @@ TEST_F(ContextMenu, EditingOnEmptySpaceClearsThePick)
   AddLine({{0.0, 0.0, 5.0}});
   view.OnMouseMove(false, {400, 300});
   view.menuPoint = {10, 10};
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_EQ(view.hitKind, HitKind::None);
   EXPECT_THAT(host.events, IsEmpty());
 }
@@ -131,10 +135,10 @@ TEST_F(ContextMenu, ADesignReplacedUnderTheDialogIsNotWritten)
   host.accept = true;
   host.whileEditing = [this] { ClearGroups(design.shapeGroups); };
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::AddVertex);
+  view.OnMenuCommand(CommandId::AddVertex);
   AddLine({{0.0, 0.0, 5.0}});
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_THAT(host.events, ElementsAre("edit vertex", "edit vertex"));
 }
 
@@ -146,7 +150,7 @@ TEST_F(ContextMenu, AMarkedShapeThatIsNoPolylineTakesNoVertex)
   GetShapes(design.shapeGroups, design.activeView)->shapes.push_back(std::move(other));
   AddLine({{0.0, 0.0, 0.0}}).editing = true;
   view.OnRButtonDown({1, 1});
-  view.OnMenuCommand(Command::AddVertex);
+  view.OnMenuCommand(CommandId::AddVertex);
   EXPECT_THAT(host.events, IsEmpty());
 }
 
@@ -161,7 +165,7 @@ TEST_F(ContextMenu, ARemovedVertexIsReleasedOnceAlsoAmongPolygons)
   const CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}, {9.0, 9.0, 0.0}});
   addPolygon();
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::RemoveVertex);
+  view.OnMenuCommand(CommandId::RemoveVertex);
   ASSERT_EQ(line.vertices.size(), 1U);
   EXPECT_EQ(line.vertices[0]->x, 9.0);
 }
@@ -171,8 +175,8 @@ TEST_F(ContextMenu, WithoutAnAnchorListNothingIsAddedOrRemoved)
   AddLine({{0.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
   design.anchors.reset();
-  view.OnMenuCommand(Command::AddAnchor);
-  view.OnMenuCommand(Command::RemoveVertex);
+  view.OnMenuCommand(CommandId::AddAnchor);
+  view.OnMenuCommand(CommandId::RemoveVertex);
   EXPECT_THAT(host.events, IsEmpty());
 }
 
@@ -181,13 +185,13 @@ TEST_F(ContextMenu, EditingAnAnchorGoesThroughATemporaryVertex)
   design.activeView = ViewSide::Top;
   CAnchor& anchor = AddAnchor(50.0, 50.0);
   view.OnRButtonDown({600, 100});
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_TRUE(host.edited == CShapeVertex(50.0, 50.0, 0.0));
   EXPECT_EQ(anchor.attachmentX, 50.0);
   EXPECT_EQ(Frames(), 0);
   host.accept = true;
   host.typed = CShapeVertex(1.0, 2.0, 3.0);
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_EQ(anchor.attachmentX, 1.0);
   EXPECT_EQ(anchor.attachmentY, 2.0);
   EXPECT_EQ(Frames(), 1);
@@ -198,7 +202,7 @@ TEST_F(ContextMenu, EditingAnOffsetOpensTheOffsetsDialogForIt)
   design.activeView = ViewSide::Top;
   host.accept = true;
   view.OnRButtonDown({360, 300});
-  view.OnMenuCommand(Command::EditVertex);
+  view.OnMenuCommand(CommandId::EditVertex);
   EXPECT_THAT(host.events, ElementsAre("edit offsets 13"));
   EXPECT_EQ(Frames(), 1);
 }
@@ -212,7 +216,7 @@ TEST_F(ContextMenu, AddVertexGoesToTheEndOfThePolylineMarkedInTheTree)
   host.accept = true;
   host.typed = CShapeVertex(7.0, 8.0, 9.0);
   view.OnRButtonDown({414, 300});
-  view.OnMenuCommand(Command::AddVertex);
+  view.OnMenuCommand(CommandId::AddVertex);
   EXPECT_TRUE(host.edited == CShapeVertex(2.5, 0.0, 0.0));
   ASSERT_EQ(marked.vertices.size(), 3U);
   EXPECT_TRUE(*marked.vertices[2] == CShapeVertex(7.0, 8.0, 9.0));
@@ -224,10 +228,10 @@ TEST_F(ContextMenu, AddVertexWithoutAMarkedPolylineOrCancelledDoesNothing)
 {
   CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::AddVertex);
+  view.OnMenuCommand(CommandId::AddVertex);
   EXPECT_THAT(host.events, IsEmpty());
   line.editing = true;
-  view.OnMenuCommand(Command::AddVertex);
+  view.OnMenuCommand(CommandId::AddVertex);
   EXPECT_THAT(host.events, ElementsAre("edit vertex"));
   EXPECT_EQ(line.vertices.size(), 1U);
   EXPECT_EQ(Frames(), 0);
@@ -238,7 +242,7 @@ TEST_F(ContextMenu, AddAnchorTakesTheLowestNumberAndTheSnappedPlaceOnAnySide)
   AddAnchor(0.0, 0.0);
   host.grid.snap = 1;
   view.OnRButtonDown({414, 300});
-  view.OnMenuCommand(Command::AddAnchor);
+  view.OnMenuCommand(CommandId::AddAnchor);
   ASSERT_EQ(design.anchors->items.size(), 2U);
   EXPECT_EQ(design.anchors->items[1]->id, 2U);
   EXPECT_EQ(design.anchors->items[1]->attachmentX, 2.5);
@@ -251,7 +255,7 @@ TEST_F(ContextMenu, RemovingAVertexTellsRepaintAndTreeButDoesNotModify)
 {
   CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}, {50.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
-  view.OnMenuCommand(Command::RemoveVertex);
+  view.OnMenuCommand(CommandId::RemoveVertex);
   ASSERT_EQ(line.vertices.size(), 1U);
   EXPECT_EQ(line.vertices[0]->x, 50.0);
   EXPECT_THAT(host.events, ElementsAre("changed"));
@@ -265,7 +269,7 @@ TEST_F(ContextMenu, RemovingAnAnchorTakesItOutOfTheList)
   AddAnchor(50.0, 50.0);
   AddAnchor(70.0, 50.0);
   view.OnRButtonDown({600, 100});
-  view.OnMenuCommand(Command::RemoveAnchor);
+  view.OnMenuCommand(CommandId::RemoveAnchor);
   ASSERT_EQ(design.anchors->items.size(), 1U);
   EXPECT_EQ(design.anchors->items[0]->id, 2U);
   EXPECT_THAT(host.events, ElementsAre("changed"));
@@ -276,7 +280,7 @@ TEST_F(ContextMenu, AMoveToEmptySpaceWhileTheMenuIsOpenLeavesNothingToRemove)
   CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});
   view.OnMouseMove(false, {600, 500});
-  view.OnMenuCommand(Command::RemoveVertex);
+  view.OnMenuCommand(CommandId::RemoveVertex);
   EXPECT_EQ(line.vertices.size(), 1U);
   EXPECT_THAT(host.events, IsEmpty());
 }

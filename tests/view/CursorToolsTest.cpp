@@ -16,7 +16,7 @@ TEST_F(View, BeginsIdle)
   const CHullwrightView fresh(design, host, {messages, pointer, pointer, pointer});
   EXPECT_FALSE(fresh.dragging);
   EXPECT_FALSE(fresh.drawing);
-  EXPECT_EQ(fresh.hitKind, 0);
+  EXPECT_EQ(fresh.hitKind, HitKind::None);
   EXPECT_EQ(fresh.viewPort, nullptr);
   EXPECT_EQ(fresh.newShape, nullptr);
   EXPECT_TRUE(fresh.statusText.empty());
@@ -55,7 +55,7 @@ TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
   blind.OnMouseMove(false, {1, 1});
   blind.OnLButtonDown({1, 1});
   blind.OnMouseWheel(-120, {1, 1});
-  blind.OnCommand(Command::ShowAll);
+  blind.OnCommand(CommandId::ShowAll);
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(Frames(), 0);
 }
@@ -81,7 +81,7 @@ TEST_F(View, AResizeReachesTargetAndViewPortAndRepaints)
 }
 
 struct ToolCase {
-  std::int32_t tool;
+  CursorTool tool;
   double width;
   double centreX;
   int frames;
@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(Tools, Tool,
                                          ToolCase{CursorTool::ZoomIn, 150.0, 50.0, 1},
                                          ToolCase{CursorTool::ZoomOut, 800.0 / 3.0, 50.0, 1},
                                          ToolCase{CursorTool::Move, 200.0, 50.0, 1},
-                                         ToolCase{4, 200.0, 0.0, 0}));
+                                         ToolCase{CursorTool{4}, 200.0, 0.0, 0}));
 
 TEST_F(View, APressOnAVertexWithAToolDoesNotZoom)
 {
@@ -134,7 +134,7 @@ TEST_F(View, TheWheelZoomsOnAVertexToo)
 
 TEST_F(View, TheWheelIsIgnoredWhileDrawing)
 {
-  view.OnCommand(Command::DrawPolyline);
+  view.OnCommand(CommandId::DrawPolyline);
   view.OnMouseWheel(120, {400, 300});
   EXPECT_EQ(view.viewPort->width, 200.0);
   EXPECT_EQ(Frames(), 0);
@@ -183,7 +183,7 @@ TEST_F(View, TheCursorIsACrossAndOverAnItemAHand)
 TEST_F(View, ActsOnTheRepaintNotificationOnly)
 {
   view.OnUser(Notification::RebuildTree);
-  view.OnUser(1044);
+  view.OnUser(Notification::ImportProgress);
   EXPECT_EQ(Frames(), 0);
   view.OnUser(Notification::RepaintDesign);
   EXPECT_EQ(Frames(), 1);
@@ -192,7 +192,7 @@ TEST_F(View, ActsOnTheRepaintNotificationOnly)
 TEST_F(View, ShowAllFitsTheGroupInView)
 {
   AddLine({{-60.0, -3.0, 0.0}, {60.0, 3.0, 0.0}});
-  view.OnCommand(Command::ShowAll);
+  view.OnCommand(CommandId::ShowAll);
   EXPECT_EQ(view.viewPort->left, -80.0);
   EXPECT_EQ(view.viewPort->right, 80.0);
   EXPECT_EQ(Frames(), 1);
@@ -200,7 +200,7 @@ TEST_F(View, ShowAllFitsTheGroupInView)
 
 TEST_F(View, ShowAllWithoutShapesLeavesTheViewButMakesTheGroup)
 {
-  view.OnCommand(Command::ShowAll);
+  view.OnCommand(CommandId::ShowAll);
   EXPECT_EQ(view.viewPort->width, 200.0);
   EXPECT_EQ(Frames(), 0);
   ASSERT_EQ(design.shapeGroups.size(), 1U);
@@ -211,15 +211,15 @@ TEST_F(View, ShowAllWithShapesThatHaveNoExtentDoesNotHang)
 {
   AddLine({});
   host.grid.show = 1;
-  view.OnCommand(Command::ShowAll);
+  view.OnCommand(CommandId::ShowAll);
   view.OnMouseMove(false, {5, 5});
   EXPECT_EQ(Frames(), 1);
 }
 
 TEST_F(View, CommandsOfOthersDoNothing)
 {
-  view.OnCommand(Command::CursorZoomIn);
-  view.OnCommand(32799);
+  view.OnCommand(CommandId::CursorZoomIn);
+  view.OnCommand(CommandId{32799});
   EXPECT_FALSE(view.drawing);
   EXPECT_EQ(Frames(), 0);
 }

@@ -11,7 +11,7 @@ using testing::Pair;
 
 class PolylineTool : public test::ViewFixture {
 protected:
-  void Begin() { view.OnCommand(Command::DrawPolyline); }
+  void Begin() { view.OnCommand(CommandId::DrawPolyline); }
   void Move(std::int32_t x, std::int32_t y) { view.OnMouseMove(false, {x, y}); }
   void Click(std::int32_t x, std::int32_t y)
   {

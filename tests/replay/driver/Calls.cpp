@@ -64,7 +64,7 @@ Value VertexOp(ReplayEditor&, const Args& args)
 Value ConvertUnits(ReplayEditor&, const Args& args)
 {
   CShapeVertex vertex(args.Number(2), args.Number(3), args.Number(4));
-  const bool converted = vertex.ConvertUnits(args.Integer(0), args.Integer(1));
+  const bool converted = vertex.ConvertUnits(UnitCode{args.Integer(0)}, UnitCode{args.Integer(1)});
   return Row(converted, vertex.x, vertex.y, vertex.z);
 }
 
@@ -128,7 +128,7 @@ Value AddArc(ReplayEditor&, const Args& args)
 Value FindGroup(ReplayEditor& editor, const Args& args)
 {
   auto& groups = editor.app.shapeGroups;
-  const CShapes* const group = GetShapes(groups, args.Integer(0));
+  const CShapes* const group = GetShapes(groups, ViewSide{args.Integer(0)});
   for (std::size_t i = 0; i < groups.size(); ++i) {
     if (group != nullptr && groups[i].get() == group) return i;
   }
@@ -322,11 +322,11 @@ struct CallEntry {
 constexpr auto calls = std::to_array<CallEntry>({
     {"ToMetres",
      [](ReplayEditor&, const std::string&, const Args& a) -> Value {
-       return ToMetres(a.Integer(0), a.Number(1));
+       return ToMetres(UnitCode{a.Integer(0)}, a.Number(1));
      }},
     {"FromMetres",
      [](ReplayEditor&, const std::string&, const Args& a) -> Value {
-       return FromMetres(a.Integer(0), a.Number(1));
+       return FromMetres(UnitCode{a.Integer(0)}, a.Number(1));
      }},
     {"ConvertUnits", By<ConvertUnits>},
     {"VertexOp", By<VertexOp>},

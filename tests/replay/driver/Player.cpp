@@ -194,13 +194,13 @@ Value Player::SetCursor(const Json& step)
 
 Value Player::Command(const Json& step)
 {
-  editor_.frame.OnCommand(IntOf(Member(step, "id")));
+  editor_.frame.OnCommand(CodeOf<CommandId>(Member(step, "id")));
   return {};
 }
 
 Value Player::Menu(const Json& step)
 {
-  editor_.view.OnMenuCommand(IntOf(Member(step, "id")));
+  editor_.view.OnMenuCommand(CodeOf<CommandId>(Member(step, "id")));
   return {};
 }
 
@@ -222,20 +222,20 @@ Value Player::TreeCommand(const Json& step)
   editor_.pane.selectedItem = Member(step, "select").is_array()
                                   ? editor_.ItemAt(PathOf(Member(step, "select")))
                                   : TreeItem();
-  editor_.pane.OnCommand(IntOf(Member(step, "id")));
+  editor_.pane.OnCommand(CodeOf<CommandId>(Member(step, "id")));
   return {};
 }
 
 Value Player::StatusClick(const Json& step)
 {
   constexpr int unitsPane = 2;
-  if (IntOf(Member(step, "pane")) == unitsPane) editor_.frame.OnCommand(Command::Units);
+  if (IntOf(Member(step, "pane")) == unitsPane) editor_.frame.OnCommand(CommandId::Units);
   return {};
 }
 
 Value Player::User(const Json& step)
 {
-  const int code = IntOf(Member(step, "wparam"));
+  const auto code = CodeOf<Notification>(Member(step, "wparam"));
   if (TextOf(Member(step, "to")) == "view") {
     editor_.view.OnUser(code);
     return {};
@@ -300,8 +300,9 @@ Value Player::Setting(const Json& step)
 Value Player::Trace(const Json& step)
 {
   const std::u16string category = WideOf(Member(step, "category"));
-  editor_.commonData.log.Trace(NumberOf(Member(step, "elapsed")), IntOf(Member(step, "level")),
-                               category, WideOf(Member(step, "text")));
+  editor_.commonData.log.Trace(NumberOf(Member(step, "elapsed")),
+                               CodeOf<TraceLevel>(Member(step, "level")), category,
+                               WideOf(Member(step, "text")));
   NoteWritten(editor_.PathOf("Sondaris/Tracing/Trace_" + Utf8FromWide(category) + ".txt"));
   return {};
 }
@@ -314,7 +315,8 @@ void Player::NoteWritten(const std::u16string& path)
 
 Value Player::PutGroup(const Json& step)
 {
-  editor_.app.shapeGroups.push_back(std::make_unique<CShapes>(IntOf(Member(step, "view"))));
+  editor_.app.shapeGroups.push_back(
+      std::make_unique<CShapes>(CodeOf<ViewSide>(Member(step, "view"))));
   return {};
 }
 
@@ -323,7 +325,7 @@ Value Player::PutShape(const Json& step)
   auto& groups = editor_.app.shapeGroups;
   CShapes* group = nullptr;
   if (step.contains("view")) {
-    group = GetShapes(groups, IntOf(Member(step, "view")));
+    group = GetShapes(groups, CodeOf<ViewSide>(Member(step, "view")));
   } else if (const auto index = static_cast<std::size_t>(IntegerOf(Member(step, "group")));
              index < groups.size()) {
     group = groups[index].get();
@@ -364,7 +366,7 @@ Value Player::SetOffset(const Json& step)
 
 Value Player::SetUnit(const Json& step)
 {
-  editor_.app.unitCode = static_cast<std::int32_t>(IntegerOf(Member(step, "value")));
+  editor_.app.unitCode = CodeOf<UnitCode>(Member(step, "value"));
   return {};
 }
 

@@ -93,7 +93,7 @@ void ReplayPointer::Offer(std::span<const PopupEntry> entries)
 {
   Value::List list;
   for (const PopupEntry& entry : entries) {
-    list.push_back(entry.id == 0 ? Row(0, "-") : Row(entry.id, entry.text));
+    list.push_back(entry.id == CommandId::None ? Row(0, "-") : Row(entry.id, entry.text));
   }
   menu = std::move(list);
 }
@@ -151,7 +151,7 @@ Value ReportNodes(const std::vector<ReplayTree::Node>& nodes)
 
 Value ReplayTree::Report() const { return ReportNodes(snapshot); }
 
-void ReplayListener::Notify(int code, std::intptr_t)
+void ReplayListener::Notify(Notification code, std::intptr_t)
 {
   if (listing && code == Notification::RepaintDesign) events_.emplace_back("repaint");
   if (listing && code == Notification::RebuildTree) events_.emplace_back("tree");

@@ -46,7 +46,7 @@ public:
   struct Node {
     TreeItem item;
     std::u16string text;
-    int image = 0;
+    TreeImage image{};
     bool expanded = false;
     std::vector<Node> children;
   };
@@ -67,7 +67,7 @@ private:
 class ReplayListener : public SilentWindow {
 public:
   explicit ReplayListener(Value::List& events) : events_(events) {}
-  void Notify(int code, std::intptr_t value) override;
+  void Notify(Notification code, std::intptr_t value) override;
   void SetModifiedFlag(bool modified) override;
   bool listing = true;  ///< whether notifications are written down
 

@@ -116,7 +116,7 @@ void AddVertices(CShape& shape, const Json& list)
 
 std::unique_ptr<CShape> GeometryOf(const Json& object)
 {
-  switch (IntOf(Member(object, "type"))) {
+  switch (CodeOf<ShapeType>(Member(object, "type"))) {
     case ShapeType::Point: {
       auto point = std::make_unique<CShapePoint>();
       point->position = VertexOf(Member(object, "position"));

@@ -30,6 +30,13 @@ const Json& MembersOf(const Json& value);
 std::int64_t IntegerOf(const Json& value, std::int64_t fallback = 0);
 int IntOf(const Json& value, int fallback = 0);
 
+/// A code by its number; also one that its type has no name for.
+template <class Code>
+Code CodeOf(const Json& value)
+{
+  return static_cast<Code>(IntOf(value));
+}
+
 bool BoolOf(const Json& value, bool fallback = false);
 
 /// A text as UTF-8.

@@ -145,9 +145,10 @@ Value ShellOf(const ReplayEditor& editor)
     settings[setting.substr(setting.find('/') + 1)] = value;
   }
   Value::Object checks;
-  for (const int id : {Command::ToggleGrid, Command::ToggleSnap, Command::CursorZoomIn,
-                       Command::CursorZoomOut, Command::CursorMove, Command::DrawPolyline}) {
-    checks[std::to_string(id)] = editor.frame.QueryCommand(id).checked;
+  for (const CommandId id :
+       {CommandId::ToggleGrid, CommandId::ToggleSnap, CommandId::CursorZoomIn,
+        CommandId::CursorZoomOut, CommandId::CursorMove, CommandId::DrawPolyline}) {
+    checks[std::to_string(NumberOf(id))] = editor.frame.QueryCommand(id).checked;
   }
   return Value::Object{{"settings", std::move(settings)},
                        {"grid", replay::Of(editor.app.LoadGridSettings())},

@@ -5,10 +5,12 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
 
+#include "base/Code.h"
 #include "cli/Json.h"
 
 namespace hullwright::replay {
@@ -22,6 +24,8 @@ public:
   Value() = default;
   Value(bool value) : data_(value) {}
   Value(int value) : data_(std::int64_t{value}) {}
+  template <class Code>
+  requires std::is_enum_v<Code> Value(Code code) : Value(NumberOf(code)) {}
   Value(std::int64_t value) : data_(value) {}
   Value(std::uint32_t value) : data_(std::int64_t{value}) {}
   Value(std::size_t value) : data_(static_cast<std::int64_t>(value)) {}
