@@ -3,32 +3,18 @@
 #include <string_view>
 
 #include "dxf/DxfSections.h"
+#include "headless/KeptTrace.h"
+#include "headless/SilentWindow.h"
 #include "model/Layer.h"
 
 // Any bytes are a drawing: reading them must end, in bounded memory, and what they give must be
 // shapes that can be worked with.
-namespace {
-
 using namespace hullwright;
-
-class Window : public IMainWindow {
-public:
-  bool HasWindow() const override { return true; }
-  void Notify(int, std::intptr_t) override {}
-  void SetModifiedFlag(bool) override {}
-};
-
-class Log : public ITrace {
-public:
-  void Trace(double, std::int32_t, std::u16string_view, std::u16string_view) const override {}
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-  Window window;
-  const Log log;
+  SilentWindow window;
+  const KeptTrace log;
   DxfLines lines({reinterpret_cast<const char*>(data), size});
   DxfContext context(log, {.copyBudget = 1 << 22});
   CLayer layer;
