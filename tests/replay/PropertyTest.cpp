@@ -10,6 +10,7 @@
 #include "base/Numbers.h"
 #include "headless/KeptMessages.h"
 #include "model/ShapePolygon.h"
+#include "replay/driver/Names.h"
 #include "replay/driver/Player.h"
 #include "resources/CommandIds.h"
 #include "support/Fakes.h"
@@ -318,8 +319,10 @@ void PlayScript(unsigned seed)
   player.Play(Json::object({{"do", "size"}, {"cx", 800}, {"cy", 600}}), Detail::Events);
   for (int step = 0; step < stepsOfScript; ++step) {
     const Json made = maker.Next();
+    Json told = made;
+    NamesForNumbers(told);
     SCOPED_TRACE("script " + std::to_string(seed) + ", step " + std::to_string(step) + ": " +
-                 made.dump());
+                 told.dump());
     player.Play(made, Detail::Events);
     ExpectOneEditingShapeAGroup(editor.app);
     ExpectNothingInTwoPlaces(editor.app);

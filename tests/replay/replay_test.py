@@ -4,6 +4,7 @@
 A script is a file of JSON lines, as hullwright-replay takes them. A line that begins with "#=" tells what the
 step before it must report: each member that it names, and whatever it leaves out is left open. Lists count as a
 whole, "*" stands for any value, and numbers may differ in their last digits. Other lines with "#" are remarks.
+README.md beside this file has the language.
 """
 
 import json
@@ -40,14 +41,38 @@ def difference(expected, found, place=""):
     return f"{place} is {json.dumps(found)[:400]} instead of {json.dumps(expected)[:400]}"
 
 
-def expectations(path):
-    """The lines of a script that tell what a step must report: (line, step, expected)."""
-    step = -1
-    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+def whole_lines(text):
+    """The steps and expectations of a script: (line, text). One that ends in a backslash goes on in the next
+    line without the blanks that it begins with, and in an expectation without the "#" before them."""
+    begin, whole = 0, ""
+    for number, line in enumerate(text.removesuffix("\n").split("\n"), 1):
         line = line.strip()
+        if begin and whole.startswith("#"):
+            if not line.startswith("#"):
+                raise ValueError(f"{number}: the expectation of line {begin} does not go on")
+            line = line[1:].lstrip()
+        elif not begin and (not line or line.startswith("#") and not line.startswith("#=")):
+            continue
+        begin = begin or number
+        whole += line.removesuffix("\\")
+        if not line.endswith("\\"):
+            yield begin, whole
+            begin, whole = 0, ""
+    if begin:
+        raise ValueError(f"{begin}: goes on beyond the last line")
+
+
+def expectations(path):
+    """What a script tells that its steps must report: (line, step, expected)."""
+    step = -1
+    for number, line in whole_lines(path.read_text(encoding="utf-8")):
+        try:
+            told = json.loads(line.removeprefix("#="))
+        except json.JSONDecodeError as problem:
+            raise ValueError(f"{number}: {problem}") from problem
         if line.startswith("#="):
-            yield number, step, json.loads(line[2:])
-        elif line and not line.startswith("#") and "do" in json.loads(line):
+            yield number, step, told
+        elif "do" in told:
             step += 1
 
 
@@ -59,13 +84,16 @@ def play(program, path):
     if done.returncode or done.stderr:
         return [f"{path}: {done.stderr.decode(errors='replace') or done.returncode}"]
     reports = [json.loads(line) for line in done.stdout.decode("utf-8", "surrogatepass").splitlines()]
-    wrong, told = [], 0
-    for number, step, expected in expectations(path):
-        told += 1
+    try:
+        expected_of_steps = list(expectations(path))
+    except ValueError as problem:
+        return [f"{path}:{problem}"]
+    wrong = []
+    for number, step, expected in expected_of_steps:
         problem = difference(expected, reports[step]) if 0 <= step < len(reports) else "no step before it"
         if problem:
             wrong.append(f"{path}:{number}: {problem}")
-    return wrong if told else [f"{path}: tells nothing that is expected"]
+    return wrong if expected_of_steps else [f"{path}: tells nothing that is expected"]
 
 
 def main():

@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "cli/Json.h"
+#include "replay/driver/Names.h"
 #include "replay/driver/Player.h"
-#include "replay/driver/Script.h"
+#include "replay/driver/ScriptFile.h"
 #include "support/TempFolder.h"
 
-// hullwright-replay SCRIPT [--work DIR] [--full]: plays a script and prints what each step does.
+// hullwright-replay SCRIPT [--work DIR] [--full]: plays a script and prints what each step does;
+// --names: prints the names that scripts may have for numbers.
 namespace {
 
 using namespace hullwright;
@@ -24,6 +26,7 @@ struct Options {
   std::string script;
   std::string work;
   bool full = false;
+  bool names = false;
 };
 
 bool ReadOptions(std::span<char* const> words, Options& options)
@@ -32,6 +35,8 @@ bool ReadOptions(std::span<char* const> words, Options& options)
     const std::string_view word = words[i];
     if (word == "--full") {
       options.full = true;
+    } else if (word == "--names") {
+      options.names = true;
     } else if (word == "--work" && i + 1 < words.size()) {
       options.work = words[++i];
     } else if (options.script.empty() && !word.starts_with('-')) {
@@ -40,7 +45,7 @@ bool ReadOptions(std::span<char* const> words, Options& options)
       return false;
     }
   }
-  return !options.script.empty();
+  return options.script.empty() == options.names;
 }
 
 std::string SqlText(const Json& value)
@@ -98,30 +103,14 @@ void PrepareWork(const Json& header, ReplayEditor& editor)
   }
 }
 
-/// The lines of a script; false with a word on standard error where one is no object.
-bool ReadScript(const std::string& path, std::vector<Json>& lines)
+/// Prints every name that a script may have, with its number.
+void PrintNames()
 {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    std::fprintf(stderr, "hullwright-replay: %s: can't be read\n", path.c_str());
-    return false;
-  }
-  constexpr const char* blanks = " \t\r";
-  int number = 0;
-  for (std::string line; std::getline(file, line);) {
-    ++number;
-    const std::size_t first = line.find_first_not_of(blanks);
-    if (first == std::string::npos || line[first] == '#') continue;
-    try {
-      lines.push_back(ParseLine(line));
-      if (lines.back().is_object()) continue;
-      std::fprintf(stderr, "hullwright-replay: %s:%d: no object\n", path.c_str(), number);
-    } catch (const Json::exception& problem) {
-      std::fprintf(stderr, "hullwright-replay: %s:%d: %s\n", path.c_str(), number, problem.what());
+  for (const NameTable* const table : AllNames()) {
+    for (const CodeName& row : table->rows) {
+      std::printf("%s\t%d\t%s\n", table->what, row.number, row.name.c_str());
     }
-    return false;
   }
-  return true;
 }
 
 void Play(const std::vector<Json>& lines, const fs::path& work, bool full)
@@ -143,11 +132,14 @@ int Run(std::span<char* const> words)
 {
   Options options;
   if (!ReadOptions(words, options)) {
-    std::fputs("Usage: hullwright-replay SCRIPT [--work DIR] [--full]\n", stderr);
+    std::fputs("Usage: hullwright-replay SCRIPT [--work DIR] [--full] | --names\n", stderr);
     return exitUsage;
   }
-  std::vector<Json> lines;
-  if (!ReadScript(options.script, lines)) return exitFailed;
+  if (options.names) {
+    PrintNames();
+    return 0;
+  }
+  const std::vector<Json> lines = ReadScript(options.script);
   const test::TempFolder temporary;
   const fs::path work = options.work.empty() ? temporary.Path() : fs::path(options.work);
   fs::create_directories(work);

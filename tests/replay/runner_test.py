@@ -1,0 +1,54 @@
+#!/usr/bin/env python3
+"""Tests of what replay_test.py makes of a script: how lines go on, and what counts as a difference."""
+
+import json
+import pathlib
+import tempfile
+import unittest
+
+from replay_test import difference, expectations, whole_lines
+
+
+def expected(script):
+    """What a script of that text expects."""
+    with tempfile.TemporaryDirectory() as folder:
+        path = pathlib.Path(folder) / "script"
+        path.write_text(script, encoding="utf-8")
+        return list(expectations(path))
+
+
+class Lines(unittest.TestCase):
+    def test_a_backslash_at_the_end_goes_on_behind_the_blanks_of_the_next_line(self):
+        script = '# remark \\\n{"do":\\\n   "new"}\n#= {"file":"a \\\n#    b\\n\\  \n# c"}\n'
+        self.assertEqual(list(whole_lines(script)), [(2, '{"do":"new"}'), (4, '#= {"file":"a b\\nc"}')])
+
+    def test_an_expectation_goes_on_in_remarks_alone(self):
+        with self.assertRaisesRegex(ValueError, "^2: .* line 1 "):
+            list(whole_lines('#= {"file":\\\n"a"}\n'))
+
+    def test_the_last_line_does_not_go_on(self):
+        with self.assertRaisesRegex(ValueError, "^1: "):
+            list(whole_lines('#= {}\\\n'))
+
+
+class Expectations(unittest.TestCase):
+    def test_they_belong_to_the_step_before_them(self):
+        script = '{"open":"a"}\n{"do":"new"}\n#= {"result":true}\n\n{"do":\\\n"save"}\n#= 1\n#= 2\n'
+        self.assertEqual(expected(script), [(3, 0, {"result": True}), (7, 1, 1), (8, 1, 2)])
+
+    def test_what_cannot_be_read_is_told_with_its_line(self):
+        with self.assertRaisesRegex(ValueError, "^2: "):
+            expected('{"do":"new"}\n#= {"result"}\n')
+
+
+class Differences(unittest.TestCase):
+    def test_what_is_left_out_is_left_open(self):
+        self.assertIsNone(difference({"a": 1, "b": "*"}, {"a": 1 + 1e-12, "b": [3], "c": 4}))
+
+    def test_everything_else_counts(self):
+        for told, found in (({"a": 1}, {}), ([1], [1, 2]), (1, 1.001), (True, 1), ("1", 1), (None, 0)):
+            self.assertIsNotNone(difference(told, found), json.dumps([told, found]))
+
+
+if __name__ == "__main__":
+    unittest.main()
