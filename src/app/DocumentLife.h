@@ -32,7 +32,8 @@ struct DocumentPorts {
 /// after the last new, open or whole save, after a save that failed, and while a polyline is drawn.
 class DocumentLife {
 public:
-  /// `design` is the state that `document` moves. No file is remembered until it is told how many.
+  /// `design` is the state that `document` moves. No file is remembered until `KeepRecentFiles`
+  /// states how many.
   DocumentLife(CHullwrightDoc& document, const DesignState& design, const DocumentPorts& ports);
 
   /// Sets the length of the list of recent files.

@@ -18,7 +18,7 @@ Editor::Editor(const Ports& ports)
 
 Editor::~Editor()
 {
-  // What goes must not be told of what goes after it.
+  // A part that is released must not be notified of the release of the next one.
   app.mainFrame = nullptr;
   frame.objectView = nullptr;
   frame.view = nullptr;

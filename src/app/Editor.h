@@ -21,7 +21,7 @@ struct Ports {
   ICursor& cursor;
   IRubberBand& rubberBand;
   IPopupMenu& popupMenu;
-  IMainWindow* listener = nullptr;  ///< hears what the frame is told, before the frame acts on it
+  IMainWindow* listener = nullptr;  ///< gets the frame's notifications before it acts on them
 };
 
 /// The whole editor: application, frame, document, view and object pane, put together over one set

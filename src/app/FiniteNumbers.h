@@ -16,7 +16,7 @@ struct NonFiniteNumbers {
 /// Looks through all numbers that a save writes.
 NonFiniteNumbers FindNonFiniteNumbers(const DesignState& design);
 
-/// Tells of such numbers: "holds numbers that are not finite (2): polyline 1 (top), point 3". Empty
+/// Reports such numbers: "holds numbers that are not finite (2): polyline 1 (top), point 3". Empty
 /// where there are none.
 std::u16string Describe(const NonFiniteNumbers& numbers);
 

@@ -42,7 +42,7 @@ public:
   ~CHullwrightApp() override;
 
   /// Start-up to the first selected side, which is always the top. False ends the process; only a
-  /// failure of the libraries is told in a message.
+  /// failure of the libraries is reported in a message.
   bool InitInstance(IFramework& framework);
 
   /// The process's exit code.
@@ -68,8 +68,8 @@ public:
   void RotatePolylines(double angleDegrees);
 
   /// Takes the shapes of the side in view, the antenna's and the transducer's offset from one unit
-  /// to another, if the user wants to. Without shapes there, or between equal units, nobody is
-  /// asked.
+  /// to another, if the user confirms it. Without shapes there, or between equal units, there is no
+  /// question.
   void ConvertDesign(UnitCode from, UnitCode to);
 
   /// The units of length that the database has now.
@@ -82,7 +82,7 @@ public:
   /// Repaints the design.
   void Repaint() const;
 
-  /// Tells that a command has changed the design: repaint, tree, modified.
+  /// Notifies all of a change of the design by a command: repaint, tree, modified.
   void TellAll();
 
   bool AskYesNo(std::u16string_view question) { return ports_.messages.AskYesNo(question); }

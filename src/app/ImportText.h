@@ -7,7 +7,7 @@
 
 namespace hullwright {
 
-/// Told of a drawing that gives nothing at all.
+/// Reported for a drawing that gives nothing at all.
 inline constexpr std::u16string_view unreadableDrawing =
     u"the drawing can't be read, or it is empty";
 

@@ -18,7 +18,7 @@ class CObjectView;
 /// commands and what they answer about themselves. The editor makes it and sets document and views.
 class CMainFrame : public IMainWindow {
 public:
-  /// `listener` hears of every notification and flag before anything comes of it; null for nobody.
+  /// `listener` gets every notification and flag before the frame acts on it; may be null.
   CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow* listener = nullptr);
 
   bool HasWindow() const override { return hasWindow; }

@@ -39,7 +39,7 @@ enum class TreeImage : int {
 
 /// The design as a tree: sides with their polylines and points, and the anchors. It refers to the
 /// design and copies nothing of it but what is needed to stay as it is until the next rebuild: a
-/// rebuild costs a polyline, never a point, and texts are made when they are asked for. Whoever
+/// rebuild costs a polyline, never a point, and texts are made when they are shown. Whoever
 /// frees or adds shapes must ask for a rebuild before the tree is looked at again; whoever changes
 /// a vertex without one must have its text kept.
 class CObjectTree {

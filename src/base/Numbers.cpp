@@ -56,8 +56,8 @@ bool StartsWithNoCase(std::string_view text, std::string_view lower)
 
 bool HasHexPrefix(std::string_view text) { return StartsWithNoCase(text, "0x") && text.size() > 2; }
 
-/// Tells overflow from underflow for a number that `from_chars` found out of range: its first
-/// significant digit stands before the point or it does not, moved by the exponent.
+/// Distinguishes overflow from underflow for a number that `from_chars` found out of range: its
+/// first significant digit stands before the point or it does not, moved by the exponent.
 bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
 {
   long long position = 0;

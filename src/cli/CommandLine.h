@@ -10,7 +10,7 @@
 
 namespace hullwright {
 
-/// What a file is told not to be that should be a design.
+/// The message for a file that should be a design and is none.
 inline constexpr const char* notADesign = "not a design: it does not begin as XML does";
 
 // Exit statuses of the command line.
@@ -29,27 +29,27 @@ extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb renderVerb;
 
-/// Tells what went wrong on standard error; the exit status for a failure.
+/// Reports what went wrong on standard error; the exit status for a failure.
 int Fail(const std::string& problem);
 
-/// Tells something about a file on standard error that is no failure.
+/// Reports something about a file on standard error that is no failure.
 void Remark(const std::string& file, std::u16string_view text);
 
-/// Tells what is wrong with the arguments of a verb on standard error, and where its help is; the
+/// Reports what is wrong with the arguments of a verb on standard error, and where its help is; the
 /// exit status for wrong usage. Null for no verb.
 int UsageError(const char* verb, const std::string& problem);
 
-/// Whether standard input is asked for more than once; that is told.
+/// Whether standard input is named more than once, which is reported.
 bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs);
 
 /// The arguments of a verb that are no options.
 struct Arguments {
   std::vector<std::string> words;
-  bool wrong = false;  ///< an option is unknown, lacks its value, or was refused; that was told
+  bool wrong = false;  ///< an option is unknown, lacks its value, or was refused, as was reported
 };
 
 /// Reads the options of a verb, whose name is the first argument. `take` gets each with its letter
-/// and its value, which is null for one without, and tells what is wrong with it; empty for
+/// and its value, which is null for one without, and returns what is wrong with it; empty for
 /// nothing.
 Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<const option> options,
                         const std::function<std::string(int letter, const char* value)>& take);

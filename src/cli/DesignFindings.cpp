@@ -15,7 +15,7 @@
 namespace hullwright {
 namespace {
 
-/// How the place of a loss is told.
+/// How the place of a loss is reported.
 enum class Example {
   Element,             ///< <name>
   ElementInParent,     ///< <name> in <anchor>
@@ -33,7 +33,7 @@ struct LossWords {
   Example example;
 };
 
-/// In the order in which they are told.
+/// In the order in which they are reported.
 constexpr auto lossWords = std::to_array<LossWords>({
     {LossKind::GroupBehindOneOfAllSides,
      "a group of all sides hides groups behind it; they are never seen", Example::Attribute},
@@ -160,7 +160,7 @@ std::vector<std::string> NumberFindings(const DesignState& design)
 std::vector<std::string> UnitFindings(CHullwrightApp& app)
 {
   const std::int32_t code = NumberOf(app.unitCode);
-  // Code 0 is told as one that a save leaves out.
+  // Code 0 is reported as one that a save leaves out.
   if (code == 0 || HasUnitFactor(app.unitCode)) return {};
   std::string text = "the unit code " + std::to_string(code);
   const std::vector<UnitRecord> units = app.ReadUnits();

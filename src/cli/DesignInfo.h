@@ -5,7 +5,7 @@
 
 namespace hullwright {
 
-/// Tells what a design holds: unit, offsets, anchors, and what stands on each side. As text for
+/// Prints what a design holds: unit, offsets, anchors, and what stands on each side. As text for
 /// people.
 void PrintDesign(HeadlessEditor& editor, const std::string& name);
 

@@ -17,11 +17,11 @@
 
 namespace hullwright {
 
-/// The editor on designs and drawings that nobody edits: opens, imports, saves, and brings sides
+/// The editor on designs and drawings without a user: opens, imports, saves, and brings sides
 /// into view on a drawing target of the caller's, or without a picture.
 class HeadlessEditor {
 public:
-  /// Without a picture. `widgets` shows the progress of imports; null for nobody.
+  /// Without a picture. `widgets` shows the progress of imports; may be null.
   explicit HeadlessEditor(IFrameWidgets* widgets = nullptr);
   explicit HeadlessEditor(IDrawingTarget& target);
 

@@ -72,7 +72,7 @@ private:
   bool isTerminal_ = isatty(STDERR_FILENO) != 0;
 };
 
-/// Hears of the progress where there is no frame.
+/// Takes the progress where there is no frame.
 class ImportWindow : public SilentWindow {
 public:
   void Notify(Notification code, std::intptr_t value) override
@@ -85,7 +85,7 @@ private:
   TerminalProgress progress_;
 };
 
-/// Tells what an import passed over, and where it gave nothing. `keepsAll` is false where only
+/// Reports what an import passed over, and where it gave nothing. `keepsAll` is false where only
 /// polylines are kept.
 void TellTally(const std::string& name, const ImportTally& tally, bool keepsAll)
 {

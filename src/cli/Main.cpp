@@ -63,7 +63,7 @@ int RunVerb(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-  // A file that grows too large is an error to be told, not the end.
+  // A file that grows too large is an error to be reported, not the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
   try {
     return WithOutput(RunVerb(argc, argv));

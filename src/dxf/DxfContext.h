@@ -23,7 +23,7 @@ struct DxfOptions {
 /// The blocks of a drawing by their names, which are compared byte by byte.
 using DxfBlocks = std::map<std::string, std::unique_ptr<CFileDxfBlock>, std::less<>>;
 
-/// What a drawing has told so far, for the readers of its records.
+/// What has been read of a drawing so far, for the readers of its records.
 struct DxfContext {
   DxfContext(const ITrace& trace, const DxfOptions& options)
       : log(trace), copyBudget(options.copyBudget), ignoreExtrusion(options.ignoreExtrusion)

@@ -13,7 +13,7 @@ constexpr std::u16string_view tooManyCopies =
     u"[DXF] The inserted blocks of this drawing take too much memory; the rest of their copies is "
     u"left out.";
 
-/// Pays for a copy; the one that the budget does not suffice for is told in the log.
+/// Pays for a copy; the one that exceeds the budget is reported in the log.
 bool TakeCopyBudget(const CShape& shape, DxfContext& context)
 {
   const bool toldBefore = context.copyBudget.IsUsedUp();

@@ -56,7 +56,7 @@ public:
 
   bool IsAtEnd() const { return position_ == text_.size(); }
 
-  /// Tells the main window how far the reading is, once for each percent.
+  /// Notifies the main window how far the reading is, once for each percent.
   void ReportProgress(IMainWindow& frame);
 
 private:

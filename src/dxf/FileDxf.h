@@ -19,14 +19,14 @@ namespace hullwright {
 /// object lives for one import.
 class CFileDxf : public CFileBase {
 public:
-  /// `frame` hears of the progress and may be null, which `ProcessFile` refuses.
+  /// `frame` is notified of the progress and may be null, which `ProcessFile` refuses.
   CFileDxf(IMainWindow* frame, const ITrace& log, const DxfOptions& options = {});
 
   /// Reads a drawing into a layer. 0 on success; -1, with a record in the log, for a file that
   /// can't be read or is empty. A file that is no drawing gives no shapes and counts as read.
   int Import(std::u16string_view filePath, CLayer* layer);
 
-  /// What the drawing has told.
+  /// What was read of the drawing.
   const DxfContext& Drawing() const { return context_; }
 
   /// What came in and what did not; complete when the import is through.

@@ -7,8 +7,8 @@
 
 namespace hullwright {
 
-/// A block of a drawing with its shapes, ready to be inserted. Its header is kept for whoever wants
-/// to know; the insertion uses none of it, not even the base point.
+/// A block of a drawing with its shapes, ready to be inserted. Its header is kept as it stands in
+/// the drawing; the insertion uses none of it, not even the base point.
 class CFileDxfBlock : public CShapes {
 public:
   std::string name;

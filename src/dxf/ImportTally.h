@@ -39,7 +39,7 @@ struct ImportTally {
   std::size_t withoutMemory = 0;
   std::size_t cutParts = 0;  ///< sections and blocks that a line too long ended before their time
 
-  bool isBinary = false;     ///< the file is a drawing in its binary form, which nobody reads
+  bool isBinary = false;     ///< the file is a drawing in its binary form, which is not read
   bool hasSections = false;  ///< the file has a line that begins a section
 };
 

@@ -45,7 +45,7 @@ std::size_t AfterNumber(Text text, std::size_t at)
   return fraction > whole + 1 ? fraction : whole;
 }
 
-// A matcher tells the length of its match at a backslash, 0 where there is none.
+// A matcher returns the length of its match at a backslash, 0 where there is none.
 
 /// A backslash, one letter, digits and a semicolon.
 std::size_t MatchNumbered(Text text, std::size_t at, char16_t letter)

@@ -27,7 +27,7 @@ enum class ElementKind {
   AnchorField,  ///< a text between tags
 };
 
-/// Who knows an element.
+/// Which readers and writers have an element.
 enum class ElementUse {
   Saved,        ///< reader and writer of designs
   OnlyRead,     ///< the reader of designs alone

@@ -25,7 +25,7 @@ void TellIfNotFinite(const DesignNumber& number, const Tell& tell)
   if (!std::isfinite(number.value)) tell(number);
 }
 
-/// Tells of the coordinates of a vertex; `number` is its place.
+/// Reports the coordinates of a vertex; `number` is its place.
 void TellCoordinates(const CShapeVertex& vertex, DesignNumber number, const Tell& tell)
 {
   for (const Coordinate& coordinate : coordinates) {

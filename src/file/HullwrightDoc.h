@@ -25,13 +25,13 @@ public:
   bool OnNewDocument();
 
   /// Replaces the design by that of a file; true only on full success. A file that can't be opened
-  /// is told in a message and changes nothing. One that is not well-formed fails without a word:
+  /// is reported in a message and changes nothing. One that is not well-formed fails silently:
   /// the groups that ended before the error are in the design, which otherwise is empty, and
   /// offsets and unit stay as they were.
   bool OnOpenDocument(std::u16string_view path);
 
   /// Writes the design to a file. Always true, and the design then counts as saved, also when the
-  /// writing failed; `CFileVessel` tells what the user gets to see.
+  /// writing failed; `CFileVessel` states what is reported to the user.
   bool OnSaveDocument(std::u16string_view path);
 
   /// Whether the last save reached the disk whole. A design for whose text memory ended is not
@@ -58,7 +58,7 @@ public:
   /// what the file of before holds, also if the open fails later.
   std::function<void()> onEmptied;
 
-  /// Called when a save has failed, before the user is told: the target may be torn.
+  /// Called when a save has failed, before it is reported to the user: the target may be torn.
   std::function<void()> onSaveFailed;
 
   void SetModifiedFlag(bool modified) { modified_ = modified; }

@@ -173,7 +173,7 @@ bool Feed(std::FILE* file, XML_Parser parser)
   return true;
 }
 
-/// Why a parse that has just failed did so. Asks `errno`, so nothing may come in between.
+/// Why a parse that has just failed did so. Reads `errno`, so nothing may come in between.
 std::string FailureReason(const Driver& driver, std::FILE* file, XML_Parser parser)
 {
   if (std::ferror(file) != 0) return ErrorText(errno);

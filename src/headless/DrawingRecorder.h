@@ -74,7 +74,7 @@ using DrawingCall =
     std::variant<StepTaken, PictureResized, FrameBegun, FrameEnded, LineDrawn, RectangleDrawn,
                  RectangleFilled, EllipseDrawn, FiguresDrawn, TextDrawn>;
 
-/// What a recorder can be told to fail at, beside the steps.
+/// What a recorder can be made to fail at, beside the steps.
 enum class DrawingFailure {
   None,
   Colour,     ///< nothing with a colour is drawn, apart from the background

@@ -9,7 +9,7 @@
 
 namespace hullwright {
 
-/// A pointer that nobody moves: keeps the cursors, the lines of the rubber band and the context
+/// A pointer without a device: keeps the cursors, the lines of the rubber band and the context
 /// menu that it is given.
 class KeptPointer : public ICursor, public IRubberBand, public IPopupMenu {
 public:

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// An object tree that nobody sees; a base for what keeps a part of it.
+/// An object tree that is not shown; a base for what keeps a part of it.
 class NoTree : public ITreeControl {
 public:
   void BeforeRebuild() override {}

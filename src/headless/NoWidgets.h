@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// Hears of the frame's look and shows nothing; a base for what shows a part of it.
+/// Widgets of a frame that show nothing; a base for what shows a part of it.
 class NoWidgets : public IFrameWidgets {
 public:
   void SetViewButtonImage(CommandId) override {}

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// Stands where a main window is told of changes and progress; a base for what hears a part of it.
+/// A main window that ignores changes and progress; a base for what handles a part of them.
 class SilentWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return true; }

@@ -45,7 +45,7 @@ private:
 /// upper one below its negative, is never taken over.
 constexpr Extents EmptyWithin(double reach) { return {reach, reach, -reach, -reach}; }
 
-/// What the box of a drawing's layer begins with; it is told as it is where the layer has no
+/// What the box of a drawing's layer begins with; it is reported as it is where the layer has no
 /// shapes.
 inline constexpr Extents emptyLayerExtents = EmptyWithin(1e24);
 

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// The user's grid, in design units. Nobody keeps a copy: each reader asks the settings store
+/// The user's grid, in design units. No reader keeps a copy: each reads the settings store
 /// again.
 struct GridSettings {
   std::int32_t show = 1;  ///< the grid is drawn

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// Tells whether a point lies in a closed outline whose edges are given one after the other. A
+/// Tests whether a point lies in a closed outline whose edges are given one after the other. A
 /// point on an edge or a corner is inside.
 class RingTest {
 public:

@@ -95,7 +95,7 @@ struct TextBlock {
 enum class TargetStep {
   Window,      ///< there is a window
   Drawing,     ///< what figures are drawn with
-  ClientArea,  ///< the window can tell its size
+  ClientArea,  ///< the window has a size that is known
   Picture,     ///< the picture of the window, of its client size
   Texts,       ///< what texts are measured and drawn with
   Imaging      ///< what picture files are made with

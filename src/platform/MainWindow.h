@@ -13,7 +13,7 @@ enum class Notification : int {
   RepaintDesign = 1124,
 };
 
-/// The program's switchboard: everything that changes the design tells the rest through it,
+/// The program's switchboard: everything that changes the design notifies the rest through it,
 /// synchronously. `NotifyDesignChanged` is the pair repaint, then tree.
 class IMainWindow {
 public:

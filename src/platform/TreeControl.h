@@ -11,7 +11,7 @@ class ITreeControl {
 public:
   virtual ~ITreeControl() = default;
 
-  /// The tree is about to be rebuilt; nothing of it may be asked until it is.
+  /// The tree is about to be rebuilt; nothing of it may be read until it is.
   virtual void BeforeRebuild() = 0;
 
   /// The tree has been rebuilt: both roots are shown expanded, everything below collapsed, and

@@ -366,7 +366,7 @@ void MainWindow::dropEvent(QDropEvent* event)
   const QStringList paths = DroppedFiles(*event->mimeData());
   if (paths.isEmpty()) return;
   AcceptCopy(*event);
-  // Opening may ask a question, for which the one who dropped must not wait. A dialog that has
+  // Opening may ask a question, for which the source of the drop must not wait. A dialog that has
   // opened meanwhile works on the design as it is; it goes first.
   QTimer::singleShot(0, this, [this, paths] {
     if (QApplication::activeModalWidget() == nullptr) {

@@ -35,7 +35,7 @@ struct DeskPorts {
 };
 
 /// The window: menu bar, main toolbar, status bar with three panes, and the design view in the
-/// middle. It owns the editor and brings every command to whoever carries it out.
+/// middle. It owns the editor and passes every command on to its handler.
 class MainWindow : public QMainWindow, public IFrameWidgets {
   Q_OBJECT
 
@@ -117,7 +117,7 @@ private:
   QPointer<CustomizeDialog> customizing_;  ///< while it is open
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;
-  QString note_;      ///< what came of the last command; empty for nothing to tell
+  QString note_;      ///< what came of the last command; empty for nothing to report
   QPoint notePlace_;  ///< of the mouse on the screen when the note came
   PromptPane* prompt_ = nullptr;
   ProgressPane* progress_ = nullptr;  ///< takes the prompt's place

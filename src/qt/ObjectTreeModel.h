@@ -8,7 +8,7 @@
 
 namespace hullwright {
 
-/// The object tree for the toolkit: answers from the tree when it is asked and keeps nothing
+/// The object tree for the toolkit: reads from the tree at each call and keeps nothing
 /// itself.
 class ObjectTreeModel : public QAbstractItemModel {
   Q_OBJECT

@@ -67,7 +67,7 @@ void ObjectTreeWidget::Rebuilt()
 
 void ObjectTreeWidget::ImagesChanged()
 {
-  // Whatever is seen is asked for its image again; telling of each changed row would take longer.
+  // Images of all visible rows are read again; notifying of each changed row would take longer.
   viewport()->update();
 }
 

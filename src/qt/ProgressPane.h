@@ -5,8 +5,8 @@
 
 namespace hullwright {
 
-/// A text with a progress bar in the status bar, for work that keeps the program busy: what it is
-/// told is on the screen at once, without the event loop.
+/// A text with a progress bar in the status bar, for work that keeps the program busy: what it
+/// gets is on the screen at once, without the event loop.
 class ProgressPane : public QWidget {
   Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace hullwright {
 
-/// The pane of the status bar that tells what goes on. Of a text that is too long for it
+/// The pane of the status bar that shows what goes on. Of a text that is too long for it
 /// both ends are shown; the whole text stands in the tooltip.
 class PromptPane : public QLabel {
   Q_OBJECT

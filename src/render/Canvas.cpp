@@ -13,11 +13,11 @@ std::string Hex8(ResultCode code) { return FormatHex(static_cast<std::uint32_t>(
 constexpr std::uint32_t dispatchErrorFirst = 0x80040200U;
 constexpr std::uint32_t dispatchErrorLast = 0x8004FFFFU;
 
-/// A step of the initialisation, and what is told where it fails.
+/// A step of the initialisation, and what is reported where it fails.
 struct StepRow {
   TargetStep step;
-  std::string_view failure;  ///< nothing is told where this is empty
-  bool withCode;             ///< the failure is told with its code
+  std::string_view failure;  ///< nothing is reported where this is empty
+  bool withCode;             ///< the failure is reported with its code
   bool held;                 ///< what the step yields is held
   bool mustYield;            ///< yielding nothing is a failure, too
 };

@@ -20,7 +20,7 @@ public:
   CCanvas& operator=(const CCanvas&) = delete;
   virtual ~CCanvas() = default;
 
-  /// Makes a target ready, which must outlive the canvas. On the first failure `errorText` tells
+  /// Makes a target ready, which must outlive the canvas. On the first failure `errorText` states
   /// it, the result is false, and what was held so far stays.
   bool Initialize(IDrawingTarget* target);
 

@@ -68,7 +68,7 @@ public:
   /// Whether zooming leads on from here: edges and extents are finite, and neither extent is zero.
   bool IsUsable() const;
 
-  /// Gives a view that is no longer usable the window that it began with, and tells whether it did.
+  /// Gives a view that is no longer usable the window that it began with; true if it did.
   bool Recover();
 
   CCanvas* canvas = nullptr;  ///< what the shapes draw on; set by the design view

@@ -10,7 +10,7 @@ inline constexpr const char* program = "Hullwright";
 
 inline constexpr std::u16string_view librariesFailed =
     u"OLE initialization failed.  Make sure that the OLE libraries are the correct version.";
-/// Told when a design could not be written.
+/// Shown when a design could not be written.
 inline constexpr std::u16string_view writeFailed = u"Error writing config file!!!";
 inline constexpr std::u16string_view standardToolBar = u"Standard";
 inline constexpr std::u16string_view customize = u"Customize...";
@@ -19,7 +19,7 @@ inline constexpr std::u16string_view ready = u"Ready";
 inline constexpr std::u16string_view paneEmpty = u"N/A";
 inline constexpr std::u16string_view untitled = u"Untitled";
 
-/// Told when the units dialog is to be left without a choice.
+/// Shown when the units dialog is to be left without a choice.
 inline constexpr std::u16string_view selectUnit = u"Please select an unit from the list first !";
 inline constexpr std::u16string_view deleteAllShapes =
     u"Are you sure you want to delete all shapes ?";

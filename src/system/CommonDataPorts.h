@@ -14,8 +14,8 @@ namespace hullwright {
 /// What the application finds in the common data folders: the units of length and the log.
 class CommonDataPorts {
 public:
-  /// `folder` tells where each is to be found, at each use; `messages` tells of a library that is
-  /// missing.
+  /// `folder` returns where each is to be found, at each use; a library that is missing is reported
+  /// in `messages`.
   explicit CommonDataPorts(IMessageBoxes& messages,
                            std::function<std::u16string(CommonData)> folder = FindCommonDataFolder)
       : folder_(std::move(folder)),

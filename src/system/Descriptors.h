@@ -30,7 +30,7 @@ private:
 /// Makes an empty file with a name of its own in a folder; its path, empty where that fails.
 std::string MakeTemporary(const std::filesystem::path& folder);
 
-/// Where files lie that are nobody's business.
+/// Where temporary files lie that belong to no folder of the user.
 std::filesystem::path TemporaryFolder();
 
 /// Writes all bytes; false with `errno` where that fails.

@@ -8,7 +8,7 @@ namespace hullwright {
 /// UTF-8, is read from a copy.
 class InputFile {
 public:
-  /// Reads standard input to its end where that is asked for.
+  /// Reads standard input to its end where that is the file.
   explicit InputFile(const std::string& name);
   InputFile(const InputFile&) = delete;
   InputFile& operator=(const InputFile&) = delete;

@@ -25,7 +25,7 @@ public:
   CSQLite& operator=(const CSQLite&) = delete;
   virtual ~CSQLite();
 
-  /// Loads the library and binds all entry points. A library that is not there is told in a
+  /// Loads the library and binds all entry points. A library that is not there is reported in a
   /// message; a missing entry point is not. -1 as well when a library is loaded already.
   int Load();
 

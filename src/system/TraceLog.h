@@ -16,7 +16,7 @@ namespace hullwright {
 /// written is silently left.
 class CTraceLog : public ITrace {
 public:
-  /// `commonDataFolder` tells the folder at each record, since it may come to be during the run.
+  /// `commonDataFolder` returns the folder at each record, since it may come to be during the run.
   explicit CTraceLog(std::function<std::u16string()> commonDataFolder)
       : folder_(std::move(commonDataFolder))
   {

@@ -17,15 +17,15 @@ namespace hullwright {
 std::u16string GetDatabasePath(std::u16string_view commonDataFolder);
 
 /// The units of length in the database, in the order of their codes; empty when the library, the
-/// file, the table or its rows are missing. Only a missing library is told in a message. A column
-/// that is null keeps the value of the row before.
+/// file, the table or its rows are missing. Only a missing library is reported in a message. A
+/// column that is null keeps the value of the row before.
 std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
                                   std::u16string_view databasePath);
 
 /// The unit database in the common data folder.
 class UnitDatabase : public IUnitDatabase {
 public:
-  /// `commonDataFolder` tells the folder at each reading, since it may come to be during the run.
+  /// `commonDataFolder` returns the folder at each reading, since it may come to be during the run.
   UnitDatabase(ILibraryLoader& loader, IMessageBoxes& messages,
                std::function<std::u16string()> commonDataFolder)
       : loader_(loader), messages_(messages), folder_(std::move(commonDataFolder))

@@ -118,7 +118,7 @@ void CHullwrightView::RemoveHit()
   if (group == nullptr) return;
   const auto* const vertex = std::get_if<CShapeVertex*>(&hitVertex);
   if (hitKind == HitKind::Vertex && vertex != nullptr) {
-    // Only the shape that holds it: rings release any vertex that they are told to remove.
+    // Only the shape that holds it: rings release any vertex that they get for removal.
     const auto holds = [&](const auto& shape) {
       return shape &&
              std::ranges::find(shape->vertices, *vertex, &std::unique_ptr<CShapeVertex>::get) !=

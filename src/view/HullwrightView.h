@@ -39,7 +39,7 @@ public:
   ~CHullwrightView();
 
   /// Makes the canvas on the window's target, which must outlive the view. A canvas that fails is
-  /// told in a message; the view goes on without a picture.
+  /// reported in a message; the view goes on without a picture.
   void OnCreate(IDrawingTarget* target);
 
   void OnSize(int cx, int cy);

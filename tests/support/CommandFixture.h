@@ -11,7 +11,7 @@
 
 namespace hullwright::test {
 
-/// The application with its design commands, and what they tell.
+/// The application with its design commands, and their notifications.
 class CommandFixture : public AppFixture {
 protected:
   CShapePolyline& AddLine(ViewSide side, const CShapeVertex& vertex)

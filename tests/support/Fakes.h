@@ -15,7 +15,7 @@
 
 namespace hullwright::test {
 
-/// A main window that only counts what it is told.
+/// A main window that only keeps its notifications.
 class FakeMainWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return hasWindow; }
@@ -35,10 +35,10 @@ public:
   std::vector<Notification> codes;
   std::vector<std::intptr_t> values;
   std::vector<bool> flags;
-  std::function<void()> onTold;  ///< looks at what stands when it is told something
+  std::function<void()> onTold;  ///< called at each notification
 };
 
-/// Writes down what a main frame is told: "repaint", "tree", "modified", "clean", or a number.
+/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number.
 class HeardNotifications : public SilentWindow {
 public:
   void Notify(Notification code, std::intptr_t) override
@@ -79,7 +79,7 @@ public:
   std::function<void()> onInvalidate;
 };
 
-/// Counts what the tree's control is told, and keeps the menus that are offered.
+/// Counts the rebuilds of the tree's control, and keeps the menus that are offered.
 class FakeTreeControl : public NoTree {
 public:
   void BeforeRebuild() override { ++announced; }
