@@ -1,192 +1,309 @@
 #include "app/Dialogs.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "app/GridSettingsStore.h"
 #include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "resources/DialogTemplates.h"
+#include "resources/GridDialog.h"
+#include "resources/MoveDialog.h"
+#include "resources/OffsetsDialog.h"
+#include "resources/RotateDialog.h"
+#include "resources/ScaleDialog.h"
 #include "resources/Strings.h"
+#include "resources/VertexDialog.h"
 #include "view/PickedItem.h"
 
 namespace hullwright {
 namespace {
 
-/// Shows a number with two or three decimals.
-void ShowNumber(IDialogControls& controls, int id, double value, int decimals)
-{
-  controls.SetText(id, WideFromAscii(FormatFixed(value, decimals)));
-}
-
-double ReadNumber(const IDialogControls& controls, int id)
-{
-  return ParseDouble(controls.GetText(id));
-}
+/// An edit field bound to the number that it shows and sets.
+template <typename Values>
+struct NumberField {
+  ControlId field;
+  double& (*value)(Values&);
+  int decimals;
+};
 
 constexpr int shortDecimals = 2;
 constexpr int longDecimals = 3;
 
-/// A field of a vertex: the control that shows it.
-struct VertexField {
-  int id;
-  double CShapeVertex::*coordinate;
-};
-
-constexpr std::array<VertexField, 3> vertexFields = {
-    {{1008, &CShapeVertex::x}, {1009, &CShapeVertex::y}, {1023, &CShapeVertex::z}}};
-
-}  // namespace
-
-void CDialogNumbers::FillUnitLabels(IDialogControls& controls, std::initializer_list<int> ids)
+/// What a field is bound to: a member of the values.
+template <auto member>
+double& Of(auto& values)
 {
-  for (const int id : ids) {
-    std::u16string label = controls.GetText(id);
-    app_.GetUnitLabel(label);
-    controls.SetText(id, label);
+  return values.*member;
+}
+
+/// What a field is bound to: a coordinate of one of the design's offsets, which must be there.
+template <auto offset, auto coordinate>
+double& OffsetOf(DesignState& design)
+{
+  return *(design.*offset).*coordinate;
+}
+
+constexpr bool HasFields(const DialogTemplate& dialog, const auto& fields)
+{
+  return std::ranges::all_of(
+      fields, [&dialog](const auto& row) { return FindField(dialog, row.field) != nullptr; });
+}
+
+constexpr bool HasButtons(const DialogTemplate& dialog, const auto& buttons)
+{
+  return std::ranges::all_of(
+      buttons, [&dialog](const auto& row) { return FindButton(dialog, row.button) != nullptr; });
+}
+
+double ReadNumber(const IDialogControls& controls, ControlId field)
+{
+  return ParseDouble(controls.GetText(field));
+}
+
+void ShowNumbers(IDialogControls& controls, const auto& fields, auto& values)
+{
+  for (const auto& row : fields) {
+    controls.SetText(row.field, WideFromAscii(FormatFixed(row.value(values), row.decimals)));
   }
 }
 
-int CDialogGrid::Template() const { return DialogId::Grid; }
+void ReadNumbers(const IDialogControls& controls, const auto& fields, auto& values)
+{
+  for (const auto& row : fields) row.value(values) = ReadNumber(controls, row.field);
+}
+
+/// Fills the labels behind the fields with the short name of the design's unit; where that is not
+/// known, they keep the template's text.
+void FillUnitLabels(IDialogControls& controls, const DialogTemplate& dialog, const auto& fields,
+                    CHullwrightApp& app)
+{
+  for (const auto& row : fields) {
+    const ControlId unit = FindField(dialog, row.field)->unitId;
+    if (unit == ControlId::None) continue;
+    std::u16string label = controls.GetText(unit);
+    app.GetUnitLabel(label);
+    controls.SetText(unit, label);
+  }
+}
+
+constexpr auto gridFields = std::to_array<NumberField<GridSettings>>({
+    {GridControls::showX, Of<&GridSettings::spacingShowX>, shortDecimals},
+    {GridControls::showY, Of<&GridSettings::spacingShowY>, shortDecimals},
+    {GridControls::snapX, Of<&GridSettings::spacingSnapX>, shortDecimals},
+    {GridControls::snapY, Of<&GridSettings::spacingSnapY>, shortDecimals},
+});
+static_assert(HasFields(gridDialog, gridFields));
+
+/// A check box of the grid dialog, which enables what stands behind it in its group.
+struct GridSwitch {
+  ControlId button;
+  std::int32_t GridSettings::*isOn;
+};
+
+constexpr auto gridSwitches = std::to_array<GridSwitch>({
+    {GridControls::showGrid, &GridSettings::show},
+    {GridControls::snapToGrid, &GridSettings::snap},
+});
+static_assert(HasButtons(gridDialog, gridSwitches));
+
+constexpr auto moveFields = std::to_array<NumberField<CShapeVertex>>({
+    {MoveControls::x, Of<&CShapeVertex::x>, shortDecimals},
+    {MoveControls::y, Of<&CShapeVertex::y>, shortDecimals},
+});
+static_assert(HasFields(moveDialog, moveFields));
+
+constexpr auto offsetsFields = [] {
+  using namespace OffsetsControls;
+  using State = DesignState;
+  using Vertex = CShapeVertex;
+  return std::to_array<NumberField<DesignState>>({
+      {antennaX, OffsetOf<&State::offsetGps, &Vertex::x>, longDecimals},
+      {antennaY, OffsetOf<&State::offsetGps, &Vertex::y>, longDecimals},
+      {transducerX, OffsetOf<&State::offsetTransducer, &Vertex::x>, longDecimals},
+      {transducerY, OffsetOf<&State::offsetTransducer, &Vertex::y>, longDecimals},
+      {pivotX, OffsetOf<&State::offsetPivot, &Vertex::x>, longDecimals},
+      {pivotY, OffsetOf<&State::offsetPivot, &Vertex::y>, longDecimals},
+      {pivotZ, OffsetOf<&State::offsetPivot, &Vertex::z>, longDecimals},
+  });
+}();
+static_assert(HasFields(offsetsDialog, offsetsFields));
+
+/// The field that has the focus when the dialog opens for a kind of pick.
+struct OffsetFocus {
+  HitKind kind;
+  ControlId field;
+};
+
+constexpr auto offsetFocuses = std::to_array<OffsetFocus>({
+    {HitKind::Gps, OffsetsControls::antennaX},
+    {HitKind::Transducer, OffsetsControls::transducerX},
+    {HitKind::Pivot, OffsetsControls::pivotX},
+});
+static_assert(HasFields(offsetsDialog, offsetFocuses));
+
+/// A radio button with the angle in degrees that it stands for; one with a field of its own stands
+/// for the number there.
+struct AngleButton {
+  ControlId button;
+  double degrees = 0.0;
+};
+
+constexpr auto angleButtons = std::to_array<AngleButton>({
+    {RotateControls::by90, 90.0},
+    {RotateControls::by180, 180.0},
+    {RotateControls::by270, 270.0},
+    {RotateControls::byAngle},
+});
+static_assert(HasButtons(rotateDialog, angleButtons));
+static_assert(FieldOf(*FindButton(rotateDialog, RotateControls::byAngle)) == RotateControls::angle);
+
+struct DirectionButton {
+  ControlId button;
+  bool clockwise;
+};
+
+constexpr auto directionButtons = std::to_array<DirectionButton>({
+    {RotateControls::clockwise, true},
+    {RotateControls::counterClockwise, false},
+});
+static_assert(HasButtons(rotateDialog, directionButtons));
+
+constexpr auto scaleFields = std::to_array<NumberField<CDialogScale>>({
+    {ScaleControls::factor, Of<&CDialogScale::factor>, shortDecimals},
+});
+static_assert(HasFields(scaleDialog, scaleFields));
+
+constexpr auto vertexFields = std::to_array<NumberField<CShapeVertex>>({
+    {VertexControls::x, Of<&CShapeVertex::x>, longDecimals},
+    {VertexControls::y, Of<&CShapeVertex::y>, longDecimals},
+    {VertexControls::z, Of<&CShapeVertex::z>, longDecimals},
+});
+static_assert(HasFields(vertexDialog, vertexFields));
+
+}  // namespace
+
+DialogId CDialogGrid::Template() const { return DialogId::Grid; }
 
 void CDialogGrid::OnStart(IDialogControls& controls)
 {
-  const GridSettings grid = app_.LoadGridSettings();
-  controls.SetChecked(1002, grid.show != 0);
-  controls.SetChecked(1001, grid.snap != 0);
-  ShowNumber(controls, 1000, grid.spacingShowX, shortDecimals);
-  ShowNumber(controls, 1003, grid.spacingShowY, shortDecimals);
-  ShowNumber(controls, 1009, grid.spacingSnapX, shortDecimals);
-  ShowNumber(controls, 1012, grid.spacingSnapY, shortDecimals);
-  FillUnitLabels(controls, {1004, 1005, 1010, 1013});
+  GridSettings grid = app_.LoadGridSettings();
+  for (const auto& [button, isOn] : gridSwitches) controls.SetChecked(button, grid.*isOn != 0);
+  ShowNumbers(controls, gridFields, grid);
+  FillUnitLabels(controls, gridDialog, gridFields, app_);
   UpdateEnabled(controls);
 }
 
-void CDialogGrid::OnClick(IDialogControls& controls, int) { UpdateEnabled(controls); }
+void CDialogGrid::OnClick(IDialogControls& controls, ControlId) { UpdateEnabled(controls); }
 
 void CDialogGrid::UpdateEnabled(IDialogControls& controls)
 {
-  const bool show = controls.IsChecked(1002);
-  for (const int id : {1004, 1005, 1000, 1003, 1006, 1007}) controls.SetEnabled(id, show);
-  const bool snap = controls.IsChecked(1001);
-  for (const int id : {1010, 1013, 1009, 1012, 1008, 1011}) controls.SetEnabled(id, snap);
+  for (const auto& [button, isOn] : gridSwitches) {
+    const bool enabled = controls.IsChecked(button);
+    for (const DialogRow& row : RowsBehind(gridDialog, button)) {
+      for (const ControlId id : ControlsOf(row)) {
+        if (id != ControlId::None) controls.SetEnabled(id, enabled);
+      }
+    }
+  }
 }
 
 bool CDialogGrid::OnOk(IDialogControls& controls)
 {
   GridSettings grid = app_.LoadGridSettings();
-  grid.show = controls.IsChecked(1002) ? 1 : 0;
-  grid.snap = controls.IsChecked(1001) ? 1 : 0;
-  grid.spacingShowX = ReadNumber(controls, 1000);
-  grid.spacingShowY = ReadNumber(controls, 1003);
-  grid.spacingSnapX = ReadNumber(controls, 1009);
-  grid.spacingSnapY = ReadNumber(controls, 1012);
+  for (const auto& [button, isOn] : gridSwitches) grid.*isOn = controls.IsChecked(button) ? 1 : 0;
+  ReadNumbers(controls, gridFields, grid);
   app_.SaveGridSettings(grid);
   return true;
 }
 
-int CDialogMove::Template() const { return DialogId::Move; }
+DialogId CDialogMove::Template() const { return DialogId::Move; }
 
 void CDialogMove::OnStart(IDialogControls& controls)
 {
-  ShowNumber(controls, 1024, way_.x, shortDecimals);
-  ShowNumber(controls, 1025, way_.y, shortDecimals);
-  FillUnitLabels(controls, {1004, 1005});
+  ShowNumbers(controls, moveFields, way_);
+  FillUnitLabels(controls, moveDialog, moveFields, app_);
 }
 
 bool CDialogMove::OnOk(IDialogControls& controls)
 {
-  way_.x = ReadNumber(controls, 1024);
-  way_.y = ReadNumber(controls, 1025);
+  ReadNumbers(controls, moveFields, way_);
   return true;
 }
 
-int CDialogOffsets::Template() const { return DialogId::Offsets; }
+DialogId CDialogOffsets::Template() const { return DialogId::Offsets; }
 
 void CDialogOffsets::OnStart(IDialogControls& controls)
 {
   if (!app_.offsetGps || !app_.offsetTransducer || !app_.offsetPivot) return;
-  ShowNumber(controls, 1027, app_.offsetGps->x, longDecimals);
-  ShowNumber(controls, 1028, app_.offsetGps->y, longDecimals);
-  ShowNumber(controls, 1030, app_.offsetTransducer->x, longDecimals);
-  ShowNumber(controls, 1031, app_.offsetTransducer->y, longDecimals);
-  ShowNumber(controls, 1001, app_.offsetPivot->x, longDecimals);
-  ShowNumber(controls, 1002, app_.offsetPivot->y, longDecimals);
-  ShowNumber(controls, 1003, app_.offsetPivot->z, longDecimals);
-  FillUnitLabels(controls, {1004, 1005, 1010, 1013, 1006, 1007, 1008});
-  if (focus_ == HitKind::Gps) controls.FocusField(1027);
-  if (focus_ == HitKind::Transducer) controls.FocusField(1030);
-  if (focus_ == HitKind::Pivot) controls.FocusField(1001);
+  ShowNumbers(controls, offsetsFields, app_);
+  FillUnitLabels(controls, offsetsDialog, offsetsFields, app_);
+  for (const auto& [kind, field] : offsetFocuses) {
+    if (focus_ == kind) controls.FocusField(field);
+  }
 }
 
 bool CDialogOffsets::OnOk(IDialogControls& controls)
 {
   if (!app_.offsetGps || !app_.offsetTransducer || !app_.offsetPivot) return true;
-  const auto read = [&controls](CShapeVertex& offset, int x, int y) {
-    offset.x = ReadNumber(controls, x);
-    offset.y = ReadNumber(controls, y);
-    offset.z = 0.0;
-  };
-  read(*app_.offsetGps, 1027, 1028);
-  read(*app_.offsetTransducer, 1030, 1031);
-  read(*app_.offsetPivot, 1001, 1002);
-  app_.offsetPivot->z = ReadNumber(controls, 1003);
+  app_.offsetGps->z = 0.0;
+  app_.offsetTransducer->z = 0.0;
+  ReadNumbers(controls, offsetsFields, app_);
   return true;
 }
 
-int CDialogRotate::Template() const { return DialogId::Rotate; }
+DialogId CDialogRotate::Template() const { return DialogId::Rotate; }
 
 void CDialogRotate::OnStart(IDialogControls& controls)
 {
-  controls.SetChecked(1013, true);
-  controls.SetText(1017, u"0.0");
-  controls.SetChecked(clockwise_ ? 1021 : 1022, true);
+  controls.SetChecked(angleButtons.front().button, true);
+  controls.SetText(RotateControls::angle, u"0.0");
+  for (const auto& [button, clockwise] : directionButtons) {
+    if (clockwise == clockwise_) controls.SetChecked(button, true);
+  }
 }
 
 bool CDialogRotate::OnOk(IDialogControls& controls)
 {
   double angle = 0.0;
-  if (controls.IsChecked(1013)) angle = 90.0;
-  if (controls.IsChecked(1014)) angle = 180.0;
-  if (controls.IsChecked(1015)) angle = 270.0;
-  if (controls.IsChecked(1016)) angle = ReadNumber(controls, 1017);
-  if (controls.IsChecked(1021)) angle = -angle;
+  for (const auto& [button, degrees] : angleButtons) {
+    if (!controls.IsChecked(button)) continue;
+    const ControlId field = FieldOf(*FindButton(rotateDialog, button));
+    angle = field == ControlId::None ? degrees : ReadNumber(controls, field);
+  }
+  for (const auto& [button, clockwise] : directionButtons) {
+    if (clockwise && controls.IsChecked(button)) angle = -angle;
+  }
   app_.RotatePolylines(angle);
   return true;
 }
 
-int CDialogScale::Template() const { return DialogId::Scale; }
+DialogId CDialogScale::Template() const { return DialogId::Scale; }
 
-void CDialogScale::OnStart(IDialogControls& controls) { controls.SetText(1011, u"1.00"); }
+void CDialogScale::OnStart(IDialogControls& controls) { ShowNumbers(controls, scaleFields, *this); }
 
 bool CDialogScale::OnOk(IDialogControls& controls)
 {
-  factor = ReadNumber(controls, 1011);
+  ReadNumbers(controls, scaleFields, *this);
   return true;
 }
 
-int CDialogVertex::Template() const { return DialogId::Vertex; }
+DialogId CDialogVertex::Template() const { return DialogId::Vertex; }
 
 void CDialogVertex::OnStart(IDialogControls& controls)
 {
-  if (vertex_ != nullptr) {
-    for (const auto& [id, coordinate] : vertexFields) {
-      ShowNumber(controls, id, vertex_->*coordinate, longDecimals);
-    }
-  }
-  FillUnitLabels(controls, {1004, 1005, 1010});
+  if (vertex_ != nullptr) ShowNumbers(controls, vertexFields, *vertex_);
+  FillUnitLabels(controls, vertexDialog, vertexFields, app_);
 }
 
 bool CDialogVertex::OnOk(IDialogControls& controls)
 {
-  if (vertex_ == nullptr) return true;
-  for (const auto& [id, coordinate] : vertexFields) {
-    vertex_->*coordinate = ReadNumber(controls, id);
-  }
+  if (vertex_ != nullptr) ReadNumbers(controls, vertexFields, *vertex_);
   return true;
 }
 
-int CDialogUnits::Template() const { return DialogId::Units; }
+DialogId CDialogUnits::Template() const { return DialogId::Units; }
 
 void CDialogUnits::OnStart(IDialogControls& controls)
 {
@@ -212,6 +329,6 @@ bool CDialogUnits::OnOk(IDialogControls& controls)
   return true;
 }
 
-int CAboutDlg::Template() const { return DialogId::About; }
+DialogId CAboutDlg::Template() const { return DialogId::About; }
 
 }  // namespace hullwright

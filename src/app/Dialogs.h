@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <initializer_list>
-
 #include "app/HullwrightApp.h"
 #include "model/ShapeVertex.h"
 #include "platform/Dialogs.h"
@@ -16,10 +13,6 @@ public:
   explicit CDialogNumbers(CHullwrightApp& app) : app_(app) {}
 
 protected:
-  /// Fills the labels beside the fields with the short name of the design's unit; where that is not
-  /// known, they keep the template's text.
-  void FillUnitLabels(IDialogControls& controls, std::initializer_list<int> ids);
-
   CHullwrightApp& app_;
 };
 
@@ -27,9 +20,9 @@ protected:
 class CDialogGrid : public CDialogNumbers {
 public:
   using CDialogNumbers::CDialogNumbers;
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
-  void OnClick(IDialogControls& controls, int id) override;
+  void OnClick(IDialogControls& controls, ControlId id) override;
   bool OnOk(IDialogControls& controls) override;
 
 private:
@@ -40,7 +33,7 @@ private:
 class CDialogMove : public CDialogNumbers {
 public:
   CDialogMove(CHullwrightApp& app, CShapeVertex& way) : CDialogNumbers(app), way_(way) {}
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -53,7 +46,7 @@ class CDialogOffsets : public CDialogNumbers {
 public:
   /// `focus` is the kind of pick whose first field gets the focus; any other value sets none.
   CDialogOffsets(CHullwrightApp& app, HitKind focus) : CDialogNumbers(app), focus_(focus) {}
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -65,7 +58,7 @@ private:
 class CDialogRotate : public CDialogNumbers {
 public:
   CDialogRotate(CHullwrightApp& app, bool clockwise) : CDialogNumbers(app), clockwise_(clockwise) {}
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -77,7 +70,7 @@ private:
 class CDialogScale : public CDialogNumbers {
 public:
   using CDialogNumbers::CDialogNumbers;
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -88,7 +81,7 @@ public:
 class CDialogVertex : public CDialogNumbers {
 public:
   CDialogVertex(CHullwrightApp& app, CShapeVertex* vertex) : CDialogNumbers(app), vertex_(vertex) {}
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -101,7 +94,7 @@ private:
 class CDialogUnits : public CDialogNumbers {
 public:
   explicit CDialogUnits(CHullwrightApp& app) : CDialogNumbers(app), oldUnit_(app.unitCode) {}
-  int Template() const override;
+  DialogId Template() const override;
   void OnStart(IDialogControls& controls) override;
   bool OnOk(IDialogControls& controls) override;
 
@@ -112,7 +105,7 @@ private:
 /// Name, version and licence.
 class CAboutDlg : public IDialog {
 public:
-  int Template() const override;
+  DialogId Template() const override;
 };
 
 }  // namespace hullwright

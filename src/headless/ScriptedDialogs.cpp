@@ -24,7 +24,7 @@ DialogEnd ScriptedDialogs::Run(IDialog& dialog)
   return stayedOpen ? DialogEnd::Cancel : DialogEnd::Ok;
 }
 
-void ScriptedDialogs::Open(int templateId)
+void ScriptedDialogs::Open(DialogId templateId)
 {
   shown.push_back(templateId);
   texts_.clear();
@@ -41,7 +41,7 @@ void ScriptedDialogs::Open(int templateId)
       case DialogRowKind::Group: radioGroups_.emplace_back(); break;
       case DialogRowKind::Field:
         texts_[row.id] = u"";
-        if (row.unitId != 0) texts_[row.unitId] = row.unitText;
+        if (row.unitId != ControlId::None) texts_[row.unitId] = row.unitText;
         break;
       case DialogRowKind::RadioField: texts_[row.labelId] = u""; [[fallthrough]];
       case DialogRowKind::Radio: radioGroups_.back().push_back(row.id); [[fallthrough]];
@@ -51,44 +51,44 @@ void ScriptedDialogs::Open(int templateId)
   }
 }
 
-void ScriptedDialogs::Click(IDialog& dialog, int id, bool checked)
+void ScriptedDialogs::Click(IDialog& dialog, ControlId id, bool checked)
 {
   SetChecked(id, checked);
   dialog.OnClick(*this, id);
 }
 
-void ScriptedDialogs::Type(const DialogTemplate& rows, int id, std::u16string_view text)
+void ScriptedDialogs::Type(const DialogTemplate& rows, ControlId id, std::u16string_view text)
 {
   // Nobody can type into a label or into a field that is greyed.
-  if (std::ranges::find(rows.rows, id, FieldOf) == rows.rows.end()) return;
+  if (FindField(rows, id) == nullptr) return;
   if (const auto found = enabled.find(id); found != enabled.end() && !found->second) return;
   SetText(id, AsTyped(text));
   SetChecked(ChosenByTyping(rows, id), true);
 }
 
-std::u16string ScriptedDialogs::GetText(int id) const
+std::u16string ScriptedDialogs::GetText(ControlId id) const
 {
   const auto found = texts_.find(id);
   return found == texts_.end() ? std::u16string() : found->second;
 }
 
-void ScriptedDialogs::SetText(int id, std::u16string_view text)
+void ScriptedDialogs::SetText(ControlId id, std::u16string_view text)
 {
   const auto found = texts_.find(id);
   if (found != texts_.end()) found->second = text;
 }
 
-bool ScriptedDialogs::IsChecked(int id) const
+bool ScriptedDialogs::IsChecked(ControlId id) const
 {
   const auto found = checks_.find(id);
   return found != checks_.end() && found->second;
 }
 
-void ScriptedDialogs::SetChecked(int id, bool checked)
+void ScriptedDialogs::SetChecked(ControlId id, bool checked)
 {
   for (const auto& group : radioGroups_) {
     if (checked && std::ranges::find(group, id) != group.end()) {
-      for (const int other : group) checks_[other] = false;
+      for (const ControlId other : group) checks_[other] = false;
     }
   }
   const auto found = checks_.find(id);

@@ -14,9 +14,11 @@ namespace hullwright {
 /// chosen, then the end.
 struct DialogScript {
   bool ok = false;
-  std::map<int, std::u16string> fields = {};  ///< stand in their fields without further effect
-  std::vector<std::pair<int, bool>> clicks = {};
-  std::map<int, std::u16string> typed = {};  ///< typed over, with all that a person's typing does
+  std::map<ControlId, std::u16string> fields =
+      {};  ///< stand in their fields without further effect
+  std::vector<std::pair<ControlId, bool>> clicks = {};
+  std::map<ControlId, std::u16string> typed =
+      {};  ///< typed over, with all that a person's typing does
   std::optional<std::size_t> select =
       std::nullopt;  ///< list entry; what was selected at opening stays
   bool selectNothing = false;
@@ -27,12 +29,12 @@ class ScriptedDialogs : public IDialogRunner, public IDialogControls {
 public:
   DialogEnd Run(IDialog& dialog) override;
 
-  std::u16string GetText(int id) const override;
-  void SetText(int id, std::u16string_view text) override;
-  bool IsChecked(int id) const override;
-  void SetChecked(int id, bool checked) override;
-  void SetEnabled(int id, bool on) override { enabled[id] = on; }
-  void FocusField(int id) override { focus = id; }
+  std::u16string GetText(ControlId id) const override;
+  void SetText(ControlId id, std::u16string_view text) override;
+  bool IsChecked(ControlId id) const override;
+  void SetChecked(ControlId id, bool checked) override;
+  void SetEnabled(ControlId id, bool on) override { enabled[id] = on; }
+  void FocusField(ControlId id) override { focus = id; }
   void FillList(std::span<const DialogListItem> items) override
   {
     list.assign(items.begin(), items.end());
@@ -43,25 +45,25 @@ public:
   DialogScript script;
 
   // What the last dialog showed at its start, and how it stood at its end.
-  std::vector<int> shown;  ///< templates of all dialogs so far
-  std::map<int, std::u16string> startTexts;
-  std::map<int, bool> startChecks;
-  std::map<int, bool> startEnabled;
-  std::map<int, bool> enabled;
-  std::optional<int> focus;
+  std::vector<DialogId> shown;  ///< templates of all dialogs so far
+  std::map<ControlId, std::u16string> startTexts;
+  std::map<ControlId, bool> startChecks;
+  std::map<ControlId, bool> startEnabled;
+  std::map<ControlId, bool> enabled;
+  std::optional<ControlId> focus;
   std::vector<DialogListItem> list;
   std::optional<std::size_t> selected;
   std::optional<std::size_t> startSelected;
   bool stayedOpen = false;  ///< OK was refused
 
 private:
-  void Open(int templateId);
-  void Click(IDialog& dialog, int id, bool checked);
-  void Type(const DialogTemplate& rows, int id, std::u16string_view text);
+  void Open(DialogId templateId);
+  void Click(IDialog& dialog, ControlId id, bool checked);
+  void Type(const DialogTemplate& rows, ControlId id, std::u16string_view text);
 
-  std::map<int, std::u16string> texts_;
-  std::map<int, bool> checks_;
-  std::vector<std::vector<int>> radioGroups_;
+  std::map<ControlId, std::u16string> texts_;
+  std::map<ControlId, bool> checks_;
+  std::vector<std::vector<ControlId>> radioGroups_;
 };
 
 }  // namespace hullwright

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "resources/DialogIds.h"
+
 namespace hullwright {
 
 /// An entry of a list box with the number that it stands for.
@@ -19,14 +21,14 @@ struct DialogListItem {
 class IDialogControls {
 public:
   virtual ~IDialogControls() = default;
-  virtual std::u16string GetText(int id) const = 0;
-  virtual void SetText(int id, std::u16string_view text) = 0;
-  virtual bool IsChecked(int id) const = 0;
-  virtual void SetChecked(int id, bool checked) = 0;
-  virtual void SetEnabled(int id, bool enabled) = 0;
+  virtual std::u16string GetText(ControlId id) const = 0;
+  virtual void SetText(ControlId id, std::u16string_view text) = 0;
+  virtual bool IsChecked(ControlId id) const = 0;
+  virtual void SetChecked(ControlId id, bool checked) = 0;
+  virtual void SetEnabled(ControlId id, bool enabled) = 0;
 
   /// Gives an edit field the focus, with its text selected and its caret in view.
-  virtual void FocusField(int id) = 0;
+  virtual void FocusField(ControlId id) = 0;
 
   // The one list box of a dialog.
   virtual void FillList(std::span<const DialogListItem> items) = 0;
@@ -40,13 +42,13 @@ public:
   virtual ~IDialog() = default;
 
   /// Number of the dialog's template.
-  virtual int Template() const = 0;
+  virtual DialogId Template() const = 0;
 
   /// Fills the controls before the dialog is seen.
   virtual void OnStart(IDialogControls&) {}
 
   /// A check box or radio button was clicked.
-  virtual void OnClick(IDialogControls&, int /*id*/) {}
+  virtual void OnClick(IDialogControls&, ControlId /*id*/) {}
 
   /// Takes the values over; false keeps the dialog open.
   virtual bool OnOk(IDialogControls&) { return true; }

@@ -68,7 +68,7 @@ void TemplateDialog::FocusFirst(const DialogTemplate& rows)
 }
 
 template <class T>
-T* TemplateDialog::Find(int id) const
+T* TemplateDialog::Find(ControlId id) const
 {
   const auto found = widgets_.find(id);
   return found == widgets_.end() ? nullptr : dynamic_cast<T*>(found->second);
@@ -103,12 +103,12 @@ QGridLayout& TemplateDialog::Grid()
   return *grid_;
 }
 
-void TemplateDialog::Keep(int id, QWidget* widget)
+void TemplateDialog::Keep(ControlId id, QWidget* widget)
 {
-  if (id != 0) widgets_[id] = widget;
+  if (id != ControlId::None) widgets_[id] = widget;
 }
 
-QLineEdit* TemplateDialog::MakeField(int id, const QString& name)
+QLineEdit* TemplateDialog::MakeField(ControlId id, const QString& name)
 {
   auto* const field = new QLineEdit(box_);
   field->setFixedWidth(fieldWidth);
@@ -119,7 +119,7 @@ QLineEdit* TemplateDialog::MakeField(int id, const QString& name)
   return field;
 }
 
-void TemplateDialog::TakeTyped(int field)
+void TemplateDialog::TakeTyped(ControlId field)
 {
   auto& edit = *Find<QLineEdit>(field);
   const QString taken = ToQString(AsTyped(ToWide(edit.text())));
@@ -227,14 +227,14 @@ void TemplateDialog::AddOkAndCancel(bool hasCancel)
   boxes_->addWidget(buttons);
 }
 
-std::u16string TemplateDialog::GetText(int id) const
+std::u16string TemplateDialog::GetText(ControlId id) const
 {
   if (const auto* const field = Find<QLineEdit>(id)) return ToWide(field->text());
   if (const auto* const label = Find<QLabel>(id)) return ToWide(label->text());
   return {};
 }
 
-void TemplateDialog::SetText(int id, std::u16string_view text)
+void TemplateDialog::SetText(ControlId id, std::u16string_view text)
 {
   if (auto* const field = Find<QLineEdit>(id)) {
     field->setText(ToQString(text));
@@ -246,23 +246,23 @@ void TemplateDialog::SetText(int id, std::u16string_view text)
   }
 }
 
-bool TemplateDialog::IsChecked(int id) const
+bool TemplateDialog::IsChecked(ControlId id) const
 {
   const auto* const button = Find<QAbstractButton>(id);
   return button != nullptr && button->isChecked();
 }
 
-void TemplateDialog::SetChecked(int id, bool checked)
+void TemplateDialog::SetChecked(ControlId id, bool checked)
 {
   if (auto* const button = Find<QAbstractButton>(id)) button->setChecked(checked);
 }
 
-void TemplateDialog::SetEnabled(int id, bool enabled)
+void TemplateDialog::SetEnabled(ControlId id, bool enabled)
 {
   if (auto* const widget = Find<QWidget>(id)) widget->setEnabled(enabled);
 }
 
-void TemplateDialog::FocusField(int id)
+void TemplateDialog::FocusField(ControlId id)
 {
   if (auto* const field = Find<QLineEdit>(id)) {
     field->setFocus();

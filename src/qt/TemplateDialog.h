@@ -25,12 +25,12 @@ class TemplateDialog : public QDialog, public IDialogControls {
 public:
   TemplateDialog(const DialogTemplate& rows, IDialog& logic, QWidget* parent);
 
-  std::u16string GetText(int id) const override;
-  void SetText(int id, std::u16string_view text) override;
-  bool IsChecked(int id) const override;
-  void SetChecked(int id, bool checked) override;
-  void SetEnabled(int id, bool enabled) override;
-  void FocusField(int id) override;
+  std::u16string GetText(ControlId id) const override;
+  void SetText(ControlId id, std::u16string_view text) override;
+  bool IsChecked(ControlId id) const override;
+  void SetChecked(ControlId id, bool checked) override;
+  void SetEnabled(ControlId id, bool enabled) override;
+  void FocusField(ControlId id) override;
   void FillList(std::span<const DialogListItem> items) override;
   void SelectListItem(std::size_t index) override;
   std::optional<std::int32_t> SelectedListData() const override;
@@ -50,12 +50,12 @@ private:
   void AddOkAndCancel(bool hasCancel);
   void FocusFirst(const DialogTemplate& rows);
   QGridLayout& Grid();
-  QLineEdit* MakeField(int id, const QString& name);
-  void TakeTyped(int field);
-  void Keep(int id, QWidget* widget);
+  QLineEdit* MakeField(ControlId id, const QString& name);
+  void TakeTyped(ControlId field);
+  void Keep(ControlId id, QWidget* widget);
 
   template <class T>
-  T* Find(int id) const;
+  T* Find(ControlId id) const;
 
   const DialogTemplate& rows_;
   IDialog& logic_;
@@ -63,7 +63,7 @@ private:
   QWidget* box_ = nullptr;       ///< the box that rows go into
   QGridLayout* grid_ = nullptr;  ///< its layout
   QListWidget* list_ = nullptr;
-  std::map<int, QWidget*> widgets_;
+  std::map<ControlId, QWidget*> widgets_;
   std::map<QLabel*, QLineEdit*> unitOf_;  ///< the field that a unit's label stands behind
 };
 

@@ -4,6 +4,9 @@
 
 #include "base/Code.h"
 #include "resources/CommandIds.h"
+#include "resources/MoveDialog.h"
+#include "resources/RotateDialog.h"
+#include "resources/ScaleDialog.h"
 #include "support/CommandFixture.h"
 
 namespace hullwright {
@@ -145,8 +148,8 @@ TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
   app.anchors->items[0]->attachmentY = 0.0;
   Run(CommandId::MirrorVertically);
   Run(CommandId::MirrorHorizontally);
-  Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"3"}}});
-  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"3"}, {1025, u"3"}}});
+  Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"3"}}});
+  Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"3"}, {MoveControls::y, u"3"}}});
   Run(CommandId::RotateRight, {.ok = true});
   for (const CShapePolyline* const line : others) {
     EXPECT_TRUE(*line->vertices[0] == CShapeVertex(1.0, 0.0, 1.0));
@@ -167,9 +170,9 @@ TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
     app.activeView = side;
     Run(CommandId::MirrorHorizontally);
     EXPECT_EQ(wildcard.vertices[0]->x, -1.0) << NumberOf(side);
-    Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"-2"}}});
+    Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"-2"}}});
     EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << NumberOf(side);
-    Run(CommandId::Move, {.ok = true, .fields = {{1024, u"-1"}}});
+    Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"-1"}}});
     *wildcard.vertices[0] = CShapeVertex(1.0, 1.0, 0.0);
   }
 }
@@ -197,16 +200,17 @@ INSTANTIATE_TEST_SUITE_P(
     Commands, EachWalk,
     testing::Values(WalkCase{CommandId::MirrorVertically, {}},
                     WalkCase{CommandId::MirrorHorizontally, {}},
-                    WalkCase{CommandId::Scale, {.ok = true, .fields = {{1011, u"2"}}}},
-                    WalkCase{CommandId::Move, {.ok = true, .fields = {{1024, u"2"}}}},
+                    WalkCase{CommandId::Scale,
+                             {.ok = true, .fields = {{ScaleControls::factor, u"2"}}}},
+                    WalkCase{CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"2"}}}},
                     WalkCase{CommandId::RotateLeft, {.ok = true}},
                     WalkCase{CommandId::RotateRight, {.ok = true}}));
 
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
-  Run(CommandId::Scale, {.ok = true, .fields = {{1011, u"-2 times"}}});
-  EXPECT_EQ(dialogs.startTexts[1011], u"1.00");
+  Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"-2 times"}}});
+  EXPECT_EQ(dialogs.startTexts[ScaleControls::factor], u"1.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-2.0, -4.0, -6.0));
 }
 
@@ -214,7 +218,7 @@ TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
-    Run(CommandId::Scale, {.ok = true, .fields = {{1011, text}}});
+    Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, text}}});
   }
   EXPECT_TRUE(heard.list.empty());
   EXPECT_FALSE(document.IsModified());
@@ -225,11 +229,13 @@ TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
-  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"east"}, {1025, u"0"}}});
+  Run(CommandId::Move,
+      {.ok = true, .fields = {{MoveControls::x, u"east"}, {MoveControls::y, u"0"}}});
   EXPECT_EQ(line.vertices[0]->x, 1.0);
-  Run(CommandId::Move, {.ok = true, .fields = {{1024, u"1.5 m"}, {1025, u"two"}}});
-  EXPECT_EQ(dialogs.startTexts[1024], u"0.00");
-  EXPECT_EQ(dialogs.startTexts[1025], u"0.00");
+  Run(CommandId::Move,
+      {.ok = true, .fields = {{MoveControls::x, u"1.5 m"}, {MoveControls::y, u"two"}}});
+  EXPECT_EQ(dialogs.startTexts[MoveControls::x], u"0.00");
+  EXPECT_EQ(dialogs.startTexts[MoveControls::y], u"0.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(2.5, 2.0, 3.0));
   EXPECT_TRUE(point.position == CShapeVertex(1.5, 0.0, 0.0));
 }
@@ -286,37 +292,53 @@ INSTANTIATE_TEST_SUITE_P(
     Choices, Angle,
     testing::Values(AngleCase{CommandId::RotateLeft, {.ok = true}, 90.0},
                     AngleCase{CommandId::RotateRight, {.ok = true}, -90.0},
-                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1014, true}}}, 180.0},
-                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1015, true}}}, 270.0},
-                    AngleCase{CommandId::RotateLeft, {.ok = true, .clicks = {{1021, true}}}, -90.0},
-                    AngleCase{CommandId::RotateRight, {.ok = true, .clicks = {{1022, true}}}, 90.0},
                     AngleCase{CommandId::RotateLeft,
-                              {.ok = true, .fields = {{1017, u"30"}}, .clicks = {{1016, true}}},
+                              {.ok = true, .clicks = {{RotateControls::by180, true}}},
+                              180.0},
+                    AngleCase{CommandId::RotateLeft,
+                              {.ok = true, .clicks = {{RotateControls::by270, true}}},
+                              270.0},
+                    AngleCase{CommandId::RotateLeft,
+                              {.ok = true, .clicks = {{RotateControls::clockwise, true}}},
+                              -90.0},
+                    AngleCase{CommandId::RotateRight,
+                              {.ok = true, .clicks = {{RotateControls::counterClockwise, true}}},
+                              90.0},
+                    AngleCase{CommandId::RotateLeft,
+                              {.ok = true,
+                               .fields = {{RotateControls::angle, u"30"}},
+                               .clicks = {{RotateControls::byAngle, true}}},
                               30.0},
                     AngleCase{CommandId::RotateRight,
-                              {.ok = true, .fields = {{1017, u"-30"}}, .clicks = {{1016, true}}},
+                              {.ok = true,
+                               .fields = {{RotateControls::angle, u"-30"}},
+                               .clicks = {{RotateControls::byAngle, true}}},
                               30.0},
                     AngleCase{CommandId::RotateLeft,
-                              {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}},
+                              {.ok = true,
+                               .fields = {{RotateControls::angle, u"abc"}},
+                               .clicks = {{RotateControls::byAngle, true}}},
                               0.0}));
 
 TEST_F(Commands, ARotationByNothingStillModifies)
 {
   AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
-  Run(CommandId::RotateLeft, {.ok = true, .fields = {{1017, u"abc"}}, .clicks = {{1016, true}}});
+  Run(CommandId::RotateLeft, {.ok = true,
+                              .fields = {{RotateControls::angle, u"abc"}},
+                              .clicks = {{RotateControls::byAngle, true}}});
   EXPECT_THAT(heard.list, ElementsAreArray(all));
 }
 
 TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)
 {
   Run(CommandId::RotateRight, {});
-  EXPECT_TRUE(dialogs.startChecks[1013]);
-  EXPECT_TRUE(dialogs.startChecks[1021]);
-  EXPECT_FALSE(dialogs.startChecks[1022]);
-  EXPECT_EQ(dialogs.startTexts[1017], u"0.0");
+  EXPECT_TRUE(dialogs.startChecks[RotateControls::by90]);
+  EXPECT_TRUE(dialogs.startChecks[RotateControls::clockwise]);
+  EXPECT_FALSE(dialogs.startChecks[RotateControls::counterClockwise]);
+  EXPECT_EQ(dialogs.startTexts[RotateControls::angle], u"0.0");
   Run(CommandId::RotateLeft, {});
-  EXPECT_FALSE(dialogs.startChecks[1021]);
-  EXPECT_TRUE(dialogs.startChecks[1022]);
+  EXPECT_FALSE(dialogs.startChecks[RotateControls::clockwise]);
+  EXPECT_TRUE(dialogs.startChecks[RotateControls::counterClockwise]);
 }
 
 TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)

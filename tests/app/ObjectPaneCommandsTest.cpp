@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "resources/CommandIds.h"
+#include "resources/VertexDialog.h"
 #include "support/ObjectPaneFixture.h"
 
 namespace hullwright {
@@ -62,9 +63,11 @@ TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledTellsNobody)
   const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   pane.BuildTree();
   control.rebuilds = 0;
-  Command(CommandId::EditVertex, At({0, 0, 0, 0}), {.ok = false, .fields = {{1008, u"9"}}});
+  Command(CommandId::EditVertex, At({0, 0, 0, 0}),
+          {.ok = false, .fields = {{VertexControls::x, u"9"}}});
   EXPECT_FALSE(ToldAll());
-  Command(CommandId::EditVertex, At({0, 0, 0, 0}), {.ok = true, .fields = {{1008, u"9"}}});
+  Command(CommandId::EditVertex, At({0, 0, 0, 0}),
+          {.ok = true, .fields = {{VertexControls::x, u"9"}}});
   EXPECT_TRUE(ToldAll());
   EXPECT_EQ(line.vertices[0]->x, 9.0);
   EXPECT_THAT(Texts(At({0, 0, 0})), ElementsAre("+9.000,+2.000,+3.000"));
@@ -110,9 +113,9 @@ TEST_F(ObjectPaneCommands, AddPointAppendsAtTheEndOfTheSelectedPolyline)
   Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = false});
   Command(CommandId::AddVertex, At({0, 1}), {.ok = true});
   EXPECT_FALSE(ToldAll());
-  Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{1009, u"4"}}});
+  Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{VertexControls::y, u"4"}}});
   EXPECT_TRUE(ToldAll());
-  EXPECT_EQ(dialogs.startTexts[1008], u"0.000");
+  EXPECT_EQ(dialogs.startTexts[VertexControls::x], u"0.000");
   ASSERT_EQ(line.vertices.size(), 2U);
   EXPECT_TRUE(*line.vertices[1] == CShapeVertex(0.0, 4.0, 0.0));
 }

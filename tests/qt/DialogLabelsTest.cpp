@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "base/Code.h"
 #include "qt/Icons.h"
 #include "qt/QtText.h"
 #include "resources/Strings.h"
@@ -42,11 +43,12 @@ protected:
   }
 
   /// What the dialog shows with its fields' numbers for texts, a line a text.
-  std::string Shown(int id)
+  std::string Shown(DialogId id)
   {
     Open(id);
     for (const DialogRow& row : FindDialogTemplate(id)->rows) {
-      dialog->SetText(FieldOf(row), ToQString(std::to_string(FieldOf(row))).toStdU16String());
+      const std::string number = std::to_string(NumberOf(FieldOf(row)));
+      dialog->SetText(FieldOf(row), ToQString(number).toStdU16String());
     }
     return Texts().join(QLatin1Char('\n')).toStdString();
   }
@@ -132,7 +134,7 @@ TEST_F(DialogLabels, AboutHasIconProductAndTwoLines)
 
 TEST_F(DialogLabels, NotesAreShownWhole)
 {
-  for (const int id : {DialogId::Offsets, DialogId::About}) {
+  for (const DialogId id : {DialogId::Offsets, DialogId::About}) {
     Open(id);
     int notes = 0;
     for (const QLabel* label : dialog->findChildren<QLabel*>()) {
@@ -140,7 +142,7 @@ TEST_F(DialogLabels, NotesAreShownWhole)
       ++notes;
       EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     }
-    EXPECT_GT(notes, 0) << id;
+    EXPECT_GT(notes, 0) << NumberOf(id);
   }
 }
 
@@ -149,11 +151,11 @@ TEST_F(DialogLabels, OkAndCancelBearTheirImages)
   const QImage ok = Picture(ThemedIcon("dialog-ok", QApplication::palette()));
   const QImage cancel = Picture(ThemedIcon("dialog-cancel", QApplication::palette()));
   ASSERT_NE(ok, cancel);
-  for (const int id : {DialogId::Grid, DialogId::Move, DialogId::Offsets, DialogId::Rotate,
-                       DialogId::Scale, DialogId::Vertex, DialogId::Units}) {
+  for (const DialogId id : {DialogId::Grid, DialogId::Move, DialogId::Offsets, DialogId::Rotate,
+                            DialogId::Scale, DialogId::Vertex, DialogId::Units}) {
     Open(id);
-    EXPECT_EQ(Picture(Button(QDialogButtonBox::Ok)->icon()), ok) << id;
-    EXPECT_EQ(Picture(Button(QDialogButtonBox::Cancel)->icon()), cancel) << id;
+    EXPECT_EQ(Picture(Button(QDialogButtonBox::Ok)->icon()), ok) << NumberOf(id);
+    EXPECT_EQ(Picture(Button(QDialogButtonBox::Cancel)->icon()), cancel) << NumberOf(id);
   }
   Open(DialogId::About);
   EXPECT_EQ(Picture(Button(QDialogButtonBox::Ok)->icon()), ok);

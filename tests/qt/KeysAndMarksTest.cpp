@@ -8,6 +8,7 @@
 #include "qt/TemplateDialog.h"
 #include "resources/CommandIds.h"
 #include "resources/Commands.h"
+#include "resources/GridDialog.h"
 #include "support/DeskFixture.h"
 
 namespace hullwright {
@@ -162,8 +163,8 @@ TEST_F(Marks, TheSnapButtonSwitchesTheSnapAndBearsItsMark)
 TEST_F(Marks, TheMarksOfGridAndSnapFollowTheGridDialog)
 {
   WhenAsked<TemplateDialog>([](TemplateDialog& dialog) {
-    dialog.SetChecked(1002, false);
-    dialog.SetChecked(1001, false);
+    dialog.SetChecked(GridControls::showGrid, false);
+    dialog.SetChecked(GridControls::snapToGrid, false);
     dialog.accept();
   });
   Action("Grid...")->trigger();

@@ -4,6 +4,9 @@
 #include <QInputMethodEvent>
 #include <QTest>
 
+#include "base/Code.h"
+#include "resources/RotateDialog.h"
+#include "resources/ScaleDialog.h"
 #include "support/TemplateDialogFixture.h"
 
 namespace hullwright {
@@ -32,17 +35,17 @@ protected:
 TEST_F(NumberFields, ATypedCommaIsAPointInEveryField)
 {
   int fields = 0;
-  for (const int id : {DialogId::Grid, DialogId::Move, DialogId::Offsets, DialogId::Rotate,
-                       DialogId::Scale, DialogId::Vertex}) {
+  for (const DialogId id : {DialogId::Grid, DialogId::Move, DialogId::Offsets, DialogId::Rotate,
+                            DialogId::Scale, DialogId::Vertex}) {
     Open(id);
     for (const DialogRow& row : FindDialogTemplate(id)->rows) {
-      const int field = FieldOf(row);
-      if (field == 0) continue;
+      const ControlId field = FieldOf(row);
+      if (field == ControlId::None) continue;
       ++fields;
       dialog->SetText(field, u"9.999");
       dialog->FocusField(field);
       Type(*Focused(), "-1,5");
-      EXPECT_EQ(dialog->GetText(field), u"-1.5") << field;
+      EXPECT_EQ(dialog->GetText(field), u"-1.5") << NumberOf(field);
     }
     EXPECT_TRUE(dialog->isVisible());
   }
@@ -69,12 +72,12 @@ TEST_F(NumberFields, APastedCommaIsAPointHoweverItIsPasted)
 TEST_F(NumberFields, ATextThatTheProgramSetsStaysAsItIs)
 {
   QLineEdit& field = OnlyField();
-  dialog->SetText(1011, u"1,5");
+  dialog->SetText(ScaleControls::factor, u"1,5");
   EXPECT_EQ(field.text(), QStringLiteral("1,5"));
-  EXPECT_EQ(dialog->GetText(1011), u"1,5");
+  EXPECT_EQ(dialog->GetText(ScaleControls::factor), u"1,5");
   QTest::keyClick(&field, Qt::Key_End);
   QTest::keyClick(&field, Qt::Key_Left);
-  EXPECT_EQ(dialog->GetText(1011), u"1,5");
+  EXPECT_EQ(dialog->GetText(ScaleControls::factor), u"1,5");
 }
 
 TEST_F(NumberFields, OtherTextIsTakenAsItIsTyped)
@@ -87,7 +90,7 @@ TEST_F(NumberFields, OtherTextIsTakenAsItIsTyped)
 TEST_F(NumberFields, TheCaretStaysBehindWhatWasTypedOrPasted)
 {
   QLineEdit& field = OnlyField();
-  dialog->SetText(1011, u"1234");
+  dialog->SetText(ScaleControls::factor, u"1234");
   field.setCursorPosition(2);
   Type(field, ",");
   EXPECT_EQ(field.text(), QStringLiteral("12.34"));
@@ -109,9 +112,9 @@ TEST_F(NumberFields, AnAngleThatIsTypedOrPastedIsChosenAndOneThatTheProgramSetsI
 {
   for (const bool pasted : {false, true}) {
     Open(DialogId::Rotate);
-    dialog->SetChecked(1013, true);
-    dialog->SetText(1017, u"0.0");
-    EXPECT_TRUE(dialog->IsChecked(1013));
+    dialog->SetChecked(RotateControls::by90, true);
+    dialog->SetText(RotateControls::angle, u"0.0");
+    EXPECT_TRUE(dialog->IsChecked(RotateControls::by90));
     QLineEdit& field = *dialog->findChild<QLineEdit*>();
     field.selectAll();
     if (pasted) {
@@ -119,9 +122,9 @@ TEST_F(NumberFields, AnAngleThatIsTypedOrPastedIsChosenAndOneThatTheProgramSetsI
     } else {
       Type(field, "22,5");
     }
-    EXPECT_TRUE(dialog->IsChecked(1016));
-    EXPECT_FALSE(dialog->IsChecked(1013));
-    EXPECT_EQ(dialog->GetText(1017), u"22.5");
+    EXPECT_TRUE(dialog->IsChecked(RotateControls::byAngle));
+    EXPECT_FALSE(dialog->IsChecked(RotateControls::by90));
+    EXPECT_EQ(dialog->GetText(RotateControls::angle), u"22.5");
   }
 }
 

@@ -5,6 +5,11 @@
 #include <QRadioButton>
 #include <QTest>
 
+#include "resources/GridDialog.h"
+#include "resources/MoveDialog.h"
+#include "resources/OffsetsDialog.h"
+#include "resources/RotateDialog.h"
+#include "resources/VertexDialog.h"
 #include "support/TemplateDialogFixture.h"
 
 namespace hullwright {
@@ -36,14 +41,15 @@ TEST_F(TemplateDialogs, AnOkThatTheLogicRefusesKeepsTheDialogOpen)
 TEST_F(TemplateDialogs, TheFirstFieldIsReadyToBeTypedOver)
 {
   Open(DialogId::Move);
-  dialog->SetText(1024, u"0.00");
+  dialog->SetText(MoveControls::x, u"0.00");
   ASSERT_NE(Focused(), nullptr);
   EXPECT_EQ(Focused()->selectedText(), QStringLiteral("0.00"));
 }
 
 TEST_F(TemplateDialogs, TheLogicMayFocusAnotherField)
 {
-  for (const int field : {1027, 1030, 1001}) {
+  for (const ControlId field :
+       {OffsetsControls::antennaX, OffsetsControls::transducerX, OffsetsControls::pivotX}) {
     Open(DialogId::Offsets, field);
     dialog->SetText(field, u"1.000");
     ASSERT_NE(Focused(), nullptr);
@@ -67,22 +73,22 @@ TEST_F(TemplateDialogs, TabGoesFromFieldToField)
 TEST_F(TemplateDialogs, TheRadioButtonsOfABoxExcludeEachOtherAndNotThoseOfAnother)
 {
   Open(DialogId::Rotate);
-  dialog->SetChecked(1013, true);
-  dialog->SetChecked(1021, true);
-  dialog->SetChecked(1014, true);
-  EXPECT_FALSE(dialog->IsChecked(1013));
-  EXPECT_TRUE(dialog->IsChecked(1014));
-  EXPECT_TRUE(dialog->IsChecked(1021));
-  dialog->SetChecked(1022, true);
-  EXPECT_FALSE(dialog->IsChecked(1021));
+  dialog->SetChecked(RotateControls::by90, true);
+  dialog->SetChecked(RotateControls::clockwise, true);
+  dialog->SetChecked(RotateControls::by180, true);
+  EXPECT_FALSE(dialog->IsChecked(RotateControls::by90));
+  EXPECT_TRUE(dialog->IsChecked(RotateControls::by180));
+  EXPECT_TRUE(dialog->IsChecked(RotateControls::clockwise));
+  dialog->SetChecked(RotateControls::counterClockwise, true);
+  EXPECT_FALSE(dialog->IsChecked(RotateControls::clockwise));
 }
 
 TEST_F(TemplateDialogs, TypingAnAngleChoosesIt)
 {
   Open(DialogId::Rotate);
-  dialog->SetChecked(1013, true);
+  dialog->SetChecked(RotateControls::by90, true);
   QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("30"));
-  EXPECT_TRUE(dialog->IsChecked(1016));
+  EXPECT_TRUE(dialog->IsChecked(RotateControls::byAngle));
 }
 
 TEST_F(TemplateDialogs, ADoubleClickInTheListIsOk)
@@ -102,29 +108,30 @@ TEST_F(TemplateDialogs, ADoubleClickInTheListIsOk)
 TEST_F(TemplateDialogs, ClicksReachTheLogicAndControlsCanBeDisabled)
 {
   Open(DialogId::Grid);
-  dialog->SetEnabled(1000, false);
+  dialog->SetEnabled(GridControls::showX, false);
   EXPECT_FALSE(dialog->findChildren<QLineEdit*>().at(0)->isEnabled());
   dialog->findChild<QAbstractButton*>()->click();
-  EXPECT_EQ(logic->clicks, std::vector<int>{1002});
+  EXPECT_EQ(logic->clicks, std::vector<ControlId>{GridControls::showGrid});
 }
 
 TEST_F(TemplateDialogs, FieldsTellTheirUnitToAssistiveTechnology)
 {
   Open(DialogId::Vertex);
-  dialog->SetText(1004, u"ft");
+  dialog->SetText(VertexControls::xUnit, u"ft");
   EXPECT_EQ(dialog->findChild<QLineEdit*>()->accessibleDescription(), QStringLiteral("ft"));
 }
 
 TEST_F(TemplateDialogs, IdsThatADialogLacksReadAsEmptyAndTakeNothing)
 {
   Open(DialogId::Scale);
-  dialog->SetText(9, u"x");
-  dialog->SetChecked(9, true);
-  dialog->SetEnabled(9, false);
-  dialog->FocusField(9);
+  constexpr ControlId lacking{9};
+  dialog->SetText(lacking, u"x");
+  dialog->SetChecked(lacking, true);
+  dialog->SetEnabled(lacking, false);
+  dialog->FocusField(lacking);
   dialog->SelectListItem(3);
-  EXPECT_EQ(dialog->GetText(9), u"");
-  EXPECT_FALSE(dialog->IsChecked(9));
+  EXPECT_EQ(dialog->GetText(lacking), u"");
+  EXPECT_FALSE(dialog->IsChecked(lacking));
 }
 
 TEST_F(TemplateDialogs, AboutHasNoCancel)

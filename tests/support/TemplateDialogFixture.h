@@ -12,32 +12,32 @@ namespace hullwright::test {
 /// Logic that only writes down what it is asked.
 class FakeLogic : public IDialog {
 public:
-  explicit FakeLogic(int id) : id_(id) {}
-  int Template() const override { return id_; }
+  explicit FakeLogic(DialogId id) : id_(id) {}
+  DialogId Template() const override { return id_; }
   void OnStart(IDialogControls& controls) override
   {
-    if (focus != 0) controls.FocusField(focus);
+    if (focus != ControlId::None) controls.FocusField(focus);
   }
-  void OnClick(IDialogControls&, int id) override { clicks.push_back(id); }
+  void OnClick(IDialogControls&, ControlId id) override { clicks.push_back(id); }
   bool OnOk(IDialogControls&) override
   {
     ++oks;
     return agrees;
   }
 
-  int focus = 0;
+  ControlId focus = ControlId::None;
   bool agrees = true;
   int oks = 0;
-  std::vector<int> clicks;
+  std::vector<ControlId> clicks;
 
 private:
-  int id_;
+  DialogId id_;
 };
 
 /// A real dialog made from a template, over a logic that only listens.
 class TemplateDialogFixture : public ShellFixture {
 protected:
-  void Open(int id, int focus = 0)
+  void Open(DialogId id, ControlId focus = ControlId::None)
   {
     logic = std::make_unique<FakeLogic>(id);
     logic->focus = focus;

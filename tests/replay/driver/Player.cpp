@@ -30,18 +30,18 @@ std::vector<std::size_t> PathOf(const Json& value)
   return path;
 }
 
-/// The id that a member is called; 0 for what is no number.
-int IdOf(const std::string& name)
+/// The control that a member is called by its number; None for what is no number.
+ControlId IdOf(const std::string& name)
 {
   int id = 0;
   const char* const end = name.data() + name.size();
-  return std::from_chars(name.data(), end, id).ptr == end ? id : 0;
+  return std::from_chars(name.data(), end, id).ptr == end ? ControlId{id} : ControlId::None;
 }
 
 /// Texts by the ids of their fields.
-std::map<int, std::u16string> TextsOf(const Json& object)
+std::map<ControlId, std::u16string> TextsOf(const Json& object)
 {
-  std::map<int, std::u16string> texts;
+  std::map<ControlId, std::u16string> texts;
   for (const auto& [id, text] : MembersOf(object).items()) texts[IdOf(id)] = WideOf(text);
   return texts;
 }

@@ -12,7 +12,7 @@ namespace {
 /// A dialog by its template: what reports call it, and whether units, enabled fields or a list
 /// belong to the report.
 struct DialogName {
-  int id;
+  DialogId id;
   const char* name;
 };
 
@@ -22,7 +22,7 @@ constexpr DialogName dialogNames[] = {
     {DialogId::Move, "move"},   {DialogId::Offsets, "offsets"},
 };
 
-const char* NameOf(int id)
+const char* NameOf(DialogId id)
 {
   for (const DialogName& dialog : dialogNames) {
     if (dialog.id == id) return dialog.name;
@@ -34,24 +34,25 @@ template <class Map>
 Value ById(const Map& map)
 {
   Value::Object object;
-  for (const auto& [id, value] : map) object[std::to_string(id)] = Value(value);
+  for (const auto& [id, value] : map) object[std::to_string(NumberOf(id))] = Value(value);
   return object;
 }
 
 /// The ids of a dialog's edit fields, and of the first text that names the unit.
 struct DialogFields {
-  std::vector<int> fields;
-  int unit = 0;
+  std::vector<ControlId> fields;
+  ControlId unit = ControlId::None;
 };
 
-DialogFields FieldsOf(int id)
+DialogFields FieldsOf(DialogId id)
 {
   DialogFields found;
   const DialogTemplate* const rows = FindDialogTemplate(id);
   if (rows == nullptr) return found;
   for (const DialogRow& row : rows->rows) {
-    if (const int field = FieldOf(row); field != 0) found.fields.push_back(field);
-    if (row.kind == DialogRowKind::Field && found.unit == 0) found.unit = row.unitId;
+    if (const ControlId field = FieldOf(row); field != ControlId::None)
+      found.fields.push_back(field);
+    if (row.kind == DialogRowKind::Field && found.unit == ControlId::None) found.unit = row.unitId;
   }
   return found;
 }
@@ -66,14 +67,14 @@ std::string SettingOf(const std::string& key)
 DialogEnd ReplayDialogs::Run(IDialog& dialog)
 {
   const DialogEnd end = ScriptedDialogs::Run(dialog);
-  const int id = dialog.Template();
+  const DialogId id = dialog.Template();
   const DialogFields ids = FieldsOf(id);
   Value::Object report = {{"dialog", NameOf(id)}};
-  std::map<int, std::u16string> fields;
-  for (const int field : ids.fields) fields[field] = startTexts[field];
+  std::map<ControlId, std::u16string> fields;
+  for (const ControlId field : ids.fields) fields[field] = startTexts[field];
   if (!fields.empty()) report["fields"] = ById(fields);
   if (!startChecks.empty()) report["checks"] = ById(startChecks);
-  if (ids.unit != 0) report["unit"] = startTexts[ids.unit];
+  if (ids.unit != ControlId::None) report["unit"] = startTexts[ids.unit];
   if (id == DialogId::Offsets) report["focus"] = focus ? Value(*focus) : Value();
   if (id == DialogId::Grid) {
     report["enabled"] = ById(startEnabled);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+
+#include "resources/DialogTemplates.h"
+
+namespace hullwright {
+
+namespace AboutControls {
+inline constexpr ControlId product{1010};
+
+inline constexpr auto rows = std::to_array<DialogRow>({
+    {.kind = DialogRowKind::Product, .id = product},
+    {.kind = DialogRowKind::Note,
+     .text = u"Draws the outline of a survey vessel and records where its equipment sits."},
+    {.kind = DialogRowKind::Note,
+     .text = u"Free software under the MIT licence. \u00A9 2026 The Hullwright developers."},
+});
+}  // namespace AboutControls
+
+inline constexpr DialogTemplate aboutDialog = {DialogId::About, u"About Sondaris",
+                                               AboutControls::rows, false};
+
+}  // namespace hullwright
