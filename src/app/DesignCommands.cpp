@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <cstddef>
-#include <utility>
 
 #include "app/DesignCommandTable.h"
 #include "app/Dialogs.h"
@@ -36,7 +33,7 @@ CommandState CHullwrightApp::QueryCommand(CommandId id) const
 
 void CHullwrightApp::Repaint() const
 {
-  if (mainFrame != nullptr) mainFrame->Notify(Notification::RepaintDesign, 0);
+  if (mainFrame != nullptr) mainFrame->Notify(Notification::RepaintDesign);
 }
 
 void CHullwrightApp::TellAll()

@@ -33,6 +33,7 @@ constexpr double hundredths = 100.0;
 
 GridSettings LoadGridSettings(const ISettingsStore& store)
 {
+  store.Refresh();
   const GridSettings defaults;
   GridSettings grid;
   for (const auto& [key, field] : flags) {

@@ -66,7 +66,7 @@ void CHullwrightApp::SetViewSide(ViewSide side)
     mainFrame->SetViewButtonImage(entry->command);
   }
   mainFrame->InvalidateToolBar();
-  mainFrame->Notify(Notification::RepaintDesign, 0);
+  mainFrame->Notify(Notification::RepaintDesign);
 }
 
 std::unique_ptr<CViewPortDesigner> CHullwrightApp::HandOverViewPort()
@@ -110,6 +110,7 @@ void CHullwrightApp::SaveGridSettings(const GridSettings& grid)
 
 void CHullwrightApp::LoadLook()
 {
+  ports_.settings.Refresh();
   applicationLook = Look{
       ports_.settings.ReadInteger(workspaceSection, lookKey, NumberOf(Look::VisualStudio2008))};
 }
@@ -130,12 +131,6 @@ bool CHullwrightApp::EditOffsets(HitKind focus)
 {
   CDialogOffsets dialog(*this, focus);
   return ports_.dialogs.Run(dialog) != DialogEnd::Cancel;
-}
-
-void CHullwrightApp::BeforeChange(const CShapeVertex& vertex)
-{
-  if (mainFrame == nullptr || mainFrame->objectView == nullptr) return;
-  mainFrame->objectView->Tree().KeepText(vertex);
 }
 
 void CHullwrightApp::NotifyDesignChanged()

@@ -100,7 +100,6 @@ public:
   GridSettings LoadGridSettings() const override;
   CursorTool GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override;
-  void BeforeChange(const CShapeVertex& vertex) override;
   void NotifyDesignChanged() override;
   void SetModifiedFlag(bool modified) override;
 

@@ -12,24 +12,27 @@ CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow*
   app.LoadLook();
 }
 
-void CMainFrame::ShowImport(Notification code, std::intptr_t value)
+void CMainFrame::StartProgress(std::string_view text)
 {
-  switch (code) {
-    case Notification::ImportStart:
-      if (value == 0) break;
-      // NOLINTNEXTLINE(performance-no-int-to-ptr): the value of a notification is a number
-      widgets_.StartProgress(reinterpret_cast<const char*>(value));
-      break;
-    case Notification::ImportProgress: widgets_.ShowProgress(static_cast<int>(value)); break;
-    case Notification::ImportEnd: widgets_.EndProgress(); break;
-    default: break;
-  }
+  if (listener_ != nullptr) listener_->StartProgress(text);
+  widgets_.StartProgress(text);
 }
 
-void CMainFrame::Notify(Notification code, std::intptr_t value)
+void CMainFrame::ShowProgress(int percent)
 {
-  if (listener_ != nullptr) listener_->Notify(code, value);
-  ShowImport(code, value);
+  if (listener_ != nullptr) listener_->ShowProgress(percent);
+  widgets_.ShowProgress(percent);
+}
+
+void CMainFrame::EndProgress()
+{
+  if (listener_ != nullptr) listener_->EndProgress();
+  widgets_.EndProgress();
+}
+
+void CMainFrame::Notify(Notification code)
+{
+  if (listener_ != nullptr) listener_->Notify(code);
   if (code == Notification::RebuildTree) {
     // Whatever was released from the design must not be reached through an old pick.
     if (view != nullptr) view->DropReleasedItems();

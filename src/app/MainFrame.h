@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string_view>
 
 #include "platform/Framework.h"
@@ -23,10 +22,12 @@ public:
 
   bool HasWindow() const override { return hasWindow; }
 
-  /// The switchboard: the tree's code stays here, any other goes on to the view, without its value.
-  /// The progress of an import is shown on the way.
-  void Notify(Notification code, std::intptr_t value) override;
+  /// The switchboard: the tree's code stays here, any other goes on to the view.
+  void Notify(Notification code) override;
   void SetModifiedFlag(bool modified) override;
+  void StartProgress(std::string_view text) override;
+  void ShowProgress(int percent) override;
+  void EndProgress() override;
 
   /// Carries out a command of application or view; false for an id without a handler.
   bool OnCommand(CommandId id);
@@ -51,8 +52,6 @@ public:
   CommandId viewButtonImage;  ///< command whose image the side drop-down bears
 
 private:
-  void ShowImport(Notification code, std::intptr_t value);
-
   CHullwrightApp& app_;
   IFrameWidgets& widgets_;
   IMainWindow* listener_;

@@ -30,7 +30,7 @@ std::u16string PointText(const CShapeVertex& v)
 void CObjectTree::Rebuild()
 {
   ++build_;
-  keptTexts_.clear();
+  design_.shownInTree.clear();
   for (std::size_t side = 0; side < sideCount; ++side) {
     sides_[side].clear();
     const CShapes* const group = FindViewGroup(design_.shapeGroups, sideNodes[side].code);
@@ -110,13 +110,8 @@ std::u16string CObjectTree::Text(const TreeItem& item) const
   }
   const CShapeVertex* const vertex = Vertex(item);
   if (vertex == nullptr) return {};
-  const auto kept = keptTexts_.find(vertex);
-  return kept == keptTexts_.end() ? PointText(*vertex) : kept->second;
-}
-
-void CObjectTree::KeepText(const CShapeVertex& vertex)
-{
-  if (!keptTexts_.contains(&vertex)) keptTexts_[&vertex] = PointText(vertex);
+  const auto shown = design_.shownInTree.find(vertex);
+  return PointText(shown == design_.shownInTree.end() ? *vertex : shown->second);
 }
 
 TreeImage CObjectTree::Image(const TreeItem& item) const

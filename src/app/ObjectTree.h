@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -38,10 +37,9 @@ enum class TreeImage : int {
 };
 
 /// The design as a tree: sides with their polylines and points, and the anchors. It refers to the
-/// design and copies nothing of it but what is needed to stay as it is until the next rebuild: a
-/// rebuild costs a polyline, never a point, and texts are made when they are shown. Whoever
-/// frees or adds shapes must ask for a rebuild before the tree is looked at again; whoever changes
-/// a vertex without one must have its text kept.
+/// design, so that a rebuild costs a polyline, never a point; texts are made when they are shown.
+/// Whoever frees or adds shapes must rebuild the tree before it is looked at again; whoever changes
+/// a vertex without a rebuild notes in `DesignState::shownInTree` where it was.
 class CObjectTree {
 public:
   explicit CObjectTree(DesignState& design) : design_(design) {}
@@ -55,9 +53,6 @@ public:
   TreeItem Child(const TreeItem& item, std::size_t index) const;
 
   std::u16string Text(const TreeItem& item) const;
-
-  /// Keeps the text that a vertex has now, whatever becomes of it, until the next rebuild.
-  void KeepText(const CShapeVertex& vertex);
 
   TreeImage Image(const TreeItem& item) const;
 
@@ -94,7 +89,6 @@ private:
   std::array<std::vector<PolylineNode>, sideCount> sides_;
   std::vector<CAnchor*> anchors_;
   bool hasAnchors_ = false;
-  std::map<const CShapeVertex*, std::u16string> keptTexts_;
 };
 
 }  // namespace hullwright

@@ -75,11 +75,8 @@ private:
 /// Takes the progress where there is no frame.
 class ImportWindow : public SilentWindow {
 public:
-  void Notify(Notification code, std::intptr_t value) override
-  {
-    if (code == Notification::ImportProgress) progress_.ShowProgress(static_cast<int>(value));
-    if (code == Notification::ImportEnd) progress_.EndProgress();
-  }
+  void ShowProgress(int percent) override { progress_.ShowProgress(percent); }
+  void EndProgress() override { progress_.EndProgress(); }
 
 private:
   TerminalProgress progress_;

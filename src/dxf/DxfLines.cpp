@@ -64,13 +64,13 @@ void DxfLines::SkipEntity()
 
 bool DxfLines::IsAtKeyword() const { return Trimmed(UpToNul(lastLine_)) == "0"; }
 
-void DxfLines::ReportProgress(IMainWindow& frame)
+void DxfLines::ReportProgress(IProgress& progress)
 {
   const float part = static_cast<float>(position_) / static_cast<float>(text_.size());
   const std::int32_t percent = TruncateToInt32(part * 100.0F);
   if (percent == lastPercent_) return;
   lastPercent_ = percent;
-  frame.Notify(Notification::ImportProgress, percent);
+  progress.ShowProgress(percent);
 }
 
 std::string_view Trimmed(std::string_view line)

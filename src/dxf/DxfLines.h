@@ -7,7 +7,7 @@
 
 #include "base/Numbers.h"
 #include "dxf/DxfCode.h"
-#include "platform/MainWindow.h"
+#include "platform/Progress.h"
 
 namespace hullwright {
 
@@ -56,8 +56,8 @@ public:
 
   bool IsAtEnd() const { return position_ == text_.size(); }
 
-  /// Notifies the main window how far the reading is, once for each percent.
-  void ReportProgress(IMainWindow& frame);
+  /// Reports how far the reading is, once for each percent.
+  void ReportProgress(IProgress& progress);
 
 private:
   bool Take(std::string_view& line, std::size_t maxChars);

@@ -1,6 +1,5 @@
 #include "dxf/FileDxf.h"
 
-#include <cstdint>
 #include <string>
 
 #include "base/Numbers.h"
@@ -60,16 +59,14 @@ int CFileDxf::Import(std::u16string_view filePath, CLayer* layer)
 
 int CFileDxf::ProcessFile()
 {
-  // The value of a notification is a number; this one stands for the text.
-  static constexpr const char* wait = "Loading and processing DXF file, please wait...";
   const std::string_view text(buffer.get(), static_cast<std::size_t>(size));
   context_.tally.isBinary = text.starts_with("AutoCAD Binary DXF");
   if (!targetLayer_->shapes || frame_ == nullptr || !frame_->HasWindow()) return -1;
   Log(TraceLevel::Progress, processingLog, u"[DXF] Processing file...");
-  frame_->Notify(Notification::ImportStart, reinterpret_cast<std::intptr_t>(wait));
+  frame_->StartProgress("Loading and processing DXF file, please wait...");
   DxfLines lines(text);
   ProcessSections(lines, context_, *targetLayer_->shapes, *frame_);
-  frame_->Notify(Notification::ImportEnd, 0);
+  frame_->EndProgress();
   return 0;
 }
 

@@ -1,7 +1,5 @@
 #include "file/DesignElement.h"
 
-#include <type_traits>
-
 #include "base/Numbers.h"
 #include "base/Text.h"
 

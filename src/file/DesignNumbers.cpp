@@ -10,16 +10,6 @@ namespace {
 
 using Tell = std::function<void(const DesignNumber&)>;
 
-/// Calls `visit` with each entry up to the first null one, as a save goes through them.
-template <class T, class Visit>
-void ForEachSaved(const OwnedArray<T>& items, Visit visit)
-{
-  for (const auto& item : items) {
-    if (!item) break;
-    visit(*item);
-  }
-}
-
 void TellIfNotFinite(const DesignNumber& number, const Tell& tell)
 {
   if (!std::isfinite(number.value)) tell(number);
@@ -38,11 +28,11 @@ void TellCoordinates(const CShapeVertex& vertex, DesignNumber number, const Tell
 void TellVertices(const CShapes& group, std::size_t groupNumber, const Tell& tell)
 {
   DesignNumber number = {ElementOf(ElementKind::Vertex), {}, 0.0, &group, groupNumber};
-  ForEachSaved(group.shapes, [&](const CShape& shape) {
+  ForEachUpToNull(group.shapes, [&](const CShape& shape) {
     if (shape.type != ShapeType::Polyline) return;
     ++number.polylineNumber;
     number.vertexNumber = 0;
-    ForEachSaved(shape.vertices, [&](const CShapeVertex& vertex) {
+    ForEachUpToNull(shape.vertices, [&](const CShapeVertex& vertex) {
       ++number.vertexNumber;
       TellCoordinates(vertex, number, tell);
     });
@@ -54,15 +44,16 @@ void TellVertices(const CShapes& group, std::size_t groupNumber, const Tell& tel
 void ForEachNonFiniteNumber(const DesignState& design, const Tell& tell)
 {
   std::map<decltype(CShapes::viewCode), std::size_t> groups;
-  ForEachSaved(design.shapeGroups,
-               [&](const CShapes& group) { TellVertices(group, ++groups[group.viewCode], tell); });
+  ForEachUpToNull(design.shapeGroups, [&](const CShapes& group) {
+    TellVertices(group, ++groups[group.viewCode], tell);
+  });
   for (const DesignElement& element : designElements) {
     const auto* const member = std::get_if<OffsetMember>(&element.member);
     const CShapeVertex* const offset =
         member == nullptr ? nullptr : (design.*member->inDesign).get();
     if (offset != nullptr) TellCoordinates(*offset, {element, {}, 0.0}, tell);
   }
-  ForEachSaved(design.anchors->items, [&](const CAnchor& anchor) {
+  ForEachUpToNull(design.anchors->items, [&](const CAnchor& anchor) {
     for (const DesignElement& element : designElements) {
       const auto* const member = std::get_if<double CAnchor::*>(&element.member);
       if (member == nullptr || element.use != ElementUse::Saved) continue;

@@ -12,11 +12,11 @@ namespace {
 /// Whether a save of the group writes more than its tags.
 bool HoldsPolyline(const CShapes& group)
 {
-  for (const auto& shape : group.shapes) {
-    if (!shape) break;
-    if (shape->type == ShapeType::Polyline) return true;
-  }
-  return false;
+  bool holdsOne = false;
+  ForEachUpToNull(group.shapes, [&](const CShape& shape) {
+    holdsOne = holdsOne || shape.type == ShapeType::Polyline;
+  });
+  return holdsOne;
 }
 
 void ReadCoordinates(CShapeVertex& vertex, const AttributeMap& attributes)
@@ -57,11 +57,9 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
     WriteEmptyElement(element.name,
                       {{std::u16string(element.attribute), MemberText(element, *this)}});
   } else if (element.kind == ElementKind::Group) {
-    for (const auto& group : shapeGroups) {
-      if (!group) break;
-      if (emptyGroups == EmptyGroups::LeftOut && !HoldsPolyline(*group)) continue;
-      WriteGroup(element, *group);
-    }
+    ForEachUpToNull(shapeGroups, [&](const CShapes& group) {
+      if (emptyGroups == EmptyGroups::Written || HoldsPolyline(group)) WriteGroup(element, group);
+    });
   } else if (const auto* const offset = std::get_if<OffsetMember>(&element.member)) {
     if (const CShapeVertex* const place = (this->*offset->inFile).get()) {
       WriteCoordinates(element, *place);

@@ -8,8 +8,11 @@ namespace hullwright {
 class SilentWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return true; }
-  void Notify(Notification, std::intptr_t) override {}
+  void Notify(Notification) override {}
   void SetModifiedFlag(bool) override {}
+  void StartProgress(std::string_view) override {}
+  void ShowProgress(int) override {}
+  void EndProgress() override {}
 };
 
 }  // namespace hullwright

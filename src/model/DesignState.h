@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <map>
 #include <memory>
 
 #include "model/Anchors.h"
@@ -27,6 +27,10 @@ struct DesignState {
   std::unique_ptr<CShapeVertex> offsetPivot = std::make_unique<CShapeVertex>(0.0, 10.0, 0.0);
   UnitCode unitCode = UnitCode::Metre;
   ViewSide activeView = ViewSide::Top;  ///< the side shown and edited
+
+  /// Vertices that have changed since the object tree was built, as they were then: the tree goes
+  /// on showing them so. Empty after each rebuild.
+  std::map<const CShapeVertex*, CShapeVertex> shownInTree;
 };
 
 /// Gives the design's view, where zooming no longer leads on from it, the window that it began

@@ -49,6 +49,16 @@ void WalkPresent(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
   }
 }
 
+/// As `Walk`, without a cursor.
+template <class T, class Visit>
+void ForEachUpToNull(const OwnedArray<T>& items, Visit visit)
+{
+  for (const auto& item : items) {
+    if (!item) break;
+    visit(*item);
+  }
+}
+
 /// Calls `visit` with each entry that is not null, without a cursor.
 template <class T, class Visit>
 void ForEachEntry(const OwnedArray<T>& items, Visit visit)

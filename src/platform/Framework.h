@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/Progress.h"
 #include "resources/CommandIds.h"
 
 namespace hullwright {
@@ -33,10 +34,8 @@ public:
 };
 
 /// The part of the main frame's look that commands and notifications change.
-class IFrameWidgets {
+class IFrameWidgets : public IProgress {
 public:
-  virtual ~IFrameWidgets() = default;
-
   /// Gives the side drop-down the image of a command.
   virtual void SetViewButtonImage(CommandId command) = 0;
 
@@ -48,13 +47,6 @@ public:
 
   /// Shows what came of a command, until the next one.
   virtual void ShowNote(std::u16string_view text) = 0;
-
-  /// Shows at once that something goes on which takes its time: a text and no progress yet.
-  virtual void StartProgress(std::string_view text) = 0;
-
-  /// Shows a percentage at once.
-  virtual void ShowProgress(int percent) = 0;
-  virtual void EndProgress() = 0;
 };
 
 }  // namespace hullwright

@@ -10,6 +10,10 @@ class ISettingsStore {
 public:
   virtual ~ISettingsStore() = default;
 
+  /// Takes in what another program has stored meanwhile. Settings that are read together are
+  /// refreshed once, before the first.
+  virtual void Refresh() const {}
+
   /// The stored integer; `fallback` where there is none, or none that is an integer.
   virtual std::int32_t ReadInteger(std::string_view section, std::string_view key,
                                    std::int32_t fallback) const = 0;

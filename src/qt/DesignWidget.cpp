@@ -145,7 +145,7 @@ void DesignWidget::mouseMoveEvent(QMouseEvent* event)
   if (view_ == nullptr) return;
   view_->OnSetCursor();
   view_->OnMouseMove(event->buttons().testFlag(Qt::LeftButton), PixelOf(event->position()));
-  Q_EMIT ViewChanged();
+  Q_EMIT Moved();
 }
 
 void DesignWidget::wheelEvent(QWheelEvent* event)

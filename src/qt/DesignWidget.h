@@ -36,7 +36,10 @@ Q_SIGNALS:
   /// A button is being pressed; the view has not seen it yet.
   void Pressed();
 
-  /// A mouse event has run through the view, which may have changed what panes and commands show.
+  /// The mouse has moved over the view, which may have changed what the panes show.
+  void Moved();
+
+  /// Any other mouse event has run through the view; commands may look different, too.
   void ViewChanged();
 
 protected:

@@ -51,6 +51,8 @@ MainWindow::MainWindow(const DeskPorts& ports)
   documents_.onChange = [this] { UpdateAll(); };
   connect(design_, &DesignWidget::Pressed, this, [this] { note_.clear(); });
   connect(design_, &DesignWidget::ViewChanged, this, [this] { UpdateAll(); });
+  // No command looks different because the mouse has moved.
+  connect(design_, &DesignWidget::Moved, this, [this] { UpdatePanes(); });
   design_->iconOf = [this](CommandId command) { return actions_->Get(command)->icon(); };
   design_->Attach(view_);
   UpdateCommands();

@@ -23,14 +23,14 @@ std::int32_t QtSettingsStore::ReadInteger(std::string_view section, std::string_
                                           std::int32_t fallback) const
 {
   if (!file_) return fallback;
-  ReadAgainIfChanged();
   bool isInteger = false;
   const int value = file_->value(Path(section, key)).toString().toInt(&isInteger);
   return isInteger ? value : fallback;
 }
 
-void QtSettingsStore::ReadAgainIfChanged() const
+void QtSettingsStore::Refresh() const
 {
+  if (!file_) return;
   const QDateTime stamp = QFileInfo(file_->fileName()).lastModified();
   if (stamp == lastRead_) return;
   file_->sync();

@@ -8,7 +8,7 @@
 
 namespace hullwright {
 
-/// The user's INI file, shared by all running programs: each read sees what another one has
+/// The user's INI file, shared by all running programs: a refresh takes in what another one has
 /// written. It stands in the system's configuration folder. `File` is open to the shell for what is
 /// its own: recent files and the window's layout.
 class QtSettingsStore : public ISettingsStore {
@@ -16,6 +16,7 @@ public:
   /// Until the store is opened, reads give the defaults and writes are lost.
   void Open(const QString& maker, const QString& program);
 
+  void Refresh() const override;
   std::int32_t ReadInteger(std::string_view section, std::string_view key,
                            std::int32_t fallback) const override;
   void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override;
@@ -23,8 +24,6 @@ public:
   QSettings* File() const { return file_.get(); }
 
 private:
-  void ReadAgainIfChanged() const;
-
   std::unique_ptr<QSettings> file_;
   mutable QDateTime lastRead_;  ///< time stamp of the file when it was read
 };

@@ -37,6 +37,5 @@ inline constexpr std::u16string_view drawingFilter = u"AutoCad DXF Files (*.dxf)
 // The document template.
 inline constexpr std::u16string_view fileFilter = u"Hullwright Files(*.xml)";
 inline constexpr std::u16string_view fileExtension = u".xml";
-inline constexpr std::u16string_view documentType = u"Hullwright.Document";
 
 }  // namespace hullwright::Strings

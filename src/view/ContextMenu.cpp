@@ -67,7 +67,7 @@ void CHullwrightView::EditItem(ClientPoint point)
     CShapeVertex copy(*vertex);
     accepted = host_.EditVertex(copy);
     if (accepted && IsInDesign(design_, pick.item)) {
-      host_.BeforeChange(*vertex);
+      design_.shownInTree.try_emplace(vertex, *vertex);
       *vertex = copy;
     }
   } else {
@@ -88,7 +88,7 @@ CShape* CHullwrightView::FindMarkedPolyline()
 void CHullwrightView::AddVertex(ClientPoint point)
 {
   if (FindMarkedPolyline() == nullptr) return;
-  const WorldPoint world = SnappedWorld(point);
+  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
   auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
   if (!host_.EditVertex(*vertex)) return;
   // Looked up once more, for the dialog may have outlived the polyline.
@@ -103,7 +103,7 @@ void CHullwrightView::AddAnchor(ClientPoint point)
 {
   if (!design_.anchors) return;
   auto anchor = design_.anchors->NewAnchor();
-  const WorldPoint world = SnappedWorld(point);
+  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
   anchor->attachmentX = world.x;
   anchor->attachmentY = world.y;
   design_.anchors->items.push_back(std::move(anchor));

@@ -1,7 +1,5 @@
 #include "view/HullwrightView.h"
 
-#include <utility>
-
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "platform/MainWindow.h"
@@ -44,8 +42,9 @@ void CHullwrightView::OnLButtonDown(ClientPoint point)
   const CursorTool tool = host_.GetCursorTool();
   if (HitVertex(point)) return;
   if (drawing) {
-    AddPolylineVertex();
-    Repaint();
+    const GridSettings grid = host_.LoadGridSettings();
+    AddPolylineVertex(grid);
+    Draw(grid);
   } else if (viewPort != nullptr) {
     switch (tool) {
       case CursorTool::ZoomIn: viewPort->ZoomIn(point.x, point.y); break;
@@ -76,12 +75,13 @@ void CHullwrightView::OnRButtonDown(ClientPoint point)
 
 void CHullwrightView::OnMouseMove(bool leftButton, ClientPoint point)
 {
-  const WorldPoint world = SnappedWorld(point);
+  const GridSettings grid = host_.LoadGridSettings();
+  const WorldPoint world = SnappedWorld(point, grid);
   statusText = u"X: " + WideFromAscii(FormatSignedFixed(world.x, 2, 6)) + u" Y: " +
                WideFromAscii(FormatSignedFixed(world.y, 2, 6));
   if (leftButton && dragVertex.index() != 0) {
     dragging = true;
-    DragTo(point);
+    DragTo(world, grid);
   }
   if (drawing) {
     MoveRubberBand(world);
@@ -126,9 +126,11 @@ CommandState CHullwrightView::QueryCommand(CommandId id) const
 
 std::u16string CHullwrightView::UnitsPaneText() { return u"Units: " + host_.GetUnitName(); }
 
-void CHullwrightView::Repaint()
+void CHullwrightView::Repaint() { Draw(host_.LoadGridSettings()); }
+
+void CHullwrightView::Draw(const GridSettings& grid)
 {
-  DrawScene(design_, viewPort.get(), newShape.get(), host_.LoadGridSettings());
+  DrawScene(design_, viewPort.get(), newShape.get(), grid);
 }
 
 void CHullwrightView::DropReleasedItems()

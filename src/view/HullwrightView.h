@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -97,9 +96,9 @@ private:
   // Picking and dragging (VertexPicking.cpp)
   bool HitVertex(ClientPoint point);
   void ClearPick();
-  void DragTo(ClientPoint point);
+  void DragTo(const WorldPoint& world, const GridSettings& grid);
   void EndDrag(ClientPoint point);
-  WorldPoint SnappedWorld(ClientPoint point) const;
+  WorldPoint SnappedWorld(ClientPoint point, const GridSettings& grid) const;
 
   // Context menu (ContextMenu.cpp)
   void OfferMenu(ClientPoint point, bool hit);
@@ -115,10 +114,12 @@ private:
 
   // Polyline tool (PolylineTool.cpp)
   void BeginPolyline();
-  void AddPolylineVertex();
+  void AddPolylineVertex(const GridSettings& grid);
   void MoveRubberBand(const WorldPoint& world);
   void FinishPolyline();
 
+  // An event reads the grid settings once and hands them on: each reading goes to the store.
+  void Draw(const GridSettings& grid);
   void ShowAllShapes();
   ClientPoint PixelOf(const WorldPoint& world) const;
 

@@ -21,10 +21,10 @@ void CHullwrightView::BeginPolyline()
   drawing = true;
 }
 
-void CHullwrightView::AddPolylineVertex()
+void CHullwrightView::AddPolylineVertex(const GridSettings& grid)
 {
   // The free end of the band is what the user sees and aims with, so it is taken, not the press.
-  const WorldPoint world = SnappedWorld(cursorPoint);
+  const WorldPoint world = SnappedWorld(cursorPoint, grid);
   newShape->AddVertex(world.x, world.y, 0.0);
   lastPoint = PixelOf(world);
 }

@@ -22,31 +22,30 @@ void CHullwrightView::ClearPick()
   dragVertex = {};
 }
 
-void CHullwrightView::DragTo(ClientPoint point)
+void CHullwrightView::DragTo(const WorldPoint& world, const GridSettings& grid)
 {
   if (hitKind == HitKind::None || dragVertex.index() == 0) return;
-  const WorldPoint world = SnappedWorld(point);
   if (const auto* const vertex = std::get_if<CShapeVertex*>(&dragVertex)) {
-    host_.BeforeChange(**vertex);
+    design_.shownInTree.try_emplace(*vertex, **vertex);
   }
   MoveItem(dragVertex, world.x, world.y);
-  Repaint();
+  Draw(grid);
 }
 
 void CHullwrightView::EndDrag(ClientPoint point)
 {
   if (hitKind == HitKind::None || dragVertex.index() == 0) return;
-  const WorldPoint world = SnappedWorld(point);
+  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
   MoveItem(dragVertex, world.x, world.y);
   host_.NotifyDesignChanged();
   host_.SetModifiedFlag(true);
 }
 
-WorldPoint CHullwrightView::SnappedWorld(ClientPoint point) const
+WorldPoint CHullwrightView::SnappedWorld(ClientPoint point, const GridSettings& grid) const
 {
   if (viewPort == nullptr) return {};
   WorldPoint world = viewPort->ScreenToWorld(point.x, point.y);
-  SnapToGrid(host_.LoadGridSettings(), world.x, world.y);
+  SnapToGrid(grid, world.x, world.y);
   return world;
 }
 

@@ -43,10 +43,6 @@ public:
   /// Lets the user edit the offsets, beginning with the one of a kind of pick.
   virtual bool EditOffsets(HitKind focus) = 0;
 
-  /// A vertex is about to change without a notification of the object tree: the tree goes on
-  /// showing where the vertex was.
-  virtual void BeforeChange(const CShapeVertex& vertex) = 0;
-
   /// Repaint, then tree, through the main window.
   virtual void NotifyDesignChanged() = 0;
 

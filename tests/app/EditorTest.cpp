@@ -31,7 +31,7 @@ TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
 /// Looks at what stands when the frame is told something.
 class EarlyListener : public SilentWindow {
 public:
-  void Notify(Notification, std::intptr_t) override { look(); }
+  void Notify(Notification) override { look(); }
   void SetModifiedFlag(bool) override { look(); }
   std::function<void()> look;
 };
@@ -47,7 +47,7 @@ TEST_F(AssembledEditor, ItsListenerHearsBeforeAnythingComesOfIt)
     rebuilds.push_back(control.rebuilds);
     modified.push_back(other->document.IsModified());
   };
-  other->frame.Notify(Notification::RebuildTree, 0);
+  other->frame.Notify(Notification::RebuildTree);
   other->frame.SetModifiedFlag(true);
   EXPECT_THAT(rebuilds, ElementsAre(0, 1));
   EXPECT_THAT(modified, ElementsAre(false, false));

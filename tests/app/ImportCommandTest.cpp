@@ -64,9 +64,9 @@ TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
   EXPECT_EQ(ShapesOf(0)[0]->vertices[1]->x, 3.0);
   EXPECT_EQ(ShapesOf(0)[0]->attributes->items[0]->value, u"Hull");
   EXPECT_EQ(dynamic_cast<const CShapeText&>(*ShapesOf(0)[1]).text, u"Winch");
-  EXPECT_EQ(heard.list.front(), "1046");
+  EXPECT_EQ(heard.list.front(), "start");
   const std::vector<std::string> last(heard.list.end() - 4, heard.list.end());
-  EXPECT_THAT(last, ElementsAre("1045", "repaint", "tree", "modified"));
+  EXPECT_THAT(last, ElementsAre("end", "repaint", "tree", "modified"));
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(Frames(), 1);
 }

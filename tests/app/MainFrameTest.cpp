@@ -14,22 +14,19 @@ class MainFrame : public test::AppFixture {};
 
 TEST_F(MainFrame, PassesEveryCodeButTheTreesOnToTheView)
 {
-  frame.Notify(Notification::RepaintDesign, 5);
+  frame.Notify(Notification::RepaintDesign);
   EXPECT_EQ(Frames(), 1);
-  frame.Notify(Notification::RebuildTree, 0);
-  frame.Notify(Notification::ImportProgress, 50);
-  frame.Notify(Notification{}, 0);
+  frame.Notify(Notification::RebuildTree);
+  frame.Notify(Notification{});
   EXPECT_EQ(Frames(), 1);
 }
 
 TEST_F(MainFrame, ShowsTheProgressOfAnImport)
 {
-  frame.Notify(Notification::ImportStart, reinterpret_cast<std::intptr_t>("Loading"));
-  frame.Notify(Notification::ImportProgress, 50);
-  frame.Notify(Notification::ImportEnd, 0);
+  frame.StartProgress("Loading");
+  frame.ShowProgress(50);
+  frame.EndProgress();
   EXPECT_THAT(widgets.calls, ElementsAre("start Loading", "50 %", "end"));
-  frame.Notify(Notification::ImportStart, 0);  // without a text there is nothing to show
-  EXPECT_EQ(widgets.calls.size(), 3U);
 }
 
 TEST_F(MainFrame, WithoutAViewANotificationIsDropped)

@@ -91,7 +91,7 @@ TEST_F(ObjectPane, AVertexThatChangesWithoutARebuildKeepsItsText)
   CShapeVertex& vertex = *AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}, {4.0, 5.0, 6.0}}).vertices[0];
   pane.BuildTree();
   for (const double x : {7.0, 8.0}) {
-    app.BeforeChange(vertex);
+    app.shownInTree.try_emplace(&vertex, vertex);
     vertex.x = x;
     EXPECT_EQ(pane.Tree().Text(At({0, 0, 0, 0})), u"+1.000,+2.000,+3.000");
     EXPECT_EQ(pane.Tree().Text(At({0, 0, 0, 1})), u"+4.000,+5.000,+6.000");

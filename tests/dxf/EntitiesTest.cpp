@@ -1,4 +1,3 @@
-#include <cmath>
 
 #include "dxf/Extrusion.h"
 #include "support/DxfFixture.h"

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "dxf/DxfLines.h"
 #include "support/DxfFixture.h"
@@ -8,21 +9,17 @@ namespace {
 
 using namespace test;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
 class Progress : public DxfFixture {
 protected:
   /// What the last import told between its beginning and its end; the next one starts anew.
-  std::vector<std::intptr_t> Percents()
+  std::vector<int> Percents()
   {
-    EXPECT_EQ(window.codes.front(), Notification::ImportStart);
-    EXPECT_EQ(window.codes.back(), Notification::ImportEnd);
-    const std::vector<std::intptr_t> percents(window.values.begin() + 1, window.values.end() - 1);
-    window.codes.clear();
-    window.values.clear();
-    return percents;
+    EXPECT_GT(window.starts, 0);
+    EXPECT_EQ(window.ends, window.starts);
+    return std::exchange(window.percents, {});
   }
 
   /// Reads a text up to each of the places, the last of which is its end, and tells the progress
@@ -49,32 +46,29 @@ TEST_F(Progress, ProgressBeginsRisesAndEnds)
   std::string records;
   for (int i = 0; i < 1000; ++i) records += aLine;
   Import(Entities(records) + endOfFile);
-  EXPECT_EQ(window.codes.front(), Notification::ImportStart);
-  EXPECT_EQ(window.codes.back(), Notification::ImportEnd);
-  const auto percents = std::ranges::count(window.codes, Notification::ImportProgress);
-  EXPECT_GE(percents, 95);
-  EXPECT_LE(percents, 100);
-  EXPECT_TRUE(std::ranges::is_sorted(window.values.begin() + 1, window.values.end() - 1));
-  EXPECT_STREQ(reinterpret_cast<const char*>(window.values.front()),
-               "Loading and processing DXF file, please wait...");
+  EXPECT_EQ(window.progressText, "Loading and processing DXF file, please wait...");
+  const std::vector<int> percents = Percents();
+  EXPECT_GE(percents.size(), 95U);
+  EXPECT_LE(percents.size(), 100U);
+  EXPECT_TRUE(std::ranges::is_sorted(percents));
 }
 
 TEST_F(Progress, PercentIsTruncatedAndToldOnce)
 {
   TellAfterEach({0, 3, 4, 7, 8, 8, 199, 400});
-  EXPECT_THAT(window.values, ElementsAre(1, 2, 49, 100));
+  EXPECT_THAT(window.percents, ElementsAre(1, 2, 49, 100));
 }
 
 TEST_F(Progress, PercentIsReckonedInSinglePrecision)
 {
   TellAfterEach({29, 100});  // in double precision a hair below 29 per cent
-  EXPECT_THAT(window.values, ElementsAre(29, 100));
+  EXPECT_THAT(window.percents, ElementsAre(29, 100));
 }
 
 TEST_F(Progress, AnImportThatFailsShowsNoProgress)
 {
   Import("");
-  EXPECT_THAT(window.codes, IsEmpty());
+  EXPECT_EQ(window.starts, 0);
 }
 
 TEST_F(Progress, IsToldBehindEveryLineBetweenSections)
@@ -82,7 +76,7 @@ TEST_F(Progress, IsToldBehindEveryLineBetweenSections)
   std::string text;
   for (int i = 0; i < 50; ++i) text += "x\n";
   Import(text);
-  std::vector<std::intptr_t> everyLine;
+  std::vector<int> everyLine;
   for (int percent = 2; percent <= 100; percent += 2) everyLine.push_back(percent);
   EXPECT_EQ(Percents(), everyLine);
 }
@@ -97,8 +91,8 @@ TEST_F(Progress, IsToldBehindASectionAndNotInsideIt)
     const std::size_t half = begin.size() + body.size();
     // The line behind the section is as long as all before it, and its percent comes of itself.
     Import(begin + body + std::string(half - 1, 'x') + "\n");
-    const auto first = static_cast<std::intptr_t>(100 * begin.size() / (2 * half));
-    std::vector<std::intptr_t> expected = {50, 100};
+    const auto first = static_cast<int>(100 * begin.size() / (2 * half));
+    std::vector<int> expected = {50, 100};
     if (first > 0) expected.insert(expected.begin(), first);
     EXPECT_EQ(Percents(), expected) << section;
   }
@@ -107,11 +101,11 @@ TEST_F(Progress, IsToldBehindASectionAndNotInsideIt)
 TEST_F(Progress, IsToldBehindEveryLineAndEntityOfTheEntities)
 {
   std::string text = "SECTION\n2\nENTITIES\n";
-  std::vector<std::intptr_t> expected;
+  std::vector<int> expected;
   // The text has 100 bytes, so that each place in it is its own percent.
   const auto add = [&](const std::string& part) {
     text += part;
-    expected.push_back(static_cast<std::intptr_t>(text.size()));
+    expected.push_back(static_cast<int>(text.size()));
   };
   add("0\n");
   add("LINE\n10\n1\n0\n");  // an entity with the group 0 behind it

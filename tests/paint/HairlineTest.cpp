@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <memory>
 
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"

@@ -10,7 +10,6 @@
 #include "base/Code.h"
 #include "qt/Icons.h"
 #include "qt/QtText.h"
-#include "resources/Strings.h"
 #include "support/TemplateDialogFixture.h"
 
 namespace hullwright {

@@ -7,7 +7,6 @@
 #include <QToolButton>
 
 #include "qt/TemplateDialog.h"
-#include "resources/Strings.h"
 #include "support/DeskFixture.h"
 
 namespace hullwright {

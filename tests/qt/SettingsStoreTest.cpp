@@ -42,7 +42,7 @@ TEST_F(SettingsStore, WhatIsNoIntegerReadsAsTheDefault)
   EXPECT_EQ(store.ReadInteger("Grid", "SpacingShowX", 250), 250);
 }
 
-TEST_F(SettingsStore, SeesWhatAnotherProgramHasWritten)
+TEST_F(SettingsStore, ARefreshTakesInWhatAnotherProgramHasWritten)
 {
   QtSettingsStore first;
   first.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
@@ -51,6 +51,8 @@ TEST_F(SettingsStore, SeesWhatAnotherProgramHasWritten)
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
   QThread::msleep(20);  // file times have a grain
   folder.Write("config/Quillmere/Hullwright.ini", "[Grid]\nShow=0\n");
+  EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
+  first.Refresh();
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 0);
 }
 

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <limits>
 
 #include "model/ShapePolygon.h"

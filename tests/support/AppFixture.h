@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
 #include "app/Editor.h"
 #include "headless/FileAnswers.h"
 #include "headless/KeptMessages.h"

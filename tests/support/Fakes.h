@@ -19,10 +19,9 @@ namespace hullwright::test {
 class FakeMainWindow : public IMainWindow {
 public:
   bool HasWindow() const override { return hasWindow; }
-  void Notify(Notification code, std::intptr_t value) override
+  void Notify(Notification code) override
   {
     codes.push_back(code);
-    values.push_back(value);
     if (onTold) onTold();
   }
   void SetModifiedFlag(bool modified) override
@@ -31,17 +30,35 @@ public:
     if (onTold) onTold();
   }
 
+  void StartProgress(std::string_view text) override
+  {
+    ++starts;
+    isRunning = true;
+    progressText = text;
+  }
+  void ShowProgress(int percent) override { percents.push_back(percent); }
+  void EndProgress() override
+  {
+    ++ends;
+    isRunning = false;
+  }
+
   bool hasWindow = true;
   std::vector<Notification> codes;
-  std::vector<std::intptr_t> values;
+  std::vector<int> percents;
+  int starts = 0;  ///< of an import, and how many of them have ended
+  int ends = 0;
+  bool isRunning = false;
+  std::string_view progressText;
   std::vector<bool> flags;
   std::function<void()> onTold;  ///< called at each notification
 };
 
-/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number.
+/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number; of
+/// an import "start", its percentages and "end".
 class HeardNotifications : public SilentWindow {
 public:
-  void Notify(Notification code, std::intptr_t) override
+  void Notify(Notification code) override
   {
     list.emplace_back(code == Notification::RepaintDesign ? "repaint"
                       : code == Notification::RebuildTree ? "tree"
@@ -51,6 +68,9 @@ public:
   {
     list.emplace_back(modified ? "modified" : "clean");
   }
+  void StartProgress(std::string_view) override { list.emplace_back("start"); }
+  void ShowProgress(int percent) override { list.push_back(std::to_string(percent) + " %"); }
+  void EndProgress() override { list.emplace_back("end"); }
   std::vector<std::string> list;
 };
 

@@ -8,7 +8,6 @@
 #include <QSettings>
 #include <QTimer>
 #include <functional>
-#include <memory>
 
 #include "support/TempFolder.h"
 

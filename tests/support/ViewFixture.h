@@ -22,7 +22,11 @@ namespace hullwright::test {
 class FakeHost : public IViewHost {
 public:
   std::unique_ptr<CViewPortDesigner> HandOverViewPort() override { return std::move(viewPort); }
-  GridSettings LoadGridSettings() const override { return grid; }
+  GridSettings LoadGridSettings() const override
+  {
+    ++gridReadings;
+    return grid;
+  }
   CursorTool GetCursorTool() const override { return cursorTool; }
   std::u16string GetUnitName() override { return unitName; }
   bool EditVertex(CShapeVertex& vertex) override
@@ -38,7 +42,6 @@ public:
     events.push_back("edit offsets " + std::to_string(NumberOf(focus)));
     return accept;
   }
-  void BeforeChange(const CShapeVertex& vertex) override { before.push_back(vertex.x); }
   void NotifyDesignChanged() override { events.emplace_back("changed"); }
   void SetModifiedFlag(bool modified) override
   {
@@ -47,10 +50,10 @@ public:
 
   std::unique_ptr<CViewPortDesigner> viewPort;
   GridSettings grid;
+  mutable int gridReadings = 0;
   CursorTool cursorTool = CursorTool::None;
   std::u16string unitName;
   std::vector<std::string> events;
-  std::vector<double> before;          ///< x of each vertex that was about to change
   CShapeVertex edited;                 ///< what the dialog showed
   CShapeVertex typed;                  ///< what is typed into it
   bool accept = false;                 ///< how it ends

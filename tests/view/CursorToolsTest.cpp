@@ -183,7 +183,7 @@ TEST_F(View, TheCursorIsACrossAndOverAnItemAHand)
 TEST_F(View, ActsOnTheRepaintNotificationOnly)
 {
   view.OnUser(Notification::RebuildTree);
-  view.OnUser(Notification::ImportProgress);
+  view.OnUser(Notification{});
   EXPECT_EQ(Frames(), 0);
   view.OnUser(Notification::RepaintDesign);
   EXPECT_EQ(Frames(), 1);

@@ -110,13 +110,26 @@ TEST_F(Picking, ADragMovesTheVertexAndKeepsItsZ)
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(20.0, -10.0, 7.0));
   EXPECT_EQ(Frames(), 1);
   EXPECT_TRUE(host.events.empty());
-  EXPECT_THAT(host.before, ElementsAre(0.0));
+  EXPECT_TRUE(design.shownInTree.at(line.vertices[0].get()) == CShapeVertex(0.0, 0.0, 7.0));
   view.OnLButtonUp({500, 300});
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(25.0, 0.0, 7.0));
   EXPECT_THAT(host.events, ElementsAre("changed", "modified"));
   EXPECT_FALSE(view.dragging);
   EXPECT_EQ(view.hitKind, HitKind::None);
   EXPECT_EQ(view.dragVertex, PickedItem());
+}
+
+TEST_F(Picking, AMoveReadsTheGridSettingsOnce)
+{
+  AddLine({{0.0, 0.0, 0.0}});
+  host.gridReadings = 0;
+  Hover(400, 300);
+  EXPECT_EQ(host.gridReadings, 1);
+  view.OnLButtonDown({400, 300});
+  host.gridReadings = 0;
+  Drag(480, 340);
+  EXPECT_TRUE(view.dragging);
+  EXPECT_EQ(host.gridReadings, 1);
 }
 
 TEST_F(Picking, ADragSnapsToTheGrid)

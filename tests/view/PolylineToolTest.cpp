@@ -41,6 +41,16 @@ TEST_F(PolylineTool, TwoPressesAndARightPressGiveATwoVertexPolyline)
   EXPECT_EQ(view.cursorPoint, (ClientPoint{500, 260}));
 }
 
+TEST_F(PolylineTool, APressReadsTheGridSettingsOnce)
+{
+  Begin();
+  Click(400, 300);
+  host.gridReadings = 0;
+  view.OnLButtonDown({500, 260});
+  EXPECT_EQ(view.newShape->vertices.size(), 2U);
+  EXPECT_EQ(host.gridReadings, 1);
+}
+
 TEST_F(PolylineTool, AFinishedPolylineIsDrawnFromThenOn)
 {
   Begin();

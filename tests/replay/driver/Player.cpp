@@ -241,7 +241,7 @@ Value Player::User(const Json& step)
     return {};
   }
   editor_.listener.listing = false;
-  editor_.frame.Notify(code, 0);
+  editor_.frame.Notify(code);
   editor_.listener.listing = true;
   return {};
 }

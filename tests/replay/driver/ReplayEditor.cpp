@@ -152,7 +152,7 @@ Value ReportNodes(const std::vector<ReplayTree::Node>& nodes)
 
 Value ReplayTree::Report() const { return ReportNodes(snapshot); }
 
-void ReplayListener::Notify(Notification code, std::intptr_t)
+void ReplayListener::Notify(Notification code)
 {
   if (listing && code == Notification::RepaintDesign) events_.emplace_back("repaint");
   if (listing && code == Notification::RebuildTree) events_.emplace_back("tree");

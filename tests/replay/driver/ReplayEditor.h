@@ -67,7 +67,7 @@ private:
 class ReplayListener : public SilentWindow {
 public:
   explicit ReplayListener(Value::List& events) : events_(events) {}
-  void Notify(Notification code, std::intptr_t value) override;
+  void Notify(Notification code) override;
   void SetModifiedFlag(bool modified) override;
   bool listing = true;  ///< whether notifications are written down
 

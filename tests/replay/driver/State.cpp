@@ -1,4 +1,3 @@
-#include <array>
 
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
