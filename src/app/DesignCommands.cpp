@@ -36,7 +36,7 @@ void CHullwrightApp::Repaint() const
   if (mainFrame != nullptr) mainFrame->Notify(Notification::RepaintDesign);
 }
 
-void CHullwrightApp::TellAll()
+void CHullwrightApp::NotifyModified()
 {
   NotifyDesignChanged();
   SetModifiedFlag(true);
@@ -47,7 +47,7 @@ void CHullwrightApp::Scale(double fx, double fy, double fz)
   CShapes* const group = FindViewGroup(shapeGroups, activeView);
   if (group == nullptr) return;
   Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Scale(fx, fy, fz); });
-  TellAll();
+  NotifyModified();
 }
 
 void CHullwrightApp::MirrorVertically() { Scale(1.0, -1.0, 1.0); }
@@ -70,7 +70,7 @@ void CHullwrightApp::MoveDesign()
   CShapes* const group = FindViewGroup(shapeGroups, activeView);
   if (group == nullptr) return;
   Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Translate(way.x, way.y, way.z); });
-  TellAll();
+  NotifyModified();
 }
 
 void CHullwrightApp::RotateRight() { RotateDesign(true); }
@@ -81,7 +81,7 @@ void CHullwrightApp::RotateDesign(bool clockwise)
 {
   // The dialog does the turning, so that the design has changed by the time that it closes.
   CDialogRotate dialog(*this, clockwise);
-  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) TellAll();
+  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) NotifyModified();
 }
 
 void CHullwrightApp::RotatePolylines(double angleDegrees)
@@ -103,7 +103,7 @@ void CHullwrightApp::ModifyOffsets()
 void CHullwrightApp::SwitchUnits()
 {
   CDialogUnits dialog(*this);
-  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) TellAll();
+  if (ports_.dialogs.Run(dialog) != DialogEnd::Cancel) NotifyModified();
 }
 
 void CHullwrightApp::ConvertDesign(UnitCode from, UnitCode to)
@@ -172,7 +172,7 @@ int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
     group = shapeGroups.emplace_back(std::make_unique<CShapes>(activeView)).get();
   }
   group->TakeShapes(*layer.shapes);
-  TellAll();
+  NotifyModified();
   return 0;
 }
 

@@ -83,7 +83,7 @@ public:
   void Repaint() const;
 
   /// Notifies all of a change of the design by a command: repaint, tree, modified.
-  void TellAll();
+  void NotifyModified();
 
   bool AskYesNo(std::u16string_view question) { return ports_.messages.AskYesNo(question); }
 

@@ -120,7 +120,7 @@ void CObjectView::AddPolyline()
   CShapes* const group = Group();
   if (group == nullptr) return;
   group->shapes.push_back(std::make_unique<CShapePolyline>());
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 void CObjectView::RemoveAllPolylines()
@@ -128,14 +128,14 @@ void CObjectView::RemoveAllPolylines()
   CShapes* const group = Group();
   if (group == nullptr || !app_.AskYesNo(Strings::deleteAllShapes)) return;
   group->Clear();
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 void CObjectView::AddAnchor()
 {
   if (!app_.anchors) return;
   app_.anchors->items.push_back(app_.anchors->NewAnchor());
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 // A dialog or question may outlive what it is about: the design can be replaced meanwhile. Items of
@@ -150,7 +150,7 @@ void CObjectView::AddPoint()
   CShape* const shape = tree_.Shape(item);
   if (shape == nullptr) return;
   shape->vertices.push_back(std::move(vertex));
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 void CObjectView::RemovePolyline()
@@ -161,7 +161,7 @@ void CObjectView::RemovePolyline()
   const CShape* const shape = tree_.Shape(item);
   if (shape == nullptr) return;
   std::erase_if(Group()->shapes, [shape](const auto& owned) { return owned.get() == shape; });
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 void CObjectView::ZoomPolyline()
@@ -184,7 +184,7 @@ void CObjectView::EditPoint()
   CShapeVertex* const vertex = tree_.Vertex(item);
   if (vertex == nullptr) return;
   *vertex = copy;
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 void CObjectView::RemovePoint()
@@ -194,7 +194,7 @@ void CObjectView::RemovePoint()
   CShape* const shape = tree_.Shape(tree_.Parent(item));
   if (shape == nullptr) return;
   shape->RemoveVertex(tree_.Vertex(item));
-  app_.TellAll();
+  app_.NotifyModified();
 }
 
 }  // namespace hullwright

@@ -84,7 +84,7 @@ private:
 
 /// Reports what an import passed over, and where it gave nothing. `keepsAll` is false where only
 /// polylines are kept.
-void TellTally(const std::string& name, const ImportTally& tally, bool keepsAll)
+void ReportTally(const std::string& name, const ImportTally& tally, bool keepsAll)
 {
   if (const std::u16string passedOver = DescribePassedOver(tally); !passedOver.empty()) {
     Remark(name, passedOver);
@@ -99,7 +99,7 @@ void TellTally(const std::string& name, const ImportTally& tally, bool keepsAll)
 
 int PrintJson(const Options& options)
 {
-  const bool tells = options.output.empty();  // else the import into the design does
+  const bool reports = options.output.empty();  // else the import into the design does
   JsonWriter json(stdout);
   for (const std::string& drawing : options.drawings) {
     const InputFile input(drawing);
@@ -110,9 +110,9 @@ int PrintJson(const Options& options)
     CFileDxf reader(&window, log);
     const int result = reader.Import(path, &layer);
     WriteImportJson(json, result, log, path, layer);
-    if (!tells || result != 0) continue;
+    if (!reports || result != 0) continue;
     if (reader.Tally().IsDrawing()) {
-      TellTally(input.Name(), reader.Tally(), true);
+      ReportTally(input.Name(), reader.Tally(), true);
     } else {
       Remark(input.Name(), DescribeImport(reader.Tally()));
     }
@@ -140,7 +140,7 @@ int ImportAll(const Options& options)
     if (!editor.Import(WideFromUtf8(input.Path()))) {
       return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
     }
-    TellTally(input.Name(), editor.Tally(), false);
+    ReportTally(input.Name(), editor.Tally(), false);
   }
   OutputFile output(options.output);
   if (output.Path().empty()) return Fail(output.Problem());

@@ -8,24 +8,24 @@
 namespace hullwright {
 namespace {
 
-using Tell = std::function<void(const DesignNumber&)>;
+using Visit = std::function<void(const DesignNumber&)>;
 
-void TellIfNotFinite(const DesignNumber& number, const Tell& tell)
+void VisitIfNotFinite(const DesignNumber& number, const Visit& visit)
 {
-  if (!std::isfinite(number.value)) tell(number);
+  if (!std::isfinite(number.value)) visit(number);
 }
 
 /// Reports the coordinates of a vertex; `number` is its place.
-void TellCoordinates(const CShapeVertex& vertex, DesignNumber number, const Tell& tell)
+void VisitCoordinates(const CShapeVertex& vertex, DesignNumber number, const Visit& visit)
 {
   for (const Coordinate& coordinate : coordinates) {
     number.name = coordinate.Name();
     number.value = vertex.*coordinate.member;
-    TellIfNotFinite(number, tell);
+    VisitIfNotFinite(number, visit);
   }
 }
 
-void TellVertices(const CShapes& group, std::size_t groupNumber, const Tell& tell)
+void VisitVertices(const CShapes& group, std::size_t groupNumber, const Visit& visit)
 {
   DesignNumber number = {ElementOf(ElementKind::Vertex), {}, 0.0, &group, groupNumber};
   ForEachUpToNull(group.shapes, [&](const CShape& shape) {
@@ -34,30 +34,30 @@ void TellVertices(const CShapes& group, std::size_t groupNumber, const Tell& tel
     number.vertexNumber = 0;
     ForEachUpToNull(shape.vertices, [&](const CShapeVertex& vertex) {
       ++number.vertexNumber;
-      TellCoordinates(vertex, number, tell);
+      VisitCoordinates(vertex, number, visit);
     });
   });
 }
 
 }  // namespace
 
-void ForEachNonFiniteNumber(const DesignState& design, const Tell& tell)
+void ForEachNonFiniteNumber(const DesignState& design, const Visit& visit)
 {
   std::map<decltype(CShapes::viewCode), std::size_t> groups;
   ForEachUpToNull(design.shapeGroups, [&](const CShapes& group) {
-    TellVertices(group, ++groups[group.viewCode], tell);
+    VisitVertices(group, ++groups[group.viewCode], visit);
   });
   for (const DesignElement& element : designElements) {
     const auto* const member = std::get_if<OffsetMember>(&element.member);
     const CShapeVertex* const offset =
         member == nullptr ? nullptr : (design.*member->inDesign).get();
-    if (offset != nullptr) TellCoordinates(*offset, {element, {}, 0.0}, tell);
+    if (offset != nullptr) VisitCoordinates(*offset, {element, {}, 0.0}, visit);
   }
   ForEachUpToNull(design.anchors->items, [&](const CAnchor& anchor) {
     for (const DesignElement& element : designElements) {
       const auto* const member = std::get_if<double CAnchor::*>(&element.member);
       if (member == nullptr || element.use != ElementUse::Saved) continue;
-      TellIfNotFinite({element, element.name, anchor.**member, nullptr, 0, 0, 0, &anchor}, tell);
+      VisitIfNotFinite({element, element.name, anchor.**member, nullptr, 0, 0, 0, &anchor}, visit);
     }
   });
 }

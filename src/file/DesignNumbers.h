@@ -24,9 +24,9 @@ struct DesignNumber {
   const CAnchor* anchor = nullptr;  ///< of a field
 };
 
-/// Calls `tell` with each number that a save of the design writes and that no chart can show:
+/// Calls `visit` with each number that a save of the design writes and that no chart can show:
 /// infinities and not-a-number. The objects' own cursors stay where they are.
 void ForEachNonFiniteNumber(const DesignState& design,
-                            const std::function<void(const DesignNumber&)>& tell);
+                            const std::function<void(const DesignNumber&)>& visit);
 
 }  // namespace hullwright

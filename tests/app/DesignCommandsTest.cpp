@@ -18,18 +18,18 @@ using testing::ElementsAreArray;
 class Commands : public test::CommandFixture {};
 
 // ---------------------------------------------------------------------------------------------------
-// Which command tells what, accepted and cancelled, with and without a group
+// What each command notifies of, accepted and cancelled, with and without a group
 
 struct CommandCase {
   const char* name;
   CommandId id;
   bool hasDialog;
-  std::vector<std::string> told;         ///< accepted, with a group
-  std::vector<std::string> toldWithout;  ///< accepted, without a group
+  std::vector<std::string> notifications;    ///< accepted, with a group
+  std::vector<std::string> notifiedWithout;  ///< accepted, without a group
   bool makesGroup;
 };
 
-const std::vector<std::string>& all = test::toldAll;
+const std::vector<std::string>& all = test::notifiedOfAll;
 const std::vector<std::string> none = {};
 const std::vector<std::string> repaint = {"repaint"};
 
@@ -83,14 +83,14 @@ TEST_P(EachCommand, TellsItsNotificationsInOrder)
 {
   AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, Accept());
-  EXPECT_THAT(heard.list, ElementsAreArray(GetParam().told));
+  EXPECT_THAT(notified.list, ElementsAreArray(GetParam().notifications));
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
 }
 
 TEST_P(EachCommand, WithoutAGroupTellsWhatItsRowSays)
 {
   Run(GetParam().id, Accept());
-  EXPECT_THAT(heard.list, ElementsAreArray(GetParam().toldWithout));
+  EXPECT_THAT(notified.list, ElementsAreArray(GetParam().notifiedWithout));
   EXPECT_EQ(app.shapeGroups.size(), GetParam().makesGroup ? 1U : 0U);
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
 }
@@ -112,7 +112,7 @@ TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, {.ok = false});
-  EXPECT_TRUE(heard.list.empty());
+  EXPECT_TRUE(notified.list.empty());
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
   EXPECT_TRUE(settings.written.empty());
   EXPECT_EQ(app.unitCode, UnitCode::Metre);
@@ -193,7 +193,7 @@ TEST_P(EachWalk, EndsAtAnEmptySlotAndTellsAll)
   Run(GetParam().command, GetParam().script);
   EXPECT_FALSE(*before.vertices[0] == start);
   EXPECT_TRUE(*behind.vertices[0] == start);
-  EXPECT_THAT(heard.list, ElementsAreArray(all));
+  EXPECT_THAT(notified.list, ElementsAreArray(all));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -220,7 +220,7 @@ TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
   for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
     Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, text}}});
   }
-  EXPECT_TRUE(heard.list.empty());
+  EXPECT_TRUE(notified.list.empty());
   EXPECT_FALSE(document.IsModified());
   EXPECT_EQ(line.vertices[0]->x, 1.0);
 }
@@ -326,7 +326,7 @@ TEST_F(Commands, ARotationByNothingStillModifies)
   Run(CommandId::RotateLeft, {.ok = true,
                               .fields = {{RotateControls::angle, u"abc"}},
                               .clicks = {{RotateControls::byAngle, true}}});
-  EXPECT_THAT(heard.list, ElementsAreArray(all));
+  EXPECT_THAT(notified.list, ElementsAreArray(all));
 }
 
 TEST_F(Commands, TheRotateDialogBeginsAtNinetyDegreesInItsDirection)

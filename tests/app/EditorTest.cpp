@@ -14,11 +14,11 @@ class AssembledEditor : public test::AppFixture {};
 
 TEST_F(AssembledEditor, AChangeReachesPictureTreeAndDocument)
 {
-  app.TellAll();
+  app.NotifyModified();
   EXPECT_EQ(Frames(), 1);
   EXPECT_EQ(control.rebuilds, 1);
   EXPECT_TRUE(document.IsModified());
-  EXPECT_THAT(heard.list, ElementsAre("repaint", "tree", "modified"));
+  EXPECT_THAT(notified.list, ElementsAre("repaint", "tree", "modified"));
 }
 
 TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
@@ -28,7 +28,7 @@ TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
   EXPECT_EQ(other.app.applicationLook, Look::Black);
 }
 
-/// Looks at what stands when the frame is told something.
+/// Calls back at each notification of the frame.
 class EarlyListener : public SilentWindow {
 public:
   void Notify(Notification) override { look(); }

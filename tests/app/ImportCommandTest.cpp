@@ -50,7 +50,7 @@ TEST_F(ImportCommand, GivenUpDoesNothing)
 {
   fileDialogs.answer.reset();
   Run(CommandId::ImportDxf);
-  EXPECT_THAT(heard.list, IsEmpty());
+  EXPECT_THAT(notified.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
 }
 
@@ -64,8 +64,8 @@ TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
   EXPECT_EQ(ShapesOf(0)[0]->vertices[1]->x, 3.0);
   EXPECT_EQ(ShapesOf(0)[0]->attributes->items[0]->value, u"Hull");
   EXPECT_EQ(dynamic_cast<const CShapeText&>(*ShapesOf(0)[1]).text, u"Winch");
-  EXPECT_EQ(heard.list.front(), "start");
-  const std::vector<std::string> last(heard.list.end() - 4, heard.list.end());
+  EXPECT_EQ(notified.list.front(), "start");
+  const std::vector<std::string> last(notified.list.end() - 4, notified.list.end());
   EXPECT_THAT(last, ElementsAre("end", "repaint", "tree", "modified"));
   EXPECT_TRUE(document.IsModified());
   EXPECT_EQ(Frames(), 1);
@@ -94,7 +94,7 @@ TEST_F(ImportCommand, OfAFileThatCannotBeReadLeavesNothingButARecord)
 {
   fileDialogs.answer = folder.File("missing.dxf");
   Run(CommandId::ImportDxf);
-  EXPECT_THAT(heard.list, IsEmpty());
+  EXPECT_THAT(notified.list, IsEmpty());
   EXPECT_THAT(app.shapeGroups, IsEmpty());
   EXPECT_THAT(messages.shown, IsEmpty());
   EXPECT_FALSE(document.IsModified());

@@ -40,7 +40,7 @@ TEST_F(UnitsCommand, AnUnknownUnitSelectsNothingAndOkAsksForAChoice)
   EXPECT_FALSE(dialogs.startSelected.has_value());
   EXPECT_TRUE(dialogs.stayedOpen);
   EXPECT_THAT(messages.shown, ElementsAre(u"Please select an unit from the list first !"));
-  EXPECT_TRUE(heard.list.empty());
+  EXPECT_TRUE(notified.list.empty());
   EXPECT_EQ(app.unitCode, UnitCode{5});
 }
 
@@ -64,7 +64,7 @@ TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
   EXPECT_EQ(bottom.vertices[0]->x, 1.0);
   EXPECT_EQ(app.anchors->items[0]->attachmentX, 5.0);
   EXPECT_EQ(app.unitCode, UnitCode{9002});
-  EXPECT_THAT(heard.list, ElementsAreArray(test::toldAll));
+  EXPECT_THAT(notified.list, ElementsAreArray(test::notifiedOfAll));
   EXPECT_TRUE(settings.written.empty());
 }
 

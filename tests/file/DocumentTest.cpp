@@ -60,7 +60,7 @@ TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeItIsTold)
 {
   using Seen = std::tuple<UnitCode, double, std::size_t, std::size_t>;
   std::vector<Seen> seen;
-  window.onTold = [&] {
+  window.onNotification = [&] {
     seen.emplace_back(design.unitCode, design.offsetPivot->x, design.shapeGroups.size(),
                       design.anchors->items.size());
   };
@@ -191,7 +191,7 @@ TEST_F(Document, SaveWritesTheDesignAndClearsTheModifiedFlag)
 TEST_F(Document, TheModifiedFlagIsClearedWhenTheFileIsWritten)
 {
   std::vector<std::string> files;
-  window.onTold = [&] { files.push_back(folder.Read("out.xml")); };
+  window.onNotification = [&] { files.push_back(folder.Read("out.xml")); };
   document.OnSaveDocument(folder.File("out.xml"));
   ASSERT_EQ(files.size(), 1U);
   EXPECT_TRUE(files[0].ends_with("</vessel>\n")) << files[0];

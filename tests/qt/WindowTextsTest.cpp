@@ -190,12 +190,14 @@ TEST_F(WindowTexts, APromptHidesANoteOnlyWhereTheMouseHasMovedSince)
     QApplication::sendEvent(&Window(), &event);
     return Window().statusBar()->currentMessage();
   };
+  const QPoint before = QCursor::pos();
   QCursor::setPos(40, 40);
   Window().ShowNote(u"3 polylines");
   EXPECT_EQ(prompt("Import a drawing"), QString());
   QCursor::setPos(60, 40);
   EXPECT_EQ(prompt("Import a drawing"), QStringLiteral("Import a drawing"));
   EXPECT_EQ(prompt(""), QString());
+  QCursor::setPos(before);
 }
 
 /// A window whose frame has been made and not yet shown anything.

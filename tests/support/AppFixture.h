@@ -35,7 +35,7 @@ protected:
   FileAnswers fileDialogs;
   FakeWidgets widgets;
   FakeTreeControl control;
-  HeardNotifications heard;
+  RecordedNotifications notified;
   RecordedDrawing recorder;
   TempFolder dataFolder;  ///< the common data folder, empty
   CommonDataPorts commonData{messages, [this](CommonData) { return dataFolder.File(""); }};
@@ -50,7 +50,7 @@ protected:
               .cursor = pointer,
               .rubberBand = pointer,
               .popupMenu = pointer,
-              .listener = &heard};
+              .listener = &notified};
   Editor editor{ports};
   CHullwrightApp& app = editor.app;
   CMainFrame& frame = editor.frame;

@@ -40,6 +40,6 @@ protected:
 };
 
 /// All three notifications of a command that changes the design.
-inline const std::vector<std::string> toldAll = {"repaint", "tree", "modified"};
+inline const std::vector<std::string> notifiedOfAll = {"repaint", "tree", "modified"};
 
 }  // namespace hullwright::test

@@ -22,12 +22,12 @@ public:
   void Notify(Notification code) override
   {
     codes.push_back(code);
-    if (onTold) onTold();
+    if (onNotification) onNotification();
   }
   void SetModifiedFlag(bool modified) override
   {
     flags.push_back(modified);
-    if (onTold) onTold();
+    if (onNotification) onNotification();
   }
 
   void StartProgress(std::string_view text) override
@@ -51,12 +51,12 @@ public:
   bool isRunning = false;
   std::string_view progressText;
   std::vector<bool> flags;
-  std::function<void()> onTold;  ///< called at each notification
+  std::function<void()> onNotification;  ///< called at each notification
 };
 
-/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number; of
-/// an import "start", its percentages and "end".
-class HeardNotifications : public SilentWindow {
+/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number;
+/// of an import "start", its percentages and "end".
+class RecordedNotifications : public SilentWindow {
 public:
   void Notify(Notification code) override
   {

@@ -123,9 +123,9 @@ const NameTable& NotificationNames()
   static const NameTable table = {"notification",
                                   {{"RepaintDesign", NumberOf(Notification::RepaintDesign)},
                                    {"RebuildTree", NumberOf(Notification::RebuildTree)},
-                                   {"ImportStart", NumberOf(Notification::ImportStart)},
-                                   {"ImportProgress", NumberOf(Notification::ImportProgress)},
-                                   {"ImportEnd", NumberOf(Notification::ImportEnd)}}};
+                                   {"ImportStart", 1046},
+                                   {"ImportProgress", 1044},
+                                   {"ImportEnd", 1045}}};
   return table;
 }
 

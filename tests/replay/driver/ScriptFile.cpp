@@ -2,7 +2,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <stdexcept>
 
 #include "base/Text.h"
@@ -67,13 +66,13 @@ std::vector<Json> ReadScript(const fs::path& path)
   };
   std::vector<Json> steps;
   std::string step;
-  std::optional<int> begin;  // the line that a step which goes on began with
+  int begin = 0;  // the line that the step at hand began with; 0 between steps
   int number = 0;
   for (std::string text; std::getline(file, text);) {
     ++number;
     std::string_view line = Trimmed(text);
-    if (!begin && (line.empty() || line.starts_with('#'))) continue;
-    if (!begin) begin = number;
+    if (begin == 0 && (line.empty() || line.starts_with('#'))) continue;
+    if (begin == 0) begin = number;
     const bool goesOn = line.ends_with('\\');
     if (goesOn) line.remove_suffix(1);
     step += line;
@@ -81,12 +80,12 @@ std::vector<Json> ReadScript(const fs::path& path)
     try {
       steps.push_back(ReadStep(step, path.parent_path()));
     } catch (const std::exception& problem) {
-      fail(*begin, problem.what());
+      fail(begin, problem.what());
     }
     step.clear();
-    begin.reset();
+    begin = 0;
   }
-  if (begin) fail(*begin, "goes on beyond the last line");
+  if (begin != 0) fail(begin, "goes on beyond the last line");
   return steps;
 }
 
