@@ -2,7 +2,7 @@
 
 #include "app/HullwrightApp.h"
 #include "model/ShapeVertex.h"
-#include "platform/Dialogs.h"
+#include "platform/DialogPort.h"
 
 namespace hullwright {
 

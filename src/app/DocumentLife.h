@@ -8,7 +8,7 @@
 
 #include "file/HullwrightDoc.h"
 #include "platform/DocumentDialogs.h"
-#include "platform/FormerVersions.h"
+#include "platform/FormerVersionsPort.h"
 #include "platform/Framework.h"
 #include "platform/RecentFiles.h"
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/Framework.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "view/HullwrightView.h"
 
 namespace hullwright {

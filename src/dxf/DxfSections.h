@@ -3,7 +3,7 @@
 #include "dxf/DxfContext.h"
 #include "dxf/DxfLines.h"
 #include "model/Shapes.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 
 namespace hullwright {
 

@@ -7,7 +7,7 @@
 #include "dxf/ImportTally.h"
 #include "file/FileBase.h"
 #include "model/Layer.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "platform/Trace.h"
 
 namespace hullwright {

@@ -8,7 +8,7 @@
 
 #include "file/FileSax.h"
 #include "model/DesignState.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "platform/MessageBoxes.h"
 
 namespace hullwright {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Dialogs.h"
+#include "platform/DialogPort.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {

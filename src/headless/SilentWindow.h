@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 
 namespace hullwright {
 

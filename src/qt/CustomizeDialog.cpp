@@ -12,7 +12,7 @@
 #include "base/Code.h"
 #include "qt/Icons.h"
 #include "qt/QtText.h"
-#include "resources/ToolBars.h"
+#include "resources/ToolBarButtons.h"
 
 namespace hullwright {
 namespace {

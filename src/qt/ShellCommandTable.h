@@ -6,7 +6,7 @@
 #include "app/DesignCommandTable.h"
 #include "qt/MainWindow.h"
 #include "resources/Menus.h"
-#include "resources/ToolBars.h"
+#include "resources/ToolBarButtons.h"
 #include "view/ViewCommandTable.h"
 
 namespace hullwright {

@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <map>
 
-#include "platform/Dialogs.h"
+#include "platform/DialogPort.h"
 #include "resources/DialogTemplates.h"
 
 class QAbstractButton;

@@ -11,7 +11,7 @@
 #include "resources/Commands.h"
 #include "resources/Menus.h"
 #include "resources/Strings.h"
-#include "resources/ToolBars.h"
+#include "resources/ToolBarButtons.h"
 
 namespace hullwright {
 namespace {

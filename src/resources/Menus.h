@@ -25,78 +25,14 @@ struct MenuItem {
 
 /// The menu bar.
 inline constexpr auto mainMenu = std::to_array<MenuItem>({
-    {MenuRow::Menu, CommandId::None, u"&File"},
-    {MenuRow::Entry, CommandId::FileNew},
-    {MenuRow::Entry, CommandId::FileOpen},
-    {MenuRow::Entry, CommandId::FileSave},
-    {MenuRow::Entry, CommandId::FileSaveAs},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::ImportDxf},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::RecentFile},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::Exit},
-
-    {MenuRow::Menu, CommandId::None, u"&View"},
-    {MenuRow::Entry, CommandId::ViewToolbars},
-    {MenuRow::Entry, CommandId::ViewStatusBar},
-    {MenuRow::SubMenu, CommandId::None, u"&Application Look"},
-    {MenuRow::Entry, CommandOf(Look::Windows2000)},
-    {MenuRow::Entry, CommandOf(Look::OfficeXp)},
-    {MenuRow::Entry, CommandOf(Look::WindowsXp)},
-    {MenuRow::Entry, CommandOf(Look::Office2003)},
-    {MenuRow::Entry, CommandOf(Look::VisualStudio2005)},
-    {MenuRow::Entry, CommandOf(Look::VisualStudio2008)},
-    {MenuRow::SubMenu, CommandId::None, u"Office 200&7"},
-    {MenuRow::Entry, CommandOf(Look::Blue)},
-    {MenuRow::Entry, CommandOf(Look::Black)},
-    {MenuRow::Entry, CommandOf(Look::Silver)},
-    {MenuRow::Entry, CommandOf(Look::Aqua)},
-    {MenuRow::EndSubMenu},
-    {MenuRow::EndSubMenu},
-
-    {MenuRow::Menu, CommandId::None, u"&Edit"},
-    {MenuRow::Entry, CommandId::EditUndo},
-    {MenuRow::Entry, CommandId::EditRedo},
-
-    {MenuRow::Menu, CommandId::None, u"Modify"},
-    {MenuRow::Entry, CommandId::MirrorVertically},
-    {MenuRow::Entry, CommandId::MirrorHorizontally},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::RotateRight},
-    {MenuRow::Entry, CommandId::RotateLeft},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::Scale},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::Move},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::Offsets},
-
-    {MenuRow::Menu, CommandId::None, u"&Options"},
-    {MenuRow::Entry, CommandId::Grid},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::Units},
-
-    {MenuRow::Menu, CommandId::None, u"Cursor"},
-    {MenuRow::Entry, CommandId::CursorZoomIn},
-    {MenuRow::Entry, CommandId::CursorZoomOut},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::CursorMove},
-    {MenuRow::Separator},
-    {MenuRow::Entry, CommandId::DrawPolyline},
-
-    {MenuRow::Menu, CommandId::None, u"&Help"},
-    {MenuRow::Entry, CommandId::About},
+#define MENU_BAR(...) {MenuRow::__VA_ARGS__},
+#include "resources/Commands.def"
 });
 
 /// The menu of the side drop-down.
 inline constexpr auto viewMenu = std::to_array<MenuItem>({
-    {MenuRow::Entry, CommandId::ViewTop},
-    {MenuRow::Entry, CommandId::ViewBottom},
-    {MenuRow::Entry, CommandId::ViewFront},
-    {MenuRow::Entry, CommandId::ViewRear},
-    {MenuRow::Entry, CommandId::ViewRight},
-    {MenuRow::Entry, CommandId::ViewLeft},
+#define SIDE_MENU(...) {MenuRow::__VA_ARGS__},
+#include "resources/Commands.def"
 });
 
 /// Title of the side drop-down, a carriage return marking its line break.
@@ -113,15 +49,8 @@ struct ContextMenuRow {
 
 /// The context menu of the design view.
 inline constexpr auto contextMenu = std::to_array<ContextMenuRow>({
-    {CommandId::MenuZoomIn, Offered::Always},
-    {CommandId::MenuZoomOut, Offered::Always},
-    {CommandId::MenuCenter, Offered::Always},
-    {CommandId::None, Offered::Always},
-    {CommandId::EditVertex, Offered::OnHit},
-    {CommandId::AddVertex, Offered::OnNoHitOrVertex},
-    {CommandId::RemoveVertex, Offered::OnVertex},
-    {CommandId::AddAnchor, Offered::OnNoHit},
-    {CommandId::RemoveAnchor, Offered::OnAnchor},
+#define CONTEXT_MENU(...) {__VA_ARGS__},
+#include "resources/Commands.def"
 });
 
 /// What an item of the object tree is to its context menu.
@@ -135,12 +64,8 @@ struct TreeMenu {
 
 /// The context menus of the object tree, by the kind of item.
 inline constexpr auto treeMenus = std::to_array<TreeMenu>({
-    {TreeMenuKind::Side, {CommandId::AddPolyline, CommandId::RemoveAllPolylines}},
-    {TreeMenuKind::Anchors, {CommandId::AddAnchor}},
-    {TreeMenuKind::Polyline,
-     {CommandId::AddVertex, CommandId::RemovePolyline, CommandId::ZoomPolyline}},
-    {TreeMenuKind::Anchor, {CommandId::RemoveAnchor, CommandId::ModifyAnchor}},
-    {TreeMenuKind::Point, {CommandId::EditVertex, CommandId::RemoveVertex}},
+#define TREE_MENU(kind, ...) {kind, {__VA_ARGS__}},
+#include "resources/Commands.def"
 });
 
 }  // namespace hullwright

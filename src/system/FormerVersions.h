@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/FormerVersions.h"
+#include "platform/FormerVersionsPort.h"
 
 namespace hullwright {
 

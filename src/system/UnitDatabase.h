@@ -9,7 +9,7 @@
 #include "model/Units.h"
 #include "platform/LibraryLoader.h"
 #include "platform/MessageBoxes.h"
-#include "platform/UnitDatabase.h"
+#include "platform/UnitDatabasePort.h"
 
 namespace hullwright {
 

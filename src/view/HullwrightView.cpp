@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "render/Scene.h"
 #include "view/ViewCommandTable.h"
 

@@ -6,7 +6,7 @@
 #include "model/DesignState.h"
 #include "model/ShapePolyline.h"
 #include "platform/Drawing.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Pointer.h"
 #include "platform/PopupMenu.h"

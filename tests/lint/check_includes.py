@@ -25,7 +25,7 @@ ROOMS = {
 }
 
 # where the programs start, which alone give the rooms what the system has for them
-START = ("cli/", "qt/Main.cpp", "qt/Shell.", "system/")
+START = ("cli/", "qt/Hullwright.cpp", "qt/Shell.", "system/")
 
 # rooms, and single files, that may include the toolkit's headers
 TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp")

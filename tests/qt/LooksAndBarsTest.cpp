@@ -12,7 +12,7 @@
 #include "qt/CustomizeDialog.h"
 #include "qt/Shell.h"
 #include "resources/CommandIds.h"
-#include "resources/ToolBars.h"
+#include "resources/ToolBarButtons.h"
 #include "support/ShellFixture.h"
 
 namespace hullwright {

@@ -8,7 +8,7 @@
 #include "resources/Commands.h"
 #include "resources/Menus.h"
 #include "resources/Strings.h"
-#include "resources/ToolBars.h"
+#include "resources/ToolBarButtons.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {

@@ -11,7 +11,7 @@
 #include "headless/NoTree.h"
 #include "headless/SilentWindow.h"
 #include "platform/Framework.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 
 namespace hullwright::test {
 

@@ -12,7 +12,7 @@
 #include "headless/KeptMessages.h"
 #include "headless/KeptPointer.h"
 #include "model/ShapePolyline.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "support/RecordedDrawing.h"
 #include "view/HullwrightView.h"
 

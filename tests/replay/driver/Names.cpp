@@ -7,7 +7,7 @@
 #include "base/Code.h"
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
-#include "platform/MainWindow.h"
+#include "platform/MainWindowPort.h"
 #include "platform/Trace.h"
 #include "resources/Commands.h"
 #include "resources/Menus.h"
