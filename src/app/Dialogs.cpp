@@ -47,14 +47,25 @@ double& OffsetOf(DesignState& design)
 
 constexpr bool HasFields(const DialogTemplate& dialog, const auto& fields)
 {
-  return std::ranges::all_of(
-      fields, [&dialog](const auto& row) { return FindField(dialog, row.field) != nullptr; });
+  return std::ranges::all_of(fields, [&dialog](const auto& row) {
+    return std::ranges::find(dialog.rows, row.field, FieldOf) != dialog.rows.end();
+  });
+}
+
+/// Whether every edit field of the template has a row that binds it.
+constexpr bool BindsAll(const DialogTemplate& dialog, const auto& fields)
+{
+  return std::ranges::all_of(dialog.rows, [&fields](const DialogRow& row) {
+    return row.kind != DialogRowKind::Field ||
+           std::ranges::any_of(fields, [&row](const auto& bound) { return bound.field == row.id; });
+  });
 }
 
 constexpr bool HasButtons(const DialogTemplate& dialog, const auto& buttons)
 {
-  return std::ranges::all_of(
-      buttons, [&dialog](const auto& row) { return FindButton(dialog, row.button) != nullptr; });
+  return std::ranges::all_of(buttons, [&dialog](const auto& row) {
+    return std::ranges::find(dialog.rows, row.button, ButtonOf) != dialog.rows.end();
+  });
 }
 
 double ReadNumber(const IDialogControls& controls, ControlId field)
@@ -94,7 +105,7 @@ constexpr auto gridFields = std::to_array<NumberField<GridSettings>>({
     {GridControls::snapX, Of<&GridSettings::spacingSnapX>, shortDecimals},
     {GridControls::snapY, Of<&GridSettings::spacingSnapY>, shortDecimals},
 });
-static_assert(HasFields(gridDialog, gridFields));
+static_assert(HasFields(gridDialog, gridFields) && BindsAll(gridDialog, gridFields));
 
 /// A check box of the grid dialog, which enables what stands behind it in its group.
 struct GridSwitch {
@@ -112,7 +123,7 @@ constexpr auto moveFields = std::to_array<NumberField<CShapeVertex>>({
     {MoveControls::x, Of<&CShapeVertex::x>, shortDecimals},
     {MoveControls::y, Of<&CShapeVertex::y>, shortDecimals},
 });
-static_assert(HasFields(moveDialog, moveFields));
+static_assert(HasFields(moveDialog, moveFields) && BindsAll(moveDialog, moveFields));
 
 constexpr auto offsetsFields = [] {
   using namespace OffsetsControls;
@@ -128,7 +139,7 @@ constexpr auto offsetsFields = [] {
       {pivotZ, OffsetOf<&State::offsetPivot, &Vertex::z>, longDecimals},
   });
 }();
-static_assert(HasFields(offsetsDialog, offsetsFields));
+static_assert(HasFields(offsetsDialog, offsetsFields) && BindsAll(offsetsDialog, offsetsFields));
 
 /// The field that has the focus when the dialog opens for a kind of pick.
 struct OffsetFocus {
@@ -173,14 +184,14 @@ static_assert(HasButtons(rotateDialog, directionButtons));
 constexpr auto scaleFields = std::to_array<NumberField<CDialogScale>>({
     {ScaleControls::factor, Of<&CDialogScale::factor>, shortDecimals},
 });
-static_assert(HasFields(scaleDialog, scaleFields));
+static_assert(HasFields(scaleDialog, scaleFields) && BindsAll(scaleDialog, scaleFields));
 
 constexpr auto vertexFields = std::to_array<NumberField<CShapeVertex>>({
     {VertexControls::x, Of<&CShapeVertex::x>, longDecimals},
     {VertexControls::y, Of<&CShapeVertex::y>, longDecimals},
     {VertexControls::z, Of<&CShapeVertex::z>, longDecimals},
 });
-static_assert(HasFields(vertexDialog, vertexFields));
+static_assert(HasFields(vertexDialog, vertexFields) && BindsAll(vertexDialog, vertexFields));
 
 }  // namespace
 

@@ -35,7 +35,7 @@ struct CObjectView::CommandTable {
 
   static constexpr bool IsHandled(CommandId id)
   {
-    return id == CommandId::None || FindHandler(rows, id) != nullptr ||
+    return id == CommandId::None || HasHandler(rows, id) ||
            std::ranges::find(idle, id) != idle.end();
   }
 };

@@ -293,7 +293,7 @@ void MainWindow::RunCommand(CommandId command)
 
 CommandState MainWindow::Query(CommandId command) const
 {
-  const bool isOwn = FindHandler(ShellCommandTable::rows, command) != nullptr;
+  const bool isOwn = HasHandler(ShellCommandTable::rows, command);
   return isOwn ? StateOf(ShellCommandTable::rows, *this, command) : frame_.QueryCommand(command);
 }
 

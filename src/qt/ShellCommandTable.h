@@ -47,9 +47,8 @@ struct ShellCommandTable {
 
   static constexpr bool IsSettled(CommandId id)
   {
-    return id == CommandId::None || LookOf(id) || FindHandler(rows, id) != nullptr ||
-           FindHandler(ViewCommandTable::rows, id) != nullptr ||
-           FindHandler(DesignCommandTable::rows, id) != nullptr ||
+    return id == CommandId::None || LookOf(id) || HasHandler(rows, id) ||
+           HasHandler(ViewCommandTable::rows, id) || HasHandler(DesignCommandTable::rows, id) ||
            std::ranges::find(unhandled, id) != unhandled.end();
   }
 };

@@ -27,6 +27,12 @@ constexpr CommandState Checked(bool on)
   return {.enabled = true, .checked = on, .checkable = true};
 }
 
+/// Whether a table of handlers has a row for a command.
+constexpr bool HasHandler(const auto& handlers, CommandId id)
+{
+  return std::ranges::any_of(handlers, [id](const auto& row) { return row.id == id; });
+}
+
 /// The row of a command in a table of handlers; null for one that the table lacks.
 constexpr auto* FindHandler(const auto& handlers, CommandId id)
 {

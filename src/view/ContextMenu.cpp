@@ -22,7 +22,7 @@ bool IsOffered(Offered offered, bool hit, HitKind kind)
 }
 
 static_assert(std::ranges::all_of(contextMenu, [](const ContextMenuRow& row) {
-  return row.id == CommandId::None || FindHandler(ViewCommandTable::menuRows, row.id) != nullptr;
+  return row.id == CommandId::None || HasHandler(ViewCommandTable::menuRows, row.id);
 }));
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "app/DesignCommandTable.h"
 #include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "resources/MoveDialog.h"
@@ -78,6 +80,15 @@ protected:
                           dataFolder.Path() / "Sondaris" / "Database" / "geo.db");
   }
 };
+
+TEST(DesignCommandTable, HasACaseForEachCommandWithoutAFile)
+{
+  for (const auto& row : DesignCommandTable::rows) {
+    if (row.id == CommandId::ImportDxf) continue;
+    EXPECT_TRUE(std::ranges::count(CommandCases(), row.id, &CommandCase::id) == 1)
+        << NumberOf(row.id);
+  }
+}
 
 TEST_P(EachCommand, TellsItsNotificationsInOrder)
 {

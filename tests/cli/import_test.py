@@ -174,9 +174,9 @@ class ImportTest(CliTest):
     # -- what is passed over, and what is no drawing
 
     def test_what_an_import_ignores_is_told(self):
-        path = self.drawing("a.dxf", "0", "LINE", *["0", "HATCH", "2", "SOLID", "70", "0"] * 3, "0", "RAY", "70", "0",
+        path = self.drawing("a.dxf", "0", "LINE", *["0", "HATCH", "2", "SOLID", "70", "0"] * 3, "0", "OTHER", "70", "0",
                             *["0", "SPLINE", "10", "1"] * 985)
-        ignored = ["a.dxf: ignored: 985 SPLINE, 3 HATCH, 1 RAY"]
+        ignored = ["a.dxf: ignored: 985 SPLINE, 3 HATCH, 1 OTHER"]
         self.succeed("import", path, "-o", self.folder / "out.xml", remarks=ignored)
         self.assertEqual(self.polylines(self.folder / "out.xml"), {"01": 1})
         self.assertEqual(len(self.import_json(path, ignored)["shapes"]), 1)

@@ -27,23 +27,23 @@ TEST_F(Tallies, ShapesAreCountedByKind)
 
 TEST_F(Tallies, SkippedAndUnknownEntitiesAreCounted)
 {
-  ImportEntities(Entity("SPLINE", {{8, "A"}, {70, "0"}}) + Entity("RAY", {{5, "1F"}, {70, "0"}}) +
-                 Lines({{10, "0"}, {20, "0"}, {0, "RAY"}, {0, "LINE"}, {0, "HATCH"}}) +
+  ImportEntities(Entity("SPLINE", {{8, "A"}, {70, "0"}}) + Entity("OTHER", {{5, "1F"}, {70, "0"}}) +
+                 Lines({{10, "0"}, {20, "0"}, {0, "OTHER"}, {0, "LINE"}, {0, "HATCH"}}) +
                  Lines({{2, "SOLID"}, {0, "SPLINE"}, {0, "3DSOLID"}, {1, "0"}, {310, "00"}}));
-  EXPECT_THAT(Ignored(),
-              ElementsAre(Pair("3DSOLID", 1), Pair("HATCH", 1), Pair("RAY", 2), Pair("SPLINE", 2)));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("3DSOLID", 1), Pair("HATCH", 1), Pair("OTHER", 2),
+                                     Pair("SPLINE", 2)));
   EXPECT_EQ(Tally().Shapes(), 1U);
 }
 
 TEST_F(Tallies, EntitiesOfTheSectionsAreCountedAndThoseOfBlocksAreNot)
 {
-  Import(Blocks(Block("b", Entity("ARC") + Entity("RAY"))) +
-         Entities(Entity("LINE") + Entity("RAY", {{8, "LINE"}, {70, "0"}}) + Entity("HATCH")) +
+  Import(Blocks(Block("b", Entity("ARC") + Entity("OTHER"))) +
+         Entities(Entity("LINE") + Entity("OTHER", {{8, "LINE"}, {70, "0"}}) + Entity("HATCH")) +
          Entities(Entity("POLYLINE") + Entity("VERTEX") + Entity("SEQEND") + Entity("LINE")));
   EXPECT_THAT(Tally().entities.ByKeyword(),
-              ElementsAre(Pair("HATCH", 1), Pair("LINE", 2), Pair("POLYLINE", 1), Pair("RAY", 1),
+              ElementsAre(Pair("HATCH", 1), Pair("LINE", 2), Pair("OTHER", 1), Pair("POLYLINE", 1),
                           Pair("SEQEND", 1), Pair("VERTEX", 1)));
-  EXPECT_THAT(Ignored(), ElementsAre(Pair("HATCH", 1), Pair("RAY", 2)));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("HATCH", 1), Pair("OTHER", 2)));
 }
 
 TEST_F(Tallies, HaveTheExtentsOfTheShapes)
@@ -65,30 +65,30 @@ TEST_F(Tallies, HaveTheExtentsOfTheShapes)
 TEST_F(Tallies, AValueThatReadsLikeAKeywordIsNone)
 {
   // In an entity without a reader such a value starts one, but only its own keyword was ignored.
-  ImportEntities(Entity("RAY", {{8, "HATCH"}, {10, "1"}}) + Entity("RAY", {{8, "RAY"}}) +
-                 Entity("RAY"));
-  EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 3)));
+  ImportEntities(Entity("OTHER", {{8, "HATCH"}, {10, "1"}}) + Entity("OTHER", {{8, "OTHER"}}) +
+                 Entity("OTHER"));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("OTHER", 3)));
 }
 
 TEST_F(Tallies, ALineBehindWhatOnlyReadsAsZeroIsNoKeyword)
 {
   // The reader of the line takes the word for a group 0; so the count behind it is not sure.
-  ImportEntities("0\nLINE\nword\nRAY\n8\nA\n   0\nRAY\n");
-  EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 1)));
+  ImportEntities("0\nLINE\nword\nOTHER\n8\nA\n   0\nOTHER\n");
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("OTHER", 1)));
 }
 
 TEST_F(Tallies, BlanksAroundCodesAndKeywordsDoNotCount)
 {
-  ImportEntities("  0\nRAY\n 0 \nRAY \n");
-  EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 2)));
+  ImportEntities("  0\nOTHER\n 0 \nOTHER \n");
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("OTHER", 2)));
 }
 
 TEST_F(Tallies, TheFirstCodeOfASectionIsNoKeyword)
 {
   // The section before ends behind a group 0, and this one begins with a word.
-  ImportEntities("RAY\n0\nLINE\n");
-  Import(Entities("0\nRAY\n0\n") + Entities("RAY\n0\nLINE\n"));
-  EXPECT_THAT(Ignored(), ElementsAre(Pair("RAY", 1)));
+  ImportEntities("OTHER\n0\nLINE\n");
+  Import(Entities("0\nOTHER\n0\n") + Entities("OTHER\n0\nLINE\n"));
+  EXPECT_THAT(Ignored(), ElementsAre(Pair("OTHER", 1)));
 }
 
 TEST_F(Tallies, TheContentOfABlockCountsOnce)

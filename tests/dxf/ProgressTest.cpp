@@ -109,7 +109,7 @@ TEST_F(Progress, IsToldBehindEveryLineAndEntityOfTheEntities)
   };
   add("0\n");
   add("LINE\n10\n1\n0\n");  // an entity with the group 0 behind it
-  add("RAY\n");             // an unknown one, line by line
+  add("OTHER\n");           // an unknown one, line by line
   add("5\n");
   add("0\n");
   add("HATCH\n0\n");        // one that is skipped

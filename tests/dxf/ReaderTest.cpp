@@ -199,9 +199,9 @@ TEST_F(Reader, ATooLongLineInASkippedSectionEndsThatSection)
 
 TEST_F(Reader, ATooLongLineAmongEntitiesEndsTheirSection)
 {
-  ImportEntities(aLine + "0\nRAY\n" + std::string(255, 'x') + "\n" + aLine);
+  ImportEntities(aLine + "0\nOTHER\n" + std::string(255, 'x') + "\n" + aLine);
   EXPECT_EQ(ShapeCount(), 2U);
-  ImportEntities(aLine + "0\nRAY\n" + std::string(256, 'x') + "\n" + aLine);
+  ImportEntities(aLine + "0\nOTHER\n" + std::string(256, 'x') + "\n" + aLine);
   EXPECT_EQ(ShapeCount(), 1U);
   EXPECT_THAT(log.records, testing::Contains(HasSubstr("added 1 map features")));
 }
