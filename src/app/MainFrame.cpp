@@ -7,7 +7,7 @@
 namespace hullwright {
 
 CMainFrame::CMainFrame(CHullwrightApp& app, IFrameWidgets& widgets, IMainWindow* listener)
-    : viewButtonImage(CommandId::SelectView), app_(app), widgets_(widgets), listener_(listener)
+    : app_(app), widgets_(widgets), listener_(listener)
 {
   app.LoadLook();
 }

@@ -49,7 +49,9 @@ public:
   CHullwrightView* view = nullptr;
   CObjectView* objectView = nullptr;
   bool hasWindow = false;
-  CommandId viewButtonImage;  ///< command whose image the side drop-down bears
+
+  /// The command whose image the side drop-down bears.
+  CommandId viewButtonImage = CommandId::SelectView;
 
 private:
   CHullwrightApp& app_;

@@ -83,7 +83,7 @@ void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 void CFileVessel::WritePolyline(const CShape& polyline)
 {
   constexpr const DesignElement& element = ElementOf(ElementKind::Polyline);
-  constexpr const DesignElement& vertexElement = ElementOf(ElementKind::Vertex);
+  static constexpr const DesignElement& vertexElement = ElementOf(ElementKind::Vertex);
   OpenElement(element.name);
   Walk(polyline.cursor, polyline.vertices,
        [this](const CShapeVertex& vertex) { WriteCoordinates(vertexElement, vertex); });

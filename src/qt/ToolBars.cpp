@@ -45,8 +45,7 @@ ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<CommandId> stand
     : QObject(&window),
       window_(window),
       actions_(actions),
-      standardCommands_(std::move(standardCommands)),
-      viewImage_(CommandId::SelectView)
+      standardCommands_(std::move(standardCommands))
 {
 }
 

@@ -66,7 +66,7 @@ private:
   QList<CommandId> standardCommands_;
   QList<ToolBarSpec> specs_;
   QList<QToolBar*> bars_;
-  CommandId viewImage_;
+  CommandId viewImage_ = CommandId::SelectView;
 };
 
 }  // namespace hullwright
