@@ -23,7 +23,7 @@ public:
   /// The action of a command; made on first use.
   QAction* Get(CommandId command);
 
-  /// Fills a menu bar or a menu from its rows, and tells each menu that it makes to `onMenu`.
+  /// Fills a menu bar or a menu from its rows, and hands each menu that it makes to `onMenu`.
   void FillMenuBar(QMenuBar& bar, std::span<const MenuItem> rows);
   void FillMenu(QMenu& menu, std::span<const MenuItem> rows);
 

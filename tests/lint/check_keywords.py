@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Checks that docs/DXF.md and the fuzz dictionary name the keywords of drawings as the reader's table has them."""
 
-import pathlib
 import re
 import sys
-import tempfile
+
+import checking
 
 TABLE = "src/dxf/DxfKeywords.cpp"
 PAGE = "docs/DXF.md"
@@ -61,23 +61,9 @@ def self_test(project):
     """A change of one file alone must be found, or the check checks nothing."""
     texts = {name: (project / name).read_text(encoding="utf-8") for name in (TABLE, PAGE, DICTIONARY)}
     for name, old, new in WRONG:
-        with tempfile.TemporaryDirectory() as folder:
-            for other, text in texts.items():
-                file = pathlib.Path(folder, other)
-                file.parent.mkdir(parents=True, exist_ok=True)
-                file.write_text(re.sub(old, new, text, count=1) if other == name else text, encoding="utf-8")
-            if not list(problems(pathlib.Path(folder))):
-                sys.exit(f"the check of the keywords does not find {old!r} as {new!r} in {name}")
-
-
-def main():
-    project = pathlib.Path(sys.argv[1])
-    found = list(problems(project))
-    if not found:
-        self_test(project)
-    print("\n".join(found) or "Reader, page and dictionary know the same keywords.")
-    sys.exit(1 if found else 0)
+        if not checking.found_with(problems, texts, name, re.sub(old, new, texts[name], count=1)):
+            sys.exit(f"the check of the keywords does not find {old!r} as {new!r} in {name}")
 
 
 if __name__ == "__main__":
-    main()
+    checking.run(problems, self_test, "Reader, page and dictionary know the same keywords.")

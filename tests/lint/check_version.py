@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Checks that the change log, the man pages and the metainfo file name the version that CMakeLists.txt states."""
 
-import pathlib
 import re
 import sys
-import tempfile
 import xml.etree.ElementTree
+
+import checking
 
 LOG = "CHANGELOG.md"
 METAINFO = "packaging/hullwright.metainfo.xml"
@@ -42,24 +42,10 @@ def self_test(project):
     texts = {name: (project / name).read_text(encoding="utf-8") for name in names}
     version = re.search(r"VERSION (\d+\.\d+\.\d+) ", texts["CMakeLists.txt"])[1]
     for wrong in names:
-        with tempfile.TemporaryDirectory() as folder:
-            for name, text in texts.items():
-                file = pathlib.Path(folder, name)
-                file.parent.mkdir(parents=True, exist_ok=True)
-                file.write_text(text.replace(version, "9.8.7", 1) if name == wrong else text, encoding="utf-8")
-            found = list(problems(pathlib.Path(folder)))
+        found = checking.found_with(problems, texts, wrong, texts[wrong].replace(version, "9.8.7", 1))
         if len(found) != (len(PLACES) if wrong == "CMakeLists.txt" else 1):
             sys.exit(f"the check of the version does not find a wrong one in {wrong}: {found}")
 
 
-def main():
-    project = pathlib.Path(sys.argv[1])
-    found = list(problems(project))
-    if not found:
-        self_test(project)
-    print("\n".join(found) or "One version.")
-    sys.exit(1 if found else 0)
-
-
 if __name__ == "__main__":
-    main()
+    checking.run(problems, self_test, "One version.")
