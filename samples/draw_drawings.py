@@ -400,7 +400,7 @@ def draw(version):
 
 
 def main():
-    """Writes the drawings, or with --check tells whether they are what this script draws."""
+    """Writes the drawings, or with --check reports whether they are what this script draws."""
     versions = {"r12": OLD, "r2000": R2000, "r2010": R2010, "r2018": R2018}
     drawings = {FOLDER / f"workboat-{name}.dxf": draw(version) for name, version in versions.items()}
     if sys.argv[1:] == ["--check"]:

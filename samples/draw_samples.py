@@ -1284,7 +1284,7 @@ def vessel_text(drawing, offsets, anchors):
 
 
 def main():
-    """Writes the three samples beside this file; with --check only tells whether they are up to date."""
+    """Writes the three samples beside this file; with --check only reports whether they are up to date."""
     check = "--check" in sys.argv[1:]
     vessels = (
         # file, drawing, antenna, transducer and pivot offsets, anchors

@@ -14,11 +14,11 @@ namespace {
 
 constexpr const char* help =
     "Usage: hullwright-cli check DESIGN.xml...\n"
-    "Reads designs as the program does and tells what opening and saving them would lose\n"
+    "Reads designs as the program does and reports what opening and saving them would lose\n"
     "or change, every number that is not finite with its place, and a unit code that has\n"
     "no factor, so that its lengths count as metres. '-' stands for standard input.\n"
     "\n"
-    "Exit status: 0 when there is nothing to tell, 1 when there is something, 2 when a\n"
+    "Exit status: 0 when there is nothing to report, 1 when there is something, 2 when a\n"
     "file can't be read or is no design, and for wrong usage.\n";
 
 constexpr int exitUnreadable = 2;

@@ -16,15 +16,15 @@ constexpr const char* help =
     "Usage: hullwright-cli VERB [ARGUMENT...]\n"
     "Works on vessel designs and drawings without a window.\n"
     "\n"
-    "  check    tell what saving a design would lose, and wrong numbers and units\n"
+    "  check    report what saving a design would lose, and wrong numbers and units\n"
     "  import   import drawings into a design\n"
-    "  info     tell what designs and drawings hold\n"
+    "  info     report what designs and drawings hold\n"
     "  render   draw sides of a design or drawing as pictures\n"
     "\n"
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage; check has more to tell.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage; check has a status of its own.\n";
 
 const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
 

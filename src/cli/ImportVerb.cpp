@@ -27,7 +27,7 @@ constexpr const char* help =
     "       hullwright-cli import DRAWING.dxf... --json\n"
     "Imports AutoCAD drawings into one side of a vessel design and saves it: the\n"
     "outlines, that is, for a design file holds polylines only. '-' stands for standard\n"
-    "input and output. What the import ignores or leaves out is told on standard error.\n"
+    "input and output. What the import ignores or leaves out is reported on standard error.\n"
     "\n"
     "  -i, --into=DESIGN.xml  the design to add to; without it a new one\n"
     "  -s, --side=SIDE        top, bottom, right, left, front or rear (top)\n"
@@ -37,8 +37,8 @@ constexpr const char* help =
     "\n"
     "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"
     "drawn, or no polylines; 1, with nothing written, when a file can't be read or is no\n"
-    "drawing in text form; 2 wrong usage. With --json alone 0 in the place of 1: the\n"
-    "result tells.\n";
+    "drawing in text form; 2 wrong usage. With --json alone 0 in the place of 1; the\n"
+    "object states the result.\n";
 
 struct Options {
   std::vector<std::string> drawings;

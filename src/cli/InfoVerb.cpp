@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* help =
     "Usage: hullwright-cli info DESIGN.xml|DRAWING.dxf... [--json]\n"
-    "Tells what designs hold: the unit, the offsets, the anchors, and of each side the\n"
+    "Reports what designs hold: the unit, the offsets, the anchors, and of each side the\n"
     "polylines, their vertices and extents; of drawings the layers, the blocks, the\n"
     "entities, and what of them the import ignores. '-' stands for standard input. A\n"
     "file that begins as XML does is a design, any other a drawing, whatever its name.\n"

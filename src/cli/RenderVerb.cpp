@@ -25,7 +25,7 @@ constexpr const char* help =
     "                      draw the offsets and anchors of a design or not (on); a drawing\n"
     "                      has none\n"
     "  -c, --sheet         all sides on one sheet, with their names\n"
-    "  -o, --output=OUT    the file to write; its ending tells the format. With\n"
+    "  -o, --output=OUT    the file to write; its ending sets the format. With\n"
     "                      --side=all one file a side, its name set before the ending\n"
     "\n"
     "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"

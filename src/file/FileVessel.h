@@ -14,8 +14,8 @@ namespace hullwright {
 struct DesignElement;
 
 /// The design file, for one open or one save. It has its own copies of offsets, unit and anchors;
-/// the groups it reads go straight into the array that `groups` points at. Elements are told apart
-/// by name alone: any may stand anywhere, and unknown ones are ignored.
+/// the groups it reads go straight into the array that `groups` points at. Elements are
+/// distinguished by name alone: any may stand anywhere, and unknown ones are ignored.
 class CFileVessel : public CFileSax {
 public:
   explicit CFileVessel(IMessageBoxes& messages);

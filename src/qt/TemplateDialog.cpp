@@ -28,7 +28,7 @@ constexpr int fieldWidth = 130;
 constexpr int unitWidth = 56;
 constexpr int noteWidth = 300;
 
-/// A list box that tells of every double click of the left button, also of one beside its entries.
+/// A list box that reports every double click of the left button, also of one beside its entries.
 class ListBox : public QListWidget {
 public:
   using QListWidget::QListWidget;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ostream>
 
 #include "app/DesignCommandTable.h"
 #include "base/Code.h"
@@ -90,7 +91,7 @@ TEST(DesignCommandTable, HasACaseForEachCommandWithoutAFile)
   }
 }
 
-TEST_P(EachCommand, TellsItsNotificationsInOrder)
+TEST_P(EachCommand, SendsItsNotificationsInOrder)
 {
   AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, Accept());
@@ -98,7 +99,7 @@ TEST_P(EachCommand, TellsItsNotificationsInOrder)
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
 }
 
-TEST_P(EachCommand, WithoutAGroupTellsWhatItsRowSays)
+TEST_P(EachCommand, WithoutAGroupNotifiesWhatItsRowSays)
 {
   Run(GetParam().id, Accept());
   EXPECT_THAT(notified.list, ElementsAreArray(GetParam().notifiedWithout));
@@ -119,7 +120,7 @@ std::vector<CommandCase> DialogCases()
 
 class EachDialog : public EachCommand {};
 
-TEST_P(EachDialog, CancelledTellsNobodyAndChangesNothing)
+TEST_P(EachDialog, CancelledNotifiesNobodyAndChangesNothing)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   Run(GetParam().id, {.ok = false});
@@ -193,9 +194,14 @@ struct WalkCase {
   DialogScript script;
 };
 
+std::ostream& operator<<(std::ostream& out, const WalkCase& row)
+{
+  return out << "command " << NumberOf(row.command);
+}
+
 class EachWalk : public Commands, public testing::WithParamInterface<WalkCase> {};
 
-TEST_P(EachWalk, EndsAtAnEmptySlotAndTellsAll)
+TEST_P(EachWalk, EndsAtAnEmptySlotAndNotifiesAll)
 {
   const CShapeVertex start(1.0, 2.0, 3.0);
   const CShapePolyline& before = AddLine(ViewSide::Top, start);
@@ -287,6 +293,11 @@ struct AngleCase {
   DialogScript script;
   double degrees;  ///< where (1, 0) comes to lie
 };
+
+std::ostream& operator<<(std::ostream& out, const AngleCase& row)
+{
+  return out << "command " << NumberOf(row.command) << ", " << row.degrees << " degrees";
+}
 
 class Angle : public Commands, public testing::WithParamInterface<AngleCase> {};
 

@@ -94,7 +94,7 @@ protected:
   KeptRecentFiles recentFiles;
   FormerVersions formerVersions{folder.Path() / "state"};
   bool isDrawing = false;
-  std::string heldAtMessage;  ///< by the file, when the user was told
+  std::string heldAtMessage;  ///< by the file, when the user was notified
   DocumentLife life{document, app, {documentDialogs, recentFiles, formerVersions, widgets, [this] {
                                       return isDrawing;
                                     }}};

@@ -36,7 +36,7 @@ public:
   std::function<void()> look;
 };
 
-TEST_F(AssembledEditor, ItsListenerHearsBeforeAnythingComesOfIt)
+TEST_F(AssembledEditor, ItsListenerIsNotifiedBeforeAnythingComesOfIt)
 {
   EarlyListener early;
   ports.listener = &early;

@@ -54,7 +54,7 @@ TEST_F(ImportCommand, GivenUpDoesNothing)
   EXPECT_THAT(app.shapeGroups, IsEmpty());
 }
 
-TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndTellsAll)
+TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndNotifiesAll)
 {
   app.activeView = ViewSide::Left;
   Run(CommandId::ImportDxf);
@@ -119,7 +119,7 @@ TEST_F(ImportCommand, WritesItsRecordsToTheLogs)
   EXPECT_THAT(Log("General"), HasSubstr("1\n1|"));
 }
 
-TEST_F(ImportCommand, TellsItsCallerWhatItTookInAndPassedOver)
+TEST_F(ImportCommand, ReportsToItsCallerWhatItTookInAndPassedOver)
 {
   ImportTally tally;
   EXPECT_EQ(app.ImportDrawing(*fileDialogs.answer, tally), 0);

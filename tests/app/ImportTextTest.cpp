@@ -5,7 +5,7 @@
 namespace hullwright {
 namespace {
 
-TEST(ImportText, TellsShapesAndWhatWasIgnoredTheMostFirst)
+TEST(ImportText, ReportsShapesAndWhatWasIgnoredTheMostFirst)
 {
   ImportTally tally;
   tally.polylines = 355;
@@ -34,7 +34,7 @@ TEST(ImportText, OneOfAKindIsNotMany)
             u"1 part behind a line that is too long");
 }
 
-TEST(ImportText, TellsWhatReadersLeftOut)
+TEST(ImportText, ReportsWhatReadersLeftOut)
 {
   ImportTally tally;
   tally.hasSections = true;

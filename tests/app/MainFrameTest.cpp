@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <optional>
+#include <ostream>
 
+#include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "support/AppFixture.h"
 
@@ -49,6 +51,11 @@ struct SideCase {
   CommandId command;
   ViewSide side;
 };
+
+std::ostream& operator<<(std::ostream& out, const SideCase& row)
+{
+  return out << "command " << NumberOf(row.command);
+}
 
 class SideCommand : public MainFrame, public testing::WithParamInterface<SideCase> {};
 
@@ -125,7 +132,7 @@ TEST_F(MainFrame, CommandsWithoutAHandlerAreDisabledAndDoNothing)
   EXPECT_EQ(Frames(), 0);
 }
 
-TEST_F(MainFrame, ADragIsToldToRepaintTreeAndDocument)
+TEST_F(MainFrame, ADragNotifiesRepaintTreeAndDocument)
 {
   view.OnMouseMove(false, {440, 300});  // the GNSS antenna
   view.OnMouseMove(true, {480, 300});

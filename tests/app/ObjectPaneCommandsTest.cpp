@@ -58,7 +58,7 @@ TEST_F(ObjectPaneCommands, RemoveAndModifyAnchorDoNothing)
   EXPECT_EQ(app.anchors->items.size(), 1U);
 }
 
-TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledTellsNobody)
+TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledNotifiesNobody)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   pane.BuildTree();

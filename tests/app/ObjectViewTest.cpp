@@ -80,7 +80,7 @@ TEST_F(ObjectPane, ItemsOfBeforeARebuildAreNoItems)
   EXPECT_FALSE(pane.selectedItem);
 }
 
-TEST_F(ObjectPane, AChangeOfTheDesignIsToldByTheFrame)
+TEST_F(ObjectPane, TheFrameNotifiesAChangeOfTheDesign)
 {
   frame.NotifyDesignChanged();
   EXPECT_EQ(control.rebuilds, 1);

@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Writes the steps of start-up and exit down, and fails where it is told to.
+/// Writes the steps of start-up and exit down, and fails where it is set to.
 class FakeFramework : public IFramework {
 public:
   void InitialiseControls() override { steps.emplace_back("controls"); }
@@ -79,7 +79,7 @@ TEST_F(StartUp, TheToolbarIsInvalidatedWithItsNewImageAndBeforeTheRepaint)
   EXPECT_THAT(widgets.calls, ElementsAre("image 32803", "invalidate"));
 }
 
-TEST_F(StartUp, LibrariesThatFailAreTold)
+TEST_F(StartUp, LibrariesThatFailAreReported)
 {
   framework.failAt = "libraries";
   EXPECT_FALSE(app.InitInstance(framework));

@@ -50,12 +50,12 @@ class CliTest(unittest.TestCase):
     def succeed(self, *arguments, data=None, remarks=(), **environment):
         """Runs with no more than these remarks on standard error; what stands on standard output."""
         done = run(*arguments, data=data, **environment)
-        told = done.stderr.decode("utf-8", "surrogateescape").replace(f"{self.folder}/", "")
-        self.assertEqual((done.returncode, told), (0, "".join(f"hullwright-cli: {line}\n" for line in remarks)))
+        reported = done.stderr.decode("utf-8", "surrogateescape").replace(f"{self.folder}/", "")
+        self.assertEqual((done.returncode, reported), (0, "".join(f"hullwright-cli: {line}\n" for line in remarks)))
         return done.stdout
 
     def fail_with(self, status, words, *arguments, data=None):
-        """Runs to a failure that is told, with nothing on standard output and nothing written."""
+        """Runs to a failure that is reported, with nothing on standard output and nothing written."""
         before = sorted(self.folder.iterdir())
         done = run(*arguments, data=data)
         self.assertEqual((done.returncode, done.stdout), (status, b""), done.stderr)

@@ -149,7 +149,7 @@ class ImportTest(CliTest):
         self.assertIn(b"importing [########", shown)
         self.assertIn(b" 50 %", shown)
 
-    def test_failures_are_told_and_leave_nothing(self):
+    def test_failures_are_reported_and_leave_nothing(self):
         out = self.folder / "out.xml"
         good = self.drawing("good.dxf", "0", "LINE")
         self.fail_with(1, ("missing.dxf", "No such file"), "import", good, self.folder / "missing.dxf", "-o", out)
@@ -173,7 +173,7 @@ class ImportTest(CliTest):
 
     # -- what is passed over, and what is no drawing
 
-    def test_what_an_import_ignores_is_told(self):
+    def test_what_an_import_ignores_is_reported(self):
         path = self.drawing("a.dxf", "0", "LINE", *["0", "HATCH", "2", "SOLID", "70", "0"] * 3, "0", "OTHER", "70", "0",
                             *["0", "SPLINE", "10", "1"] * 985)
         ignored = ["a.dxf: ignored: 985 SPLINE, 3 HATCH, 1 OTHER"]
@@ -181,7 +181,7 @@ class ImportTest(CliTest):
         self.assertEqual(self.polylines(self.folder / "out.xml"), {"01": 1})
         self.assertEqual(len(self.import_json(path, ignored)["shapes"]), 1)
 
-    def test_what_an_import_leaves_out_is_told(self):
+    def test_what_an_import_leaves_out_is_reported(self):
         tables = ["0", "SECTION", "2", "TABLES", "0", "LAYER", "2", "off", "62", "-7", "0", "ENDSEC"]
         entities = ["0", "SECTION", "2", "ENTITIES", "0", "LINE", "8", "off", "0", "TEXT", "8", "off", "0", "LINE", "67",
                     "1", "0", "INSERT", "2", "none", "0", "LINE", "0", "ENDSEC", ""]
@@ -214,8 +214,8 @@ class ImportTest(CliTest):
         self.fail_with(1, ("b.dxf: a binary drawing",), "import", path, "-o", self.folder / "out.xml")
         self.fail_with(1, ("standard input: a binary drawing",), "import", "-", "-o", self.folder / "out.xml",
                        data=path.read_bytes())
-        told = ["b.dxf: a binary drawing; only drawings in text form can be imported"]
-        self.assertEqual(self.import_json(path, told)["result"], 0)
+        reported = ["b.dxf: a binary drawing; only drawings in text form can be imported"]
+        self.assertEqual(self.import_json(path, reported)["result"], 0)
 
     def test_what_is_no_drawing_makes_no_design(self):
         out = self.write("out.xml", "precious")

@@ -190,7 +190,7 @@ class CheckTest(CliTest):
             "there is no <txd>; a save writes one of its own",
             "there is no <piv>; a save writes one of its own"])
 
-    def test_every_number_that_is_not_finite_is_told_with_its_place(self):
+    def test_every_number_that_is_not_finite_is_reported_with_its_place(self):
         def group(view, *polylines):
             return f'<shapes view="{view}" >' + "".join(
                 "<polyline>" + "".join(f'<vertex x="{x}" y="{y}" z="{z}" />' for x, y, z in vertices) + "</polyline>"

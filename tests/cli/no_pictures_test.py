@@ -6,7 +6,7 @@ from cli import SAMPLES, CliTest, run
 
 
 class NoPicturesTest(CliTest):
-    def test_render_tells_that_there_are_no_pictures_and_writes_none(self):
+    def test_render_reports_that_there_are_no_pictures_and_writes_none(self):
         self.fail_with(1, ("render: built without pictures",), "render", SAMPLES / "workboat.xml",
                        "-o", self.folder / "boat.png")
 

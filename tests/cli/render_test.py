@@ -78,7 +78,7 @@ class RenderTest(CliTest):
             self.fail_with(1, (f"{name}: not a drawing: it has no SECTION",), "render", self.write(name, "Dear Sirs\n"), "-o", out)
         self.fail_with(1, ("b: a binary drawing",), "render", self.write("b", "AutoCAD Binary DXF\n\x1a"), "-o", out)
 
-    def test_the_limits_of_a_size_are_told(self):
+    def test_the_limits_of_a_size_are_reported(self):
         out = self.folder / "out.png"
         for size in ("20001x5", "5x99999", "0x5", "5x99999999999", "-1x5", "5x5x5", "12", "ax5", "5x"):
             self.fail_with(2, ("two lengths from 1 to 20000 pixels", f"'{size}'", "Try 'hullwright-cli render --help'"),
@@ -159,7 +159,7 @@ class RenderTest(CliTest):
         os.umask(mask)
         self.assertEqual(out.stat().st_mode & 0o777, 0o666 & ~mask)
 
-    def test_failures_are_told_with_the_files_name(self):
+    def test_failures_are_reported_with_the_files_name(self):
         out = self.folder / "out.png"
         self.fail_with(1, ("missing.xml", "No such file"), "render", self.folder / "missing.xml", "-o", out)
         self.fail_with(1, (self.folder.name, "directory"), "render", self.folder, "-o", out)
@@ -208,7 +208,7 @@ class RenderTest(CliTest):
         self.succeed("render", drawing, "-z", "400x250", "-o", out)
         xml.dom.minidom.parse(str(out))
 
-    def test_a_lost_standard_output_is_told(self):
+    def test_a_lost_standard_output_is_reported(self):
         for arguments in (("--help",), ("info", BOAT), ("render", BOAT, "-o", "-")):
             with open("/dev/full", "wb") as full:
                 done = subprocess.run([PROGRAM, *arguments], stdout=full, stderr=subprocess.PIPE, check=False)

@@ -35,7 +35,7 @@ class DeskTest(unittest.TestCase):
     def _telling(self, step):
         """A step that leaves evidence where it fails, while the program still stands there."""
         @functools.wraps(step)
-        def told():
+        def reported():
             folder = EVIDENCE / self.id().removeprefix("__main__.")
             shutil.rmtree(folder, ignore_errors=True)
             try:
@@ -46,7 +46,7 @@ class DeskTest(unittest.TestCase):
                     print(f"{self.desk.output()}The screen, the windows, the output and the stacks of "
                           f"{self.id()} are in {folder}", file=sys.stderr)
                 raise
-        return told
+        return reported
 
     def start(self, *arguments, **environment):
         """Starts the program; the design view's place is known from then on."""

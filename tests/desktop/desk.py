@@ -73,7 +73,7 @@ class Desk:
 
     @staticmethod
     def _line(stream, who):
-        """The line that tells that something is ready."""
+        """The line that reports that something is ready."""
         if not select.select([stream], [], [], PATIENCE)[0]:
             raise AssertionError(f"{who} does not get ready")
         line = stream.readline().strip()
@@ -127,11 +127,11 @@ class Desk:
 
     def _run(self, *words, check=True):
         """Runs a tool to its end; what it printed."""
-        told = subprocess.run([*map(str, words)], env=self._environment, check=False, capture_output=True,
+        reported = subprocess.run([*map(str, words)], env=self._environment, check=False, capture_output=True,
                               text=True, timeout=PATIENCE)
-        if check and told.returncode != 0:
-            raise AssertionError(f"{' '.join(told.args)}: {told.stderr.strip() or told.returncode}")
-        return told.stdout
+        if check and reported.returncode != 0:
+            raise AssertionError(f"{' '.join(reported.args)}: {reported.stderr.strip() or reported.returncode}")
+        return reported.stdout
 
     # The program.
 

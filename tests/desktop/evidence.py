@@ -48,18 +48,18 @@ def _stacks(desk, path):
 
 def _thread(task):
     """A thread's name, its state, what it waits for in the kernel, and its system call with arguments."""
-    told = []
+    reported = []
     for name in ("comm", "stat", "wchan", "syscall"):
         try:
             text = (task / name).read_text().strip()
-            told.append(text.rpartition(")")[2].split()[0] if name == "stat" else text)
+            reported.append(text.rpartition(")")[2].split()[0] if name == "stat" else text)
         except OSError as error:  # an ended thread, or one that may not be looked at
-            told.append(error.strerror)
-    return " | ".join(told)
+            reported.append(error.strerror)
+    return " | ".join(reported)
 
 
 def _frames(pid):
     """The frames of all threads of a process."""
-    told = subprocess.run(["eu-stack", "-p", str(pid)], check=False, capture_output=True, text=True,
+    reported = subprocess.run(["eu-stack", "-p", str(pid)], check=False, capture_output=True, text=True,
                           errors="replace", timeout=PATIENCE)
-    return told.stdout + told.stderr
+    return reported.stdout + reported.stderr

@@ -9,7 +9,7 @@ from case import PROGRAM, DeskTest
 from desk import PATIENCE
 
 
-def told(path, reason):
+def reported(path, reason):
     """What the program says on standard error of a file that it can't open."""
     return f"hullwright: cannot open the design '{path}': {reason}"
 
@@ -31,7 +31,7 @@ class FailedStartTest(DeskTest):
                 done = subprocess.run([PROGRAM, path], env=environment, check=False, capture_output=True,
                                       text=True, timeout=PATIENCE)
                 self.assertEqual((done.returncode, done.stdout), (1, ""))
-                self.assertEqual(done.stderr.splitlines()[-1], told(path, reason))
+                self.assertEqual(done.stderr.splitlines()[-1], reported(path, reason))
                 self.assertEqual(path.read_text(encoding="utf-8"), text)
 
     def test_a_missing_file_is_told_in_a_window_and_ends_the_start(self):
@@ -39,7 +39,7 @@ class FailedStartTest(DeskTest):
         self.desk.launch(PROGRAM, path)
         self.desk.answer("Hullwright", "Return")
         self.assertEqual(self.desk.wait_for_end(), 1)
-        self.assertEqual(self.desk.output().splitlines()[-1], told(path, "No such file or directory"))
+        self.assertEqual(self.desk.output().splitlines()[-1], reported(path, "No such file or directory"))
         self.assertFalse(path.exists())
 
 

@@ -193,7 +193,7 @@ std::ptrdiff_t FailuresIn(const FakeTrace& log)
       log.records, [](const std::string& record) { return record.starts_with("1 General: "); });
 }
 
-TEST_F(Inserts, StopCopyingAtABudgetAndTellSoOnce)
+TEST_F(Inserts, StopCopyingAtABudgetAndReportThatOnce)
 {
   const std::string inserts = unitLine + Insert("b30") + Insert("b0") + unitLine;
   EXPECT_EQ(Import(Multiplying(30) + Entities(inserts), {.copyBudget = 1000000}), 0);

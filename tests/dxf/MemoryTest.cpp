@@ -19,7 +19,7 @@ class Memory : public DxfFixture {
 protected:
   /// Imports text once for each of its allocations, which fails, and at last without a failure.
   /// `look` is called behind each import that has begun to walk the file, even if it could not
-  /// tell its end in the log.
+  /// record its end in the log.
   template <class Look>
   void ImportWithEachFailure(const std::string& text, Look look)
   {

@@ -14,7 +14,7 @@ const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11
 
 class Progress : public DxfFixture {
 protected:
-  /// What the last import told between its beginning and its end; the next one starts anew.
+  /// What the last import reported between its beginning and its end; the next one starts anew.
   std::vector<int> Percents()
   {
     EXPECT_GT(window.starts, 0);
@@ -22,7 +22,7 @@ protected:
     return std::exchange(window.percents, {});
   }
 
-  /// Reads a text up to each of the places, the last of which is its end, and tells the progress
+  /// Reads a text up to each of the places, the last of which is its end, and reports the progress
   /// there.
   void TellAfterEach(const std::vector<std::size_t>& places)
   {
@@ -53,7 +53,7 @@ TEST_F(Progress, ProgressBeginsRisesAndEnds)
   EXPECT_TRUE(std::ranges::is_sorted(percents));
 }
 
-TEST_F(Progress, PercentIsTruncatedAndToldOnce)
+TEST_F(Progress, PercentIsTruncatedAndReportedOnce)
 {
   TellAfterEach({0, 3, 4, 7, 8, 8, 199, 400});
   EXPECT_THAT(window.percents, ElementsAre(1, 2, 49, 100));
@@ -71,7 +71,7 @@ TEST_F(Progress, AnImportThatFailsShowsNoProgress)
   EXPECT_EQ(window.starts, 0);
 }
 
-TEST_F(Progress, IsToldBehindEveryLineBetweenSections)
+TEST_F(Progress, IsReportedBehindEveryLineBetweenSections)
 {
   std::string text;
   for (int i = 0; i < 50; ++i) text += "x\n";
@@ -81,7 +81,7 @@ TEST_F(Progress, IsToldBehindEveryLineBetweenSections)
   EXPECT_EQ(Percents(), everyLine);
 }
 
-TEST_F(Progress, IsToldBehindASectionAndNotInsideIt)
+TEST_F(Progress, IsReportedBehindASectionAndNotInsideIt)
 {
   for (const auto& section : {Section("HEADER", Lines({{9, "$ACADVER"}, {1, "AC1015"}})),
                               Section("TABLES", LayerRecord("A", 1, 0) + LayerRecord("B", 1, 0)),
@@ -98,7 +98,7 @@ TEST_F(Progress, IsToldBehindASectionAndNotInsideIt)
   }
 }
 
-TEST_F(Progress, IsToldBehindEveryLineAndEntityOfTheEntities)
+TEST_F(Progress, IsReportedBehindEveryLineAndEntityOfTheEntities)
 {
   std::string text = "SECTION\n2\nENTITIES\n";
   std::vector<int> expected;
@@ -115,7 +115,7 @@ TEST_F(Progress, IsToldBehindEveryLineAndEntityOfTheEntities)
   add("HATCH\n0\n");        // one that is skipped
   add("LINE\n67\n1\n0\n");  // one that is left out
   add("ENDSEC\n");
-  text += "EOF\n";  // nothing is told behind the end
+  text += "EOF\n";  // nothing is reported behind the end
   text.resize(100, 'x');
   Import(text);
   EXPECT_EQ(Percents(), expected);

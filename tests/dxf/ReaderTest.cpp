@@ -23,7 +23,7 @@ TEST_F(Reader, ALayerIsNeeded)
   EXPECT_THAT(log.records, IsEmpty());
 }
 
-TEST_F(Reader, AFileThatIsMissingOrEmptyIsToldInTheLogOnly)
+TEST_F(Reader, AFileThatIsMissingOrEmptyIsReportedInTheLogOnly)
 {
   CLayer target;
   for (const auto& path : {folder.File("missing.dxf"), folder.Write("empty.dxf", "")}) {
@@ -39,7 +39,7 @@ TEST_F(Reader, AFileThatIsMissingOrEmptyIsToldInTheLogOnly)
   EXPECT_EQ(window.starts, 0);
 }
 
-TEST_F(Reader, TheLogTellsEveryStep)
+TEST_F(Reader, TheLogRecordsEveryStep)
 {
   ASSERT_EQ(Import(LayerTable(LayerRecord("Hull", 1, 0)) + Blocks(Block("B", aLine)) +
                    Entities(aLine + aLine) + endOfFile),
@@ -138,7 +138,7 @@ TEST_F(Reader, AnyLineWithTheWordEndsASectionThatIsWalkedPast)
   EXPECT_EQ(ShapeCount(), 1U);
 }
 
-TEST_F(Reader, EachSectionOfEntitiesTellsAllTheShapesSoFar)
+TEST_F(Reader, EachSectionOfEntitiesReportsAllTheShapesSoFar)
 {
   Import(Entities(aLine) + Entities(aLine + aLine));
   EXPECT_THAT(log.records, testing::Contains(HasSubstr("added 1 map features")));

@@ -191,6 +191,8 @@ struct KeywordCase {
   bool inBlocks;
 };
 
+std::ostream& operator<<(std::ostream& out, const KeywordCase& row) { return out << row.word; }
+
 class EachKeyword : public DxfFixture, public testing::WithParamInterface<KeywordCase> {
 protected:
   static std::string Trap() { return Entity(GetParam().word, {{5, "1"}, {1000, "LINE"}}); }

@@ -111,7 +111,7 @@ TEST(TextCodes, TheCodeOfNulBecomesOneUnit)
   EXPECT_EQ(Cleaned(u"a\\U+0000b"), std::u16string(u"a\0b", 3));
 }
 
-TEST(TextCodes, TellTheFirstColourOfEachKind)
+TEST(TextCodes, ReportTheFirstColourOfEachKind)
 {
   const CleanedText none = CleanText(u"C1; \\C; \\cX;");
   EXPECT_FALSE(none.colourIndex);

@@ -150,7 +150,7 @@ TEST_F(DesignElements, NoneLosesAnythingInASave)
   }
 }
 
-TEST_F(DesignElements, EachIsToldWithAnAttributeThatItDoesNotHave)
+TEST_F(DesignElements, EachIsReportedWithAnAttributeThatItDoesNotHave)
 {
   for (const Written& row : saved) {
     const std::string tag = "<" + Utf8FromWide(row.name);
@@ -161,7 +161,7 @@ TEST_F(DesignElements, EachIsToldWithAnAttributeThatItDoesNotHave)
   }
 }
 
-TEST_F(DesignElements, EachIsToldWhereItDoesNotBelong)
+TEST_F(DesignElements, EachIsReportedWhereItDoesNotBelong)
 {
   for (const Written& row : saved) {
     const std::string tag = Utf8FromWide(row.name);
@@ -171,7 +171,7 @@ TEST_F(DesignElements, EachIsToldWhereItDoesNotBelong)
   }
 }
 
-TEST_F(DesignElements, EachIsToldUnderAnotherName)
+TEST_F(DesignElements, EachIsReportedUnderAnotherName)
 {
   for (const DesignElement& element : designElements) {
     const std::string tag = "<strange" + Utf8FromWide(element.name) + " />";

@@ -86,7 +86,7 @@ TEST_F(NonFiniteNumbersOfADesign, EveryNumberThatASaveWritesIsLookedAt)
   EXPECT_THAT(PlacesWith(anchor.northing), IsEmpty());
 }
 
-TEST_F(NonFiniteNumbersOfADesign, AreToldInTheOrderOfASave)
+TEST_F(NonFiniteNumbersOfADesign, AreReportedInTheOrderOfASave)
 {
   AddAnchor().attachmentX = infinity;
   design.offsetPivot->x = -infinity;

@@ -49,14 +49,14 @@ TEST_F(Document, OpenReplacesTheDesign)
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(Document, OpenTellsRepaintThenTreeForEmptyingAndForFilling)
+TEST_F(Document, OpenNotifiesRepaintThenTreeForEmptyingAndForFilling)
 {
   ASSERT_TRUE(Open(good));
   EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree,
                                         Notification::RepaintDesign, Notification::RebuildTree));
 }
 
-TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeItIsTold)
+TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeTheNotification)
 {
   using Seen = std::tuple<UnitCode, double, std::size_t, std::size_t>;
   std::vector<Seen> seen;
@@ -101,7 +101,7 @@ TEST_F(Document, AFileWithoutAUnitIsInMetres)
   EXPECT_TRUE(*design.offsetGps == CShapeVertex());
 }
 
-TEST_F(Document, AFileThatCannotBeOpenedIsToldAndChangesNothing)
+TEST_F(Document, AFileThatCannotBeOpenedIsReportedAndChangesNothing)
 {
   ASSERT_TRUE(Open(good));
   document.SetModifiedFlag(true);
@@ -114,7 +114,7 @@ TEST_F(Document, AFileThatCannotBeOpenedIsToldAndChangesNothing)
   EXPECT_TRUE(window.codes.empty());
 }
 
-TEST_F(Document, AFileWithoutReadPermissionIsTold)
+TEST_F(Document, AFileWithoutReadPermissionIsReported)
 {
   const auto path = folder.Write("locked.xml", good);
   std::filesystem::permissions(folder.Path() / "locked.xml", std::filesystem::perms::none);
@@ -123,7 +123,7 @@ TEST_F(Document, AFileWithoutReadPermissionIsTold)
   EXPECT_EQ(messages.shown.size(), allPowerful ? 0U : 1U);
 }
 
-TEST_F(Document, AnEmptyFileEmptiesTheDesignWithoutAWord)
+TEST_F(Document, AnEmptyFileEmptiesTheDesignWithoutAMessage)
 {
   ASSERT_TRUE(Open(good));
   EXPECT_FALSE(Open(""));
@@ -131,7 +131,7 @@ TEST_F(Document, AnEmptyFileEmptiesTheDesignWithoutAWord)
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(Document, TellsWhyAndWhereAnOpenFailed)
+TEST_F(Document, ReportsWhyAndWhereAnOpenFailed)
 {
   EXPECT_FALSE(Open("<vessel>\n</wessel>"));
   EXPECT_EQ(document.OpenProblem(), u"line 2, column 3: mismatched tag");
@@ -164,7 +164,7 @@ TEST_F(Document, NewKeepsOffsetsUnitAndSide)
   EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree));
 }
 
-TEST_F(Document, BeforeThereIsAWindowEmptyingTellsNobody)
+TEST_F(Document, BeforeThereIsAWindowEmptyingNotifiesNobody)
 {
   window.hasWindow = false;
   document.OnNewDocument();
@@ -218,14 +218,14 @@ TEST_F(Document, SavingToAPathThatCannotBeWrittenCountsAsSaved)
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(Document, SavingToAFullDiskIsToldAndCountsAsSaved)
+TEST_F(Document, SavingToAFullDiskIsReportedAndCountsAsSaved)
 {
   EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
   EXPECT_THAT(window.flags, ElementsAre(false));
 }
 
-TEST_F(Document, TellsWhetherASaveReachedTheDisk)
+TEST_F(Document, ReportsWhetherASaveReachedTheDisk)
 {
   document.OnSaveDocument(u"/dev/full");
   EXPECT_FALSE(document.SavedWhole());
@@ -233,7 +233,7 @@ TEST_F(Document, TellsWhetherASaveReachedTheDisk)
   EXPECT_TRUE(document.SavedWhole());
 }
 
-TEST_F(Document, TellsThatItWasEmptiedAlsoWhenTheOpenFailsLater)
+TEST_F(Document, ReportsThatItWasEmptiedAlsoWhenTheOpenFailsLater)
 {
   int emptied = 0;
   document.onEmptied = [&] { ++emptied; };

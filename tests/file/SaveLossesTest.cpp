@@ -82,7 +82,7 @@ TEST_F(SaveLosses, ATabBehindAFieldReplacesIt)
                              {.element = u"name", .text = u"Bow", .saved = u"&#x9;"})));
 }
 
-TEST_F(SaveLosses, ATabThatReplacesNothingIsNotTold)
+TEST_F(SaveLosses, ATabThatReplacesNothingIsNotReported)
 {
   EXPECT_THAT(FindInAnchor("\t<id>0</id>\t<name>Bow</name>\n\t<attachmentX>0</attachmentX>\t"),
               IsEmpty());
@@ -107,7 +107,7 @@ TEST_F(SaveLosses, ANameThatBeginsWithALineBreakIsLost)
               testing::Contains(Is(LossKind::NameBehindLineBreak, 1, name)));
 }
 
-TEST_F(SaveLosses, ANameWithAPieceThatIsKeptIsNotToldAsLost)
+TEST_F(SaveLosses, ANameWithAPieceThatIsKeptIsNotReportedAsLost)
 {
   EXPECT_THAT(FindInAnchor("<id>7</id><name>Bow\n</name>"), IsEmpty());
   EXPECT_THAT(FindInAnchor("<id>7</id><name>Bow&#10;roller</name>"), IsEmpty());
@@ -167,7 +167,7 @@ TEST_F(SaveLosses, EveryKindIsFoundWithItsPlace)
   EXPECT_EQ(seen.size(), static_cast<std::size_t>(LossKind::NameThatDoesNotOpen) + 1);
 }
 
-TEST_F(SaveLosses, WhatASaveAddsIsToldInTheOrderOfASave)
+TEST_F(SaveLosses, WhatASaveAddsIsReportedInTheOrderOfASave)
 {
   FindIn("<other><vessel/></other>");
   EXPECT_THAT(losses->Missing(), ElementsAre(u"vessel", u"units", u"gps", u"txd", u"piv"));

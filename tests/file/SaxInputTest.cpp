@@ -121,7 +121,7 @@ TEST_F(SaxInput, CommentsAndInstructionsCutText)
   EXPECT_THAT(listener.events, ElementsAre("<a", "'1'", "'2'", "'3<4>'", ">a"));
 }
 
-TEST_F(SaxInput, AnErrorIsToldWithItsPlaceAndEndsTheReading)
+TEST_F(SaxInput, AnErrorIsReportedWithItsPlaceAndEndsTheReading)
 {
   EXPECT_EQ(Read("<a>\n <b>\n</a>"), -1);
   EXPECT_THAT(listener.events, ElementsAre("<a", "<b"));
@@ -170,7 +170,7 @@ TEST_F(SaxInput, DeepNestingIsRead)
   EXPECT_EQ(listener.events.size(), 2U * depth);
 }
 
-TEST_F(SaxInput, TellsWhatItPassesOver)
+TEST_F(SaxInput, ReportsWhatItPassesOver)
 {
   EXPECT_EQ(Read("<?xml version='1.0'?><!-- log --><a>\nlost<?mark at=1?></a>"), 0);
   EXPECT_THAT(listener.events, ElementsAre("<a", ">a"));

@@ -268,7 +268,7 @@ TEST_F(XmlOutput, AFileThatWontOpenFailsWithoutAMessage)
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(XmlOutput, AFullDiskIsTold)
+TEST_F(XmlOutput, AFullDiskIsReported)
 {
   file.OpenElement(u"a");
   EXPECT_EQ(file.Flush(u"/dev/full"), -1);

@@ -93,7 +93,7 @@ TEST_F(Recorder, AFailureLeavesItsCallsOut)
   EXPECT_FALSE(recorder.MeasureText(u"Ahoy", {u"Arial", 14.0F}, {}).has_value());
 }
 
-TEST_F(Recorder, AFrameEndsWithTheFailureItIsToldTo)
+TEST_F(Recorder, AFrameEndsWithTheFailureThatItIsSetTo)
 {
   recorder.failCode = -7;
   recorder.failMessage = "full";
@@ -104,7 +104,7 @@ TEST_F(Recorder, AFrameEndsWithTheFailureItIsToldTo)
   EXPECT_EQ(result.message, "full");
 }
 
-TEST_F(Recorder, OnlyTheStepItIsToldToFails)
+TEST_F(Recorder, OnlyTheStepThatIsSetToFailFails)
 {
   recorder.failingStep = TargetStep::Texts;
   recorder.failCode = -7;

@@ -1,5 +1,10 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over the project's own sources, as many at a time as there are processors."""
+"""Runs clang-tidy over a folder of the project's sources, as many at a time as there are processors:
+
+check_tidy.py CLANG-TIDY BUILD FOLDER...
+
+What the build does not know is left out.
+"""
 
 import concurrent.futures
 import json
@@ -16,15 +21,22 @@ def check(job):
     return done.stdout if done.returncode != 0 else ""
 
 
+def sources_of(build, folder):
+    """The sources of a folder that are checked."""
+    with open(build / "compile_commands.json", encoding="utf-8") as database:
+        return {entry["file"] for entry in json.load(database) if folder in pathlib.Path(entry["file"]).parents}
+
+
 def main():
-    tool, build, root = sys.argv[1:]
-    own = str(pathlib.Path(root, "src")) + os.sep
-    with open(pathlib.Path(build, "compile_commands.json"), encoding="utf-8") as database:
-        sources = sorted({entry["file"] for entry in json.load(database) if entry["file"].startswith(own)})
-    if not sources:
-        sys.exit("no sources to check")
+    tool, build, *folders = sys.argv[1:]
+    sources = set()
+    for folder in folders:
+        found = sources_of(pathlib.Path(build), pathlib.Path(folder).resolve())
+        if not found:
+            sys.exit(f"no sources to check in {folder}")
+        sources |= found
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        said = [text for text in pool.map(check, [(tool, build, source) for source in sources]) if text]
+        said = [text for text in pool.map(check, [(tool, build, source) for source in sorted(sources)]) if text]
     print("".join(said) or f"clang-tidy is content with {len(sources)} files.")
     sys.exit(1 if said else 0)
 

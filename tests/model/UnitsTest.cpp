@@ -1,3 +1,4 @@
+#include "base/Code.h"
 #include "model/Units.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,8 @@ struct Factor {
   double toMetres;
   double fromMetres;
 };
+
+std::ostream& operator<<(std::ostream& out, const Factor& row) { return out << NumberOf(row.code); }
 
 class UnitFactor : public testing::TestWithParam<Factor> {};
 

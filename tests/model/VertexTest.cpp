@@ -94,7 +94,7 @@ TEST(DistanceToSegment, APointBehindTheStartGetsNoDistance)
 
 TEST(DistanceToSegment, APointBeyondTheEndGetsTheNearerEnd) { EXPECT_EQ(Distance(13.0, 4.0), 5.0); }
 
-TEST(DistanceToSegment, TellsWhetherThereIsADistance)
+TEST(DistanceToSegment, StatesWhetherThereIsADistance)
 {
   const CShapeVertex a(0.0, 0.0, 0.0);
   const CShapeVertex b(10.0, 0.0, 0.0);

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <ostream>
 
 #include "base/Text.h"
 #include "cli/HeadlessEditor.h"
@@ -49,6 +50,8 @@ struct Case {
 };
 
 std::string NameOf(const Case& what) { return what.sample + "-" + std::string(what.side.name); }
+
+std::ostream& operator<<(std::ostream& out, const Case& row) { return out << NameOf(row); }
 
 std::vector<Case> AllCases()
 {

@@ -232,7 +232,7 @@ TEST_F(DocumentFlow, ATargetThatIsGoneIsReportedInTheStatusBarAndStillAskedFor)
   EXPECT_EQ(lastQuestion, QStringLiteral("Save changes to boat.xml?"));
 }
 
-TEST_F(DocumentFlow, AFullDiskIsToldOnceAndTheSaveThatWasAskedForKeepsTheWindowOpen)
+TEST_F(DocumentFlow, AFullDiskIsReportedOnceAndTheSaveThatWasAskedForKeepsTheWindowOpen)
 {
   ASSERT_TRUE(Start(Design("boat.xml")));
   Modify();

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <ostream>
 #include <set>
 
 #include "qt/TemplateDialog.h"
@@ -20,6 +21,8 @@ struct KeyCase {
   Qt::KeyboardModifiers modifiers;
   CommandId command;
 };
+
+std::ostream& operator<<(std::ostream& out, const KeyCase& row) { return out << row.name; }
 
 class Keys : public test::ShellFixture, public testing::WithParamInterface<KeyCase> {};
 

@@ -114,7 +114,7 @@ TEST_F(TemplateDialogs, ClicksReachTheLogicAndControlsCanBeDisabled)
   EXPECT_EQ(logic->clicks, std::vector<ControlId>{GridControls::showGrid});
 }
 
-TEST_F(TemplateDialogs, FieldsTellTheirUnitToAssistiveTechnology)
+TEST_F(TemplateDialogs, FieldsStateTheirUnitToAssistiveTechnology)
 {
   Open(DialogId::Vertex);
   dialog->SetText(VertexControls::xUnit, u"ft");

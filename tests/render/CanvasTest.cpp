@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ostream>
 
 #include "support/RecordedDrawing.h"
 
@@ -54,7 +55,7 @@ TEST_F(CanvasTest, AnInvalidWindowFailsAlike)
   EXPECT_TRUE(recorder.Lines().empty());
 }
 
-TEST_F(CanvasTest, AWindowWithoutAClientAreaFailsWithoutAWord)
+TEST_F(CanvasTest, AWindowWithoutAClientAreaFailsWithoutAMessage)
 {
   recorder.failingStep = TargetStep::ClientArea;
   canvas.errorText = "kept";
@@ -69,9 +70,11 @@ struct Failure {
   std::size_t steps;  ///< how far it got
 };
 
+std::ostream& operator<<(std::ostream& out, const Failure& row) { return out << row.text; }
+
 class CanvasFailure : public CanvasTest, public testing::WithParamInterface<Failure> {};
 
-TEST_P(CanvasFailure, IsToldInItsWordsAndLeavesTheObjectsAlone)
+TEST_P(CanvasFailure, IsReportedWordForWordAndLeavesTheObjectsAlone)
 {
   recorder.failingStep = GetParam().step;
   recorder.failCode = static_cast<ResultCode>(0x8007000EU);

@@ -149,14 +149,14 @@ TEST(Names, AnUnknownOneIsAnErrorThatSaysSo)
 
 TEST(Names, APrintedStepHasThoseOfItsMenu)
 {
-  const auto told = [](Json step) {
+  const auto reported = [](Json step) {
     NamesForNumbers(step);
     return step["id"];
   };
   const int vertex = NumberOf(CommandId::AddVertex);
-  EXPECT_EQ(told(Step("menu", "id", vertex)), "Menu.AddVertex");
-  EXPECT_EQ(told(Step("treecommand", "id", vertex)), "Tree.AddPoint");
-  EXPECT_EQ(told(Step("command", "id", 40000)), 40000);
+  EXPECT_EQ(reported(Step("menu", "id", vertex)), "Menu.AddVertex");
+  EXPECT_EQ(reported(Step("treecommand", "id", vertex)), "Tree.AddPoint");
+  EXPECT_EQ(reported(Step("command", "id", 40000)), 40000);
 }
 
 }  // namespace

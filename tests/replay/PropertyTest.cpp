@@ -22,7 +22,7 @@ namespace {
 
 constexpr int stepsOfScript = 200;
 
-/// Number of scripts, the most where the sanitizers look on; HULLWRIGHT_SCRIPTS tells another one.
+/// Number of scripts, the most where the sanitizers look on; HULLWRIGHT_SCRIPTS sets another one.
 int Scripts()
 {
 #ifdef HULLWRIGHT_SANITIZE
@@ -318,10 +318,10 @@ void PlayScript(unsigned seed)
   player.Play(Json::object({{"do", "size"}, {"cx", 800}, {"cy", 600}}), Detail::Events);
   for (int step = 0; step < stepsOfScript; ++step) {
     const Json made = maker.Next();
-    Json told = made;
-    NamesForNumbers(told);
+    Json reported = made;
+    NamesForNumbers(reported);
     SCOPED_TRACE("script " + std::to_string(seed) + ", step " + std::to_string(step) + ": " +
-                 told.dump());
+                 reported.dump());
     player.Play(made, Detail::Events);
     ExpectOneEditingShapeAGroup(editor.app);
     ExpectNothingInTwoPlaces(editor.app);

@@ -16,7 +16,7 @@ protected:
     return ReadScript(folder_.Path() / "script");
   }
 
-  /// What is told of a script that can't be read, without the folder.
+  /// What is reported of a script that can't be read, without the folder.
   std::string ProblemOf(std::string_view script) const
   {
     try {
@@ -67,13 +67,13 @@ TEST_F(ScriptFile, NamesBecomeNumbers)
   EXPECT_EQ(steps.at(0)["id"], 32804);
 }
 
-TEST_F(ScriptFile, AnUnknownNameIsToldWithTheLineOfItsStep)
+TEST_F(ScriptFile, AnUnknownNameIsReportedWithTheLineOfItsStep)
 {
   EXPECT_EQ(ProblemOf("# One\n{\"do\":\"new\"}\n{\"do\":\"command\",\\\n\"id\":\"View.Inside\"}\n"),
             "script:3: no command is called \"View.Inside\"");
 }
 
-TEST_F(ScriptFile, WhatIsNoObjectIsToldWithItsLine)
+TEST_F(ScriptFile, WhatIsNoObjectIsReportedWithItsLine)
 {
   EXPECT_EQ(ProblemOf("\n[1]\n"), "script:2: no object");
   EXPECT_TRUE(ProblemOf("{\"do\":\n").starts_with("script:1: "));

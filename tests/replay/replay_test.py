@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Plays every script below this folder and compares what it does with what stands in it.
 
-A script is a file of JSON lines, as hullwright-replay takes them. A line that begins with "#=" tells what the
+A script is a file of JSON lines, as hullwright-replay takes them. A line that begins with "#=" states what the
 step before it must report: each member that it names, and whatever it leaves out is left open. Lists count as a
 whole, "*" stands for any value, and numbers may differ in their last digits. Other lines with "#" are remarks.
 README.md beside this file has the language.
@@ -24,9 +24,9 @@ def difference(expected, found, place=""):
         for name, value in expected.items():
             if name not in found:
                 return f"{place}/{name} is missing"
-            told = difference(value, found[name], f"{place}/{name}")
-            if told:
-                return told
+            stated = difference(value, found[name], f"{place}/{name}")
+            if stated:
+                return stated
         return None
     if isinstance(expected, list) and isinstance(found, list):
         if len(expected) != len(found):
@@ -63,16 +63,16 @@ def whole_lines(text):
 
 
 def expectations(path):
-    """What a script tells that its steps must report: (line, step, expected)."""
+    """What a script states that its steps must report: (line, step, expected)."""
     step = -1
     for number, line in whole_lines(path.read_text(encoding="utf-8")):
         try:
-            told = json.loads(line.removeprefix("#="))
+            stated = json.loads(line.removeprefix("#="))
         except json.JSONDecodeError as problem:
             raise ValueError(f"{number}: {problem}") from problem
         if line.startswith("#="):
-            yield number, step, told
-        elif "do" in told:
+            yield number, step, stated
+        elif "do" in stated:
             step += 1
 
 
@@ -93,7 +93,7 @@ def play(program, path):
         problem = difference(expected, reports[step]) if 0 <= step < len(reports) else "no step before it"
         if problem:
             wrong.append(f"{path}:{number}: {problem}")
-    return wrong if expected_of_steps else [f"{path}: tells nothing that is expected"]
+    return wrong if expected_of_steps else [f"{path}: states nothing that is expected"]
 
 
 def main():
@@ -105,7 +105,7 @@ def main():
     wrong = [problem for path in scripts for problem in play(program, path)]
     if everything and len(scripts) < FEWEST:
         wrong.append(f"only {len(scripts)} scripts are here")
-    print("\n".join(wrong) or f"{len(scripts)} scripts do what they tell.")
+    print("\n".join(wrong) or f"{len(scripts)} scripts do what they state.")
     sys.exit(1 if wrong else 0)
 
 

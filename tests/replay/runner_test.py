@@ -46,8 +46,8 @@ class Differences(unittest.TestCase):
         self.assertIsNone(difference({"a": 1, "b": "*"}, {"a": 1 + 1e-12, "b": [3], "c": 4}))
 
     def test_everything_else_counts(self):
-        for told, found in (({"a": 1}, {}), ([1], [1, 2]), (1, 1.001), (True, 1), ("1", 1), (None, 0)):
-            self.assertIsNotNone(difference(told, found), json.dumps([told, found]))
+        for stated, found in (({"a": 1}, {}), ([1], [1, 2]), (1, 1.001), (True, 1), ("1", 1), (None, 0)):
+            self.assertIsNotNone(difference(stated, found), json.dumps([stated, found]))
 
 
 if __name__ == "__main__":

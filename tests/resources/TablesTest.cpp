@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <ostream>
 #include <span>
 
 #include "base/Code.h"
@@ -167,6 +168,11 @@ struct Prompt {
   int id;
   std::u16string_view text;
 };
+
+std::ostream& operator<<(std::ostream& out, const Prompt& row)
+{
+  return out << "command " << row.id;
+}
 
 class Prompts : public testing::TestWithParam<Prompt> {};
 

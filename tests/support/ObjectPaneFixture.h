@@ -69,15 +69,15 @@ protected:
     pane.OnCommand(id);
   }
 
-  /// Whether the last command told all three: a repaint, a rebuild and a modified document.
+  /// whether the last command notified all three: a repaint, a rebuild and a modified document.
   bool ToldAll()
   {
-    const bool told = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
+    const bool notified = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
     const bool silent = Frames() == 0 && control.rebuilds == 0 && !document.IsModified();
-    EXPECT_TRUE(told || silent);
+    EXPECT_TRUE(notified || silent);
     control.rebuilds = 0;
     document.SetModifiedFlag(false);
-    return told;
+    return notified;
   }
 
   CObjectView& pane = editor.objects;

@@ -18,14 +18,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A row of the units; the library tells a missing cell as null.
+/// A row of the units; the library gives a missing cell as null.
 struct Row {
   std::optional<int> code;
   const char* name = nullptr;
   const char* shortName = nullptr;
 };
 
-/// A library that answers as it is told and writes down what it is asked. Its entry points are
+/// A library that answers as it is set to and writes down what it is asked. Its entry points are
 /// plain functions, so there is one at a time.
 class FakeLibrary : public ILibraryLoader {
 public:

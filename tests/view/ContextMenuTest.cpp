@@ -96,7 +96,7 @@ TEST_F(ContextMenu, OtherIdsOfItsRangeDoNothing)
   EXPECT_EQ(Frames(), 0);
 }
 
-TEST_F(ContextMenu, EditingAVertexRepaintsAndTellsNobody)
+TEST_F(ContextMenu, EditingAVertexRepaintsAndNotifiesNobody)
 {
   CShapePolyline& line = AddLine({{0.0, 0.0, 5.0}});
   host.accept = true;
@@ -251,7 +251,7 @@ TEST_F(ContextMenu, AddAnchorTakesTheLowestNumberAndTheSnappedPlaceOnAnySide)
   EXPECT_EQ(Frames(), 1);
 }
 
-TEST_F(ContextMenu, RemovingAVertexTellsRepaintAndTreeButDoesNotModify)
+TEST_F(ContextMenu, RemovingAVertexNotifiesRepaintAndTreeButDoesNotModify)
 {
   CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}, {50.0, 0.0, 0.0}});
   view.OnRButtonDown({400, 300});

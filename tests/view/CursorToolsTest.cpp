@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "base/Code.h"
 #include "model/ShapePoint.h"
 #include "resources/CommandIds.h"
 #include "support/ViewFixture.h"
@@ -31,7 +32,7 @@ TEST_F(View, CreationHangsTheCanvasOnTheViewPort)
   EXPECT_TRUE(messages.shown.empty());
 }
 
-TEST_F(View, ACanvasThatFailsIsToldAndTheViewGoesOn)
+TEST_F(View, ACanvasThatFailsIsReportedAndTheViewGoesOn)
 {
   DesignState other;
   GiveViewPort(other);
@@ -86,6 +87,11 @@ struct ToolCase {
   double centreX;
   int frames;
 };
+
+std::ostream& operator<<(std::ostream& out, const ToolCase& row)
+{
+  return out << "tool " << NumberOf(row.tool);
+}
 
 class Tool : public View, public testing::WithParamInterface<ToolCase> {};
 

@@ -177,7 +177,7 @@ TEST_F(Picking, AButtonHeldFromEmptySpaceTakesAnItemUpOnTheWay)
   EXPECT_EQ(line.vertices[0]->x, 10.0);
 }
 
-TEST_F(Picking, AReleaseWithoutADragTellsNobody)
+TEST_F(Picking, AReleaseWithoutADragNotifiesNobody)
 {
   AddLine({{0.0, 0.0, 0.0}});
   Hover(400, 300);

@@ -63,7 +63,7 @@ TEST_F(PolylineTool, AFinishedPolylineIsDrawnFromThenOn)
   }
 }
 
-TEST_F(PolylineTool, FinishingTellsRepaintAndTreeButDoesNotModify)
+TEST_F(PolylineTool, FinishingNotifiesRepaintAndTreeButDoesNotModify)
 {
   Begin();
   Click(400, 300);

@@ -153,7 +153,7 @@ Value RemoveForeign(ReplayEditor& editor, const Args& args)
 {
   CShape& shape = ShapeOf(editor, args);
   auto foreign = std::make_unique<CShapeVertex>();
-  // Rings take over what they are told to remove; all others leave it to its owner. A polygon that
+  // Rings take over what they are asked to remove; all others leave it to its owner. A polygon that
   // was reset still has its rings, but no longer its type.
   const auto* const polygon = dynamic_cast<const CShapePolygon*>(&shape);
   const bool takesOver = polygon != nullptr && !polygon->rings.empty();

@@ -63,7 +63,7 @@ private:
   ReplayPointer& pointer_;
 };
 
-/// Writes down what the frame is told.
+/// Writes down the notifications of the frame.
 class ReplayListener : public SilentWindow {
 public:
   explicit ReplayListener(Value::List& events) : events_(events) {}
