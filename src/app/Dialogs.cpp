@@ -20,7 +20,7 @@
 namespace hullwright {
 namespace {
 
-/// An edit field bound to the number that it shows and sets.
+/// An edit field and where the values of its dialog hold its number.
 template <typename Values>
 struct NumberField {
   ControlId field;
@@ -61,6 +61,18 @@ constexpr bool BindsAll(const DialogTemplate& dialog, const auto& fields)
   });
 }
 
+/// Whether every check box and radio button of the template stands in one of the tables.
+constexpr bool BindsAllButtons(const DialogTemplate& dialog, const auto&... tables)
+{
+  const auto binds = [](const auto& table, ControlId id) {
+    return std::ranges::any_of(table, [id](const auto& row) { return row.button == id; });
+  };
+  return std::ranges::all_of(dialog.rows, [&](const DialogRow& row) {
+    const ControlId id = ButtonOf(row);
+    return id == ControlId::None || (binds(tables, id) || ...);
+  });
+}
+
 constexpr bool HasButtons(const DialogTemplate& dialog, const auto& buttons)
 {
   return std::ranges::all_of(buttons, [&dialog](const auto& row) {
@@ -73,29 +85,22 @@ double ReadNumber(const IDialogControls& controls, ControlId field)
   return ParseDouble(controls.GetText(field));
 }
 
-void ShowNumbers(IDialogControls& controls, const auto& fields, auto& values)
+std::vector<BoundNumber> Bind(const auto& fields, auto& values)
 {
-  for (const auto& row : fields) {
-    controls.SetText(row.field, WideFromAscii(FormatFixed(row.value(values), row.decimals)));
-  }
-}
-
-void ReadNumbers(const IDialogControls& controls, const auto& fields, auto& values)
-{
-  for (const auto& row : fields) row.value(values) = ReadNumber(controls, row.field);
+  std::vector<BoundNumber> bound;
+  for (const auto& row : fields) bound.push_back({row.field, row.value(values), row.decimals});
+  return bound;
 }
 
 /// Fills the labels behind the fields with the short name of the design's unit; where that is not
 /// known, they keep the template's text.
-void FillUnitLabels(IDialogControls& controls, const DialogTemplate& dialog, const auto& fields,
-                    CHullwrightApp& app)
+void FillUnitLabels(IDialogControls& controls, const DialogTemplate& dialog, CHullwrightApp& app)
 {
-  for (const auto& row : fields) {
-    const ControlId unit = FindField(dialog, row.field)->unitId;
-    if (unit == ControlId::None) continue;
-    std::u16string label = controls.GetText(unit);
+  for (const DialogRow& row : dialog.rows) {
+    if (row.unitId == ControlId::None) continue;
+    std::u16string label = controls.GetText(row.unitId);
     app.GetUnitLabel(label);
-    controls.SetText(unit, label);
+    controls.SetText(row.unitId, label);
   }
 }
 
@@ -117,7 +122,7 @@ constexpr auto gridSwitches = std::to_array<GridSwitch>({
     {GridControls::showGrid, &GridSettings::show},
     {GridControls::snapToGrid, &GridSettings::snap},
 });
-static_assert(HasButtons(gridDialog, gridSwitches));
+static_assert(HasButtons(gridDialog, gridSwitches) && BindsAllButtons(gridDialog, gridSwitches));
 
 constexpr auto moveFields = std::to_array<NumberField<CShapeVertex>>({
     {MoveControls::x, Of<&CShapeVertex::x>, shortDecimals},
@@ -180,6 +185,7 @@ constexpr auto directionButtons = std::to_array<DirectionButton>({
     {RotateControls::counterClockwise, false},
 });
 static_assert(HasButtons(rotateDialog, directionButtons));
+static_assert(BindsAllButtons(rotateDialog, angleButtons, directionButtons));
 
 constexpr auto scaleFields = std::to_array<NumberField<CDialogScale>>({
     {ScaleControls::factor, Of<&CDialogScale::factor>, shortDecimals},
@@ -195,14 +201,27 @@ static_assert(HasFields(vertexDialog, vertexFields) && BindsAll(vertexDialog, ve
 
 }  // namespace
 
-DialogId CDialogGrid::Template() const { return DialogId::Grid; }
+void CDialogNumbers::OnStart(IDialogControls& controls)
+{
+  for (const BoundNumber& number : Numbers()) {
+    controls.SetText(number.field, WideFromAscii(FormatFixed(number.value, number.decimals)));
+  }
+  FillUnitLabels(controls, *FindDialogTemplate(Template()), app_);
+}
+
+bool CDialogNumbers::OnOk(IDialogControls& controls)
+{
+  for (const BoundNumber& number : Numbers()) number.value = ReadNumber(controls, number.field);
+  return true;
+}
+
+std::vector<BoundNumber> CDialogGrid::Numbers() { return Bind(gridFields, grid_); }
 
 void CDialogGrid::OnStart(IDialogControls& controls)
 {
-  GridSettings grid = app_.LoadGridSettings();
-  for (const auto& [button, isOn] : gridSwitches) controls.SetChecked(button, grid.*isOn != 0);
-  ShowNumbers(controls, gridFields, grid);
-  FillUnitLabels(controls, gridDialog, gridFields, app_);
+  grid_ = app_.LoadGridSettings();
+  for (const auto& [button, isOn] : gridSwitches) controls.SetChecked(button, grid_.*isOn != 0);
+  CDialogNumbers::OnStart(controls);
   UpdateEnabled(controls);
 }
 
@@ -222,34 +241,28 @@ void CDialogGrid::UpdateEnabled(IDialogControls& controls)
 
 bool CDialogGrid::OnOk(IDialogControls& controls)
 {
-  GridSettings grid = app_.LoadGridSettings();
-  for (const auto& [button, isOn] : gridSwitches) grid.*isOn = controls.IsChecked(button) ? 1 : 0;
-  ReadNumbers(controls, gridFields, grid);
-  app_.SaveGridSettings(grid);
+  for (const auto& [button, isOn] : gridSwitches) grid_.*isOn = controls.IsChecked(button) ? 1 : 0;
+  CDialogNumbers::OnOk(controls);
+  app_.SaveGridSettings(grid_);
   return true;
 }
 
-DialogId CDialogMove::Template() const { return DialogId::Move; }
+std::vector<BoundNumber> CDialogMove::Numbers() { return Bind(moveFields, way_); }
 
-void CDialogMove::OnStart(IDialogControls& controls)
+bool CDialogOffsets::HasOffsets() const
 {
-  ShowNumbers(controls, moveFields, way_);
-  FillUnitLabels(controls, moveDialog, moveFields, app_);
+  return app_.offsetGps && app_.offsetTransducer && app_.offsetPivot;
 }
 
-bool CDialogMove::OnOk(IDialogControls& controls)
+std::vector<BoundNumber> CDialogOffsets::Numbers()
 {
-  ReadNumbers(controls, moveFields, way_);
-  return true;
+  return Bind(offsetsFields, static_cast<DesignState&>(app_));
 }
-
-DialogId CDialogOffsets::Template() const { return DialogId::Offsets; }
 
 void CDialogOffsets::OnStart(IDialogControls& controls)
 {
-  if (!app_.offsetGps || !app_.offsetTransducer || !app_.offsetPivot) return;
-  ShowNumbers(controls, offsetsFields, app_);
-  FillUnitLabels(controls, offsetsDialog, offsetsFields, app_);
+  if (!HasOffsets()) return;
+  CDialogNumbers::OnStart(controls);
   for (const auto& [kind, field] : offsetFocuses) {
     if (focus_ == kind) controls.FocusField(field);
   }
@@ -257,14 +270,11 @@ void CDialogOffsets::OnStart(IDialogControls& controls)
 
 bool CDialogOffsets::OnOk(IDialogControls& controls)
 {
-  if (!app_.offsetGps || !app_.offsetTransducer || !app_.offsetPivot) return true;
+  if (!HasOffsets()) return true;
   app_.offsetGps->z = 0.0;
   app_.offsetTransducer->z = 0.0;
-  ReadNumbers(controls, offsetsFields, app_);
-  return true;
+  return CDialogNumbers::OnOk(controls);
 }
-
-DialogId CDialogRotate::Template() const { return DialogId::Rotate; }
 
 void CDialogRotate::OnStart(IDialogControls& controls)
 {
@@ -290,31 +300,12 @@ bool CDialogRotate::OnOk(IDialogControls& controls)
   return true;
 }
 
-DialogId CDialogScale::Template() const { return DialogId::Scale; }
+std::vector<BoundNumber> CDialogScale::Numbers() { return Bind(scaleFields, *this); }
 
-void CDialogScale::OnStart(IDialogControls& controls) { ShowNumbers(controls, scaleFields, *this); }
-
-bool CDialogScale::OnOk(IDialogControls& controls)
+std::vector<BoundNumber> CDialogVertex::Numbers()
 {
-  ReadNumbers(controls, scaleFields, *this);
-  return true;
+  return vertex_ == nullptr ? std::vector<BoundNumber>{} : Bind(vertexFields, *vertex_);
 }
-
-DialogId CDialogVertex::Template() const { return DialogId::Vertex; }
-
-void CDialogVertex::OnStart(IDialogControls& controls)
-{
-  if (vertex_ != nullptr) ShowNumbers(controls, vertexFields, *vertex_);
-  FillUnitLabels(controls, vertexDialog, vertexFields, app_);
-}
-
-bool CDialogVertex::OnOk(IDialogControls& controls)
-{
-  if (vertex_ != nullptr) ReadNumbers(controls, vertexFields, *vertex_);
-  return true;
-}
-
-DialogId CDialogUnits::Template() const { return DialogId::Units; }
 
 void CDialogUnits::OnStart(IDialogControls& controls)
 {
@@ -339,7 +330,5 @@ bool CDialogUnits::OnOk(IDialogControls& controls)
   app_.ConvertDesign(oldUnit_, app_.unitCode);
   return true;
 }
-
-DialogId CAboutDlg::Template() const { return DialogId::About; }
 
 }  // namespace hullwright

@@ -32,8 +32,17 @@ MainWindow::MainWindow(const DeskPorts& ports)
     : ports_(ports),
       design_(new DesignWidget(this)),
       tree_(new ObjectTreeWidget(this)),
-      editor_({ports.settings, ports.messages, ports.dialogs, ports.fileDialogs, ports.units,
-               ports.log, *this, *tree_, *design_, *design_, *design_}),
+      editor_({.settings = ports.settings,
+               .messages = ports.messages,
+               .dialogs = ports.dialogs,
+               .fileDialogs = ports.fileDialogs,
+               .units = ports.units,
+               .log = ports.log,
+               .widgets = *this,
+               .tree = *tree_,
+               .cursor = *design_,
+               .rubberBand = *design_,
+               .popupMenu = *design_}),
       recentFiles_(ports.settings),
       documents_(document_, app_,
                  {documentDialogs_, recentFiles_, ports.formerVersions, *this,
@@ -173,9 +182,6 @@ void MainWindow::BuildStatusBar()
   coordinatesPane_ = dataPane(widths[1]);
   unitsPane_ = dataPane(widths[2]);
   unitsPane_->onPress = [this] { RunCommand(CommandId::Units); };
-  QAction* const toggle = actions_->Get(CommandId::ViewStatusBar);
-  toggle->setCheckable(true);
-  toggle->setChecked(true);
 }
 
 void MainWindow::BuildObjectPane()

@@ -14,16 +14,8 @@ enum class CommandId : int {
 /// A look of the program by its number in the settings, which is also that of its command. The
 /// settings may hold any number here.
 enum class Look : int {
-  Windows2000 = 205,
-  OfficeXp = 206,
-  WindowsXp = 207,
-  Office2003 = 208,
-  VisualStudio2005 = 209,
-  VisualStudio2008 = 210,
-  Blue = 215,
-  Black = 216,
-  Silver = 217,
-  Aqua = 218,
+#define LOOK(name, number, text) name = (number),
+#include "resources/Commands.def"
   Windows7 = 219,  ///< in no menu
 };
 

@@ -13,17 +13,8 @@ namespace {
 
 constexpr std::array commands = std::to_array<CommandEntry>({
 #define COMMAND(name, number, ...) {.id = CommandId::name, __VA_ARGS__},
+#define LOOK(name, number, label) {.id = CommandOf(Look::name), .text = label},
 #include "resources/Commands.def"
-    {.id = CommandOf(Look::Windows2000), .text = u"Windows &2000"},
-    {.id = CommandOf(Look::OfficeXp), .text = u"Office &XP"},
-    {.id = CommandOf(Look::WindowsXp), .text = u"&Windows XP"},
-    {.id = CommandOf(Look::Office2003), .text = u"Office 200&3"},
-    {.id = CommandOf(Look::VisualStudio2005), .text = u"Visual Studio 200&5"},
-    {.id = CommandOf(Look::VisualStudio2008), .text = u"Visual Studio 200&8"},
-    {.id = CommandOf(Look::Blue), .text = u"&Blue Style"},
-    {.id = CommandOf(Look::Black), .text = u"B&lack Style"},
-    {.id = CommandOf(Look::Silver), .text = u"&Silver Style"},
-    {.id = CommandOf(Look::Aqua), .text = u"&Aqua Style"},
 });
 
 constexpr bool EachIdOnce()

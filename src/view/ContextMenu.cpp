@@ -88,7 +88,8 @@ CShape* CHullwrightView::FindMarkedPolyline()
 void CHullwrightView::AddVertex(ClientPoint point)
 {
   if (FindMarkedPolyline() == nullptr) return;
-  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
+  const GridSettings grid = host_.LoadGridSettings();
+  const WorldPoint world = SnappedWorld(point, grid);
   auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
   if (!host_.EditVertex(*vertex)) return;
   // Looked up once more, for the dialog may have outlived the polyline.
@@ -96,19 +97,20 @@ void CHullwrightView::AddVertex(ClientPoint point)
   if (marked == nullptr) return;
   host_.SetModifiedFlag(true);
   marked->vertices.push_back(std::move(vertex));
-  Repaint();
+  Draw(grid);
 }
 
 void CHullwrightView::AddAnchor(ClientPoint point)
 {
   if (!design_.anchors) return;
   auto anchor = design_.anchors->NewAnchor();
-  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
+  const GridSettings grid = host_.LoadGridSettings();
+  const WorldPoint world = SnappedWorld(point, grid);
   anchor->attachmentX = world.x;
   anchor->attachmentY = world.y;
   design_.anchors->items.push_back(std::move(anchor));
   host_.SetModifiedFlag(true);
-  Repaint();
+  Draw(grid);
 }
 
 void CHullwrightView::RemoveHit()

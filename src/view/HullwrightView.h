@@ -118,7 +118,8 @@ private:
   void MoveRubberBand(const WorldPoint& world);
   void FinishPolyline();
 
-  // An event reads the grid settings once and hands them on: each reading goes to the store.
+  // An event reads the grid settings once and hands them on, since each reading goes to the store;
+  // a notification of the design reads them anew for the frame that it asks for.
   void Draw(const GridSettings& grid);
   void ShowAllShapes();
   ClientPoint PixelOf(const WorldPoint& world) const;
