@@ -149,7 +149,7 @@ TEST_F(Life, WhatNoSaveWritesIsNotAskedFor)
   ASSERT_TRUE(OpenBoat());
   app.activeView = ViewSide::Right;
   FirstVertex().x += 0.0001;
-  app.anchors->enabled = 0;
+  app.anchors->enabled = false;
   app.shapeGroups[0]->shapes.push_back(std::make_unique<CShapePoint>());
   GetShapes(app.shapeGroups, ViewSide::Bottom);  // as a side gets that is only looked at
   EXPECT_FALSE(Asks());
