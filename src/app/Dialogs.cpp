@@ -125,8 +125,8 @@ constexpr auto gridSwitches = std::to_array<GridSwitch>({
 static_assert(HasButtons(gridDialog, gridSwitches) && BindsAllButtons(gridDialog, gridSwitches));
 
 constexpr auto moveFields = std::to_array<NumberField<CShapeVertex>>({
-    {MoveControls::x, Of<&CShapeVertex::x>, shortDecimals},
-    {MoveControls::y, Of<&CShapeVertex::y>, shortDecimals},
+    {MoveControls::directionX, Of<&CShapeVertex::x>, shortDecimals},
+    {MoveControls::directionY, Of<&CShapeVertex::y>, shortDecimals},
 });
 static_assert(HasFields(moveDialog, moveFields) && BindsAll(moveDialog, moveFields));
 

@@ -147,6 +147,14 @@ bool ScaleToThousandths(double value, std::uint64_t& thousandths)
   return true;
 }
 
+template <class Number>
+std::string Shortest(Number value)
+{
+  std::array<char, 32> text{};
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
+  return {text.data(), end};
+}
+
 }  // namespace
 
 std::int32_t TruncateToInt32(double value)
@@ -248,5 +256,9 @@ std::string FormatHex(std::uint32_t value, int digits)
   if (text.size() < wanted) text.insert(0, wanted - text.size(), '0');
   return text;
 }
+
+std::string FormatShortest(double value) { return Shortest(value); }
+
+std::string FormatShortest(float value) { return Shortest(value); }
 
 }  // namespace hullwright

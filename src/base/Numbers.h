@@ -41,4 +41,9 @@ std::string FormatSignedFixed(double value, int decimals, int width = 0);
 /// Formats as "%0<digits>X".
 std::string FormatHex(std::uint32_t value, int digits);
 
+/// The shortest decimals, with an exponent where that is shorter, that read back as the same
+/// number.
+std::string FormatShortest(double value);
+std::string FormatShortest(float value);
+
 }  // namespace hullwright

@@ -1,7 +1,5 @@
 #include "cli/Json.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "base/Numbers.h"
@@ -55,12 +53,10 @@ void JsonWriter::Double(double value)
 {
   if (std::isnan(value)) return Ascii("nan");
   if (std::isinf(value)) return Ascii(value > 0.0 ? "inf" : "-inf");
-  std::array<char, 32> text{};
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
-  const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+  std::string number = FormatShortest(value);
   // A reader must see that it is a double also where the fraction is zero, or minus zero is lost.
-  const bool whole = number.find_first_of(".e") == std::string_view::npos;
-  Raw(whole ? std::string(number) + ".0" : std::string(number));
+  if (number.find_first_of(".e") == std::string::npos) number += ".0";
+  Raw(number);
 }
 
 void JsonWriter::Doubles(std::initializer_list<double> values)

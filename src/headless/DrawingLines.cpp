@@ -1,9 +1,8 @@
 #include "headless/DrawingLines.h"
 
-#include <array>
-#include <charconv>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 
 namespace hullwright {
@@ -120,12 +119,7 @@ std::vector<std::string> FrameLines(std::span<const DrawingCall> calls)
   return lines;
 }
 
-std::string Exact(float value)
-{
-  std::array<char, 64> text{};
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
-  return {text.data(), end};
-}
+std::string Exact(float value) { return FormatShortest(value); }
 
 std::string Exact(const Colour& colour)
 {

@@ -4,8 +4,8 @@
 
 namespace hullwright {
 
-/// The user's grid, in design units. No reader keeps a copy: each reads the settings store
-/// again.
+/// The user's grid, in design units. A copy serves one event or one dialog; the next reads the
+/// settings store again.
 struct GridSettings {
   std::int32_t show = 1;  ///< the grid is drawn
   std::int32_t snap = 1;  ///< drawing and dragging snap to the grid

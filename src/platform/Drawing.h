@@ -7,9 +7,10 @@
 #include <string>
 #include <string_view>
 
-/// The drawing target: what the canvas and the drawers ask of a picture, and no more. Everything
-/// goes in by value, so a target may gather calls, leave out what can't be seen, and keep what it
-/// made of a figure. Coordinates and widths are client pixels, y growing downward.
+/// The drawing target: what the canvas and the drawers ask of a picture, and no more. Points and
+/// texts are lent for the length of a call and all else goes in by value, so a target may gather
+/// calls, leave out what can't be seen, and keep what it made of a figure. Coordinates and widths
+/// are client pixels, y growing downward.
 namespace hullwright {
 
 /// Result of a drawing operation: 0 is success, negative values are failures.

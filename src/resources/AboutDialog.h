@@ -2,13 +2,12 @@
 
 #include <array>
 
+#include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {
 
 namespace AboutControls {
-inline constexpr ControlId product{1010};
-
 inline constexpr auto rows = std::to_array<DialogRow>({
     {.kind = DialogRowKind::Product, .id = product},
     {.kind = DialogRowKind::Note,

@@ -14,8 +14,8 @@ enum class DialogId : int {
   Offsets = 323,
 };
 
-/// A control of a dialog by its number, which scripts know it under. Each dialog counts for itself,
-/// so the names stand beside the rows of its template.
+/// A control of a dialog by its number. Each dialog counts for itself; `Controls.def` has the
+/// names.
 enum class ControlId : int {
   None = 0,  ///< no control, and one that is never asked for
 };

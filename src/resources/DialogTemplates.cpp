@@ -1,6 +1,7 @@
 #include "resources/DialogTemplates.h"
 
 #include "resources/AboutDialog.h"
+#include "resources/Controls.h"
 #include "resources/GridDialog.h"
 #include "resources/MoveDialog.h"
 #include "resources/OffsetsDialog.h"
@@ -23,6 +24,28 @@ constexpr auto templates = std::to_array<DialogTemplate>({
     offsetsDialog,
 });
 static_assert(std::ranges::all_of(templates, HasUniqueControls));
+
+/// Whether the controls of a template are those that are named for it.
+constexpr bool HasNamedControls(const DialogTemplate& dialog)
+{
+  std::ptrdiff_t used = 0;
+  for (const DialogRow& row : dialog.rows) {
+    for (const ControlId id : ControlsOf(row)) {
+      if (id == ControlId::None) continue;
+      ++used;
+      const auto names = [&](const NamedControl& control) {
+        return control.dialog == dialog.id && control.id == id;
+      };
+      if (std::ranges::none_of(namedControls, names)) return false;
+    }
+  }
+  return used == std::ranges::count(namedControls, dialog.id, &NamedControl::dialog);
+}
+static_assert(std::ranges::all_of(templates, HasNamedControls));
+
+static_assert(std::ranges::all_of(namedControls, [](const NamedControl& control) {
+  return std::ranges::count(namedControls, control.name, &NamedControl::name) == 1;
+}));
 
 }  // namespace
 

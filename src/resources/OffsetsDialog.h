@@ -2,26 +2,12 @@
 
 #include <array>
 
+#include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {
 
 namespace OffsetsControls {
-inline constexpr ControlId antennaX{1027};
-inline constexpr ControlId antennaXUnit{1004};
-inline constexpr ControlId antennaY{1028};
-inline constexpr ControlId antennaYUnit{1005};
-inline constexpr ControlId transducerX{1030};
-inline constexpr ControlId transducerXUnit{1010};
-inline constexpr ControlId transducerY{1031};
-inline constexpr ControlId transducerYUnit{1013};
-inline constexpr ControlId pivotX{1001};
-inline constexpr ControlId pivotXUnit{1006};
-inline constexpr ControlId pivotY{1002};
-inline constexpr ControlId pivotYUnit{1007};
-inline constexpr ControlId pivotZ{1003};
-inline constexpr ControlId pivotZUnit{1008};
-
 using Kind = DialogRowKind;
 inline constexpr auto rows = std::to_array<DialogRow>({
     {.kind = Kind::Group, .text = u"GNSS Antenna Offset"},

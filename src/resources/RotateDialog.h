@@ -2,19 +2,12 @@
 
 #include <array>
 
+#include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {
 
 namespace RotateControls {
-inline constexpr ControlId by90{1013};
-inline constexpr ControlId by180{1014};
-inline constexpr ControlId by270{1015};
-inline constexpr ControlId byAngle{1016};
-inline constexpr ControlId angle{1017};
-inline constexpr ControlId clockwise{1021};
-inline constexpr ControlId counterClockwise{1022};
-
 using Kind = DialogRowKind;
 inline constexpr auto rows = std::to_array<DialogRow>({
     {.kind = Kind::Group, .text = u"Angle"},

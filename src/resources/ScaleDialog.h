@@ -2,13 +2,12 @@
 
 #include <array>
 
+#include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {
 
 namespace ScaleControls {
-inline constexpr ControlId factor{1011};
-
 inline constexpr auto rows = std::to_array<DialogRow>({
     {DialogRowKind::Field, factor, u"Scale Factor:", ControlId::None, ControlId::None, u"unity"},
 });

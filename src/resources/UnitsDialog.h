@@ -2,13 +2,12 @@
 
 #include <array>
 
+#include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
 
 namespace hullwright {
 
 namespace UnitsControls {
-inline constexpr ControlId units{1018};
-
 inline constexpr auto rows =
     std::to_array<DialogRow>({{DialogRowKind::List, units, u"Length units"}});
 }  // namespace UnitsControls

@@ -161,7 +161,8 @@ TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
   Run(CommandId::MirrorVertically);
   Run(CommandId::MirrorHorizontally);
   Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"3"}}});
-  Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"3"}, {MoveControls::y, u"3"}}});
+  Run(CommandId::Move,
+      {.ok = true, .fields = {{MoveControls::directionX, u"3"}, {MoveControls::directionY, u"3"}}});
   Run(CommandId::RotateRight, {.ok = true});
   for (const CShapePolyline* const line : others) {
     EXPECT_TRUE(*line->vertices[0] == CShapeVertex(1.0, 0.0, 1.0));
@@ -184,7 +185,7 @@ TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
     EXPECT_EQ(wildcard.vertices[0]->x, -1.0) << NumberOf(side);
     Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"-2"}}});
     EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << NumberOf(side);
-    Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"-1"}}});
+    Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::directionX, u"-1"}}});
     *wildcard.vertices[0] = CShapeVertex(1.0, 1.0, 0.0);
   }
 }
@@ -215,13 +216,12 @@ TEST_P(EachWalk, EndsAtAnEmptySlotAndNotifiesAll)
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, EachWalk,
-    testing::Values(WalkCase{CommandId::MirrorVertically, {}},
-                    WalkCase{CommandId::MirrorHorizontally, {}},
-                    WalkCase{CommandId::Scale,
-                             {.ok = true, .fields = {{ScaleControls::factor, u"2"}}}},
-                    WalkCase{CommandId::Move, {.ok = true, .fields = {{MoveControls::x, u"2"}}}},
-                    WalkCase{CommandId::RotateLeft, {.ok = true}},
-                    WalkCase{CommandId::RotateRight, {.ok = true}}));
+    testing::Values(
+        WalkCase{CommandId::MirrorVertically, {}}, WalkCase{CommandId::MirrorHorizontally, {}},
+        WalkCase{CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"2"}}}},
+        WalkCase{CommandId::Move, {.ok = true, .fields = {{MoveControls::directionX, u"2"}}}},
+        WalkCase{CommandId::RotateLeft, {.ok = true}},
+        WalkCase{CommandId::RotateRight, {.ok = true}}));
 
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 {
@@ -247,12 +247,14 @@ TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
   const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
   const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
   Run(CommandId::Move,
-      {.ok = true, .fields = {{MoveControls::x, u"east"}, {MoveControls::y, u"0"}}});
+      {.ok = true,
+       .fields = {{MoveControls::directionX, u"east"}, {MoveControls::directionY, u"0"}}});
   EXPECT_EQ(line.vertices[0]->x, 1.0);
   Run(CommandId::Move,
-      {.ok = true, .fields = {{MoveControls::x, u"1.5 m"}, {MoveControls::y, u"two"}}});
-  EXPECT_EQ(dialogs.startTexts[MoveControls::x], u"0.00");
-  EXPECT_EQ(dialogs.startTexts[MoveControls::y], u"0.00");
+      {.ok = true,
+       .fields = {{MoveControls::directionX, u"1.5 m"}, {MoveControls::directionY, u"two"}}});
+  EXPECT_EQ(dialogs.startTexts[MoveControls::directionX], u"0.00");
+  EXPECT_EQ(dialogs.startTexts[MoveControls::directionY], u"0.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(2.5, 2.0, 3.0));
   EXPECT_TRUE(point.position == CShapeVertex(1.5, 0.0, 0.0));
 }

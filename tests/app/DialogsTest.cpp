@@ -218,7 +218,7 @@ TEST_F(Dialogs, UnitLabelsFollowTheUnitAndTheNumbersDoNot)
   ExpectLabels({VertexControls::xUnit, VertexControls::yUnit, VertexControls::zUnit}, u"ft");
   EXPECT_EQ(Start(VertexControls::x), u"1.000");
   Run(CommandId::Move, {});
-  ExpectLabels({MoveControls::xUnit, MoveControls::yUnit}, u"ft");
+  ExpectLabels({MoveControls::directionXUnit, MoveControls::directionYUnit}, u"ft");
   Run(CommandId::Offsets, {});
   ExpectLabels(offsetsUnits, u"ft");
 }

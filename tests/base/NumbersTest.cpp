@@ -171,6 +171,18 @@ TEST(FormatSignedFixed, AlwaysHasASignAndFillsWithZeros)
   EXPECT_EQ(FormatSignedFixed(infinity, 2, 6), "  +inf");
 }
 
+TEST(FormatShortest, ReadsBackAsTheSameNumber)
+{
+  EXPECT_EQ(FormatShortest(0.1), "0.1");
+  EXPECT_EQ(FormatShortest(0.1F), "0.1");
+  EXPECT_EQ(FormatShortest(static_cast<double>(0.1F)), "0.10000000149011612");
+  EXPECT_EQ(FormatShortest(-0.0), "-0");
+  EXPECT_EQ(FormatShortest(1e300), "1e+300");
+  EXPECT_EQ(FormatShortest(-std::numeric_limits<double>::denorm_min()), "-5e-324");
+  EXPECT_EQ(FormatShortest(-2.2250738585072014e-308), "-2.2250738585072014e-308");
+  EXPECT_EQ(FormatShortest(std::numeric_limits<float>::infinity()), "inf");
+}
+
 TEST(FormatHex, IsUpperCaseAndFilled)
 {
   EXPECT_EQ(FormatHex(1, 2), "01");

@@ -41,7 +41,7 @@ TEST_F(TemplateDialogs, AnOkThatTheLogicRefusesKeepsTheDialogOpen)
 TEST_F(TemplateDialogs, TheFirstFieldIsReadyToBeTypedOver)
 {
   Open(DialogId::Move);
-  dialog->SetText(MoveControls::x, u"0.00");
+  dialog->SetText(MoveControls::directionX, u"0.00");
   ASSERT_NE(Focused(), nullptr);
   EXPECT_EQ(Focused()->selectedText(), QStringLiteral("0.00"));
 }

@@ -106,6 +106,24 @@ TEST(CommandNames, AreTheTooltipOrTheKeyOfWhatStandsInNoMenu)
   EXPECT_EQ(Read("command", "id", "Key.ShiftF6"), NumberOf(CommandId::PreviousPane));
 }
 
+/// A step that answers a dialog by its controls, once their names have become numbers.
+Json ReadDialog(const char* member, const Json& controls)
+{
+  Json step = Step("command", "dialog", {{"end", "ok"}, {member, controls}});
+  NumbersForNames(step);
+  return step["dialog"][member];
+}
+
+TEST(ControlNames, StandForTheNumbersInWhatAnswersADialog)
+{
+  EXPECT_EQ(ReadDialog("fields", {{"antennaX", "2"}, {"1028", "3"}}),
+            Json::parse(R"({"1027":"2","1028":"3"})"));
+  EXPECT_EQ(ReadDialog("type", {{"factor", "2"}}), Json::parse(R"({"1011":"2"})"));
+  EXPECT_EQ(ReadDialog("checks", {{"by180", true}}), Json::parse(R"({"1014":true})"));
+  EXPECT_EQ(ReadDialog("fields", {{"-1", "2"}, {"99999999999", ""}}),
+            Json::parse(R"({"-1":"2","99999999999":""})"));
+}
+
 TEST(Names, StandForCodesWhereverAStepHasThem)
 {
   EXPECT_EQ(Read("putgroup", "view", "All"), NumberOf(ViewSide::All));
@@ -145,6 +163,10 @@ TEST(Names, AnUnknownOneIsAnErrorThatSaysSo)
             "no command is called \"Modify.Mirror\"");
   EXPECT_EQ(problemOf(Step("putgroup", "view", "top")), "no side is called \"top\"");
   EXPECT_EQ(problemOf(Step("write", "text", "top")), "none");
+  EXPECT_EQ(problemOf(Step("command", "dialog", {{"fields", {{"antennaW", "1"}}}})),
+            "no control is called \"antennaW\"");
+  EXPECT_EQ(problemOf(Step("command", "dialog", {{"checks", {{"by90", true}, {"1013", false}}}})),
+            "the control by90 stands there twice");
 }
 
 TEST(Names, APrintedStepHasThoseOfItsMenu)

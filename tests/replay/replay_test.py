@@ -7,18 +7,64 @@ whole, "*" stands for any value, and numbers may differ in their last digits. Ot
 README.md beside this file has the language.
 """
 
+import collections
 import json
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
 
 FEWEST = 150  # scripts; fewer, and somebody has lost some
 
+# The places of an expectation where names may stand in place of numbers: as values, and as members of an object.
+VALUES = (
+    (r"/menu/\d+/0", "command"),
+    (r"/state/shell/(viewButton|look|settings/ApplicationLook)", "command"),
+    (r"/dialogs/\d+/focus", "control"),
+    (r"/state/design/(activeView|groups/\d+/view)", "side"),
+    (r"/state/design/groups/\d+/shapes/\d+/type", "type of shape"),
+    (r"/state/design/unitCode", "unit"),
+)
+MEMBERS = (
+    (r"/dialogs/\d+/(fields|checks|enabled|enabledEnd)", "control"),
+    (r"/state/shell/checks", "command"),
+)
+ANYTHING = "*"
+
+
+def read_names(text):
+    """What each sort of name stands for, as hullwright-replay --names prints it."""
+    names = collections.defaultdict(dict)
+    for line in text.splitlines():
+        what, number, name = line.split("\t")
+        names[what][name] = int(number)
+    return names
+
+
+def number_of(name, place, places, names):
+    """The number that a name stands for, if names may stand at that place; otherwise the text as it is."""
+    what = next((what for pattern, what in places if re.fullmatch(pattern, place)), None)
+    if what is None or name == ANYTHING:
+        return name
+    if name not in names[what]:
+        raise ValueError(f'no {what} is called "{name}"')
+    return names[what][name]
+
+
+def numbered(stated, names, place=""):
+    """An expectation with numbers for all names."""
+    if isinstance(stated, dict):
+        return {name if re.fullmatch(r"-?\d+", name) else str(number_of(name, place, MEMBERS, names)):
+                numbered(value, names, f"{place}/{name}") for name, value in stated.items()}
+    if isinstance(stated, list):
+        return [numbered(value, names, f"{place}/{i}") for i, value in enumerate(stated)]
+    return number_of(stated, place, VALUES, names) if isinstance(stated, str) else stated
+
 
 def difference(expected, found, place=""):
     """Where the found value is not the expected one; None where it is."""
-    if expected == "*":
+    if expected == ANYTHING:
         return None
     if isinstance(expected, dict) and isinstance(found, dict):
         for name, value in expected.items():
@@ -62,21 +108,22 @@ def whole_lines(text):
         raise ValueError(f"{begin}: goes on beyond the last line")
 
 
-def expectations(path):
-    """What a script states that its steps must report: (line, step, expected)."""
+def expectations(path, names):
+    """What a script states that its steps must report: (line, step, expected), with numbers for names."""
     step = -1
     for number, line in whole_lines(path.read_text(encoding="utf-8")):
         try:
             stated = json.loads(line.removeprefix("#="))
-        except json.JSONDecodeError as problem:
+            expected = numbered(stated, names) if line.startswith("#=") else None
+        except ValueError as problem:
             raise ValueError(f"{number}: {problem}") from problem
-        if line.startswith("#="):
-            yield number, step, stated
+        if expected is not None:
+            yield number, step, expected
         elif "do" in stated:
             step += 1
 
 
-def play(program, path):
+def play(program, path, names):
     """What is wrong with a script, a line each."""
     with tempfile.TemporaryDirectory() as work:
         done = subprocess.run([program, path, "--work", work, "--full"], capture_output=True, check=False,
@@ -85,7 +132,7 @@ def play(program, path):
         return [f"{path}: {done.stderr.decode(errors='replace') or done.returncode}"]
     reports = [json.loads(line) for line in done.stdout.decode("utf-8", "surrogatepass").splitlines()]
     try:
-        expected_of_steps = list(expectations(path))
+        expected_of_steps = list(expectations(path, names))
     except ValueError as problem:
         return [f"{path}:{problem}"]
     wrong = []
@@ -102,7 +149,8 @@ def main():
     everything = not scripts
     if everything:
         scripts = sorted(pathlib.Path(__file__).parent.glob("*/*.replay"))
-    wrong = [problem for path in scripts for problem in play(program, path)]
+    names = read_names(subprocess.run([program, "--names"], capture_output=True, check=True, text=True).stdout)
+    wrong = [problem for path in scripts for problem in play(program, path, names)]
     if everything and len(scripts) < FEWEST:
         wrong.append(f"only {len(scripts)} scripts are here")
     print("\n".join(wrong) or f"{len(scripts)} scripts do what they state.")

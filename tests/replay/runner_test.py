@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
-"""Tests of what replay_test.py makes of a script: how lines go on, and what counts as a difference."""
+"""Tests of what replay_test.py makes of a script: how lines go on, what names stand for, and what counts as a
+difference."""
 
 import json
 import pathlib
 import tempfile
 import unittest
 
-from replay_test import difference, expectations, whole_lines
+from replay_test import difference, expectations, read_names, whole_lines
+
+NAMES = read_names("command\t32791\tMenu.EditVertex\ncommand\t32791\tTree.EditPoint\ncontrol\t1008\tx\n"
+                   "side\t16\tFront\ntype of shape\t2\tPolyline\nunit\t9003\tUS survey foot\n")
 
 
 def expected(script):
@@ -14,7 +18,7 @@ def expected(script):
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder) / "script"
         path.write_text(script, encoding="utf-8")
-        return list(expectations(path))
+        return list(expectations(path, NAMES))
 
 
 class Lines(unittest.TestCase):
@@ -39,6 +43,29 @@ class Expectations(unittest.TestCase):
     def test_what_cannot_be_read_is_told_with_its_line(self):
         with self.assertRaisesRegex(ValueError, "^2: "):
             expected('{"do":"new"}\n#= {"result"}\n')
+
+
+class Names(unittest.TestCase):
+    def test_they_become_numbers_wherever_reports_have_those(self):
+        for stated, numbers in (
+                ({"menu": [["Tree.EditPoint", "x"], "*"]}, {"menu": [[32791, "x"], "*"]}),
+                ({"dialogs": [{"dialog": "x", "fields": {"x": "Front", "7": ""}, "focus": "x"}]},
+                 {"dialogs": [{"dialog": "x", "fields": {"1008": "Front", "7": ""}, "focus": 1008}]}),
+                ({"state": {"shell": {"viewButton": "Menu.EditVertex", "checks": {"Menu.EditVertex": True}}}},
+                 {"state": {"shell": {"viewButton": 32791, "checks": {"32791": True}}}}),
+                ({"state": {"design": {"activeView": "Front", "unitCode": "US survey foot", "groups": [
+                    {"view": "Front", "shapes": [{"type": "Polyline", "text": "Front"}]}]}}},
+                 {"state": {"design": {"activeView": 16, "unitCode": 9003, "groups": [
+                     {"view": 16, "shapes": [{"type": 2, "text": "Front"}]}]}}}),
+                ({"state": {"design": {"activeView": "*"}}, "result": "Front"},
+                 {"state": {"design": {"activeView": "*"}}, "result": "Front"})):
+            self.assertEqual(expected("#= " + json.dumps(stated)), [(1, -1, numbers)])
+
+    def test_an_unknown_one_is_told_with_its_line(self):
+        with self.assertRaisesRegex(ValueError, '^2: no control is called "y"$'):
+            expected('{"do":"new"}\n#= {"dialogs":[{"fields":{"y":"1"}}]}\n')
+        with self.assertRaisesRegex(ValueError, '^1: no side is called "front"$'):
+            expected('#= {"state":{"design":{"activeView":"front"}}}\n')
 
 
 class Differences(unittest.TestCase):

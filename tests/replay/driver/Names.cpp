@@ -10,6 +10,7 @@
 #include "platform/MainWindowPort.h"
 #include "platform/Trace.h"
 #include "resources/Commands.h"
+#include "resources/Controls.h"
 #include "resources/Menus.h"
 #include "resources/ViewSides.h"
 #include "system/SharedLibraries.h"
@@ -118,6 +119,15 @@ Rows NamesOfUnits()
   return rows;
 }
 
+Rows NamesOfControls()
+{
+  Rows rows;
+  for (const NamedControl& control : namedControls) {
+    rows.push_back({std::string(control.name), NumberOf(control.id)});
+  }
+  return rows;
+}
+
 const NameTable& NotificationNames()
 {
   static const NameTable table = {"notification",
@@ -160,6 +170,12 @@ const NameTable& PaneNames()
   return table;
 }
 
+const NameTable& ControlNames()
+{
+  static const NameTable table = {"control", NamesOfControls()};
+  return table;
+}
+
 /// A member of a step that names may stand in. The header of a script has no step.
 struct NamedMember {
   std::string_view step;
@@ -187,6 +203,33 @@ constexpr auto namedMembers = std::to_array<NamedMember>({
     {"call", "ConvertUnits", "/args/1", UnitNames},
     {"", "", "/settings/ApplicationLook", CommandNames},
 });
+
+/// What a step has by the controls of its dialog.
+constexpr auto membersByControl =
+    std::to_array<const char*>({"/dialog/fields", "/dialog/type", "/dialog/checks"});
+
+int NumberOfName(const NameTable& names, const std::string& name)
+{
+  const auto found = std::ranges::find(names.rows, name, &CodeName::name);
+  if (found == names.rows.end()) {
+    throw std::invalid_argument(std::string("no ") + names.what + " is called \"" + name + "\"");
+  }
+  return found->number;
+}
+
+/// Members with the numbers of controls in place of their names.
+Json ByNumber(const Json& byName)
+{
+  Json byNumber = Json::object();
+  for (const auto& [name, value] : byName.items()) {
+    const bool isNumber = name.find_first_not_of("-0123456789") == std::string::npos;
+    const std::string key = isNumber ? name : std::to_string(NumberOfName(ControlNames(), name));
+    if (!byNumber.emplace(key, value).second) {
+      throw std::invalid_argument("the control " + name + " stands there twice");
+    }
+  }
+  return byNumber;
+}
 
 /// Calls `change(value, names)` for each member of a step that names may stand in.
 template <class Change>
@@ -229,21 +272,20 @@ const NameTable& UnitNames()
 
 std::vector<const NameTable*> AllNames()
 {
-  return {&CommandNames(),      &SideNames(), &ShapeTypeNames(), &UnitNames(),
-          &NotificationNames(), &HitNames(),  &PaneNames(),      &TraceLevelNames()};
+  return {&CommandNames(),      &ControlNames(), &SideNames(), &ShapeTypeNames(), &UnitNames(),
+          &NotificationNames(), &HitNames(),     &PaneNames(), &TraceLevelNames()};
 }
 
 void NumbersForNames(Json& step)
 {
   ForEachNamed(step, [](Json& value, const NameTable& names) {
-    if (!value.is_string()) return;
-    const std::string name = TextOf(value);
-    const auto found = std::ranges::find(names.rows, name, &CodeName::name);
-    if (found == names.rows.end()) {
-      throw std::invalid_argument(std::string("no ") + names.what + " is called \"" + name + "\"");
-    }
-    value = found->number;
+    if (value.is_string()) value = NumberOfName(names, TextOf(value));
   });
+  for (const char* const place : membersByControl) {
+    const Json::json_pointer members(place);
+    if (step.contains(members) && step[members].is_object())
+      step[members] = ByNumber(step[members]);
+  }
 }
 
 void NamesForNumbers(Json& step)

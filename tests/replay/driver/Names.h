@@ -43,7 +43,8 @@ std::vector<const NameTable*> AllNames();
 /// says so for a name that stands for nothing.
 void NumbersForNames(Json& step);
 
-/// Puts names where a step has numbers for which there are names.
+/// Puts names where a step has numbers for which there are names; controls keep their numbers,
+/// which stand for others in other dialogs.
 void NamesForNumbers(Json& step);
 
 }  // namespace hullwright::replay
