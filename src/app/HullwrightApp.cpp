@@ -7,7 +7,6 @@
 #include "app/Dialogs.h"
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
-#include "app/ObjectView.h"
 #include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"

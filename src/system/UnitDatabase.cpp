@@ -1,5 +1,6 @@
 #include "system/UnitDatabase.h"
 
+#include "model/Units.h"
 #include "system/Sqlite.h"
 
 namespace hullwright {

@@ -3,7 +3,6 @@
 #include <filesystem>
 
 #include "app/ImportText.h"
-#include "base/Text.h"
 #include "model/ShapeText.h"
 #include "resources/CommandIds.h"
 #include "support/CommandFixture.h"

@@ -6,7 +6,6 @@
 
 #include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
-#include "model/ShapePolyline.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
