@@ -69,8 +69,8 @@ protected:
     pane.OnCommand(id);
   }
 
-  /// whether the last command notified all three: a repaint, a rebuild and a modified document.
-  bool ToldAll()
+  /// Whether the last command notified all three: a repaint, a rebuild and a modified document.
+  bool NotifiedAll()
   {
     const bool notified = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
     const bool silent = Frames() == 0 && control.rebuilds == 0 && !document.IsModified();
