@@ -37,8 +37,8 @@ void Walk(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
   }
 }
 
-/// Walks to the first entry for which `matches` is true, where the cursor then stays; null if there
-/// is none up to the first null entry.
+/// Walks to the first entry for which `matches` is true; null if there is none up to the first null
+/// one.
 template <class T, class Matches>
 T* WalkTo(std::uint32_t& cursor, const OwnedArray<T>& items, Matches matches)
 {
