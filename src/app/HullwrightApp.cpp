@@ -26,14 +26,6 @@ CHullwrightApp::CHullwrightApp(const AppPorts& ports)
   viewPort = ownViewPort_.get();
 }
 
-CHullwrightApp::~CHullwrightApp()
-{
-  anchors.reset();
-  offsetGps.reset();
-  offsetPivot.reset();
-  offsetTransducer.reset();
-}
-
 bool CHullwrightApp::InitInstance(IFramework& framework)
 {
   constexpr int recentFiles = 4;
