@@ -1,12 +1,10 @@
 #pragma once
 
 #include <initializer_list>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "base/Text.h"
-#include "model/ShapePolyline.h"
 #include "support/AppFixture.h"
 
 namespace hullwright::test {
@@ -18,15 +16,6 @@ protected:
   {
     pane.BuildTree();
     control.rebuilds = 0;
-  }
-
-  CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
-  {
-    auto line = std::make_unique<CShapePolyline>();
-    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
-    CShapePolyline& added = *line;
-    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
-    return added;
   }
 
   /// The item at a path of child numbers from the top: 0 the design, 1 the anchors.
