@@ -1,6 +1,5 @@
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 #include "dxf/DxfSections.h"
 #include "headless/KeptTrace.h"

@@ -1,5 +1,7 @@
 #include "app/FiniteNumbers.h"
 
+#include <variant>
+
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignNumbers.h"
@@ -18,8 +20,9 @@ std::string SideName(ViewSide viewCode)
 /// What the offset of an element is called.
 std::string OffsetName(const DesignElement& element)
 {
-  if (element.name == u"gps") return "GNSS antenna offset";
-  return element.name == u"txd" ? "transducer offset" : "pivot point offset";
+  const auto place = std::get<OffsetMember>(element.member).inDesign;
+  if (place == &DesignState::offsetGps) return "GNSS antenna offset";
+  return place == &DesignState::offsetTransducer ? "transducer offset" : "pivot point offset";
 }
 
 std::string Place(const DesignNumber& number)

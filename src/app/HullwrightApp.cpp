@@ -7,7 +7,6 @@
 #include "app/Dialogs.h"
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
-#include "app/ObjectView.h"
 #include "base/Code.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"
@@ -25,14 +24,6 @@ CHullwrightApp::CHullwrightApp(const AppPorts& ports)
     : ownViewPort_(std::make_unique<CViewPortDesigner>()), ports_(ports)
 {
   viewPort = ownViewPort_.get();
-}
-
-CHullwrightApp::~CHullwrightApp()
-{
-  anchors.reset();
-  offsetGps.reset();
-  offsetPivot.reset();
-  offsetTransducer.reset();
 }
 
 bool CHullwrightApp::InitInstance(IFramework& framework)

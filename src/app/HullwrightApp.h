@@ -39,7 +39,6 @@ struct AppPorts {
 class CHullwrightApp : public DesignState, public IViewHost {
 public:
   explicit CHullwrightApp(const AppPorts& ports);
-  ~CHullwrightApp() override;
 
   /// Start-up to the first selected side, which is always the top. False ends the process; only a
   /// failure of the libraries is reported in a message.

@@ -8,4 +8,7 @@ namespace hullwright {
 /// does not know gets one that names it.
 std::string ErrorText(int error);
 
+/// The text for a path that leads to something else than a file, which has no `errno`.
+inline constexpr const char* notAFile = "It is not a file";
+
 }  // namespace hullwright

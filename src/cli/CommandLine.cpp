@@ -34,6 +34,8 @@ int UsageError(const char* verb, const std::string& problem)
   return exitUsage;
 }
 
+std::string UnknownSide(const std::string& name) { return "unknown side '" + name + "'"; }
+
 bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs)
 {
   if (std::ranges::count(inputs, "-") < 2) return false;

@@ -39,6 +39,9 @@ void Remark(const std::string& file, std::u16string_view text);
 /// exit status for wrong usage. Null for no verb.
 int UsageError(const char* verb, const std::string& problem);
 
+/// What is wrong with a name that no side has.
+std::string UnknownSide(const std::string& name);
+
 /// Whether standard input is named more than once, which is reported.
 bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs);
 

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "app/ImportText.h"
-#include "base/Text.h"
 
 namespace hullwright {
 

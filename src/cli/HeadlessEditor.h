@@ -26,12 +26,12 @@ public:
 
   CHullwrightApp& App() { return editor_.app; }
 
-  /// Opens a design; false with `Problem` telling why.
+  /// Opens a design; false with the reason in `Problem`.
   bool Open(std::u16string_view path);
   const std::u16string& Problem() const { return problem_; }
 
-  /// Adds a drawing to the side in view; false with `Problem` telling why, also for a file that is
-  /// no drawing.
+  /// Adds a drawing to the side in view; false with the reason in `Problem`, also for a file that
+  /// is no drawing.
   bool Import(std::u16string_view path);
 
   /// What the last import took in and passed over.
@@ -40,7 +40,7 @@ public:
   /// Takes offsets and anchors out of the picture and out of the design.
   void RemoveSymbols();
 
-  /// Writes the design; false with `Problem` telling why.
+  /// Writes the design; false with the reason in `Problem`.
   bool Save(std::u16string_view path);
 
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices

@@ -172,7 +172,7 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
     default: break;
   }
   const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end()) return "unknown side '" + value + "'";
+  if (side == viewSides.end()) return UnknownSide(value);
   options.side = side->code;
   return {};
 }

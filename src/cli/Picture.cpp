@@ -16,6 +16,8 @@
 #include "cli/CommandLine.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
+#include "paint/PaintText.h"
+#include "resources/Strings.h"
 #include "system/InputFile.h"
 #include "system/OutputFile.h"
 
@@ -110,13 +112,14 @@ private:
 template <class Paint>
 QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
 {
+  const QString title = QString::fromLatin1(Strings::program);
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (ending == ".svg") {
     QSvgGenerator svg;
     svg.setOutputDevice(&buffer);
-    svg.setTitle(QStringLiteral("Hullwright"));
+    svg.setTitle(title);
     svg.setSize(size);
     svg.setViewBox(QRect(QPoint(0, 0), size));
     svg.setResolution(96);
@@ -125,7 +128,7 @@ QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
     constexpr double pointsPerPixel = 72.0 / 96.0;
     QPdfWriter pdf(&buffer);
     pdf.setResolution(96);
-    pdf.setTitle(QStringLiteral("Hullwright"));
+    pdf.setTitle(title);
     pdf.setPageMargins(QMarginsF());
     pdf.setPageSize(QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, QString(),
                               QPageSize::ExactMatch));
@@ -191,7 +194,7 @@ QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
   return MakeFile(EndingOf(request.output), size, [&](QPaintDevice& device) {
     QPainter sheet(&device);
     sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font(QString::fromLatin1(sansFace));
     font.setPixelSize(SheetLayout::caption / 2);
     sheet.setFont(font);
     for (int i = 0; i < layout.count; ++i) {

@@ -95,7 +95,7 @@ std::string TakeOption(int letter, const std::string& value, PictureRequest& req
     case 's':
       request.sides = SidesOf(value);
       request.oneEach = value == "all";
-      return request.sides.empty() ? "unknown side '" + value + "'" : "";
+      return request.sides.empty() ? UnknownSide(value) : "";
     case 'z':
       return ParseSize(value, request) ? ""
                                        : "not a size of two lengths from 1 to " +

@@ -49,24 +49,51 @@ void WriteAttributes(JsonWriter& json, const CShapeAttributes* attributes)
   json.EndArray();
 }
 
-void WriteRings(JsonWriter& json, const CShapePolygon& polygon)
-{
-  json.Key("rings");
-  json.BeginArray();
-  ForEachEntry(polygon.rings,
-               [&](const CShapePolygonRing& ring) { WriteVertices(json, ring.vertices); });
-  json.EndArray();
-}
+/// Writes the members that depend on the kind of a shape.
+class GeometryWriter : public IShapeVisitor {
+public:
+  explicit GeometryWriter(JsonWriter& json) : json_(json) {}
 
-void WriteLabel(JsonWriter& json, const CShapeText& label)
-{
-  json.Key("text");
-  json.Text(label.text);
-  json.Key("angle");
-  json.Double(label.angle);
-  json.Key("height");
-  json.Double(label.height);
-}
+  void Visit(const CShapePoint& point) override
+  {
+    json_.Key("vertices");
+    json_.BeginArray();
+    WriteVertex(json_, point.position);
+    json_.EndArray();
+  }
+
+  void Visit(const COutlineShape& outline) override { WriteOutline(outline); }
+
+  void Visit(const CShapePolygon& polygon) override
+  {
+    WriteOutline(polygon);
+    json_.Key("rings");
+    json_.BeginArray();
+    ForEachEntry(polygon.rings,
+                 [this](const CShapePolygonRing& ring) { WriteVertices(json_, ring.vertices); });
+    json_.EndArray();
+  }
+
+  void Visit(const CShapeText& label) override
+  {
+    WriteOutline(label);
+    json_.Key("text");
+    json_.Text(label.text);
+    json_.Key("angle");
+    json_.Double(label.angle);
+    json_.Key("height");
+    json_.Double(label.height);
+  }
+
+private:
+  void WriteOutline(const CShape& shape)
+  {
+    json_.Key("vertices");
+    WriteVertices(json_, shape.vertices);
+  }
+
+  JsonWriter& json_;
+};
 
 void WriteShape(JsonWriter& json, const CShape& shape)
 {
@@ -79,16 +106,8 @@ void WriteShape(JsonWriter& json, const CShape& shape)
   WriteStyle(json, shape.style.get());
   json.Key("attrs");
   WriteAttributes(json, shape.attributes.get());
-  json.Key("vertices");
-  if (shape.type == ShapeType::Point) {
-    json.BeginArray();
-    WriteVertex(json, static_cast<const CShapePoint&>(shape).position);
-    json.EndArray();
-  } else {
-    WriteVertices(json, shape.vertices);
-  }
-  if (shape.type == ShapeType::Polygon) WriteRings(json, static_cast<const CShapePolygon&>(shape));
-  if (shape.type == ShapeType::Text) WriteLabel(json, static_cast<const CShapeText&>(shape));
+  GeometryWriter geometry(json);
+  shape.Accept(geometry);
   json.EndObject();
 }
 

@@ -16,9 +16,9 @@ constexpr std::u16string_view tooManyCopies =
 /// Pays for a copy; the one that exceeds the budget is reported in the log.
 bool TakeCopyBudget(const CShape& shape, DxfContext& context)
 {
-  const bool toldBefore = context.copyBudget.IsUsedUp();
+  const bool reportedBefore = context.copyBudget.IsUsedUp();
   if (context.copyBudget.Take(shape)) return true;
-  if (!toldBefore) LogRecord(context.log, TraceLevel::Failure, generalLog, tooManyCopies);
+  if (!reportedBefore) LogRecord(context.log, TraceLevel::Failure, generalLog, tooManyCopies);
   return false;
 }
 

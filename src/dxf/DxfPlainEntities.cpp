@@ -60,7 +60,7 @@ void ReadCircle(DxfLines& lines, DxfContext& context, CShapes& target)
   const DxfPoint centre = toWorld(entity.Point(DxfCode::X));
   auto circle =
       CShapePolyline::CreateArc(centre.x, centre.y, entity.Number(DxfCode::Radius), 0.0, wholeTurn);
-  Mark(*circle, u"TYPE", u"CIRLCE");  // sic: this value is fixed
+  Mark(*circle, u"TYPE", u"CIRLCE");  // spelled as docs/DXF.md states it
   AddShape(std::move(circle), entity, context, target);
 }
 

@@ -17,7 +17,7 @@ void LogStart(const DxfContext& context, std::u16string_view section)
             std::u16string(u"[DXF] Processing '").append(section).append(u"' section..."));
 }
 
-/// Reports that a section is through, and a number with the words around it.
+/// Reports that a section is through, and a number with the text around it.
 void LogEnd(const DxfContext& context, std::u16string_view section, std::u16string_view before,
             std::size_t number, std::u16string_view behind)
 {

@@ -49,6 +49,7 @@ enum class ValueFormat {
 struct OffsetMember {
   std::unique_ptr<CShapeVertex> CFileVessel::*inFile;
   std::unique_ptr<CShapeVertex> DesignState::*inDesign;
+  friend constexpr bool operator==(const OffsetMember&, const OffsetMember&) = default;
 };
 
 /// What the value of an element fills.

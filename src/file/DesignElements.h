@@ -63,6 +63,13 @@ constexpr const DesignElement& ElementOf(ElementKind kind)
   return *std::ranges::find(designElements, kind, &DesignElement::kind);
 }
 
+/// The field that fills a member of an anchor; one that there is.
+template <class Value>
+constexpr const DesignElement& FieldOf(Value CAnchor::*member)
+{
+  return *std::ranges::find(designElements, ElementMember(member), &DesignElement::member);
+}
+
 /// The element that the reader of designs takes a tag for; null for a name that it passes over.
 constexpr const DesignElement* FindElement(std::u16string_view name)
 {

@@ -71,7 +71,7 @@ public:
   void WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
                          std::u16string_view body = {});
 
-  /// Writes the block to a file, replacing it. 0 on success. -1 without a word when there is
+  /// Writes the block to a file, replacing it. 0 on success. -1 without a message when there is
   /// nothing to write or the file won't open, and with a message when the writing fails.
   int Flush(std::u16string_view path);
 

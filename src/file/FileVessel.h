@@ -7,7 +7,6 @@
 #include "model/Anchors.h"
 #include "model/ShapePolyline.h"
 #include "model/Shapes.h"
-#include "model/ViewSide.h"
 
 namespace hullwright {
 

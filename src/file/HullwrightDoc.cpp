@@ -84,7 +84,7 @@ bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
   openError_ = {};
   errno = 0;
   if (!OpenToRead(path)) {
-    openProblem_ = Reason(errno, "It is not a file");
+    openProblem_ = Reason(errno, notAFile);
     messages_.ShowMessage(CannotOpen(path, openProblem_));
     return false;
   }

@@ -46,8 +46,8 @@ bool IsSide(ViewSide viewCode)
 }
 
 constexpr std::u16string_view anchorName = ElementOf(ElementKind::Anchor).name;
-constexpr const DesignElement& numberField = *FindAnchorField(u"id");
-constexpr const DesignElement& nameField = *FindAnchorField(u"name");
+constexpr const DesignElement& numberField = FieldOf(&CAnchor::id);
+constexpr const DesignElement& nameField = FieldOf(&CAnchor::name);
 
 /// The place of an attribute's value.
 LossPlace AttributePlace(const DesignElement& element, std::u16string_view text)

@@ -11,15 +11,16 @@ namespace hullwright {
 class KeptTrace : public ITrace {
 public:
   struct Record {
+    double elapsedSeconds;
     TraceLevel level;
     std::u16string category;
     std::u16string text;
   };
 
-  void Trace(double, TraceLevel level, std::u16string_view category,
+  void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
              std::u16string_view text) const override
   {
-    records.push_back({level, std::u16string(category), std::u16string(text)});
+    records.push_back({elapsedSeconds, level, std::u16string(category), std::u16string(text)});
   }
 
   mutable std::vector<Record> records;

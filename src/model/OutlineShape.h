@@ -7,6 +7,7 @@ namespace hullwright {
 /// A shape whose geometry is its vertices, which move, scale and turn one by one.
 class COutlineShape : public CShape {
 public:
+  void Accept(IShapeVisitor& visitor) const override { visitor.Visit(*this); }
   void GetVertices(std::vector<CShapeVertex*>& list) override;
   void Translate(double dx, double dy, double dz) override;
   void Scale(double sx, double sy, double sz) override;

@@ -8,6 +8,7 @@
 #include "model/ShapeAttributes.h"
 #include "model/ShapeStyle.h"
 #include "model/ShapeVertex.h"
+#include "model/ShapeVisitor.h"
 #include "model/Walk.h"
 
 namespace hullwright {
@@ -63,6 +64,9 @@ public:
   virtual void Rotate(double angleDegrees);
 
   virtual bool IsVisible(const CViewPort& viewPort) const;
+
+  /// Calls the visitor's function for this kind of shape.
+  virtual void Accept(IShapeVisitor& visitor) const = 0;
 
   /// Back to type 0 and tag 0, not selected, without vertices; `editing` stays as it is. The type
   /// of a constructed shape must be set after the last call.

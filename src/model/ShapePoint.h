@@ -10,6 +10,7 @@ public:
   CShapePoint();
 
   std::unique_ptr<CShape> Clone() const override;
+  void Accept(IShapeVisitor& visitor) const override { visitor.Visit(*this); }
   void Draw(const CViewPort* viewPort) override;
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
 

@@ -12,9 +12,8 @@ std::unique_ptr<CShape> CShapePolygon::Clone() const
   auto copy = std::make_unique<CShapePolygon>();
   CopyBaseTo(copy.get());
   copy->rings.reserve(rings.size());
-  ForEachEntry(rings, [&](const CShapePolygonRing& ring) {
-    copy->rings.emplace_back(static_cast<CShapePolygonRing*>(ring.Clone().release()));
-  });
+  ForEachEntry(rings,
+               [&](const CShapePolygonRing& ring) { copy->rings.push_back(ring.CopyRing()); });
   return copy;
 }
 

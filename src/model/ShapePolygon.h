@@ -13,6 +13,7 @@ public:
   CShapePolygon();
 
   std::unique_ptr<CShape> Clone() const override;
+  void Accept(IShapeVisitor& visitor) const override { visitor.Visit(*this); }
   void Draw(const CViewPort* viewPort) override;
 
   /// Whether the point is inside an odd number of rings, counted from the first; without

@@ -9,7 +9,7 @@ namespace hullwright {
 
 CShapePolygonRing::CShapePolygonRing() { type = ShapeType::Ring; }
 
-std::unique_ptr<CShape> CShapePolygonRing::Clone() const
+std::unique_ptr<CShapePolygonRing> CShapePolygonRing::CopyRing() const
 {
   auto copy = std::make_unique<CShapePolygonRing>();
   CopyBaseTo(copy.get());

@@ -10,8 +10,10 @@ class CShapePolygonRing : public COutlineShape {
 public:
   CShapePolygonRing();
 
-  /// The vertices of the copy have all six fields.
-  std::unique_ptr<CShape> Clone() const override;
+  /// A new deep copy; its vertices have all six fields.
+  std::unique_ptr<CShapePolygonRing> CopyRing() const;
+
+  std::unique_ptr<CShape> Clone() const override { return CopyRing(); }
   void GetExtents(Extents& box) const override;
 
   /// 0.0 inside and for a ring without vertices, else the distance to the nearest edge that has

@@ -20,6 +20,7 @@ public:
 
   /// Everything but the box on the screen.
   std::unique_ptr<CShape> Clone() const override;
+  void Accept(IShapeVisitor& visitor) const override { visitor.Visit(*this); }
   void Draw(const CViewPort* viewPort) override;
 
   /// Whether the point lies in the box of the last repaint. A turned view is not taken into

@@ -34,9 +34,8 @@ bool CShapes::AnswersFor(ViewSide side) const
 
 CShapes* FindViewGroup(const OwnedArray<CShapes>& shapeGroups, ViewSide viewCode)
 {
-  const auto found = std::ranges::find_if(
-      shapeGroups, [viewCode](const auto& group) { return group && group->AnswersFor(viewCode); });
-  return found == shapeGroups.end() ? nullptr : found->get();
+  return FindEntry(shapeGroups,
+                   [viewCode](const CShapes& group) { return group.AnswersFor(viewCode); });
 }
 
 CShapes* GetShapes(OwnedArray<CShapes>& shapeGroups, ViewSide viewCode)

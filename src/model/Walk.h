@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -36,6 +37,16 @@ void Walk(std::uint32_t& cursor, const OwnedArray<T>& items, Visit visit)
   }
 }
 
+/// Walks to the first entry for which `matches` is true; null if there is none up to the first null
+/// one.
+template <class T, class Matches>
+T* WalkTo(std::uint32_t& cursor, const OwnedArray<T>& items, Matches matches)
+{
+  T* item = WalkFirst(cursor, items);
+  while (item != nullptr && !matches(*item)) item = WalkNext(cursor, items);
+  return item;
+}
+
 /// As `Walk`, but only over what stands in the array at the start, so that `visit` may append to
 /// it.
 template <class T, class Visit>
@@ -66,6 +77,29 @@ void ForEachEntry(const OwnedArray<T>& items, Visit visit)
   for (const auto& item : items) {
     if (item) visit(*item);
   }
+}
+
+/// The first entry that is not null and for which `matches` is true; null if there is none.
+template <class T, class Matches>
+T* FindEntry(const OwnedArray<T>& items, Matches matches)
+{
+  const auto found =
+      std::ranges::find_if(items, [&](const auto& item) { return item && matches(*item); });
+  return found == items.end() ? nullptr : found->get();
+}
+
+/// Whether `matches` is true for an entry that is not null.
+template <class T, class Matches>
+bool AnyEntry(const OwnedArray<T>& items, Matches matches)
+{
+  return FindEntry(items, matches) != nullptr;
+}
+
+/// Whether an object is an entry.
+template <class T>
+bool HoldsEntry(const OwnedArray<T>& items, const T* object)
+{
+  return std::ranges::find(items, object, &std::unique_ptr<T>::get) != items.end();
 }
 
 }  // namespace hullwright

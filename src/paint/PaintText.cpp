@@ -48,7 +48,7 @@ PaintFont::PaintFont(const TextStyle& style)
   // The metric twins of the named fonts come first, so that a picture looks alike everywhere.
   const bool monospaced = style.family == u"Consolas";
   const QString twin =
-      monospaced ? QStringLiteral("Liberation Mono") : QStringLiteral("Liberation Sans");
+      monospaced ? QStringLiteral("Liberation Mono") : QString::fromLatin1(sansFace);
   // The toolkit's fonts have whole sizes; the painter makes up the rest.
   const float whole = std::ceil(std::min(style.size, largestFont));
   scale = style.size / whole;

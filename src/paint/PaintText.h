@@ -8,6 +8,9 @@
 
 namespace hullwright {
 
+/// The sans-serif face that comes first in pictures, which look alike wherever it is installed.
+inline constexpr const char* sansFace = "Liberation Sans";
+
 /// A text as the toolkit lays it out the same when it is measured and when it is drawn, without
 /// what is too much for any picture.
 QString Drawable(std::u16string_view text);

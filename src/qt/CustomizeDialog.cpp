@@ -11,8 +11,6 @@
 
 #include "base/Code.h"
 #include "qt/Icons.h"
-#include "qt/QtText.h"
-#include "resources/ToolBarButtons.h"
 
 namespace hullwright {
 namespace {

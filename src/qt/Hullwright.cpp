@@ -2,15 +2,16 @@
 #include <QCommandLineParser>
 #include <chrono>
 
+#include "qt/QtText.h"
 #include "qt/Shell.h"
+#include "resources/Strings.h"
 #include "system/SessionBus.h"
 
 namespace {
 
 void Describe(QCommandLineParser& commandLine)
 {
-  commandLine.setApplicationDescription(
-      QStringLiteral("Draws the outline of a survey vessel and records where its equipment sits."));
+  commandLine.setApplicationDescription(hullwright::ToQString(hullwright::Strings::description));
   commandLine.addHelpOption();
   commandLine.addVersionOption();
   commandLine.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The design to open."),

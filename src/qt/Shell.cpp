@@ -42,7 +42,7 @@ bool Shell::ProcessCommandLine()
     return true;
   }
   if (window_.Document().Open(ToWide(file_))) return true;
-  // The process ends without a window; a terminal at least gets a word.
+  // The process ends without a window; at least a terminal shows why.
   std::fprintf(stderr, "hullwright: cannot open the design '%s': %s\n",
                file_.toLocal8Bit().constData(), Utf8FromWide(window_.OpenProblem()).c_str());
   return false;

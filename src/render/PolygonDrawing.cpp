@@ -38,10 +38,8 @@ bool CShapePolygon::IsVisible(const CViewPort&) const { return true; }
 
 bool CShapePolygonRing::IsVisible(const CViewPort& viewPort) const
 {
-  const auto inView = [&](const auto& vertex) {
-    return vertex && viewPort.Contains(vertex->x, vertex->y);
-  };
-  if (std::ranges::any_of(vertices, inView)) return true;
+  const auto inView = [&](const CShapeVertex& v) { return viewPort.Contains(v.x, v.y); };
+  if (AnyEntry(vertices, inView)) return true;
   const std::array<WorldPoint, 4> corners = {{{viewPort.left, viewPort.bottom},
                                               {viewPort.right, viewPort.bottom},
                                               {viewPort.right, viewPort.top},

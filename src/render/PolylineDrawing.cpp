@@ -55,9 +55,8 @@ bool CShapePolyline::HitTest(const CViewPort* viewPort, double x, double y) cons
 
 bool CShapePolyline::IsVisible(const CViewPort& viewPort) const
 {
-  return std::ranges::any_of(vertices, [&](const auto& vertex) {
-    return vertex && viewPort.Contains(vertex->x, vertex->y);
-  });
+  return AnyEntry(
+      vertices, [&](const CShapeVertex& vertex) { return viewPort.Contains(vertex.x, vertex.y); });
 }
 
 }  // namespace hullwright

@@ -4,14 +4,14 @@
 
 #include "resources/Controls.h"
 #include "resources/DialogTemplates.h"
+#include "resources/Strings.h"
 
 namespace hullwright {
 
 namespace AboutControls {
 inline constexpr auto rows = std::to_array<DialogRow>({
     {.kind = DialogRowKind::Product, .id = product},
-    {.kind = DialogRowKind::Note,
-     .text = u"Draws the outline of a survey vessel and records where its equipment sits."},
+    {.kind = DialogRowKind::Note, .text = Strings::description},
     {.kind = DialogRowKind::Note,
      .text = u"Free software under the MIT licence. \u00A9 2026 The Hullwright developers."},
 });

@@ -7,11 +7,11 @@ namespace hullwright::Strings {
 
 inline constexpr const char* maker = "Quillmere";
 inline constexpr const char* program = "Hullwright";
+inline constexpr std::u16string_view description =
+    u"Draws the outline of a survey vessel and records where its equipment sits.";
 
 inline constexpr std::u16string_view librariesFailed =
     u"OLE initialization failed.  Make sure that the OLE libraries are the correct version.";
-/// Shown when a design could not be written.
-inline constexpr std::u16string_view writeFailed = u"Error writing config file!!!";
 inline constexpr std::u16string_view standardToolBar = u"Standard";
 inline constexpr std::u16string_view customize = u"Customize...";
 inline constexpr std::u16string_view objectView = u"Object View";

@@ -27,12 +27,11 @@ std::vector<std::string> SplitFolders(std::string_view list)
 bool Holds(const std::string& folder, CommonData what)
 {
   if (folder.empty()) return false;
-  const fs::path package = fs::path(folder) / "Sondaris";
   std::error_code error;
   switch (what) {
     case CommonData::UnitDatabase:
-      return fs::is_regular_file(package / "Database" / "geo.db", error);
-    case CommonData::Logs: return fs::is_directory(package / "Tracing", error);
+      return fs::is_regular_file(fs::path(folder) / unitDatabasePlace, error);
+    case CommonData::Logs: return fs::is_directory(fs::path(folder) / logPlace, error);
   }
   return false;
 }

@@ -1,15 +1,20 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace hullwright {
 
 /// What the survey package keeps in a common data folder.
 enum class CommonData {
-  UnitDatabase,  ///< the file "Sondaris/Database/geo.db"
-  Logs,          ///< the folder "Sondaris/Tracing"
+  UnitDatabase,  ///< the file `unitDatabasePlace`
+  Logs,          ///< the folder `logPlace`
 };
+
+// Places in a common data folder.
+inline constexpr std::u16string_view unitDatabasePlace = u"Sondaris/Database/geo.db";
+inline constexpr std::u16string_view logPlace = u"Sondaris/Tracing";
 
 /// The folders that may hold the survey package's common data.
 struct DataFolderCandidates {

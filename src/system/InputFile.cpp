@@ -45,7 +45,7 @@ std::string InputFile::Problem() const
   struct stat status {};
   if (stat(path_.c_str(), &status) != 0) return name_ + ": " + ErrorText(errno);
   if (S_ISDIR(status.st_mode)) return name_ + ": " + ErrorText(EISDIR);
-  if (!S_ISREG(status.st_mode)) return name_ + ": It is not a file";
+  if (!S_ISREG(status.st_mode)) return name_ + ": " + notAFile;
   const Descriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
   return file.Number() < 0 ? name_ + ": " + ErrorText(errno) : std::string();
 }

@@ -10,7 +10,6 @@ namespace {
 constexpr const char* libraryName = "libsqlite3.so.0";
 
 constexpr std::string_view query = "SELECT * FROM tblUnits WHERE numDimension = 1 ORDER BY numId";
-static_assert(query.size() == 60);
 
 // Codes of the library's interface.
 constexpr int resultOk = 0;

@@ -9,6 +9,7 @@
 #include "base/Numbers.h"
 #include "base/OpenFile.h"
 #include "base/Text.h"
+#include "system/CommonDataFolder.h"
 
 namespace hullwright {
 namespace {
@@ -73,7 +74,8 @@ std::string Decimal(std::uint32_t number)
 
 std::u16string CTraceLog::PathOf(std::u16string_view category) const
 {
-  return folder_() + u"/Sondaris/Tracing/Trace_" + std::u16string(category) + u".txt";
+  return folder_() + u'/' + std::u16string(logPlace) + u"/Trace_" + std::u16string(category) +
+         u".txt";
 }
 
 void CTraceLog::Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,

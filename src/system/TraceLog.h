@@ -9,10 +9,10 @@
 
 namespace hullwright {
 
-/// The log files: one for each category, in the folder "Sondaris/Tracing" of the common data
-/// folder. A log is a line with the running count of all records ever written, then the last 200
-/// records, "number|seconds|level|text" each. The folder is never made, and a log that can't be
-/// written is silently left.
+/// The log files: one for each category, in the folder `logPlace` of the common data folder. A log
+/// is a line with the running count of all records ever written, then the last 200 records,
+/// "number|seconds|level|text" each. The folder is never made, and a log that can't be written is
+/// silently left.
 class CTraceLog : public ITrace {
 public:
   /// `commonDataFolder` returns the folder at each record, since it may come to be during the run.

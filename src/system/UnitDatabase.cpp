@@ -1,5 +1,7 @@
 #include "system/UnitDatabase.h"
 
+#include "model/Units.h"
+#include "system/CommonDataFolder.h"
 #include "system/Sqlite.h"
 
 namespace hullwright {
@@ -7,10 +9,8 @@ namespace hullwright {
 std::u16string GetDatabasePath(std::u16string_view commonDataFolder)
 {
   std::u16string path(commonDataFolder);
-  for (const std::u16string_view component : {u"Sondaris", u"Database", u"geo.db"}) {
-    if (!path.empty() && !path.ends_with(u'/')) path += u'/';
-    path += component;
-  }
+  if (!path.empty() && !path.ends_with(u'/')) path += u'/';
+  path += unitDatabasePlace;
   return path;
 }
 

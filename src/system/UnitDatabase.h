@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "model/Units.h"
 #include "platform/LibraryLoader.h"
 #include "platform/MessageBoxes.h"
 #include "platform/UnitDatabasePort.h"

@@ -80,8 +80,8 @@ CShape* CHullwrightView::FindMarkedPolyline()
 {
   const CShapes* const group = GetShapes(design_.shapeGroups, design_.activeView);
   if (group == nullptr) return nullptr;
-  CShape* marked = WalkFirst(group->cursor, group->shapes);
-  while (marked != nullptr && !marked->editing) marked = WalkNext(group->cursor, group->shapes);
+  CShape* const marked =
+      WalkTo(group->cursor, group->shapes, [](const CShape& shape) { return shape.editing; });
   return marked != nullptr && marked->type == ShapeType::Polyline ? marked : nullptr;
 }
 
@@ -121,13 +121,9 @@ void CHullwrightView::RemoveHit()
   const auto* const vertex = std::get_if<CShapeVertex*>(&hitVertex);
   if (hitKind == HitKind::Vertex && vertex != nullptr) {
     // Only the shape that holds it: rings release any vertex that they get for removal.
-    const auto holds = [&](const auto& shape) {
-      return shape &&
-             std::ranges::find(shape->vertices, *vertex, &std::unique_ptr<CShapeVertex>::get) !=
-                 shape->vertices.end();
-    };
-    const auto holder = std::ranges::find_if(group->shapes, holds);
-    if (holder != group->shapes.end()) (*holder)->RemoveVertex(*vertex);
+    CShape* const holder = FindEntry(
+        group->shapes, [&](const CShape& shape) { return HoldsEntry(shape.vertices, *vertex); });
+    if (holder != nullptr) holder->RemoveVertex(*vertex);
   }
   const auto* const anchor = std::get_if<CAnchor*>(&hitVertex);
   if (hitKind == HitKind::Anchor && anchor != nullptr) {

@@ -1,6 +1,5 @@
 #include "view/PickedItem.h"
 
-#include <algorithm>
 #include <array>
 
 #include "base/Numbers.h"
@@ -43,31 +42,23 @@ Pick FindDevice(const DesignState& design, const PickBox& box)
     if (vertex != nullptr && box.Holds(vertex->x, vertex->y)) return offset;
   }
   if (!design.anchors) return {};
-  CAnchors& anchors = *design.anchors;
-  for (CAnchor* anchor = WalkFirst(anchors.cursor, anchors.items); anchor != nullptr;
-       anchor = WalkNext(anchors.cursor, anchors.items)) {
-    if (box.Holds(anchor->attachmentX, anchor->attachmentY)) return {HitKind::Anchor, anchor};
-  }
-  return {};
+  CAnchor* const anchor =
+      WalkTo(design.anchors->cursor, design.anchors->items, [&](const CAnchor& candidate) {
+        return box.Holds(candidate.attachmentX, candidate.attachmentY);
+      });
+  return anchor == nullptr ? Pick{} : Pick{HitKind::Anchor, anchor};
 }
 
 Pick FindVertex(const CShapes& group, const PickBox& box)
 {
-  for (CShape* shape = WalkFirst(group.cursor, group.shapes); shape != nullptr;
-       shape = WalkNext(group.cursor, group.shapes)) {
-    if (shape->type != ShapeType::Polyline) continue;
-    for (CShapeVertex* vertex = WalkFirst(shape->cursor, shape->vertices); vertex != nullptr;
-         vertex = WalkNext(shape->cursor, shape->vertices)) {
-      if (box.Holds(vertex->x, vertex->y)) return {HitKind::Vertex, vertex};
-    }
-  }
-  return {};
-}
-
-template <class T>
-bool Holds(const OwnedArray<T>& items, const T* item)
-{
-  return std::ranges::find(items, item, &std::unique_ptr<T>::get) != items.end();
+  CShapeVertex* hit = nullptr;
+  WalkTo(group.cursor, group.shapes, [&](const CShape& shape) {
+    if (shape.type != ShapeType::Polyline) return false;
+    hit = WalkTo(shape.cursor, shape.vertices,
+                 [&](const CShapeVertex& vertex) { return box.Holds(vertex.x, vertex.y); });
+    return hit != nullptr;
+  });
+  return hit == nullptr ? Pick{} : Pick{HitKind::Vertex, hit};
 }
 
 bool HoldsVertex(const DesignState& design, const CShapeVertex* vertex)
@@ -76,10 +67,9 @@ bool HoldsVertex(const DesignState& design, const CShapeVertex* vertex)
       vertex == design.offsetPivot.get()) {
     return true;
   }
-  return std::ranges::any_of(design.shapeGroups, [vertex](const auto& group) {
-    return group && std::ranges::any_of(group->shapes, [vertex](const auto& shape) {
-             return shape && Holds(shape->vertices, vertex);
-           });
+  return AnyEntry(design.shapeGroups, [vertex](const CShapes& group) {
+    return AnyEntry(group.shapes,
+                    [vertex](const CShape& shape) { return HoldsEntry(shape.vertices, vertex); });
   });
 }
 
@@ -91,7 +81,7 @@ bool IsInDesign(const DesignState& design, const PickedItem& item)
     return HoldsVertex(design, *vertex);
   }
   const auto* const anchor = std::get_if<CAnchor*>(&item);
-  return anchor != nullptr && design.anchors && Holds(design.anchors->items, *anchor);
+  return anchor != nullptr && design.anchors && HoldsEntry(design.anchors->items, *anchor);
 }
 
 void MoveItem(const PickedItem& item, double x, double y)

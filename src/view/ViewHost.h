@@ -11,7 +11,7 @@
 
 namespace hullwright {
 
-/// Values of the application's `cursorTool`: what a left press on empty space does.
+/// What a left press on empty space does.
 enum class CursorTool : std::int32_t {
   None = 0,
   ZoomIn = 1,
@@ -31,7 +31,6 @@ public:
   /// The grid as the settings store has it now.
   virtual GridSettings LoadGridSettings() const = 0;
 
-  /// One of the values of `CursorTool`.
   virtual CursorTool GetCursorTool() const = 0;
 
   /// Long name of the design's unit; empty when it is not known.

@@ -32,6 +32,8 @@ struct CommandCase {
   bool makesGroup;
 };
 
+std::ostream& operator<<(std::ostream& out, const CommandCase& row) { return out << row.name; }
+
 const std::vector<std::string>& all = test::notifiedOfAll;
 const std::vector<std::string> none = {};
 const std::vector<std::string> repaint = {"repaint"};
@@ -93,7 +95,7 @@ TEST(DesignCommandTable, HasACaseForEachCommandWithoutAFile)
 
 TEST_P(EachCommand, SendsItsNotificationsInOrder)
 {
-  AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   Run(GetParam().id, Accept());
   EXPECT_THAT(notified.list, ElementsAreArray(GetParam().notifications));
   EXPECT_EQ(dialogs.shown.size(), GetParam().hasDialog ? 1U : 0U);
@@ -122,7 +124,7 @@ class EachDialog : public EachCommand {};
 
 TEST_P(EachDialog, CancelledNotifiesNobodyAndChangesNothing)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   Run(GetParam().id, {.ok = false});
   EXPECT_TRUE(notified.list.empty());
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
@@ -138,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Table, EachDialog, testing::ValuesIn(DialogCases()),
 
 TEST_F(Commands, MirrorsNegateTheirAxisAndTwiceBringEveryBitBack)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {0.1, 0.7, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{0.1, 0.7, 3.0}});
   Run(CommandId::MirrorVertically);
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(0.1, -0.7, 3.0));
   Run(CommandId::MirrorHorizontally);
@@ -150,10 +152,10 @@ TEST_F(Commands, MirrorsNegateTheirAxisAndTwiceBringEveryBitBack)
 
 TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
 {
-  AddLine(ViewSide::Top, {1.0, 1.0, 1.0});
+  AddLine(ViewSide::Top, {{1.0, 1.0, 1.0}});
   std::vector<const CShapePolyline*> others;
   for (const ViewSide side : eachViewSide) {
-    if (side != ViewSide::Top) others.push_back(&AddLine(side, {1.0, 0.0, 1.0}));
+    if (side != ViewSide::Top) others.push_back(&AddLine(side, {{1.0, 0.0, 1.0}}));
   }
   app.anchors->items.push_back(app.anchors->NewAnchor());
   app.anchors->items[0]->attachmentX = 5.0;
@@ -177,7 +179,7 @@ TEST_F(Commands, OtherSidesOffsetsAndAnchorsStayToTheBit)
 
 TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
 {
-  const CShapePolyline& wildcard = AddLine(ViewSide::All, {1.0, 1.0, 0.0});
+  const CShapePolyline& wildcard = AddLine(ViewSide::All, {{1.0, 1.0, 0.0}});
   for (const ViewSide side : eachViewSide) {
     app.shapeGroups.push_back(std::make_unique<CShapes>(side));
     app.activeView = side;
@@ -205,9 +207,9 @@ class EachWalk : public Commands, public testing::WithParamInterface<WalkCase> {
 TEST_P(EachWalk, EndsAtAnEmptySlotAndNotifiesAll)
 {
   const CShapeVertex start(1.0, 2.0, 3.0);
-  const CShapePolyline& before = AddLine(ViewSide::Top, start);
+  const CShapePolyline& before = AddLine(ViewSide::Top, {start});
   GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(nullptr);
-  const CShapePolyline& behind = AddLine(ViewSide::Top, start);
+  const CShapePolyline& behind = AddLine(ViewSide::Top, {start});
   Run(GetParam().command, GetParam().script);
   EXPECT_FALSE(*before.vertices[0] == start);
   EXPECT_TRUE(*behind.vertices[0] == start);
@@ -225,7 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"-2 times"}}});
   EXPECT_EQ(dialogs.startTexts[ScaleControls::factor], u"1.00");
   EXPECT_TRUE(*line.vertices[0] == CShapeVertex(-2.0, -4.0, -6.0));
@@ -233,7 +235,7 @@ TEST_F(Commands, ScaleTakesZAlongAndMirrorsByANegativeFactor)
 
 TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   for (const char16_t* text : {u"abc", u"0", u"", u"-0.0"}) {
     Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, text}}});
   }
@@ -244,7 +246,7 @@ TEST_F(Commands, AScaleFactorOfZeroDoesNothing)
 
 TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 2.0, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
   const CShapePoint& point = AddPoint(ViewSide::Top, {0.0, 0.0, 0.0});
   Run(CommandId::Move,
       {.ok = true,
@@ -261,7 +263,7 @@ TEST_F(Commands, MoveShiftsAllShapesAndReadsLettersAsZero)
 
 TEST_F(Commands, RotationTurnsPolylinesOnly)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 0.0, 3.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 3.0}});
   const CShapePoint& point = AddPoint(ViewSide::Top, {1.0, 0.0, 0.0});
   Run(CommandId::RotateLeft, {.ok = true});
   EXPECT_NEAR(line.vertices[0]->y, 1.0, 1e-15);
@@ -285,7 +287,7 @@ TEST_F(Commands, NoOtherKindOfShapeIsTurned)
        {ShapeType::Point, ShapeType::Polygon, ShapeType::Text, ShapeType::Ring}) {
     GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(std::make_unique<Unturnable>(kind));
   }
-  const CShapePolyline& last = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  const CShapePolyline& last = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   Run(CommandId::RotateLeft, {.ok = true});
   EXPECT_NEAR(last.vertices[0]->y, 1.0, 1e-15);
 }
@@ -305,7 +307,7 @@ class Angle : public Commands, public testing::WithParamInterface<AngleCase> {};
 
 TEST_P(Angle, ComesFromButtonFieldAndDirection)
 {
-  const CShapePolyline& line = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   Run(GetParam().command, GetParam().script);
   const double radians = GetParam().degrees * 0.017453292519943295;
   EXPECT_NEAR(line.vertices[0]->x, std::cos(radians), 1e-12);
@@ -346,7 +348,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Commands, ARotationByNothingStillModifies)
 {
-  AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   Run(CommandId::RotateLeft, {.ok = true,
                               .fields = {{RotateControls::angle, u"abc"}},
                               .clicks = {{RotateControls::byAngle, true}}});

@@ -8,7 +8,6 @@
 
 #include "app/FiniteNumbers.h"
 #include "model/ShapePoint.h"
-#include "resources/Strings.h"
 #include "support/AppFixture.h"
 #include "system/FormerVersions.h"
 
@@ -222,7 +221,7 @@ TEST_F(Life, ASaveThatFailsHalfwayGivesTheFileBackWhatItHeldAndNamesTheCopy)
     const FileSizeLimit limit(4096);
     EXPECT_FALSE(life.Save());
   }
-  EXPECT_THAT(messages.shown, ElementsAre(Strings::writeFailed));
+  EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
   EXPECT_EQ(heldAtMessage, boat);
   EXPECT_EQ(folder.Read("boat.xml"), boat);
   ASSERT_EQ(widgets.notes.size(), 1U);

@@ -28,22 +28,14 @@ TEST_F(AssembledEditor, ReadsTheLookWhenItIsMade)
   EXPECT_EQ(other.app.applicationLook, Look::Black);
 }
 
-/// Calls back at each notification of the frame.
-class EarlyListener : public SilentWindow {
-public:
-  void Notify(Notification) override { look(); }
-  void SetModifiedFlag(bool) override { look(); }
-  std::function<void()> look;
-};
-
 TEST_F(AssembledEditor, ItsListenerIsNotifiedBeforeAnythingComesOfIt)
 {
-  EarlyListener early;
+  test::RecordedNotifications early;
   ports.listener = &early;
   const auto other = std::make_unique<Editor>(ports);
   std::vector<int> rebuilds;
   std::vector<bool> modified;
-  early.look = [&] {
+  early.onNotification = [&] {
     rebuilds.push_back(control.rebuilds);
     modified.push_back(other->document.IsModified());
   };

@@ -3,7 +3,6 @@
 #include <filesystem>
 
 #include "app/ImportText.h"
-#include "base/Text.h"
 #include "model/ShapeText.h"
 #include "resources/CommandIds.h"
 #include "support/CommandFixture.h"
@@ -73,7 +72,7 @@ TEST_F(ImportCommand, MakesTheGroupOfTheSideInViewAndNotifiesAll)
 
 TEST_F(ImportCommand, AddsBehindWhatIsThereAndEveryTimeAgain)
 {
-  AddLine(ViewSide::Top, {7.0, 7.0, 7.0});
+  AddLine(ViewSide::Top, {{7.0, 7.0, 7.0}});
   Run(CommandId::ImportDxf);
   Run(CommandId::ImportDxf);
   ASSERT_EQ(app.shapeGroups.size(), 1U);
@@ -83,7 +82,7 @@ TEST_F(ImportCommand, AddsBehindWhatIsThereAndEveryTimeAgain)
 
 TEST_F(ImportCommand, PrefersAGroupOfAllSidesThatComesFirst)
 {
-  AddLine(ViewSide::All, {7.0, 7.0, 7.0});
+  AddLine(ViewSide::All, {{7.0, 7.0, 7.0}});
   app.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Top));
   Run(CommandId::ImportDxf);
   EXPECT_EQ(ShapesOf(0).size(), 3U);
@@ -154,7 +153,7 @@ TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
 
 TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)
 {
-  AddLine(ViewSide::Top, {0.0, 0.0, 0.0});
+  AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}});
   const auto importAt = [this](const std::string& x, const std::string& y) {
     widgets.notes.clear();
     fileDialogs.answer =

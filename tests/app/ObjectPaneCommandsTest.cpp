@@ -16,7 +16,7 @@ TEST_F(ObjectPaneCommands, AddPolylineAppendsAnEmptyOneToTheSideInView)
 {
   app.activeView = ViewSide::Left;
   Command(CommandId::AddPolyline, At({0, 0}));
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   ASSERT_EQ(app.shapeGroups.size(), 1U);
   EXPECT_EQ(app.shapeGroups[0]->viewCode, ViewSide::Left);
   EXPECT_EQ(app.shapeGroups[0]->shapes.at(0)->type, ShapeType::Polyline);
@@ -31,10 +31,10 @@ TEST_F(ObjectPaneCommands, RemoveAllClearsTheSideInViewWhicheverNodeWasClicked)
   control.rebuilds = 0;
   Command(CommandId::RemoveAllPolylines, At({0, 1}));
   EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete all shapes ?"));
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   messages.answer = true;
   Command(CommandId::RemoveAllPolylines, At({0, 1}));
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   EXPECT_TRUE(FindViewGroup(app.shapeGroups, ViewSide::Top)->shapes.empty());
   EXPECT_EQ(FindViewGroup(app.shapeGroups, ViewSide::Bottom)->shapes.size(), 1U);
 }
@@ -42,7 +42,7 @@ TEST_F(ObjectPaneCommands, RemoveAllClearsTheSideInViewWhicheverNodeWasClicked)
 TEST_F(ObjectPaneCommands, AddAnchorAppendsOneWithTheLowestNumber)
 {
   Command(CommandId::AddAnchor, At({1}));
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   ASSERT_EQ(app.anchors->items.size(), 1U);
   EXPECT_EQ(app.anchors->items[0]->id, 1U);
 }
@@ -54,7 +54,7 @@ TEST_F(ObjectPaneCommands, RemoveAndModifyAnchorDoNothing)
   control.rebuilds = 0;
   Command(CommandId::RemoveAnchor, At({1, 0}));
   Command(CommandId::ModifyAnchor, At({1, 0}));
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   EXPECT_EQ(app.anchors->items.size(), 1U);
 }
 
@@ -65,10 +65,10 @@ TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledNotifiesNobody)
   control.rebuilds = 0;
   Command(CommandId::EditVertex, At({0, 0, 0, 0}),
           {.ok = false, .fields = {{VertexControls::x, u"9"}}});
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   Command(CommandId::EditVertex, At({0, 0, 0, 0}),
           {.ok = true, .fields = {{VertexControls::x, u"9"}}});
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   EXPECT_EQ(line.vertices[0]->x, 9.0);
   EXPECT_THAT(Texts(At({0, 0, 0})), ElementsAre("+9.000,+2.000,+3.000"));
 }
@@ -83,7 +83,7 @@ TEST_F(ObjectPaneCommands, PointCommandsOnNodesThatAreNoPointsDoNothing)
     Command(CommandId::EditVertex, item, {.ok = true});
     Command(CommandId::RemoveVertex, item);
   }
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   EXPECT_THAT(dialogs.shown, IsEmpty());
   EXPECT_THAT(messages.asked, IsEmpty());
 }
@@ -97,10 +97,10 @@ TEST_F(ObjectPaneCommands, RemovePointAsksAndTakesItOut)
   EXPECT_THAT(
       messages.asked,
       ElementsAre(u"Are you sure you want to delete the selected point from the polyline ?"));
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   messages.answer = true;
   Command(CommandId::RemoveVertex, At({0, 0, 0, 0}));
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   ASSERT_EQ(line.vertices.size(), 1U);
   EXPECT_EQ(line.vertices[0]->x, 2.0);
 }
@@ -112,9 +112,9 @@ TEST_F(ObjectPaneCommands, AddPointAppendsAtTheEndOfTheSelectedPolyline)
   control.rebuilds = 0;
   Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = false});
   Command(CommandId::AddVertex, At({0, 1}), {.ok = true});
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   Command(CommandId::AddVertex, At({0, 1, 0}), {.ok = true, .fields = {{VertexControls::y, u"4"}}});
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   EXPECT_EQ(dialogs.startTexts[VertexControls::x], u"0.000");
   ASSERT_EQ(line.vertices.size(), 2U);
   EXPECT_TRUE(*line.vertices[1] == CShapeVertex(0.0, 4.0, 0.0));
@@ -127,10 +127,10 @@ TEST_F(ObjectPaneCommands, RemovePolylineAsksAndReleasesIt)
   control.rebuilds = 0;
   Command(CommandId::RemovePolyline, At({0, 0, 0}));
   EXPECT_THAT(messages.asked, ElementsAre(u"Are you sure you want to delete the selected shape ?"));
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   messages.answer = true;
   Command(CommandId::RemovePolyline, At({0, 0, 0}));
-  EXPECT_TRUE(ToldAll());
+  EXPECT_TRUE(NotifiedAll());
   EXPECT_TRUE(app.shapeGroups[0]->shapes.empty());
 }
 

@@ -194,7 +194,7 @@ TEST_F(ObjectPane, WithoutASideInViewShapeCommandsDoNothing)
        {CommandId::AddPolyline, CommandId::RemoveAllPolylines, CommandId::RemovePolyline}) {
     Command(id, At({0, 0, 0}));
   }
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
   EXPECT_THAT(messages.asked, IsEmpty());
 }
 
@@ -202,7 +202,7 @@ TEST_F(ObjectPane, WithoutAnAnchorListNoAnchorIsAdded)
 {
   app.anchors.reset();
   Command(CommandId::AddAnchor, At({0}));
-  EXPECT_FALSE(ToldAll());
+  EXPECT_FALSE(NotifiedAll());
 }
 
 TEST_F(ObjectPane, AClickOnAPolylineOfAnotherSideOnlyClearsTheMarks)

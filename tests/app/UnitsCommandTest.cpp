@@ -46,9 +46,9 @@ TEST_F(UnitsCommand, AnUnknownUnitSelectsNothingAndOkAsksForAChoice)
 
 TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
 {
-  const CShapePolyline& top = AddLine(ViewSide::Top, {0.3048, 0.0, 3.048});
+  const CShapePolyline& top = AddLine(ViewSide::Top, {{0.3048, 0.0, 3.048}});
   const CShapePoint& point = AddPoint(ViewSide::Top, {3.048, 0.0, 0.0});
-  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {1.0, 1.0, 1.0});
+  const CShapePolyline& bottom = AddLine(ViewSide::Bottom, {{1.0, 1.0, 1.0}});
   app.anchors->items.push_back(app.anchors->NewAnchor());
   app.anchors->items[0]->attachmentX = 5.0;
   messages.answer = true;
@@ -70,7 +70,7 @@ TEST_F(UnitsCommand, YesConvertsTheSideInViewAndTwoOffsets)
 
 TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
 {
-  const CShapePolyline& top = AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  const CShapePolyline& top = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   ToFeet();
   EXPECT_EQ(top.vertices[0]->x, 1.0);
   EXPECT_EQ(app.offsetGps->x, 10.0);
@@ -80,7 +80,7 @@ TEST_F(UnitsCommand, NoChangesTheUnitAndNoNumber)
 
 TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
 {
-  const CShapePolyline& top = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  const CShapePolyline& top = AddLine(ViewSide::Top, {{3.048, 0.0, 0.0}});
   std::vector<UnitCode> units;
   messages.onQuestion = [&] {
     units.push_back(app.unitCode);
@@ -95,9 +95,9 @@ TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
 
 TEST_F(UnitsCommand, AnEmptySlotEndsTheConversionOfShapesAndNotThatOfOffsets)
 {
-  const CShapePolyline& before = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  const CShapePolyline& before = AddLine(ViewSide::Top, {{3.048, 0.0, 0.0}});
   GetShapes(app.shapeGroups, ViewSide::Top)->shapes.push_back(nullptr);
-  const CShapePolyline& behind = AddLine(ViewSide::Top, {3.048, 0.0, 0.0});
+  const CShapePolyline& behind = AddLine(ViewSide::Top, {{3.048, 0.0, 0.0}});
   messages.answer = true;
   ToFeet();
   EXPECT_EQ(before.vertices[0]->x, 10.0);
@@ -107,7 +107,7 @@ TEST_F(UnitsCommand, AnEmptySlotEndsTheConversionOfShapesAndNotThatOfOffsets)
 
 TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
 {
-  AddLine(ViewSide::Bottom, {1.0, 0.0, 0.0});
+  AddLine(ViewSide::Bottom, {{1.0, 0.0, 0.0}});
   messages.answer = true;
   ToFeet();
   EXPECT_TRUE(messages.asked.empty());
@@ -117,7 +117,7 @@ TEST_F(UnitsCommand, AnEmptySideIsNotAskedAboutAndNothingIsConverted)
 
 TEST_F(UnitsCommand, TheSameUnitIsNotAskedAboutAndStillModifies)
 {
-  AddLine(ViewSide::Top, {1.0, 0.0, 0.0});
+  AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
   Run(CommandId::Units, {.ok = true});
   EXPECT_TRUE(messages.asked.empty());
   EXPECT_TRUE(document.IsModified());
@@ -125,7 +125,7 @@ TEST_F(UnitsCommand, TheSameUnitIsNotAskedAboutAndStillModifies)
 
 TEST_F(UnitsCommand, AVertexAtTheOriginStaysThere)
 {
-  const CShapePolyline& top = AddLine(ViewSide::Top, {0.0, 0.0, 0.0});
+  const CShapePolyline& top = AddLine(ViewSide::Top, {{0.0, 0.0, 0.0}});
   messages.answer = true;
   ToFeet();
   EXPECT_TRUE(*top.vertices[0] == CShapeVertex());

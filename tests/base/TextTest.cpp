@@ -32,7 +32,7 @@ TEST(Utf8, EachIllFormedPieceBecomesOneReplacementCharacter)
   EXPECT_EQ(WideFromUtf8("\xF4\x90\x80\x80"), u"\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
-TEST(Utf8, TellsWhatIsWellFormed)
+TEST(Utf8, RecognisesWhatIsWellFormed)
 {
   EXPECT_TRUE(IsUtf8(""));
   EXPECT_TRUE(IsUtf8("m\xC3\xA8tre \xF0\x9F\x98\x80 \xEF\xBF\xBD"));

@@ -15,7 +15,7 @@ def reported(path, reason):
 
 
 class FailedStartTest(DeskTest):
-    """The exit status and the words of a start that fails."""
+    """The exit status and the message of a start that fails."""
 
     def test_a_malformed_file_ends_the_start_at_once(self):
         environment = dict(os.environ, HOME=str(self.desk.folder), QT_QPA_PLATFORM="offscreen",
@@ -34,7 +34,7 @@ class FailedStartTest(DeskTest):
                 self.assertEqual(done.stderr.splitlines()[-1], reported(path, reason))
                 self.assertEqual(path.read_text(encoding="utf-8"), text)
 
-    def test_a_missing_file_is_told_in_a_window_and_ends_the_start(self):
+    def test_a_missing_file_is_reported_in_a_window_and_ends_the_start(self):
         path = self.desk.folder / "missing.xml"
         self.desk.launch(PROGRAM, path)
         self.desk.answer("Hullwright", "Return")

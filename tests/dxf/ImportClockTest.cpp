@@ -1,4 +1,5 @@
 #include <chrono>
+#include <cmath>
 
 #include "support/DxfFixture.h"
 
@@ -21,12 +22,14 @@ TEST_F(ImportClock, RecordsBearTheSecondsWithTheirThousandthsCutOff)
   constexpr int imports = 200;
   bool betweenSeconds = false;
   for (int i = 0; i < imports; ++i) {
-    log.seconds.clear();
+    log.records.clear();
     const auto before = static_cast<double>(Milliseconds());
     Import("0\nEOF\n");
     const auto after = static_cast<double>(Milliseconds());
-    ASSERT_FALSE(log.seconds.empty());
-    for (const double seconds : log.seconds) {
+    ASSERT_FALSE(log.records.empty());
+    for (const KeptTrace::Record& record : log.records) {
+      const double seconds = record.elapsedSeconds;
+      EXPECT_EQ(seconds * 1000.0, std::round(seconds * 1000.0));
       EXPECT_GE(seconds * 1000.0, before);
       EXPECT_LE(seconds * 1000.0, after);
       betweenSeconds = betweenSeconds || seconds != std::floor(seconds);

@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "dxf/DxfLines.h"
 #include "support/DxfFixture.h"
 
@@ -17,14 +19,20 @@ protected:
   /// What the last import reported between its beginning and its end; the next one starts anew.
   std::vector<int> Percents()
   {
-    EXPECT_GT(window.starts, 0);
-    EXPECT_EQ(window.ends, window.starts);
-    return std::exchange(window.percents, {});
+    const std::vector<std::string> list = std::exchange(window.list, {});
+    std::vector<int> percents;
+    EXPECT_GE(list.size(), 2U);
+    if (list.size() < 2) return percents;
+    EXPECT_EQ(list.front(), "start");
+    EXPECT_EQ(list.back(), "end");
+    std::transform(list.begin() + 1, list.end() - 1, std::back_inserter(percents),
+                   [](const std::string& shown) { return ParseInt32(shown, 10); });
+    return percents;
   }
 
   /// Reads a text up to each of the places, the last of which is its end, and reports the progress
   /// there.
-  void TellAfterEach(const std::vector<std::size_t>& places)
+  void ReportAfterEach(const std::vector<std::size_t>& places)
   {
     std::string text(places.back(), 'x');
     for (const std::size_t place : places) {
@@ -55,20 +63,20 @@ TEST_F(Progress, ProgressBeginsRisesAndEnds)
 
 TEST_F(Progress, PercentIsTruncatedAndReportedOnce)
 {
-  TellAfterEach({0, 3, 4, 7, 8, 8, 199, 400});
-  EXPECT_THAT(window.percents, ElementsAre(1, 2, 49, 100));
+  ReportAfterEach({0, 3, 4, 7, 8, 8, 199, 400});
+  EXPECT_THAT(window.list, ElementsAre("1 %", "2 %", "49 %", "100 %"));
 }
 
 TEST_F(Progress, PercentIsReckonedInSinglePrecision)
 {
-  TellAfterEach({29, 100});  // in double precision a hair below 29 per cent
-  EXPECT_THAT(window.percents, ElementsAre(29, 100));
+  ReportAfterEach({29, 100});  // in double precision a hair below 29 per cent
+  EXPECT_THAT(window.list, ElementsAre("29 %", "100 %"));
 }
 
 TEST_F(Progress, AnImportThatFailsShowsNoProgress)
 {
   Import("");
-  EXPECT_EQ(window.starts, 0);
+  EXPECT_THAT(window.list, testing::IsEmpty());
 }
 
 TEST_F(Progress, IsReportedBehindEveryLineBetweenSections)

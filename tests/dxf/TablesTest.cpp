@@ -59,7 +59,7 @@ TEST_F(Tables, TheFirstLayerOfANameStays)
 {
   Import(LayerTable(LayerRecord("A", 1, 0) + LayerRecord("A", 3, 1)) + Entities(LineOn("A")));
   EXPECT_EQ(ColourOf(0), red);
-  EXPECT_THAT(log.records, Contains(HasSubstr("found 1 DXF layers.")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("found 1 DXF layers.")));
 }
 
 TEST_F(Tables, NamesDifferByCaseAndByABlank)
@@ -170,7 +170,7 @@ TEST_F(BlockTable, TheFirstBlockOfANameStays)
 {
   Import(Blocks(Block("B", LineOn("A")) + Block("B", LineOn("A") + LineOn("A"))));
   EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
-  EXPECT_THAT(log.records, Contains(HasSubstr("cached 1 blocks.")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("cached 1 blocks.")));
 }
 
 TEST_F(BlockTable, PaperSpaceIsNotKeptButModelSpaceAndTheNamelessAre)
@@ -266,7 +266,7 @@ TEST_F(BlockTable, ABlockThatTheTextEndsInIsKept)
 {
   Import("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n" + LineOn("A"));
   EXPECT_EQ(BlockOf("B").shapes.size(), 1U);
-  EXPECT_THAT(log.records, Contains(HasSubstr("cached 1 blocks.")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("cached 1 blocks.")));
 }
 
 TEST_F(BlockTable, ABlockOnAFrozenLayerStillHasItsShapes)

@@ -6,7 +6,6 @@
 
 #include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
-#include "model/ShapePolyline.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
@@ -26,7 +25,7 @@ protected:
 
   test::TempFolder folder;
   KeptMessages messages;
-  test::FakeMainWindow window;
+  test::RecordedNotifications window;
   DesignState design;
   CHullwrightDoc document{design, window, messages};
 };
@@ -52,8 +51,7 @@ TEST_F(Document, OpenReplacesTheDesign)
 TEST_F(Document, OpenNotifiesRepaintThenTreeForEmptyingAndForFilling)
 {
   ASSERT_TRUE(Open(good));
-  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree,
-                                        Notification::RepaintDesign, Notification::RebuildTree));
+  EXPECT_THAT(window.list, ElementsAre("repaint", "tree", "repaint", "tree"));
 }
 
 TEST_F(Document, WhatWasOpenedStandsInTheDesignBeforeTheNotification)
@@ -82,7 +80,7 @@ TEST_F(Document, OpenLeavesTheSideInViewAndCarriedFieldsOfOffsets)
 TEST_F(Document, AMalformedFileAfterAGoodOneKeepsOffsetsAndUnit)
 {
   ASSERT_TRUE(Open(good));
-  window.codes.clear();
+  window.list.clear();
   EXPECT_FALSE(Open("<vessel><units id='9003'/><shapes view='02'/><gps x='9'/><anchor/><shapes>"));
   ASSERT_EQ(design.shapeGroups.size(), 1U);
   EXPECT_EQ(design.shapeGroups[0]->viewCode, ViewSide::Bottom);
@@ -90,7 +88,7 @@ TEST_F(Document, AMalformedFileAfterAGoodOneKeepsOffsetsAndUnit)
   EXPECT_EQ(design.offsetGps->x, 1.0);
   EXPECT_EQ(design.unitCode, UnitCode{9002});
   EXPECT_TRUE(messages.shown.empty());
-  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree));
+  EXPECT_THAT(window.list, ElementsAre("repaint", "tree"));
 }
 
 TEST_F(Document, AFileWithoutAUnitIsInMetres)
@@ -105,13 +103,13 @@ TEST_F(Document, AFileThatCannotBeOpenedIsReportedAndChangesNothing)
 {
   ASSERT_TRUE(Open(good));
   document.SetModifiedFlag(true);
-  window.codes.clear();
+  window.list.clear();
   EXPECT_FALSE(document.OnOpenDocument(folder.File("missing.xml")));
   EXPECT_FALSE(document.OnOpenDocument(folder.File("")));
   EXPECT_EQ(messages.shown.size(), 2U);
   EXPECT_EQ(design.shapeGroups.size(), 1U);
   EXPECT_TRUE(document.IsModified());
-  EXPECT_TRUE(window.codes.empty());
+  EXPECT_TRUE(window.list.empty());
 }
 
 TEST_F(Document, AFileWithoutReadPermissionIsReported)
@@ -152,7 +150,7 @@ TEST_F(Document, NewKeepsOffsetsUnitAndSide)
 {
   ASSERT_TRUE(Open(good));
   design.activeView = ViewSide::Left;
-  window.codes.clear();
+  window.list.clear();
   document.SetModifiedFlag(true);
   EXPECT_TRUE(document.OnNewDocument());
   EXPECT_TRUE(design.shapeGroups.empty());
@@ -161,21 +159,22 @@ TEST_F(Document, NewKeepsOffsetsUnitAndSide)
   EXPECT_EQ(design.unitCode, UnitCode{9002});
   EXPECT_EQ(design.activeView, ViewSide::Left);
   EXPECT_FALSE(document.IsModified());
-  EXPECT_THAT(window.codes, ElementsAre(Notification::RepaintDesign, Notification::RebuildTree));
+  EXPECT_THAT(window.list, ElementsAre("repaint", "tree"));
 }
 
 TEST_F(Document, BeforeThereIsAWindowEmptyingNotifiesNobody)
 {
   window.hasWindow = false;
   document.OnNewDocument();
-  EXPECT_TRUE(window.codes.empty());
+  EXPECT_TRUE(window.list.empty());
 }
 
 TEST_F(Document, SaveWritesTheDesignAndClearsTheModifiedFlag)
 {
   ASSERT_TRUE(Open(good));
+  window.list.clear();
   EXPECT_TRUE(document.OnSaveDocument(folder.File("out.xml")));
-  EXPECT_THAT(window.flags, ElementsAre(false));
+  EXPECT_THAT(window.list, ElementsAre("clean"));
   EXPECT_EQ(folder.Read("out.xml"),
             "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<vessel>\n <units id=\"9002\" />\n"
             " <shapes view=\"01\" >\n  <polyline>\n"
@@ -214,7 +213,7 @@ TEST_F(Document, AnEmptySlotEndsTheAnchorsOfASaveWithTheirOwnCursor)
 TEST_F(Document, SavingToAPathThatCannotBeWrittenCountsAsSaved)
 {
   EXPECT_TRUE(document.OnSaveDocument(folder.File("no-folder/out.xml")));
-  EXPECT_THAT(window.flags, ElementsAre(false));
+  EXPECT_THAT(window.list, ElementsAre("clean"));
   EXPECT_TRUE(messages.shown.empty());
 }
 
@@ -222,7 +221,7 @@ TEST_F(Document, SavingToAFullDiskIsReportedAndCountsAsSaved)
 {
   EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
-  EXPECT_THAT(window.flags, ElementsAre(false));
+  EXPECT_THAT(window.list, ElementsAre("clean"));
 }
 
 TEST_F(Document, ReportsWhetherASaveReachedTheDisk)

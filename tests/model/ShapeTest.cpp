@@ -167,5 +167,30 @@ TEST(Walk, AWalkInsideAWalkDisturbsTheOuterOne)
   EXPECT_EQ(seen, std::vector<int>{1});
 }
 
+TEST(Walk, ToAnEntryLeavesTheCursorBehindItAndEndsAtANullOne)
+{
+  OwnedArray<int> items;
+  for (int i = 1; i <= 4; ++i) items.push_back(i == 3 ? nullptr : std::make_unique<int>(i));
+  std::uint32_t cursor = 9;
+  EXPECT_EQ(WalkTo(cursor, items, [](int value) { return value == 2; }), items[1].get());
+  EXPECT_EQ(cursor, 2U);
+  EXPECT_EQ(WalkTo(cursor, items, [](int value) { return value == 4; }), nullptr);
+  EXPECT_EQ(cursor, 3U);
+}
+
+TEST(Entries, AreFoundBehindANullOne)
+{
+  OwnedArray<int> items;
+  items.push_back(nullptr);
+  for (const int i : {4, 5, 5}) items.push_back(std::make_unique<int>(i));
+  EXPECT_EQ(FindEntry(items, [](int value) { return value == 5; }), items[2].get());
+  EXPECT_EQ(FindEntry(items, [](int value) { return value == 6; }), nullptr);
+  EXPECT_TRUE(AnyEntry(items, [](int value) { return value == 4; }));
+  EXPECT_FALSE(AnyEntry(items, [](int value) { return value == 0; }));
+  EXPECT_TRUE(HoldsEntry(items, items[3].get()));
+  const int five = 5;
+  EXPECT_FALSE(HoldsEntry(items, &five));
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -38,13 +38,10 @@ protected:
   }
   ~DesignPane() override { widget.Detach(); }
 
+  /// Adds a polyline to the side in view.
   CShapePolyline& AddLine(std::initializer_list<CShapeVertex> vertices)
   {
-    auto line = std::make_unique<CShapePolyline>();
-    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
-    CShapePolyline& added = *line;
-    GetShapes(design.shapeGroups, design.activeView)->shapes.push_back(std::move(line));
-    return added;
+    return test::AddLine(design, design.activeView, vertices);
   }
 
   void Mouse(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)

@@ -4,7 +4,6 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QMimeData>
-#include <QStandardPaths>
 #include <QTest>
 #include <QUrl>
 #include <set>

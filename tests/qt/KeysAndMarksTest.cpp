@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
-#include <QToolBar>
 #include <QToolButton>
 #include <ostream>
 #include <set>

@@ -2,7 +2,6 @@
 
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
 
 #include "resources/GridDialog.h"

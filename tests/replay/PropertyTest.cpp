@@ -297,7 +297,7 @@ void ExpectSavedAsItIs(ReplayEditor& editor)
   const bool modified = editor.document.IsModified();
   editor.document.OnSaveDocument(path);
   editor.document.SetModifiedFlag(modified);
-  test::FakeMainWindow window;
+  test::RecordedNotifications window;
   KeptMessages messages;
   DesignState loaded;
   CHullwrightDoc document(loaded, window, messages);

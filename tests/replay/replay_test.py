@@ -77,8 +77,8 @@ def difference(expected, found, place=""):
     if isinstance(expected, list) and isinstance(found, list):
         if len(expected) != len(found):
             return f"{place} has {len(found)} entries instead of {len(expected)}: {json.dumps(found)[:400]}"
-        tolds = (difference(e, f, f"{place}/{i}") for i, (e, f) in enumerate(zip(expected, found)))
-        return next(filter(None, tolds), None)
+        reasons = (difference(e, f, f"{place}/{i}") for i, (e, f) in enumerate(zip(expected, found)))
+        return next(filter(None, reasons), None)
     numbers = all(isinstance(value, (int, float)) and not isinstance(value, bool) for value in (expected, found))
     if numbers and abs(expected - found) <= 1e-9 * max(1.0, abs(expected), abs(found)):
         return None

@@ -40,7 +40,7 @@ class Expectations(unittest.TestCase):
         script = '{"open":"a"}\n{"do":"new"}\n#= {"result":true}\n\n{"do":\\\n"save"}\n#= 1\n#= 2\n'
         self.assertEqual(expected(script), [(3, 0, {"result": True}), (7, 1, 1), (8, 1, 2)])
 
-    def test_what_cannot_be_read_is_told_with_its_line(self):
+    def test_what_cannot_be_read_is_reported_with_its_line(self):
         with self.assertRaisesRegex(ValueError, "^2: "):
             expected('{"do":"new"}\n#= {"result"}\n')
 

@@ -8,6 +8,7 @@
 #include "headless/KeptPointer.h"
 #include "headless/MemorySettings.h"
 #include "headless/ScriptedDialogs.h"
+#include "support/AddLine.h"
 #include "support/Fakes.h"
 #include "support/RecordedDrawing.h"
 #include "support/TempFolder.h"
@@ -27,6 +28,11 @@ protected:
   }
 
   int Frames() const { return recorder.Frames(); }
+
+  CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
+  {
+    return test::AddLine(app, side, vertices);
+  }
 
   MemorySettings settings;
   KeptMessages messages;

@@ -14,15 +14,6 @@ namespace hullwright::test {
 /// The application with its design commands, and their notifications.
 class CommandFixture : public AppFixture {
 protected:
-  CShapePolyline& AddLine(ViewSide side, const CShapeVertex& vertex)
-  {
-    auto line = std::make_unique<CShapePolyline>();
-    line->AddVertex(vertex.x, vertex.y, vertex.z);
-    CShapePolyline& added = *line;
-    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
-    return added;
-  }
-
   CShapePoint& AddPoint(ViewSide side, const CShapeVertex& position)
   {
     auto point = std::make_unique<CShapePoint>();

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <cmath>
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <utility>
@@ -11,6 +11,7 @@
 #include "base/Code.h"
 #include "base/Text.h"
 #include "dxf/FileDxf.h"
+#include "headless/KeptTrace.h"
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
 #include "model/ShapeText.h"
@@ -18,21 +19,6 @@
 #include "support/TempFolder.h"
 
 namespace hullwright::test {
-
-/// Keeps the records of the log as "level category: text".
-class FakeTrace : public ITrace {
-public:
-  void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
-             std::u16string_view text) const override
-  {
-    EXPECT_EQ(elapsedSeconds * 1000.0, std::round(elapsedSeconds * 1000.0));
-    seconds.push_back(elapsedSeconds);
-    records.push_back(std::to_string(NumberOf(level)) + " " + Utf8FromWide(category) + ": " +
-                      Utf8FromWide(text));
-  }
-  mutable std::vector<std::string> records;
-  mutable std::vector<double> seconds;
-};
 
 using Pairs = std::initializer_list<std::pair<int, std::string>>;
 
@@ -91,6 +77,23 @@ protected:
   /// Imports the records as the only section.
   void ImportEntities(const std::string& records) { ASSERT_EQ(Import(Entities(records)), 0); }
 
+  /// The log as "level category: text".
+  std::vector<std::string> Records() const
+  {
+    std::vector<std::string> list;
+    for (const KeptTrace::Record& record : log.records) {
+      list.push_back(std::to_string(NumberOf(record.level)) + " " + Utf8FromWide(record.category) +
+                     ": " + Utf8FromWide(record.text));
+    }
+    return list;
+  }
+
+  /// Whether the progress has ended as often as it has started.
+  bool ProgressHasEnded() const
+  {
+    return std::ranges::count(window.list, "end") == std::ranges::count(window.list, "start");
+  }
+
   const ImportTally& Tally() const { return file->Tally(); }
   const DxfLayers::Map& Layers() const { return file->Drawing().layers.All(); }
 
@@ -132,8 +135,8 @@ protected:
   }
 
   TempFolder folder;
-  FakeMainWindow window;
-  FakeTrace log;
+  RecordedNotifications window;
+  KeptTrace log;
   std::unique_ptr<CLayer> layer;
   std::unique_ptr<CFileDxf> file;
 };

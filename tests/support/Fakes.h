@@ -9,69 +9,40 @@
 
 #include "base/Code.h"
 #include "headless/NoTree.h"
-#include "headless/SilentWindow.h"
 #include "platform/Framework.h"
 #include "platform/MainWindowPort.h"
 
 namespace hullwright::test {
 
-/// A main window that only keeps its notifications.
-class FakeMainWindow : public IMainWindow {
+/// Records what a main window is notified of: "repaint", "tree", "modified", "clean", or a number;
+/// of an import "start", its percentages and "end".
+class RecordedNotifications : public IMainWindow {
 public:
   bool HasWindow() const override { return hasWindow; }
-  void Notify(Notification code) override
-  {
-    codes.push_back(code);
-    if (onNotification) onNotification();
-  }
-  void SetModifiedFlag(bool modified) override
-  {
-    flags.push_back(modified);
-    if (onNotification) onNotification();
-  }
-
-  void StartProgress(std::string_view text) override
-  {
-    ++starts;
-    isRunning = true;
-    progressText = text;
-  }
-  void ShowProgress(int percent) override { percents.push_back(percent); }
-  void EndProgress() override
-  {
-    ++ends;
-    isRunning = false;
-  }
-
-  bool hasWindow = true;
-  std::vector<Notification> codes;
-  std::vector<int> percents;
-  int starts = 0;  ///< of an import, and how many of them have ended
-  int ends = 0;
-  bool isRunning = false;
-  std::string_view progressText;
-  std::vector<bool> flags;
-  std::function<void()> onNotification;  ///< called at each notification
-};
-
-/// Records what a main frame is notified of: "repaint", "tree", "modified", "clean", or a number;
-/// of an import "start", its percentages and "end".
-class RecordedNotifications : public SilentWindow {
-public:
   void Notify(Notification code) override
   {
     list.emplace_back(code == Notification::RepaintDesign ? "repaint"
                       : code == Notification::RebuildTree ? "tree"
                                                           : std::to_string(NumberOf(code)));
+    if (onNotification) onNotification();
   }
   void SetModifiedFlag(bool modified) override
   {
     list.emplace_back(modified ? "modified" : "clean");
+    if (onNotification) onNotification();
   }
-  void StartProgress(std::string_view) override { list.emplace_back("start"); }
+  void StartProgress(std::string_view text) override
+  {
+    list.emplace_back("start");
+    progressText = text;
+  }
   void ShowProgress(int percent) override { list.push_back(std::to_string(percent) + " %"); }
   void EndProgress() override { list.emplace_back("end"); }
+
+  bool hasWindow = true;
   std::vector<std::string> list;
+  std::string_view progressText;         ///< of the last import
+  std::function<void()> onNotification;  ///< called at each notification of a change
 };
 
 /// Writes down what the frame shows.

@@ -1,12 +1,10 @@
 #pragma once
 
 #include <initializer_list>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "base/Text.h"
-#include "model/ShapePolyline.h"
 #include "support/AppFixture.h"
 
 namespace hullwright::test {
@@ -18,15 +16,6 @@ protected:
   {
     pane.BuildTree();
     control.rebuilds = 0;
-  }
-
-  CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
-  {
-    auto line = std::make_unique<CShapePolyline>();
-    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
-    CShapePolyline& added = *line;
-    GetShapes(app.shapeGroups, side)->shapes.push_back(std::move(line));
-    return added;
   }
 
   /// The item at a path of child numbers from the top: 0 the design, 1 the anchors.
@@ -69,8 +58,8 @@ protected:
     pane.OnCommand(id);
   }
 
-  /// whether the last command notified all three: a repaint, a rebuild and a modified document.
-  bool ToldAll()
+  /// Whether the last command notified all three: a repaint, a rebuild and a modified document.
+  bool NotifiedAll()
   {
     const bool notified = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
     const bool silent = Frames() == 0 && control.rebuilds == 0 && !document.IsModified();

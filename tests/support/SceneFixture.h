@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "model/DesignState.h"
-#include "model/ShapePolyline.h"
 #include "render/Canvas.h"
 #include "render/ViewPort.h"
+#include "support/AddLine.h"
 #include "support/RecordedDrawing.h"
 
 namespace hullwright::test {
@@ -36,11 +36,7 @@ protected:
 
   CShapePolyline& AddLine(ViewSide side, std::initializer_list<CShapeVertex> vertices)
   {
-    auto line = std::make_unique<CShapePolyline>();
-    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
-    CShapePolyline& added = *line;
-    GetShapes(design.shapeGroups, side)->shapes.push_back(std::move(line));
-    return added;
+    return test::AddLine(design, side, vertices);
   }
 
   CAnchor& AddAnchor(std::uint32_t id, double x, double y)

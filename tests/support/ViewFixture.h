@@ -2,17 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Code.h"
 #include "headless/KeptMessages.h"
 #include "headless/KeptPointer.h"
-#include "model/ShapePolyline.h"
 #include "platform/MainWindowPort.h"
+#include "support/AddLine.h"
 #include "support/RecordedDrawing.h"
 #include "view/HullwrightView.h"
 
@@ -84,13 +84,10 @@ protected:
 
   int Frames() const { return recorder.Frames(); }
 
+  /// Adds a polyline to the side in view.
   CShapePolyline& AddLine(std::initializer_list<CShapeVertex> vertices)
   {
-    auto line = std::make_unique<CShapePolyline>();
-    for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
-    CShapePolyline& added = *line;
-    GetShapes(design.shapeGroups, design.activeView)->shapes.push_back(std::move(line));
-    return added;
+    return test::AddLine(design, design.activeView, vertices);
   }
 
   CAnchor& AddAnchor(double x, double y)

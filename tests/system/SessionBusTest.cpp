@@ -60,7 +60,7 @@ public:
     return greeting;
   }
 
-  /// Takes one caller in and hangs up without a word.
+  /// Takes one caller in and hangs up without an answer.
   void HangUp() const { close(accept(socket_, nullptr, nullptr)); }
 
   /// Calls until the queue is full.

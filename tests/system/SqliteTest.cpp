@@ -51,6 +51,7 @@ public:
   int stepResult = 101;  ///< behind the rows
   std::vector<Row> rows;
   std::vector<std::string> calls;
+  std::string query;  ///< the last one, as long as it was stated to be
 
 private:
   static int Said(const char* call, int result)
@@ -67,8 +68,10 @@ private:
     return Said("open", one_->openResult);
   }
   static int Close(sqlite3*) { return Said("close", 0); }
-  static int Prepare(sqlite3*, const char*, int, sqlite3_stmt** statement, const char**)
+  static int Prepare(sqlite3*, const char* query, int length, sqlite3_stmt** statement,
+                     const char**)
   {
+    one_->query.assign(query, static_cast<std::size_t>(length));
     *statement = reinterpret_cast<sqlite3_stmt*>(one_);
     one_->next_ = 0;
     return Said("prepare", 0);
@@ -181,6 +184,12 @@ TEST_F(SqliteBinding, AnOpenWithoutAHandleFailsWithoutAText)
   }
   EXPECT_EQ(sqlite.lastError, u"");
   EXPECT_THAT(library.calls, ElementsAre("open", "open"));
+}
+
+TEST_F(SqliteBinding, TheQueryIsPassedWithItsLength)
+{
+  ReadUnits(library, messages, u"geo.db");
+  EXPECT_EQ(library.query, "SELECT * FROM tblUnits WHERE numDimension = 1 ORDER BY numId");
 }
 
 TEST_F(SqliteBinding, ACodeThatIsNullKeepsThatOfTheRowBefore)

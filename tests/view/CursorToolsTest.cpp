@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
 #include "base/Code.h"
-#include "model/ShapePoint.h"
 #include "resources/CommandIds.h"
 #include "support/ViewFixture.h"
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <utility>
+
+#include "model/DesignState.h"
+#include "model/ShapePolyline.h"
+
+namespace hullwright::test {
+
+/// Adds a polyline to the group of a side, which is made if need be.
+inline CShapePolyline& AddLine(DesignState& design, ViewSide side,
+                               std::initializer_list<CShapeVertex> vertices)
+{
+  auto line = std::make_unique<CShapePolyline>();
+  for (const CShapeVertex& v : vertices) line->AddVertex(v.x, v.y, v.z);
+  CShapePolyline& added = *line;
+  GetShapes(design.shapeGroups, side)->shapes.push_back(std::move(line));
+  return added;
+}
+
+}  // namespace hullwright::test
