@@ -7,11 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-from rows import Measurement
-
-
-class WrongResult(Exception):
-    """A program has not done its work."""
+from rows import Measurement, WrongResult
 
 
 def surroundings(home):

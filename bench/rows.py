@@ -5,7 +5,12 @@ import statistics
 
 FASTER = "times as fast"  # the peer's time over ours: at least the figure
 SLOWER = "times its time"  # our time over the peer's: at most the figure
+ALIKE = 1.4  # how far the work of two sides may differ
 SIZE = "size"  # our value alone: at most the figure
+
+
+class WrongResult(Exception):
+    """A program has not done its work."""
 
 
 @dataclasses.dataclass(frozen=True)
@@ -19,6 +24,7 @@ class Row:
     kind: str
     wanted: float | None
     unit: str = "ms"
+    alike: str = "ink"  # a counter of both sides, if they have it, that must be about the same: they did the same work
 
 
 ROWS = [
@@ -31,6 +37,17 @@ ROWS = [
     Row("open a 20 MB design", "open/design/ours", "open/design/expat", "Expat", SLOWER, 1.3),
     Row("open a 20 MB design", "open/design/ours", "open/design/pugixml", "pugixml (a tree)", SLOWER, None),
     Row("save it", "save/design/ours", "save/design/fprintf", "fprintf", FASTER, 12.0),
+    *(Row(f"frame of {what}, width {width}", f"frame/{name}-{width}/ours", f"frame/{name}-{width}/qpainter", "drawPolyline",
+          FASTER, figure)
+      for name, what, figures in (("window", "100,000 vertices", (2.0, 10.0)),
+                                  ("outside", "1 million vertices, 99 % outside", (3.0, 50.0)),
+                                  ("zoomed-out", "1 million vertices, zoomed out", (2.5, 15.0)))
+      for width, figure in zip((1, 2), figures)),
+    Row("drag a vertex of 100,000", "drag/window-1/ours", "frame/window-1/qpainter", "a drawPolyline frame", FASTER, 2.0),
+    Row("wheel, a notch out and in", "wheel/window-1/ours", "wheel/window-1/qpainter", "two drawPolyline frames", FASTER,
+        2.0),
+    Row("hover over 1 million vertices", "hover/outside/ours", "hover/outside/pass", "one pass over them", SLOWER, 1.5),
+    Row("tree of 50,000 polylines", "tree/polylines/ours", "tree/polylines/qtreewidget", "QTreeWidget", FASTER, 200.0),
 ]
 
 
@@ -47,6 +64,8 @@ GROWTH = [
     Growth("import", ("import/mix-100th/ours", "import/mix-10th/ours", "import/mix/ours"), "bytes"),
     Growth("open", ("open/design-100th/ours", "open/design-10th/ours", "open/design/ours"), "bytes"),
     Growth("save", ("save/design-100th/ours", "save/design-10th/ours", "save/design/ours"), "bytes"),
+    Growth("frame", ("frame/few-1/ours", "frame/window-1/ours", "frame/crowd-1/ours"), "polylines"),
+    Growth("tree", ("tree/polylines-100th/ours", "tree/polylines-10th/ours", "tree/polylines/ours"), "polylines"),
 ]
 
 LINEAR = 1.2  # cost for each unit of work, at most so many times that of the smaller sizes
@@ -76,6 +95,7 @@ def cells(row, measured):
     ours, theirs = measured.get(row.ours), measured.get(row.theirs)
     if ours is None or (theirs is None and row.kind != SIZE):
         return None
+    check_alike(row, ours, theirs)
     noise = max(side.noise() for side in (ours, theirs) if side is not None)
     if row.kind == SIZE:
         value, shown = ours.median(), "%.1f"
@@ -88,6 +108,15 @@ def cells(row, measured):
     wanted = "" if row.wanted is None else ("at least " if row.kind == FASTER else "at most ") + f"{row.wanted:g}"
     return [row.work, row.peer, number(ours, row.unit), number(theirs, row.unit), shown % value,
             f"{100.0 * noise:.0f} %", wanted, "" if not wanted else "yes" if met else "no"]
+
+
+def check_alike(row, ours, theirs):
+    """Both sides must have done about the same work where they tell."""
+    if theirs is None or row.alike not in ours.counters or row.alike not in theirs.counters:
+        return
+    quotient = ours.counters[row.alike] / theirs.counters[row.alike]
+    if not 1.0 / ALIKE <= quotient <= ALIKE:
+        raise WrongResult(f"{row.work}: {row.alike} is {quotient:.2f} times that of {row.peer}")
 
 
 def number(measurement, unit):
