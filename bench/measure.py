@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -41,7 +42,7 @@ def gathered(runs):
         if run["run_type"] != "iteration":
             continue
         counters = {key: value for key, value in run.items() if key not in known and isinstance(value, (int, float))}
-        measurement = measured.setdefault(run["run_name"].removesuffix("/process_time"), Measurement([], counters))
+        measurement = measured.setdefault(re.sub("(/iterations:1)?/process_time$", "", run["run_name"]), Measurement([], counters))
         measurement.values.append(run["cpu_time"] * scales[run["time_unit"]])
     return measured
 

@@ -24,6 +24,7 @@ class Row:
     kind: str
     wanted: float | None
     unit: str = "ms"
+    counter: str = ""  # what the program counted, in the place of the time
     alike: str = "ink"  # a counter of both sides, if they have it, that must be about the same: they did the same work
 
 
@@ -48,6 +49,13 @@ ROWS = [
         2.0),
     Row("hover over 1 million vertices", "hover/outside/ours", "hover/outside/pass", "one pass over them", SLOWER, 1.5),
     Row("tree of 50,000 polylines", "tree/polylines/ours", "tree/polylines/qtreewidget", "QTreeWidget", FASTER, 200.0),
+    Row("start to the first frame", "start/ours", "start/minimal", "a minimal Qt window", SLOWER, 1.5),
+    Row("start until nothing is left to do", "rest/ours", "rest/minimal", "a minimal Qt window", SLOWER, None),
+    Row("peak memory at the first frame", "peak/ours", "peak/minimal", "a minimal Qt window", SIZE, 45.0, "MB"),
+    Row("memory of a vertex of a loaded design", "memory/vertex/ours", "", "", SIZE, 68.0, "bytes", counter="bytes_a_vertex"),
+    Row("peak memory of hullwright-cli import, 20 MB mix", "memory/import/ours", "", "size of the drawing", SIZE, 5.0,
+        "times"),
+    Row("hullwright-cli render, 20 MB mix", "render/mix/ours", "render/mix/gdal", "gdal_rasterize", FASTER, 1.0),
 ]
 
 
@@ -95,6 +103,8 @@ def cells(row, measured):
     ours, theirs = measured.get(row.ours), measured.get(row.theirs)
     if ours is None or (theirs is None and row.kind != SIZE):
         return None
+    if row.counter:
+        ours = Measurement([ours.counters[row.counter]], {})
     check_alike(row, ours, theirs)
     noise = max(side.noise() for side in (ours, theirs) if side is not None)
     if row.kind == SIZE:
