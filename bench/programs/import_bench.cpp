@@ -76,7 +76,7 @@ void ReadAll(benchmark::State& state, const std::string& name, const Drawings& d
     if (!SameAsBefore(state, name, sum.entities + sum.vertices)) return;
     state.ResumeTiming();
   }
-  state.counters["entities"] = static_cast<double>(sum.entities);
+  state.counters["shapes"] = static_cast<double>(sum.entities);
   state.counters["vertices"] = static_cast<double>(sum.vertices);
 }
 
