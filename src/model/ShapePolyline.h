@@ -22,7 +22,10 @@ public:
   void RemoveVertex(const CShapeVertex* vertex) override;
   bool IsVisible(const CViewPort& viewPort) const override;
 
-  void AddVertex(double x, double y, double z);
+  void AddVertex(double x, double y, double z)
+  {
+    vertices.push_back(std::make_unique<CShapeVertex>(x, y, z));
+  }
 
   /// Appends copies of all vertices of `source` up to its first null entry, all six fields, walking
   /// it with its own cursor. Null does nothing.

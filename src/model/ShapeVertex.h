@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/SlabPool.h"
 #include "model/Units.h"
 
 namespace hullwright {
@@ -55,6 +56,23 @@ public:
   double y = 0.0;
   double z = 0.0;
 };
+
+#ifndef HULLWRIGHT_SANITIZE
+/// A place for all vertices. Never destroyed, so that vertices of static objects find it whenever
+/// they go.
+union VertexPool {
+  constexpr VertexPool() : slabs() {}
+  VertexPool(const VertexPool&) = delete;
+  VertexPool& operator=(const VertexPool&) = delete;
+  ~VertexPool() {}
+
+  SlabPool<sizeof(CShapeVertex)> slabs;
+};
+inline constinit VertexPool vertexPool;
+
+inline void* CShapeVertex::operator new(std::size_t) { return vertexPool.slabs.Take(); }
+inline void CShapeVertex::operator delete(void* place) { vertexPool.slabs.GiveBack(place); }
+#endif
 
 /// Distance of `p` from the segment a-b in the x-y plane. False, with `distance` untouched, for a
 /// segment without length and for a point behind `a`; a point beyond `b` gets the distance to the
