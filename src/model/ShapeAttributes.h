@@ -27,7 +27,7 @@ public:
   virtual CShapeAttributes& AppendFrom(const CShapeAttributes& source);
 
   /// Appends one pair.
-  void Append(std::u16string_view name, std::u16string_view value);
+  void Append(std::u16string_view name, std::u16string value);
 
   OwnedArray<ShapeAttribute> items;
   mutable std::uint32_t cursor = 0;
