@@ -16,12 +16,8 @@ public:
   CShapeVertex(double wx, double wy, double wz) : x(wx), y(wy), z(wz) {}
   CShapeVertex(const CShapeVertex& v) = default;
 
-  // An imported drawing has millions of vertices, so they come from slabs. The address sanitizer
-  // watches single allocations and gets those.
-#ifndef HULLWRIGHT_SANITIZE
-  static void* operator new(std::size_t size);
-  static void operator delete(void* place);
-#endif
+  static void* operator new(std::size_t) { return TakePlace<CShapeVertex>(); }
+  static void operator delete(void* place) { GiveBackPlace<CShapeVertex>(place); }
 
   /// Copies all six fields.
   virtual CShapeVertex& operator=(const CShapeVertex& v);
@@ -56,23 +52,6 @@ public:
   double y = 0.0;
   double z = 0.0;
 };
-
-#ifndef HULLWRIGHT_SANITIZE
-/// A place for all vertices. Never destroyed, so that vertices of static objects find it whenever
-/// they go.
-union VertexPool {
-  constexpr VertexPool() : slabs() {}
-  VertexPool(const VertexPool&) = delete;
-  VertexPool& operator=(const VertexPool&) = delete;
-  ~VertexPool() {}
-
-  SlabPool<sizeof(CShapeVertex)> slabs;
-};
-inline constinit VertexPool vertexPool;
-
-inline void* CShapeVertex::operator new(std::size_t) { return vertexPool.slabs.Take(); }
-inline void CShapeVertex::operator delete(void* place) { vertexPool.slabs.GiveBack(place); }
-#endif
 
 /// Distance of `p` from the segment a-b in the x-y plane. False, with `distance` untouched, for a
 /// segment without length and for a point behind `a`; a point beyond `b` gets the distance to the
