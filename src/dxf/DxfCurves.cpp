@@ -1,6 +1,5 @@
 #include "dxf/DxfCurves.h"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -54,12 +53,18 @@ BulgeArc ArcOfBulge(const DxfPoint& p, const DxfPoint& q, double bulge)
           AngleOf(c, q, Distance(c, q)) * degreesPerRadian};
 }
 
-/// How many vertices they are flattened to, or a few more.
+/// How many vertices they are flattened to, or a few more; some of very many. An arc between
+/// vertices in the same place has hardly any.
 std::size_t FlattenedCount(const std::vector<CFileDxfVertex>& vertices)
 {
-  const auto bulges = static_cast<std::size_t>(std::ranges::count_if(
-      vertices, [](const CFileDxfVertex& vertex) { return vertex.bulge != 0.0; }));
-  return vertices.size() + bulges * (mostArcVertices - 1);
+  constexpr std::size_t veryMany = std::size_t{1} << 20U;
+  std::size_t count = vertices.size();
+  for (std::size_t i = 0; i + 1 < vertices.size() && count < veryMany; ++i) {
+    const CFileDxfVertex& p = vertices[i];
+    const CFileDxfVertex& q = vertices[i + 1];
+    if (p.bulge != 0.0 && (p.x != q.x || p.y != q.y)) count += mostArcVertices - 1;
+  }
+  return count;
 }
 
 }  // namespace
