@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -7,12 +9,13 @@
 namespace hullwright {
 
 /// Room for many small objects of one size, taken from large slabs: a piece costs little more than
-/// its own bytes and next to no time. A slab whose pieces have all been given back goes, but for
-/// one that is kept for the next piece. For one thread.
+/// its own bytes and next to no time. A slab whose pieces have all been given back goes. What is
+/// given back is noted in the head of its slab, so that no piece is touched for it: those of a
+/// large design have long left the processor's caches when it goes. For one thread.
 template <std::size_t PieceSize>
 class SlabPool {
 public:
-  SlabPool() = default;
+  constexpr SlabPool() = default;
   SlabPool(const SlabPool&) = delete;
   SlabPool& operator=(const SlabPool&) = delete;
 
@@ -24,59 +27,71 @@ public:
 
   void* Take()
   {
-    if (open_ == nullptr) AddSlab();
-    Slab* const slab = open_;
-    Piece* const piece = slab->free;
-    slab->free = piece->next;
-    ++slab->taken;
-    if (slab->free == nullptr) Unlink(slab);
-    return piece;
+    if (open_ != nullptr) return TakeAgain();
+    if (fresh_ == freshEnd_) AddSlab();
+    std::byte* const place = fresh_;
+    fresh_ += PieceSize;
+    return place;
   }
 
   void GiveBack(void* place)
   {
     if (place == nullptr) return;
     Slab* const slab = SlabOf(place);
-    if (slab->free == nullptr) Link(slab);
-    slab->free = new (place) Piece{slab->free};
-    const bool only = slab == open_ && slab->next == nullptr;
-    if (--slab->taken == 0 && !only) Release(slab);
+    if (slab->taken == piecesInSlab) Link(slab);
+    const std::size_t piece = (OffsetInSlab(place) - sizeof(Slab)) / PieceSize;
+    slab->free[piece / wordBits] |= std::uint64_t{1} << (piece % wordBits);
+    if (--slab->taken == 0) Release(slab);
   }
 
 private:
-  struct Piece {
-    Piece* next;
-  };
+  // Slabs stand at multiples of their reach, so that a piece knows its own. They are a little
+  // smaller: the heap puts a few bytes between them, and would leave gaps as large as a slab.
+  static constexpr std::size_t slabReach = std::size_t{1} << 16U;
+  static constexpr std::size_t slabSize = slabReach - 64;
+  static constexpr auto alignment = static_cast<std::align_val_t>(slabReach);
+  static constexpr std::size_t wordBits = 64;
 
-  /// Begins each slab. Slabs stand at multiples of their size, so that a piece knows its own.
+  /// Begins each slab.
   struct alignas(std::max_align_t) Slab {
     Slab* previous;
     Slab* next;
-    Piece* free;  ///< null when every piece is taken
-    std::size_t taken;
+    std::size_t taken;  ///< pieces that have not been given out yet count as well
+    std::array<std::uint64_t, slabSize / PieceSize / wordBits + 1> free;  ///< bits of pieces
   };
 
-  static constexpr std::size_t slabSize = std::size_t{1} << 16U;
   static constexpr std::size_t piecesInSlab = (slabSize - sizeof(Slab)) / PieceSize;
-  static constexpr auto alignment = static_cast<std::align_val_t>(slabSize);
-  static_assert(PieceSize >= sizeof(Piece) && PieceSize % alignof(std::max_align_t) == 0);
+  static_assert(PieceSize % alignof(std::max_align_t) == 0);
+
+  static std::size_t OffsetInSlab(void* place)
+  {
+    return reinterpret_cast<std::uintptr_t>(place) & (slabReach - 1);
+  }
 
   static Slab* SlabOf(void* place)
   {
-    auto* const bytes = static_cast<std::byte*>(place);
-    const auto offset = reinterpret_cast<std::uintptr_t>(place) & (slabSize - 1);
-    return std::launder(reinterpret_cast<Slab*>(bytes - offset));
+    return std::launder(
+        reinterpret_cast<Slab*>(static_cast<std::byte*>(place) - OffsetInSlab(place)));
+  }
+
+  /// A piece that was given back.
+  void* TakeAgain()
+  {
+    Slab* const slab = open_;
+    std::size_t word = 0;
+    while (slab->free[word] == 0) ++word;
+    const auto bit = static_cast<std::size_t>(std::countr_zero(slab->free[word]));
+    slab->free[word] &= slab->free[word] - 1;
+    if (++slab->taken == piecesInSlab) Unlink(slab);
+    return reinterpret_cast<std::byte*>(slab) + sizeof(Slab) + (word * wordBits + bit) * PieceSize;
   }
 
   void AddSlab()
   {
     auto* const bytes = static_cast<std::byte*>(::operator new(slabSize, alignment));
-    Piece* free = nullptr;
-    // In the order of their places, so that what is made together lies together.
-    for (std::size_t i = piecesInSlab; i-- > 0;) {
-      free = new (bytes + sizeof(Slab) + i * PieceSize) Piece{free};
-    }
-    Link(new (bytes) Slab{nullptr, nullptr, free, 0});
+    new (bytes) Slab{nullptr, nullptr, piecesInSlab, {}};
+    fresh_ = bytes + sizeof(Slab);
+    freshEnd_ = fresh_ + piecesInSlab * PieceSize;
   }
 
   void Release(Slab* slab)
@@ -100,7 +115,46 @@ private:
     if (open_ == slab) open_ = slab->next;
   }
 
-  Slab* open_ = nullptr;  ///< the slabs with room
+  Slab* open_ = nullptr;           ///< the slabs with pieces that were given back
+  std::byte* fresh_ = nullptr;     ///< the next piece that was never given out
+  std::byte* freshEnd_ = nullptr;  ///< the end of its slab
 };
+
+/// The slabs of a class. Never destroyed, so that static objects find them whenever they go.
+template <class T>
+union SlabsOf {
+  constexpr SlabsOf() : pool() {}
+  SlabsOf(const SlabsOf&) = delete;
+  SlabsOf& operator=(const SlabsOf&) = delete;
+  ~SlabsOf() {}
+
+  SlabPool<(sizeof(T) + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1)> pool;
+};
+
+template <class T>
+inline constinit SlabsOf<T> slabsOf;
+
+// For the operators `new` and `delete` of a class that nothing derives from and of which a drawing
+// brings many. The address sanitizer watches single allocations and gets those.
+
+template <class T>
+void* TakePlace()
+{
+#ifdef HULLWRIGHT_SANITIZE
+  return ::operator new(sizeof(T));
+#else
+  return slabsOf<T>.pool.Take();
+#endif
+}
+
+template <class T>
+void GiveBackPlace(void* place)
+{
+#ifdef HULLWRIGHT_SANITIZE
+  ::operator delete(place);
+#else
+  slabsOf<T>.pool.GiveBack(place);
+#endif
+}
 
 }  // namespace hullwright

@@ -4,10 +4,12 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "dxf/CopyBudget.h"
 #include "dxf/DxfLayers.h"
 #include "dxf/FileDxfBlock.h"
+#include "dxf/FileDxfVertex.h"
 #include "dxf/ImportTally.h"
 #include "dxf/OpenPolyline.h"
 #include "platform/Trace.h"
@@ -34,6 +36,7 @@ struct DxfContext {
   DxfLayers layers;
   DxfBlocks blocks;
   OpenPolyline polyline;
+  std::vector<CFileDxfVertex> vertices;  ///< of the polyline in one record that is being read
   CopyBudget copyBudget;
   ImportTally tally;
   const bool ignoreExtrusion;

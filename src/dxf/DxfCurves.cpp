@@ -1,10 +1,7 @@
 #include "dxf/DxfCurves.h"
 
-#include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <numbers>
-#include <utility>
 
 #include "model/Angle.h"
 
@@ -14,6 +11,7 @@ namespace hullwright {
 namespace {
 
 constexpr double twoPi = 2.0 * std::numbers::pi;
+constexpr std::size_t mostArcVertices = 183;  // but for angles so large that steps are rounded
 constexpr double quarterTurn = std::numbers::pi / 2.0;
 
 /// The angle of the direction from one point to another that is `distance` away, from 0 to 2 pi.
@@ -55,25 +53,29 @@ BulgeArc ArcOfBulge(const DxfPoint& p, const DxfPoint& q, double bulge)
           AngleOf(c, q, Distance(c, q)) * degreesPerRadian};
 }
 
-}  // namespace
-
-void AddWorldVertex(CShapePolyline& line, const DxfPoint& point, const Extrusion& toWorld)
+/// How many vertices they are flattened to, or a few more; some of very many. An arc between
+/// vertices in the same place has hardly any.
+std::size_t FlattenedCount(const std::vector<CFileDxfVertex>& vertices)
 {
-  const DxfPoint p = toWorld(point);
-  line.AddVertex(p.x, p.y, p.z);
+  constexpr std::size_t veryMany = std::size_t{1} << 20U;
+  std::size_t count = vertices.size();
+  for (std::size_t i = 0; i + 1 < vertices.size() && count < veryMany; ++i) {
+    const CFileDxfVertex& p = vertices[i];
+    const CFileDxfVertex& q = vertices[i + 1];
+    if (p.bulge != 0.0 && (p.x != q.x || p.y != q.y)) count += mostArcVertices - 1;
+  }
+  return count;
 }
 
-std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion& toWorld,
-                                        double radius, double startDegrees, double endDegrees,
-                                        bool clockwise)
+}  // namespace
+
+void AppendArc(CShapePolyline& line, const DxfPoint& centre, const Extrusion& toWorld,
+               double radius, double startDegrees, double endDegrees, bool clockwise)
 {
   constexpr double nearlyEqual = 1e-10;
   constexpr double steps = 180.0;
-  constexpr std::size_t usualVertices = 182;
-  auto arc = std::make_unique<CShapePolyline>();
-  arc->vertices.reserve(usualVertices);
   const auto emit = [&](double t) {
-    AddWorldVertex(*arc,
+    AddWorldVertex(line,
                    {centre.x + radius * std::cos(t), centre.y + radius * std::sin(t), centre.z},
                    toWorld);
   };
@@ -90,6 +92,15 @@ std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion&
     t = next;
   }
   emit(b);
+}
+
+std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion& toWorld,
+                                        double radius, double startDegrees, double endDegrees,
+                                        bool clockwise)
+{
+  auto arc = std::make_unique<CShapePolyline>();
+  arc->vertices.reserve(mostArcVertices);
+  AppendArc(*arc, centre, toWorld, radius, startDegrees, endDegrees, clockwise);
   return arc;
 }
 
@@ -113,32 +124,19 @@ std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrus
   return ellipse;
 }
 
-std::unique_ptr<CShapePolyline> FlattenVertices(std::vector<CFileDxfVertex>& vertices,
-                                                const Extrusion& toWorld)
-{
-  const std::vector<CFileDxfVertex> route = std::exchange(vertices, {});
-  if (route.empty()) return nullptr;
-  auto flat = std::make_unique<CShapePolyline>();
-  for (std::size_t i = 0; i < route.size(); ++i) {
-    const CFileDxfVertex& p = route[i];
-    if (p.bulge == 0.0) {
-      AddWorldVertex(*flat, p.Point(), toWorld);
-    } else if (i + 1 < route.size()) {
-      const BulgeArc arc = ArcOfBulge(p.Point(), route[i + 1].Point(), p.bulge);
-      const auto curve =
-          MakeArc(arc.centre, toWorld, arc.radius, arc.startDegrees, arc.endDegrees, p.bulge < 0.0);
-      std::ranges::move(curve->vertices, std::back_inserter(flat->vertices));
-    }  // the last vertex has no segment of its own, so with a bulge it is lost
-  }
-  return flat;
-}
-
-void AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& vertices,
+void AppendFlattened(CShapePolyline& shape, const std::vector<CFileDxfVertex>& vertices,
                      const Extrusion& toWorld)
 {
-  // The flattened polyline goes at once, so its vertices move over instead of being copied.
-  if (const auto flat = FlattenVertices(vertices, toWorld)) {
-    std::ranges::move(flat->vertices, std::back_inserter(shape.vertices));
+  shape.vertices.reserve(shape.vertices.size() + FlattenedCount(vertices));
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    const CFileDxfVertex& p = vertices[i];
+    if (p.bulge == 0.0) {
+      AddWorldVertex(shape, p.Point(), toWorld);
+    } else if (i + 1 < vertices.size()) {
+      const BulgeArc arc = ArcOfBulge(p.Point(), vertices[i + 1].Point(), p.bulge);
+      AppendArc(shape, arc.centre, toWorld, arc.radius, arc.startDegrees, arc.endDegrees,
+                p.bulge < 0.0);
+    }  // the last vertex has no segment of its own, so with a bulge it is lost
   }
 }
 

@@ -12,9 +12,18 @@
 namespace hullwright {
 
 /// Adds a point as a vertex.
-void AddWorldVertex(CShapePolyline& line, const DxfPoint& point, const Extrusion& toWorld);
+inline void AddWorldVertex(CShapePolyline& line, const DxfPoint& point, const Extrusion& toWorld)
+{
+  const DxfPoint p = toWorld(point);
+  line.AddVertex(p.x, p.y, p.z);
+}
 
-/// An arc of about 182 vertices, whatever its size. The last two nearly or exactly coincide.
+/// Appends an arc of about 182 vertices, whatever its size. The last two nearly or exactly
+/// coincide.
+void AppendArc(CShapePolyline& line, const DxfPoint& centre, const Extrusion& toWorld,
+               double radius, double startDegrees, double endDegrees, bool clockwise);
+
+/// Such an arc by itself.
 std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion& toWorld,
                                         double radius, double startDegrees, double endDegrees,
                                         bool clockwise);
@@ -24,13 +33,8 @@ std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrus
                                             double rotationDegrees, double majorLength,
                                             double minorLength, double start, double end);
 
-/// A polyline of the vertices with their bulges as arcs; null for an empty list. Empties the list,
-/// also when memory ends here.
-std::unique_ptr<CShapePolyline> FlattenVertices(std::vector<CFileDxfVertex>& vertices,
-                                                const Extrusion& toWorld);
-
-/// Appends the flattened vertices to a shape, and empties the list.
-void AppendFlattened(CShapePolyline& shape, std::vector<CFileDxfVertex>& vertices,
+/// Appends vertices with their bulges as arcs to a shape.
+void AppendFlattened(CShapePolyline& shape, const std::vector<CFileDxfVertex>& vertices,
                      const Extrusion& toWorld);
 
 }  // namespace hullwright

@@ -1,15 +1,7 @@
 #include "dxf/DxfEntity.h"
 
-#include "base/Numbers.h"
-
 namespace hullwright {
 namespace {
-
-constexpr bool IsNumber(DxfCode code)
-{
-  const auto group = static_cast<std::int32_t>(code);
-  return (group >= 10 && group < 60) || (group >= 210 && group < 240);
-}
 
 /// The code of a coordinate of the point whose x has the code `x`.
 constexpr DxfCode Coordinate(DxfCode x, int axis)
@@ -22,7 +14,7 @@ constexpr DxfCode Coordinate(DxfCode x, int axis)
 
 DxfEntity::DxfEntity(std::int32_t colour) : colour_(colour) { SetDefault(DxfCode::NormalZ, 1.0); }
 
-void DxfEntity::Take(DxfCode code, std::string_view value)
+void DxfEntity::TakeOther(DxfCode code, std::string_view value)
 {
   switch (code) {
     case DxfCode::Name: name_ = value; return;
@@ -31,9 +23,8 @@ void DxfEntity::Take(DxfCode code, std::string_view value)
     case DxfCode::Colour: colour_ = ParseInt32(value, 10); return;
     case DxfCode::PaperSpace: paperSpace_ = ParseInt32(value, 10); return;
     case DxfCode::Flags: flags_ = ParseInt32(value, 10); return;
-    default: break;
+    default: return;
   }
-  if (IsNumber(code)) numbers_[static_cast<std::size_t>(code)] = ParseDouble(value);
 }
 
 DxfPoint DxfEntity::Point(DxfCode x) const

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/Numbers.h"
 #include "dxf/DxfCode.h"
 #include "dxf/DxfLines.h"
 #include "dxf/DxfPoint.h"
@@ -23,13 +24,20 @@ public:
   explicit DxfEntity(std::int32_t colour = colourByLayer);
 
   /// Takes a group in.
-  void Take(DxfCode code, std::string_view value);
+  void Take(DxfCode code, std::string_view value)
+  {
+    if (IsNumber(code)) {
+      numbers_[PlaceOf(code)] = ParseDouble(value);
+    } else {
+      TakeOther(code, value);
+    }
+  }
 
   /// Value of a group from 10 to 59 or 210 to 239; 0.0 if the record has none.
-  double Number(DxfCode code) const { return numbers_[static_cast<std::size_t>(code)]; }
+  double Number(DxfCode code) const { return numbers_[PlaceOf(code)]; }
 
   /// Gives a group a default other than 0.0.
-  void SetDefault(DxfCode code, double value) { numbers_[static_cast<std::size_t>(code)] = value; }
+  void SetDefault(DxfCode code, double value) { numbers_[PlaceOf(code)] = value; }
 
   /// The point whose x has this code.
   DxfPoint Point(DxfCode x) const;
@@ -48,13 +56,38 @@ public:
   bool IsInPaperSpace() const { return paperSpace_ == 1; }
 
 private:
+  // Numbers have codes from 10 to 59 and from 210 to 239. An entity is made for each record, so its
+  // table has no places for others, which would have to be cleared as well.
+  static constexpr int lowest = 10;
+  static constexpr int lowCount = 50;
+  static constexpr int highest = 239;
+  static constexpr int highCount = 30;
+
+  static constexpr bool IsNumber(DxfCode code)
+  {
+    const auto group = static_cast<int>(code);
+    return (group >= lowest && group < lowest + lowCount) ||
+           (group > highest - highCount && group <= highest);
+  }
+
+  /// Where a number stands.
+  static constexpr std::size_t PlaceOf(DxfCode code)
+  {
+    const auto group = static_cast<int>(code);
+    const int place =
+        group < lowest + lowCount ? group - lowest : group - highest + highCount + lowCount - 1;
+    return static_cast<std::size_t>(place);
+  }
+
+  void TakeOther(DxfCode code, std::string_view value);
+
   std::string_view name_;
   std::string_view handle_;
   std::string_view layerName_;
   std::int32_t colour_;
   std::int32_t paperSpace_ = 0;
   std::int32_t flags_ = 0;
-  std::array<double, 240> numbers_{};
+  std::array<double, lowCount + highCount> numbers_{};
 };
 
 /// Reads the groups of a record into `entity` and passes each on to `visit`. Application data is

@@ -58,11 +58,9 @@ const Keyword* FindKeyword(std::string_view line, DxfPlace place)
 
 bool IsRead(const Keyword* keyword) { return keyword != nullptr && keyword->read != skipped; }
 
-/// Takes a line of the walk, with its record if it starts a reader.
-void TakeLine(std::string_view line, DxfPlace place, DxfLines& lines, DxfContext& context,
-              CShapes& target)
+/// Takes the record of a line of the walk, if it starts a reader.
+void TakeLine(const Keyword* keyword, DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  const Keyword* const keyword = FindKeyword(line, place);
   if (IsRead(keyword)) {
     keyword->read(lines, context, target);
   } else if (keyword != nullptr) {
@@ -71,10 +69,10 @@ void TakeLine(std::string_view line, DxfPlace place, DxfLines& lines, DxfContext
 }
 
 /// Counts a record by its keyword.
-void CountKeyword(std::string_view line, DxfPlace place, ImportTally& tally)
+void CountKeyword(std::string_view line, const Keyword* keyword, DxfPlace place, ImportTally& tally)
 {
   if (place == DxfPlace::Section) tally.entities.Count(Trimmed(line));
-  if (!IsRead(FindKeyword(line, place))) tally.ignored.Count(Trimmed(line));
+  if (!IsRead(keyword)) tally.ignored.Count(Trimmed(line));
 }
 
 }  // namespace
@@ -90,9 +88,10 @@ bool ReadNextEntity(DxfLines& lines, DxfContext& context, DxfPlace place, CShape
     return false;
   }
   if (Contains(line, place == DxfPlace::Section ? "ENDSEC" : "ENDBLK")) return false;
-  if (isKeyword) CountKeyword(line, place, context.tally);
+  const Keyword* const keyword = FindKeyword(line, place);
+  if (isKeyword) CountKeyword(line, keyword, place, context.tally);
   try {
-    TakeLine(line, place, lines, context, target);
+    TakeLine(keyword, lines, context, target);
   } catch (const std::bad_alloc&) {
     // There is no memory for this entity; the next one may be smaller.
     ++context.tally.withoutMemory;

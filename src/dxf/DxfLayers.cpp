@@ -2,6 +2,15 @@
 
 namespace hullwright {
 
+/// Null for a layer that is not known.
+const CFileDxfLayer* DxfLayers::Find(std::string_view name) const
+{
+  if (last_ != nullptr && last_->name == name) return last_;
+  const auto layer = layers_.find(name);
+  last_ = layer == layers_.end() ? nullptr : &layer->second;
+  return last_;
+}
+
 void DxfLayers::Add(const CFileDxfLayer& layer)
 {
   if (!layer.name.empty()) layers_.try_emplace(layer.name, layer);
@@ -9,7 +18,7 @@ void DxfLayers::Add(const CFileDxfLayer& layer)
 
 void DxfLayers::AddImplicitLayer(std::string_view name, std::int32_t colour)
 {
-  if (layerTableSeen_ || layers_.contains(name)) return;
+  if (layerTableSeen_ || Find(name) != nullptr) return;
   CFileDxfLayer layer;
   layer.name = name;
   layer.colour = colour;
@@ -18,15 +27,15 @@ void DxfLayers::AddImplicitLayer(std::string_view name, std::int32_t colour)
 
 bool DxfLayers::IsLayerHidden(std::string_view name) const
 {
-  const auto layer = layers_.find(name);
-  return layer != layers_.end() && (layer->second.off || layer->second.frozen);
+  const CFileDxfLayer* const layer = Find(name);
+  return layer != nullptr && (layer->off || layer->frozen);
 }
 
 std::int32_t DxfLayers::ColourOf(std::string_view name) const
 {
   constexpr std::int32_t black = 0;
-  const auto layer = layers_.find(name);
-  return layer == layers_.end() ? black : layer->second.colour;
+  const CFileDxfLayer* const layer = Find(name);
+  return layer == nullptr ? black : layer->colour;
 }
 
 }  // namespace hullwright

@@ -35,7 +35,10 @@ public:
   bool LayerTableSeen() const { return layerTableSeen_; }
 
 private:
+  const CFileDxfLayer* Find(std::string_view name) const;
+
   Map layers_;
+  mutable const CFileDxfLayer* last_ = nullptr;  ///< found last: each entity asks several times
   bool layerTableSeen_ = false;
 };
 

@@ -2,42 +2,33 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
+
 namespace hullwright {
-namespace {
-
-std::string_view UpToNul(std::string_view line) { return line.substr(0, line.find('\0')); }
-
-}  // namespace
 
 DxfLines::DxfLines(std::string_view text)
-    : text_(text), unendedLength_(text.size() - (text.rfind('\n') + 1))
+    : text_(text),
+      at_(text.data()),
+      linesEnd_(text.data() + (text.rfind('\n') + 1)),
+      unendedLength_(text.size() - (text.rfind('\n') + 1)),
+      hasNul_(text.find('\0') != std::string_view::npos)
 {
 }
 
-bool DxfLines::Take(std::string_view& line, std::size_t maxChars)
+/// Any code line that is not blanks, digits and its end.
+bool DxfLines::GetUnusualCode(DxfCode& code)
 {
-  const std::string_view ahead = text_.substr(position_, maxChars);
-  const std::size_t end = ahead.find('\n');
-  const bool isWhole = end != std::string_view::npos;
-  line = ahead.substr(0, end);
-  position_ += isWhole ? end + 1 : ahead.size();
-  lastLine_ = isWhole ? line : std::string_view();
-  return isWhole;
+  std::string_view line;
+  if (!GetLine(line, shortLine)) return false;
+  code = static_cast<DxfCode>(ParseInt32(line, 10));
+  return code != DxfCode::Keyword;
 }
 
-bool DxfLines::GetLine(std::string_view& line, std::size_t maxChars)
+std::string_view DxfLines::GetCutValue(std::string_view& underCut, std::size_t maxChars)
 {
-  const bool isWhole = Take(line, maxChars);
-  line = UpToNul(line);
-  return isWhole;
-}
-
-std::string_view DxfLines::GetValue(std::string_view& underCut, std::size_t maxChars)
-{
-  std::string_view value;
-  if (!Take(value, maxChars) && value.size() < maxChars) return UpToNul(Over(value, underCut));
-  // Only one value can be cut short by the end of the text: the last line, whose length is known.
-  // Behind it stands the rest of the last value that reached as far.
+  const std::string_view value(at_, LimitOf(maxChars));
+  at_ += value.size();
+  if (value.size() < maxChars) return UpToNul(Over(value, underCut));
   if (value.size() >= unendedLength_) underCut = value;
   return UpToNul(value);
 }
@@ -66,7 +57,8 @@ bool DxfLines::IsAtKeyword() const { return Trimmed(UpToNul(lastLine_)) == "0"; 
 
 void DxfLines::ReportProgress(IProgress& progress)
 {
-  const float part = static_cast<float>(position_) / static_cast<float>(text_.size());
+  const auto position = static_cast<std::size_t>(at_ - text_.data());
+  const float part = static_cast<float>(position) / static_cast<float>(text_.size());
   const std::int32_t percent = TruncateToInt32(part * 100.0F);
   if (percent == lastPercent_) return;
   lastPercent_ = percent;
@@ -83,7 +75,11 @@ std::string_view Trimmed(std::string_view line)
 
 bool Contains(std::string_view line, std::string_view word)
 {
-  return line.find(word) != std::string_view::npos;
+  // Lines are so short that the calls of a library's search would cost more than this.
+  for (; line.size() >= word.size(); line.remove_prefix(1)) {
+    if (line.front() == word.front() && line.starts_with(word)) return true;
+  }
+  return false;
 }
 
 }  // namespace hullwright

@@ -13,6 +13,9 @@ namespace {
 /// begins, so that a bulge may follow its coordinates.
 class VertexGatherer {
 public:
+  /// Gathers into a list, which is emptied.
+  explicit VertexGatherer(std::vector<CFileDxfVertex>& list) : vertices_(list) { list.clear(); }
+
   void TakeX(double x)
   {
     if (PushComplete()) seenY_ = false;
@@ -29,11 +32,11 @@ public:
 
   void TakeBulge(double bulge) { next_.bulge = bulge; }
 
-  std::vector<CFileDxfVertex> Finish(bool closed)
+  /// Takes the last vertex, and the first one once more if the polyline is closed.
+  void Finish(bool closed)
   {
     PushComplete();
     if (closed && !vertices_.empty()) vertices_.emplace_back(vertices_.front());
-    return std::move(vertices_);
   }
 
 private:
@@ -45,7 +48,7 @@ private:
     return true;
   }
 
-  std::vector<CFileDxfVertex> vertices_;
+  std::vector<CFileDxfVertex>& vertices_;
   CFileDxfVertex next_;
   bool seenX_ = false;
   bool seenY_ = false;
@@ -100,7 +103,7 @@ void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
   // around this one loses its normal.
   context.polyline.SetExtrusion(Extrusion());
   DxfEntity entity;
-  VertexGatherer vertices;
+  VertexGatherer vertices(context.vertices);
   const auto gather = [&](DxfCode code, std::string_view) {
     if (code == DxfCode::X) vertices.TakeX(entity.Number(code));
     if (code == DxfCode::Y) vertices.TakeY(entity.Number(code));
@@ -109,8 +112,8 @@ void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
   ReadGroups(lines, entity, gather, DxfLines::shortLine);
   if (IsOnHiddenLayer(entity, context)) return;
   auto shape = std::make_unique<CShapePolyline>();
-  std::vector<CFileDxfVertex> list = vertices.Finish(entity.HasFlag(closed));
-  AppendFlattened(*shape, list, Extrusion());
+  vertices.Finish(entity.HasFlag(closed));
+  AppendFlattened(*shape, context.vertices, Extrusion());
   const double width = entity.Number(DxfCode::ConstantWidth);
   if (width != 0.0) {
     shape->style = std::make_unique<ShapeStyle>();

@@ -45,7 +45,10 @@ void ProcessRecords(DxfLines& lines, DxfContext& context, std::string_view keywo
 void ProcessEntities(DxfLines& lines, DxfContext& context, CShapes& target, IMainWindow& frame)
 {
   LogStart(context, u"ENTITIES");
-  while (ReadNextEntity(lines, context, DxfPlace::Section, target)) lines.ReportProgress(frame);
+  while (ReadNextEntity(lines, context, DxfPlace::Section, target)) {
+    context.tally.CountShapes(target);  // while its vertices are still in the processor's cache
+    lines.ReportProgress(frame);
+  }
   LogEnd(context, u"ENTITIES", u"added ", target.shapes.size(), u" map features to map layer.");
 }
 

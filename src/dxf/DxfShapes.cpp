@@ -33,10 +33,14 @@ Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context)
   return context.ignoreExtrusion ? Extrusion() : Extrusion(normal);
 }
 
-void Mark(CShape& shape, std::u16string_view name, std::u16string_view value)
+void Mark(CShape& shape, std::u16string_view name, std::u16string value)
 {
-  if (!shape.attributes) shape.attributes = std::make_unique<CShapeAttributes>();
-  shape.attributes->Append(name, value);
+  constexpr std::size_t most = 3;  // of a shape that is not inserted
+  if (!shape.attributes) {
+    shape.attributes = std::make_unique<CShapeAttributes>();
+    shape.attributes->items.reserve(most);
+  }
+  shape.attributes->Append(name, std::move(value));
 }
 
 void Identify(CShape& shape, const DxfEntity& entity)

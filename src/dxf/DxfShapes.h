@@ -24,7 +24,7 @@ bool ReadEntity(DxfLines& lines, DxfContext& context, DxfEntity& entity);
 Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context);
 
 /// Appends an attribute.
-void Mark(CShape& shape, std::u16string_view name, std::u16string_view value);
+void Mark(CShape& shape, std::u16string_view name, std::u16string value);
 
 /// Gives a shape the layer and the handle of its entity, as attributes, and the handle as its tag.
 void Identify(CShape& shape, const DxfEntity& entity);

@@ -36,12 +36,4 @@ Extrusion::Extrusion(const DxfPoint& normal)
   n_ = InSinglePrecision(normal);
 }
 
-DxfPoint Extrusion::operator()(const DxfPoint& point) const
-{
-  if (identity_) return point;
-  return {ax_.x * point.x + ay_.x * point.y + n_.x * point.z,
-          ax_.y * point.x + ay_.y * point.y + n_.y * point.z,
-          ax_.z * point.x + ay_.z * point.y + n_.z * point.z};
-}
-
 }  // namespace hullwright

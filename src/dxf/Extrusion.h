@@ -13,7 +13,13 @@ public:
   Extrusion() = default;
   explicit Extrusion(const DxfPoint& normal);
 
-  DxfPoint operator()(const DxfPoint& point) const;
+  DxfPoint operator()(const DxfPoint& point) const
+  {
+    if (identity_) return point;
+    return {ax_.x * point.x + ay_.x * point.y + n_.x * point.z,
+            ax_.y * point.x + ay_.y * point.y + n_.y * point.z,
+            ax_.z * point.x + ay_.z * point.y + n_.z * point.z};
+  }
 
 private:
   bool identity_ = true;

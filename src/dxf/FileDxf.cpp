@@ -48,7 +48,7 @@ int CFileDxf::Import(std::u16string_view filePath, CLayer* layer)
   Log(TraceLevel::Success, processingLog, u"[DXF] Successfully opened file: [" + name + u"].");
   if (ProcessFile() != 0) return -1;
   context_.tally.CountShapes(*layer->shapes);
-  layer->UpdateExtents();
+  layer->UpdateExtents(context_.tally.extents);
   Log(TraceLevel::Progress, processingLog,
       u"[DXF] Detected drawing extends: [" + BoundsOf(layer->extents) + u"].");
   Log(TraceLevel::Success, generalLog,

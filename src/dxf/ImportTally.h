@@ -11,7 +11,8 @@ namespace hullwright {
 /// What an import took in, and what it passed over. The content of a block counts where the block
 /// is defined, however often it is inserted.
 struct ImportTally {
-  /// Counts the shapes of a group and takes them into the extents.
+  /// Counts the shapes of the group that is read into and takes them into the extents, but for
+  /// those that it has counted before.
   void CountShapes(const CShapes& group);
 
   std::size_t Shapes() const { return polylines + points + areas + texts; }
@@ -24,7 +25,8 @@ struct ImportTally {
   std::size_t areas = 0;
   std::size_t texts = 0;
 
-  Extents extents;  ///< of the shapes
+  Extents extents;          ///< of the shapes
+  std::size_t counted = 0;  ///< entries of the group
 
   KeywordCounts entities;  ///< what the sections of entities hold
   KeywordCounts ignored;   ///< entities that nothing is made of, also those in blocks

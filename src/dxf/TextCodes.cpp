@@ -1,7 +1,6 @@
 #include "dxf/TextCodes.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <utility>
@@ -114,48 +113,15 @@ private:
   std::size_t barrenEnd_ = 0;
 };
 
-/// Replaces every match of a code that begins with a mark, from left to right.
-template <class Matcher>
-void ReplaceAll(std::u16string& text, char16_t mark, Matcher match, Text replacement = {})
-{
-  std::u16string out;
-  std::size_t copied = 0;
-  for (std::size_t at = text.find(mark); at != Text::npos; at = text.find(mark, at)) {
-    const std::size_t length = match(Text(text), at);
-    if (length == 0) {
-      ++at;
-      continue;
-    }
-    out.append(text, copied, at - copied).append(replacement);
-    at += length;
-    copied = at;
-  }
-  if (copied == 0) return;
-  out.append(text, copied);
-  text = std::move(out);
-}
-
 constexpr char16_t backslash = u'\\';
 
-void RemoveLetter(std::u16string& text, char16_t letter, Text replacement = {})
-{
-  ReplaceAll(
-      text, backslash, [letter](Text t, std::size_t at) { return MatchLetter(t, at, letter); },
-      replacement);
-}
+constexpr std::size_t unitLength = 7;  // of a code such as "\\U+00B0"
 
-void RemoveNumbered(std::u16string& text, char16_t letter)
-{
-  ReplaceAll(text, backslash,
-             [letter](Text t, std::size_t at) { return MatchNumbered(t, at, letter); });
-}
-
-/// The unit that the last seven of a text stand for, if they are a code such as "\\U+00B0".
+/// The unit that the last seven of a text stand for, if they are a code.
 std::optional<char16_t> UnitAtEnd(Text text)
 {
-  constexpr std::size_t length = 7;
-  if (text.size() < length) return std::nullopt;
-  const Text code = text.substr(text.size() - length);
+  if (text.size() < unitLength) return std::nullopt;
+  const Text code = text.substr(text.size() - unitLength);
   if (code[0] != backslash || (code[1] != u'U' && code[1] != u'u') || code[2] != u'+') {
     return std::nullopt;
   }
@@ -168,6 +134,20 @@ std::optional<char16_t> UnitAtEnd(Text text)
   return static_cast<char16_t>(value);
 }
 
+/// The sign that a letter stands for behind two percent characters; NUL for other letters.
+char16_t SignOf(char16_t letter)
+{
+  switch (letter) {
+    case u'c':
+    case u'C': return u'\u2300';
+    case u'd':
+    case u'D': return u'\u00B0';
+    case u'p':
+    case u'P': return u'\u00B1';
+    default: return u'\0';
+  }
+}
+
 }  // namespace
 
 namespace TextCodes {
@@ -177,58 +157,12 @@ void RemoveBraces(std::u16string& text)
   std::erase_if(text, [](char16_t unit) { return unit == u'{' || unit == u'}'; });
 }
 
-void RemoveFonts(std::u16string& text)
-{
-  FontMatcher match;
-  ReplaceAll(text, backslash, std::ref(match));
-}
-
-void RemoveAlignments(std::u16string& text) { RemoveNumbered(text, u'A'); }
-
-void RemoveHeights(std::u16string& text) { ReplaceAll(text, backslash, MatchHeight); }
-
-void RemoveUnderlines(std::u16string& text)
-{
-  RemoveLetter(text, u'L');
-  RemoveLetter(text, u'l');
-}
-
-void BreakParagraphs(std::u16string& text) { RemoveLetter(text, u'P', u"\n"); }
-
-void RemoveIndents(std::u16string& text) { ReplaceAll(text, backslash, MatchIndent); }
-
-std::optional<std::int32_t> FirstColour(std::u16string_view text, char16_t letter)
-{
-  for (std::size_t at = text.find(backslash); at != Text::npos; at = text.find(backslash, at + 1)) {
-    const std::size_t length = MatchNumbered(text, at, letter);
-    if (length != 0) return ParseInt32(text.substr(at + 2, length - 2), 10);
-  }
-  return std::nullopt;
-}
-
-void RemoveColours(std::u16string& text, char16_t letter) { RemoveNumbered(text, letter); }
-
-void DecodeUnits(std::u16string& text)
-{
-  // Every code is seven units long, so the first match is the one that is complete first.
-  constexpr std::size_t length = 7;
-  std::size_t kept = 0;
-  for (const char16_t unit : text) {
-    text[kept++] = unit;
-    while (const auto decoded = UnitAtEnd(Text(text).substr(0, kept))) {
-      kept -= length - 1;
-      text[kept - 1] = *decoded;
-    }
-  }
-  text.resize(kept);
-}
-
 void DecodeCarets(std::u16string& text)
 {
   // A control character is neither a caret nor a letter, so nothing new comes to match.
   constexpr unsigned controlBit = 64;
-  std::size_t kept = 0;
-  for (std::size_t at = 0; at < text.size(); ++at) {
+  std::size_t kept = std::min(text.find(u'^'), text.size());
+  for (std::size_t at = kept; at < text.size(); ++at) {
     const bool code =
         text[at] == u'^' && at + 1 < text.size() && text[at + 1] >= u'A' && text[at + 1] <= u'Z';
     text[kept++] = code ? static_cast<char16_t>(text[++at] ^ controlBit) : text[at];
@@ -238,45 +172,130 @@ void DecodeCarets(std::u16string& text)
 
 void DecodePercents(std::u16string& text)
 {
-  struct Sign {
-    char16_t letter;
-    Text sign;
-  };
-  constexpr std::array<Sign, 6> signs = {{{u'c', u"\u2300"},
-                                          {u'd', u"\u00B0"},
-                                          {u'p', u"\u00B1"},
-                                          {u'C', u"\u2300"},
-                                          {u'D', u"\u00B0"},
-                                          {u'P', u"\u00B1"}}};
-  for (const Sign& sign : signs) {
-    const auto match = [&sign](Text t, std::size_t at) -> std::size_t {
-      return IsAt(t, at + 1, u'%') && IsAt(t, at + 2, sign.letter) ? 3 : 0;
-    };
-    ReplaceAll(text, u'%', match, sign.sign);
+  // A code and its sign have nothing in common with another code, so one search serves for all.
+  std::size_t kept = std::min(text.find(u'%'), text.size());
+  for (std::size_t at = kept; at < text.size(); ++at) {
+    const bool code = text[at] == u'%' && IsAt(text, at + 1, u'%') && at + 2 < text.size();
+    const char16_t sign = code ? SignOf(text[at + 2]) : u'\0';
+    text[kept++] = sign == u'\0' ? text[at] : sign;
+    if (sign != u'\0') at += 2;
   }
+  text.resize(kept);
 }
 
 }  // namespace TextCodes
 
+BackslashCodes::BackslashCodes(std::u16string& text) : text_(text)
+{
+  places_.reserve(static_cast<std::size_t>(std::ranges::count(text, backslash)));
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] == backslash) places_.push_back(at);
+  }
+}
+
+/// Replaces every match of a code, from left to right.
+template <class Matcher>
+void BackslashCodes::ReplaceAll(Matcher match, Text replacement)
+{
+  // What is kept moves down over what is not; a matcher looks only at what has not moved yet.
+  char16_t* const units = text_.data();
+  std::size_t kept = 0;
+  std::size_t moved = 0;
+  auto place = places_.begin();
+  for (const std::size_t at : places_) {
+    if (at < moved) continue;  // in a match
+    const std::size_t length = match(Text(text_), at);
+    if (length == 0) {
+      *place++ = kept + (at - moved);
+      continue;
+    }
+    std::char_traits<char16_t>::move(units + kept, units + moved, at - moved);
+    kept += at - moved;
+    kept += replacement.copy(units + kept, length);
+    moved = at + length;
+  }
+  places_.erase(place, places_.end());
+  text_.erase(kept, moved - kept);
+}
+
+void BackslashCodes::RemoveLetter(char16_t letter, Text replacement)
+{
+  ReplaceAll([letter](Text text, std::size_t at) { return MatchLetter(text, at, letter); },
+             replacement);
+}
+
+void BackslashCodes::RemoveNumbered(char16_t letter)
+{
+  ReplaceAll([letter](Text text, std::size_t at) { return MatchNumbered(text, at, letter); });
+}
+
+void BackslashCodes::RemoveFonts()
+{
+  FontMatcher match;
+  ReplaceAll(std::ref(match));
+}
+
+void BackslashCodes::RemoveHeights() { ReplaceAll(MatchHeight); }
+
+void BackslashCodes::RemoveUnderlines()
+{
+  RemoveLetter(u'L');
+  RemoveLetter(u'l');
+}
+
+void BackslashCodes::BreakParagraphs() { RemoveLetter(u'P', u"\n"); }
+
+void BackslashCodes::RemoveIndents() { ReplaceAll(MatchIndent); }
+
+std::optional<std::int32_t> BackslashCodes::FirstColour(char16_t letter) const
+{
+  const Text text = text_;
+  for (const std::size_t at : places_) {
+    const std::size_t length = MatchNumbered(text, at, letter);
+    if (length != 0) return ParseInt32(text.substr(at + 2, length - 2), 10);
+  }
+  return std::nullopt;
+}
+
+void BackslashCodes::DecodeUnits()
+{
+  // Every code is seven units long, so the first match is the one that is complete first.
+  const auto isCode = [this](std::size_t at) {
+    return UnitAtEnd(Text(text_).substr(at, unitLength)).has_value();
+  };
+  const auto first = std::ranges::find_if(places_, isCode);
+  if (first == places_.end()) return;
+  std::size_t kept = *first;
+  for (std::size_t at = kept; at < text_.size(); ++at) {
+    text_[kept++] = text_[at];
+    while (const auto decoded = UnitAtEnd(Text(text_).substr(0, kept))) {
+      kept -= unitLength - 1;
+      text_[kept - 1] = *decoded;
+    }
+  }
+  text_.resize(kept);
+}
+
 namespace {
 
-/// Takes one step after the other, so that each leaves its result even if the next one fails.
+/// Takes one step after the other.
 void Clean(CleanedText& cleaned)
 {
   std::u16string& text = cleaned.text;
   if (text.find(backslash) != Text::npos) {
     TextCodes::RemoveBraces(text);
-    TextCodes::RemoveFonts(text);
-    TextCodes::RemoveAlignments(text);
-    TextCodes::RemoveHeights(text);
-    TextCodes::RemoveUnderlines(text);
-    TextCodes::BreakParagraphs(text);
-    TextCodes::RemoveIndents(text);
-    cleaned.colourIndex = TextCodes::FirstColour(text, u'C');
-    TextCodes::RemoveColours(text, u'C');
-    cleaned.colourValue = TextCodes::FirstColour(text, u'c');
-    TextCodes::RemoveColours(text, u'c');
-    TextCodes::DecodeUnits(text);
+    BackslashCodes codes(text);
+    codes.RemoveFonts();
+    codes.RemoveAlignments();
+    codes.RemoveHeights();
+    codes.RemoveUnderlines();
+    codes.BreakParagraphs();
+    codes.RemoveIndents();
+    cleaned.colourIndex = codes.FirstColour(u'C');
+    codes.RemoveColours(u'C');
+    cleaned.colourValue = codes.FirstColour(u'c');
+    codes.RemoveColours(u'c');
+    codes.DecodeUnits();
     TextCodes::DecodeCarets(text);
   }
   TextCodes::DecodePercents(text);

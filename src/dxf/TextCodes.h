@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace hullwright {
 
@@ -19,42 +21,13 @@ struct CleanedText {
 /// Where memory ends, the text stays as it is at that step.
 CleanedText CleanText(std::u16string text);
 
-/// The steps of the cleaning. A step that memory ends in leaves the text as it is. Each replaces
-/// every match of its pattern (ECMAScript's grammar, with 16-bit units as characters) that a single
-/// search from left to right finds, unless it says otherwise.
+/// The steps of the cleaning. Each only shortens the text, in place: it replaces every match of its
+/// pattern (ECMAScript's grammar, with 16-bit units as characters) that a single search from left
+/// to right finds, unless it says otherwise.
 namespace TextCodes {
 
 /// "\{" and "\}", removed one after the other.
 void RemoveBraces(std::u16string& text);
-
-/// "\\[Ff]([^|]*)(?:\|([bicp])(\d+))?{4 times};" removed. The first group is greedy: it runs to the
-/// last semicolon before a bar.
-void RemoveFonts(std::u16string& text);
-
-/// "\\A(\d+);" removed.
-void RemoveAlignments(std::u16string& text);
-
-/// "\\H(\d*\.?\d+)(x?);" removed.
-void RemoveHeights(std::u16string& text);
-
-/// "\\L" and "\\l" removed, one after the other.
-void RemoveUnderlines(std::u16string& text);
-
-/// "\\P" becomes a line feed.
-void BreakParagraphs(std::u16string& text);
-
-/// "\\p(?:x?i(\d*\.?\d+);)?" removed.
-void RemoveIndents(std::u16string& text);
-
-/// The number of the first "\\C(\d+);" or, with a small letter, "\\c(\d+);", 2147483647 at most.
-std::optional<std::int32_t> FirstColour(std::u16string_view text, char16_t letter);
-
-/// "\\C(\d+);" or "\\c(\d+);" removed.
-void RemoveColours(std::u16string& text, char16_t letter);
-
-/// "\\[Uu]\+([0-9a-fA-F]{4})" becomes the unit of that code, from left to right and again until
-/// nothing matches, so that a new unit may complete a code.
-void DecodeUnits(std::u16string& text);
 
 /// "\^([A-Z])" becomes the control character of the letter.
 void DecodeCarets(std::u16string& text);
@@ -63,5 +36,51 @@ void DecodeCarets(std::u16string& text);
 void DecodePercents(std::u16string& text);
 
 }  // namespace TextCodes
+
+/// The steps for codes that begin with a backslash, in a text that must outlive this object. Where
+/// the backslashes are is looked up once and carried along, so that a step costs no more than there
+/// are codes.
+class BackslashCodes {
+public:
+  explicit BackslashCodes(std::u16string& text);
+
+  /// "\\[Ff]([^|]*)(?:\|([bicp])(\d+))?{4 times};" removed. The first group is greedy: it runs to
+  /// the last semicolon before a bar.
+  void RemoveFonts();
+
+  /// "\\A(\d+);" removed.
+  void RemoveAlignments() { RemoveNumbered(u'A'); }
+
+  /// "\\H(\d*\.?\d+)(x?);" removed.
+  void RemoveHeights();
+
+  /// "\\L" and "\\l" removed, one after the other.
+  void RemoveUnderlines();
+
+  /// "\\P" becomes a line feed.
+  void BreakParagraphs();
+
+  /// "\\p(?:x?i(\d*\.?\d+);)?" removed.
+  void RemoveIndents();
+
+  /// The number of the first "\\C(\d+);" or, with a small letter, "\\c(\d+);", 2147483647 at most.
+  std::optional<std::int32_t> FirstColour(char16_t letter) const;
+
+  /// "\\C(\d+);" or "\\c(\d+);" removed.
+  void RemoveColours(char16_t letter) { RemoveNumbered(letter); }
+
+  /// "\\[Uu]\+([0-9a-fA-F]{4})" becomes the unit of that code, from left to right and again until
+  /// nothing matches, so that a new unit may complete a code. The last step: backslashes may come.
+  void DecodeUnits();
+
+private:
+  template <class Matcher>
+  void ReplaceAll(Matcher match, std::u16string_view replacement = {});
+  void RemoveNumbered(char16_t letter);
+  void RemoveLetter(char16_t letter, std::u16string_view replacement = {});
+
+  std::u16string& text_;
+  std::vector<std::size_t> places_;  ///< of the backslashes
+};
 
 }  // namespace hullwright

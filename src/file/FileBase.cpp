@@ -17,12 +17,17 @@ std::size_t FoldToText(char* text, std::size_t length)
   if (const void* const end = std::memchr(text, endOfText, length)) {
     length = static_cast<std::size_t>(static_cast<const char*>(end) - text);
   }
-  std::size_t kept = 0;
-  for (std::size_t i = 0; i < length; ++i) {
-    if (text[i] == '\r' && i + 1 < length && text[i + 1] == '\n') continue;
-    text[kept++] = text[i];
+  const void* const firstReturn = std::memchr(text, '\r', length);
+  if (firstReturn == nullptr) return length;
+  // From here on most lines have one, so that a jump past it would be guessed wrong once a line.
+  auto kept = static_cast<std::size_t>(static_cast<const char*>(firstReturn) - text);
+  for (std::size_t i = kept; i + 1 < length; ++i) {
+    const bool folds = text[i] == '\r' && text[i + 1] == '\n';
+    text[kept] = text[i];
+    kept += folds ? 0 : 1;
   }
-  return kept;
+  text[kept] = text[length - 1];
+  return kept + 1;
 }
 
 }  // namespace
@@ -38,7 +43,6 @@ int CFileBase::Load(std::u16string_view filePath)
   const auto bytes = static_cast<std::size_t>(length);
   buffer.reset(new (std::nothrow) char[bytes + 1]);
   if (!buffer) return -1;
-  std::memset(buffer.get(), 0, bytes + 1);
   const std::size_t kept = FoldToText(buffer.get(), std::fread(buffer.get(), 1, bytes, file.get()));
   buffer[kept] = '\0';
   size = static_cast<std::int64_t>(kept);

@@ -173,6 +173,7 @@ void CFileVessel::EndElement(std::u16string_view name)
   if (element == nullptr) return;
   if (element->kind == ElementKind::Polyline && state_ == State::InPolyline) {
     if (currentGroup_ && currentPolyline_) {
+      currentPolyline_->vertices.shrink_to_fit();  // growing left room for up to twice as many
       currentGroup_->shapes.push_back(std::move(currentPolyline_));
     }
     state_ = State::InGroup;

@@ -24,6 +24,9 @@ struct Extents {
   /// Widens the box by a vertex.
   void Widen(const CShapeVertex& vertex) { Widen(vertex.x, vertex.y); }
 
+  /// Widens the box by another one; an empty one widens nothing.
+  constexpr void Widen(const Extents& box) { WidenBy(box.minX, box.minY, box.maxX, box.maxY); }
+
   /// Widens the box by a vertex with a margin of one world unit on each side, at any zoom.
   void WidenAround(const CShapeVertex& vertex)
   {

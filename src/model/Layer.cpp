@@ -1,15 +1,28 @@
 #include "model/Layer.h"
 
 namespace hullwright {
+namespace {
+
+bool IsComputed(const Extents& box)
+{
+  return box.minX != 0.0 && box.minY != 0.0 && box.maxX != 0.0 && box.maxY != 0.0;
+}
+
+}  // namespace
 
 void CLayer::UpdateExtents()
 {
-  if (!shapes) return;
-  const bool computed =
-      extents.minX != 0.0 && extents.minY != 0.0 && extents.maxX != 0.0 && extents.maxY != 0.0;
-  if (computed) return;
+  if (!shapes || IsComputed(extents)) return;
+  Extents ofShapes;
+  shapes->GetExtents(ofShapes);
+  UpdateExtents(ofShapes);
+}
+
+void CLayer::UpdateExtents(const Extents& ofShapes)
+{
+  if (IsComputed(extents)) return;
   extents = emptyLayerExtents;
-  shapes->GetExtents(extents);
+  extents.Widen(ofShapes);
 }
 
 }  // namespace hullwright

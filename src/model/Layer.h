@@ -16,6 +16,9 @@ public:
   /// with a bound of exactly 0.0 is computed again, even where that is right.
   void UpdateExtents();
 
+  /// The same with the box of the shapes, where it is known.
+  void UpdateExtents(const Extents& ofShapes);
+
   std::unique_ptr<CShapes> shapes = std::make_unique<CShapes>();
   std::unique_ptr<CShapeAttributes> attributes = std::make_unique<CShapeAttributes>();
   std::u16string name;

@@ -1,5 +1,7 @@
 #include "model/ShapeAttributes.h"
 
+#include <utility>
+
 namespace hullwright {
 
 CShapeAttributes& CShapeAttributes::AppendFrom(const CShapeAttributes& source)
@@ -10,10 +12,12 @@ CShapeAttributes& CShapeAttributes::AppendFrom(const CShapeAttributes& source)
   return *this;
 }
 
-void CShapeAttributes::Append(std::u16string_view name, std::u16string_view value)
+void CShapeAttributes::Append(std::u16string_view name, std::u16string value)
 {
-  items.push_back(std::make_unique<ShapeAttribute>(
-      ShapeAttribute{std::u16string(name), std::u16string(value)}));
+  auto pair = std::make_unique<ShapeAttribute>();
+  pair->name = name;
+  pair->value = std::move(value);
+  items.push_back(std::move(pair));
 }
 
 }  // namespace hullwright

@@ -19,7 +19,9 @@ std::unique_ptr<CShapePolygonRing> CShapePolygonRing::CopyRing() const
 
 void CShapePolygonRing::GetExtents(Extents& box) const
 {
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { box.Widen(v); });
+  Extents widened = box;  // a copy that no vertex can be part of stays in registers
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { widened.Widen(v); });
+  box = widened;
 }
 
 bool CShapePolygonRing::ContainsPoint(double x, double y) const

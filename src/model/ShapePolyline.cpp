@@ -28,18 +28,15 @@ std::unique_ptr<CShape> CShapePolyline::Clone() const
 
 void CShapePolyline::GetExtents(Extents& box) const
 {
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { box.Widen(v); });
+  Extents widened = box;  // a copy that no vertex can be part of stays in registers
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { widened.Widen(v); });
+  box = widened;
 }
 
 void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)
 {
   const auto found = std::ranges::find(vertices, vertex, &std::unique_ptr<CShapeVertex>::get);
   if (found != vertices.end()) vertices.erase(found);
-}
-
-void CShapePolyline::AddVertex(double x, double y, double z)
-{
-  vertices.push_back(std::make_unique<CShapeVertex>(x, y, z));
 }
 
 void CShapePolyline::AppendVertices(const CShapePolyline* source)
@@ -54,6 +51,7 @@ void CShapePolyline::AddArc(double cx, double cy, double radius, double startDeg
                             double sweepDegrees)
 {
   constexpr int arcVertices = 61;
+  vertices.reserve(vertices.size() + arcVertices);
   const double step = sweepDegrees / 60.0;
   double degrees = startDegrees;
   for (int i = 0; i < arcVertices; ++i) {

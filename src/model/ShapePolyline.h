@@ -6,9 +6,12 @@ namespace hullwright {
 
 /// An open line through its vertices: the shape that a surveyor draws and the only one that is
 /// saved.
-class CShapePolyline : public COutlineShape {
+class CShapePolyline final : public COutlineShape {
 public:
   CShapePolyline();
+
+  static void* operator new(std::size_t) { return TakePlace<CShapePolyline>(); }
+  static void operator delete(void* place) { GiveBackPlace<CShapePolyline>(place); }
 
   /// A new polyline filled by `AddArc`.
   static std::unique_ptr<CShapePolyline> CreateArc(double cx, double cy, double radius,
@@ -22,7 +25,10 @@ public:
   void RemoveVertex(const CShapeVertex* vertex) override;
   bool IsVisible(const CViewPort& viewPort) const override;
 
-  void AddVertex(double x, double y, double z);
+  void AddVertex(double x, double y, double z)
+  {
+    vertices.push_back(std::make_unique<CShapeVertex>(x, y, z));
+  }
 
   /// Appends copies of all vertices of `source` up to its first null entry, all six fields, walking
   /// it with its own cursor. Null does nothing.

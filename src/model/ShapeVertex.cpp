@@ -3,27 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/SlabPool.h"
 #include "model/Angle.h"
 
 namespace hullwright {
-
-#ifndef HULLWRIGHT_SANITIZE
-namespace {
-
-/// Never destroyed, so that vertices of static objects find it whenever they go.
-SlabPool<sizeof(CShapeVertex)>& Pool()
-{
-  static auto* const pool = new SlabPool<sizeof(CShapeVertex)>;
-  return *pool;
-}
-
-}  // namespace
-
-void* CShapeVertex::operator new(std::size_t) { return Pool().Take(); }
-
-void CShapeVertex::operator delete(void* place) { Pool().GiveBack(place); }
-#endif
 
 CShapeVertex& CShapeVertex::operator=(const CShapeVertex& v)
 {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/SlabPool.h"
 #include "model/Units.h"
 
 namespace hullwright {
@@ -15,12 +16,8 @@ public:
   CShapeVertex(double wx, double wy, double wz) : x(wx), y(wy), z(wz) {}
   CShapeVertex(const CShapeVertex& v) = default;
 
-  // An imported drawing has millions of vertices, so they come from slabs. The address sanitizer
-  // watches single allocations and gets those.
-#ifndef HULLWRIGHT_SANITIZE
-  static void* operator new(std::size_t size);
-  static void operator delete(void* place);
-#endif
+  static void* operator new(std::size_t) { return TakePlace<CShapeVertex>(); }
+  static void operator delete(void* place) { GiveBackPlace<CShapeVertex>(place); }
 
   /// Copies all six fields.
   virtual CShapeVertex& operator=(const CShapeVertex& v);

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,6 +33,26 @@ std::vector<std::pair<int, std::string>> PairsOf(const std::string& text,
 {
   DxfLines lines(text);
   return PairsOf(lines, limit);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Line ends
+
+TEST(LineEnds, AreFoundAmongAnyBytes)
+{
+  std::mt19937 random(11);
+  // Bytes that differ from a line end in one bit, follow it, or have their top bit set.
+  const std::string_view pieces("\n\x0B\x09\x8A\x00\xFF\x80 1", 9);
+  for (int round = 0; round < 20000; ++round) {
+    std::string text;
+    for (std::size_t left = random() % 40; left > 0; --left) {
+      text += random() % 8 == 0 ? pieces[random() % pieces.size()] : pieces[1 + random() % 8];
+    }
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != end; ++at) {
+      ASSERT_EQ(FindLineEnd(at, end), std::find(at, end, '\n')) << round;
+    }
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -131,6 +153,24 @@ TEST(Pairs, GoUpToACodeThatReadsAsZero)
     std::string_view line;
     EXPECT_TRUE(lines.GetLine(line, 256));
     EXPECT_EQ(line, "LINE");
+  }
+}
+
+TEST(Pairs, HaveCodesInAnyFormThatReadsAsANumber)
+{
+  for (const auto& [code, group] : {std::pair{"10", 10},
+                                    {"   10", 10},
+                                    {"+10", 10},
+                                    {"-10", -10},
+                                    {"\t10", 10},
+                                    {"10 ", 10},
+                                    {"10x", 10},
+                                    {"10\r", 10},
+                                    {"           10", 10},
+                                    {"000000000010", 10},
+                                    {"999999999", 999999999},
+                                    {"4294967306", 2147483647}}) {
+    EXPECT_THAT(PairsOf(std::string(code) + "\n1\n"), ElementsAre(Pair(group, "1"))) << code;
   }
 }
 

@@ -86,33 +86,17 @@ TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
                                          ""}));  // the block, or the log before the entities
 }
 
-TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextAsItIsAtThatStep)
+TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextWithItsCodes)
 {
   const std::string text =
       R"({\fArial|b0;\A1;\H2;\L\l\P\p\C1;\c16711680;\U+0041^I%%c%%d%%p%%C%%D%%P, a long text})";
   constexpr std::uint32_t green = 0x00FF00;  // of the entity
-  constexpr std::uint32_t red = 0x0000FF;    // of the index in the text
   constexpr std::uint32_t blue = 0xFF0000;   // of the true colour in the text
-  const std::u16string_view signs = u"%%c%%d%%p%%C%%D%%P, a long text";
-  const auto behind = [&](std::u16string_view start) {
-    return std::u16string(start).append(signs);
-  };
+  // The places of the backslashes need memory, which no step behind them does; the braces go first.
   const std::set<std::pair<std::u16string, std::uint32_t>> steps = {
-      {behind(u"\\fArial|b0;\\A1;\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\\A1;\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\\P\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\n\\p\\C1;\\c16711680;\\U+0041^I"), green},
-      {behind(u"\n\\C1;\\c16711680;\\U+0041^I"), red},
-      {behind(u"\n\\c16711680;\\U+0041^I"), blue},
-      {u"\nA\t%%c%%d%%p%%C%%D%%P, a long text", blue},
-      {u"\nA\t\u2300%%d%%p%%C%%D%%P, a long text", blue},
-      {u"\nA\t\u2300\u00B0%%p%%C%%D%%P, a long text", blue},
-      {u"\nA\t\u2300\u00B0\u00B1%%C%%D%%P, a long text", blue},
-      {u"\nA\t\u2300\u00B0\u00B1\u2300%%D%%P, a long text", blue},
-      {u"\nA\t\u2300\u00B0\u00B1\u2300\u00B0%%P, a long text", blue},
+      {u"\\fArial|b0;\\A1;\\H2;\\L\\l\\P\\p\\C1;\\c16711680;\\U+0041^I"
+       u"%%c%%d%%p%%C%%D%%P, a long text",
+       green},
       {u"\nA\t\u2300\u00B0\u00B1\u2300\u00B0\u00B1, a long text", blue}};
   std::set<std::pair<std::u16string, std::uint32_t>> seen;
   int leftOutBehindItsLayer = 0;

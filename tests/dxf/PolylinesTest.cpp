@@ -269,13 +269,25 @@ TEST_F(Polylines, ALightweightOneOnAHiddenLayerIsDropped)
   EXPECT_EQ(ShapeCount(), 0U);
 }
 
-TEST_F(Polylines, FlatteningEmptiesTheList)
+TEST_F(Polylines, ALightweightOneHasNothingOfAHiddenOneInFrontOfIt)
 {
-  std::vector<CFileDxfVertex> list;
-  EXPECT_EQ(FlattenVertices(list, Extrusion()), nullptr);
-  list.push_back({1.0, 2.0, 3.0, 0.0, 0});
-  EXPECT_EQ(FlattenVertices(list, Extrusion())->vertices.size(), 1U);
-  EXPECT_THAT(list, IsEmpty());
+  Import(LayerTable(LayerRecord("A", -1, 0)) +
+         Entities(Entity("LWPOLYLINE", {{8, "A"}, {10, "1"}, {20, "2"}, {42, "3"}}) +
+                  Entity("LWPOLYLINE", {{10, "4"}, {20, "5"}}) + Entity("LWPOLYLINE")));
+  ASSERT_EQ(ShapeCount(), 2U);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(4.0, 5.0, 0.0)));
+  EXPECT_THAT(VerticesOf(1), IsEmpty());
+}
+
+TEST_F(Polylines, FlatteningAppendsToWhatTheShapeHas)
+{
+  CShapePolyline shape;
+  shape.AddVertex(7.0, 8.0, 9.0);
+  AppendFlattened(shape, {}, Extrusion());
+  EXPECT_EQ(shape.vertices.size(), 1U);
+  AppendFlattened(shape, {{1.0, 2.0, 3.0, 0.0, 0}}, Extrusion());
+  ASSERT_EQ(shape.vertices.size(), 2U);
+  EXPECT_EQ(*shape.vertices[1], CShapeVertex(1.0, 2.0, 3.0));
 }
 
 }  // namespace

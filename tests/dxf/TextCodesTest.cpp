@@ -155,6 +155,14 @@ void DecodeByEngine(std::u16string& text, const wchar_t* pattern,
   }
 }
 
+/// A step for codes that begin with a backslash.
+template <void (BackslashCodes::*step)()>
+void ByHand(std::u16string& text)
+{
+  BackslashCodes codes(text);
+  (codes.*step)();
+}
+
 const std::vector<Step>& Steps()
 {
   static const std::vector<Step> steps = {
@@ -163,36 +171,37 @@ const std::vector<Step>& Steps()
          ReplaceAllByEngine(t, L"\\{", L"");
          ReplaceAllByEngine(t, L"\\}", L"");
        }},
-      {"fonts", TextCodes::RemoveFonts,
+      {"fonts", ByHand<&BackslashCodes::RemoveFonts>,
        [](std::u16string& t) {
          ReplaceAllByEngine(t,
                             L"\\\\[Ff]([^|]*)(?:\\|([bicp])(\\d+))?(?:\\|([bicp])(\\d+))?"
                             L"(?:\\|([bicp])(\\d+))?(?:\\|([bicp])(\\d+))?;",
                             L"");
        }},
-      {"alignments", TextCodes::RemoveAlignments,
+      {"alignments", ByHand<&BackslashCodes::RemoveAlignments>,
        [](std::u16string& t) { ReplaceAllByEngine(t, L"\\\\A(\\d+);", L""); }},
-      {"heights", TextCodes::RemoveHeights,
+      {"heights", ByHand<&BackslashCodes::RemoveHeights>,
        [](std::u16string& t) { ReplaceAllByEngine(t, L"\\\\H(\\d*\\.?\\d+)(x?);", L""); }},
-      {"underlines", TextCodes::RemoveUnderlines,
+      {"underlines", ByHand<&BackslashCodes::RemoveUnderlines>,
        [](std::u16string& t) {
          ReplaceAllByEngine(t, L"\\\\L", L"");
          ReplaceAllByEngine(t, L"\\\\l", L"");
        }},
-      {"paragraphs", TextCodes::BreakParagraphs,
+      {"paragraphs", ByHand<&BackslashCodes::BreakParagraphs>,
        [](std::u16string& t) { ReplaceAllByEngine(t, L"\\\\P", L"\n"); }},
-      {"indents", TextCodes::RemoveIndents,
+      {"indents", ByHand<&BackslashCodes::RemoveIndents>,
        [](std::u16string& t) { ReplaceAllByEngine(t, L"\\\\p(?:x?i(\\d*\\.?\\d+);)?", L""); }},
       {"colours",
        [](std::u16string& t) {
-         TextCodes::RemoveColours(t, u'C');
-         TextCodes::RemoveColours(t, u'c');
+         BackslashCodes codes(t);
+         codes.RemoveColours(u'C');
+         codes.RemoveColours(u'c');
        },
        [](std::u16string& t) {
          ReplaceAllByEngine(t, L"\\\\C(\\d+);", L"");
          ReplaceAllByEngine(t, L"\\\\c(\\d+);", L"");
        }},
-      {"units", TextCodes::DecodeUnits,
+      {"units", ByHand<&BackslashCodes::DecodeUnits>,
        [](std::u16string& t) {
          DecodeByEngine(t, L"\\\\[Uu]\\+([0-9a-fA-F]{4})", [](const std::wstring& digits) {
            return static_cast<char16_t>(std::stoi(digits, nullptr, 16));
@@ -231,6 +240,11 @@ TEST(TextCodes, EachStepDoesWhatItsPatternSays)
       ASSERT_EQ(byHand, byEngine) << step.name << " of " << Utf8FromWide(text);
       changed += byHand == text ? 0 : 1;
     }
+    // One after the other they carry the places of the backslashes along.
+    if (text.find(u'\\') == std::u16string::npos) continue;
+    std::u16string byEngine = text;
+    for (const Step& step : Steps()) step.byEngine(byEngine);
+    ASSERT_EQ(Cleaned(text), byEngine) << Utf8FromWide(text);
   }
   EXPECT_GT(changed, 4000);  // the texts are not beside the point
 }

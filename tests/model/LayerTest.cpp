@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <cstdint>
+
 #include "model/ShapePolyline.h"
 
 namespace hullwright {
@@ -67,6 +70,26 @@ TEST(Layer, ANullShapeEndsTheBoxWithTheCursorOfTheShapes)
   EXPECT_EQ(layer.extents.maxX, 3.0);
   EXPECT_EQ(layer.extents.maxY, 4.0);
   EXPECT_EQ(layer.shapes->cursor, 2U);
+}
+
+TEST(Layer, ABoxOfItsShapesThatIsKnownGivesTheSame)
+{
+  const Extents boxes[] = {
+      {}, {1.0, 2.0, 3.0, 4.0}, {-0.0, -1e300, 0.0, 1e300}, {1e300, 1.0, 1e301, 1.0}};
+  for (const Extents& box : boxes) {
+    CLayer layer;
+    if (!box.IsEmpty()) AddLine(layer, box.minX, box.minY, box.maxX, box.maxY);
+    layer.UpdateExtents();
+    CLayer known;
+    known.UpdateExtents(box);
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(known.extents.minX),
+              std::bit_cast<std::uint64_t>(layer.extents.minX));
+    EXPECT_EQ(known.extents.minY, layer.extents.minY);
+    EXPECT_EQ(known.extents.maxX, layer.extents.maxX);
+    EXPECT_EQ(known.extents.maxY, layer.extents.maxY);
+    known.UpdateExtents({1.0, 2.0, 1e20, 4.0});
+    EXPECT_EQ(known.extents.maxX == 1e20, box.minX == 0.0);
+  }
 }
 
 TEST(Layer, WithoutShapesTheBoxIsInsideOut)
