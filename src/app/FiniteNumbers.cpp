@@ -18,8 +18,8 @@ std::string SideName(ViewSide viewCode)
 /// What the offset of an element is called.
 std::string OffsetName(const DesignElement& element)
 {
-  if (element.name == u"gps") return "GNSS antenna offset";
-  return element.name == u"txd" ? "transducer offset" : "pivot point offset";
+  if (element.name == "gps") return "GNSS antenna offset";
+  return element.name == "txd" ? "transducer offset" : "pivot point offset";
 }
 
 std::string Place(const DesignNumber& number)

@@ -34,22 +34,15 @@ std::string AttributeText(std::u16string_view name, std::u16string_view value)
 
 }  // namespace
 
-const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name)
-{
-  static const std::u16string missing;
-  const auto found = attributes.find(name);
-  return found == attributes.end() ? missing : found->second;
-}
-
 CFileSax::~CFileSax() = default;
 
-void CFileSax::StartElement(std::u16string_view, const AttributeMap&) {}
+void CFileSax::StartElement(std::string_view, SaxAttributes) {}
 
-void CFileSax::EndElement(std::u16string_view) {}
+void CFileSax::EndElement(std::string_view) {}
 
-void CFileSax::Characters(std::u16string_view) {}
+void CFileSax::Characters(std::string_view) {}
 
-void CFileSax::PassOver(std::u16string_view) {}
+void CFileSax::PassOver(std::string_view) {}
 
 void CFileSax::Error(std::u16string_view, int, int, int) {}
 
@@ -92,36 +85,35 @@ void CFileSax::WriteDeclaration()
   Append("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n");
 }
 
-void CFileSax::OpenElement(std::u16string_view name)
+void CFileSax::OpenElement(std::string_view name)
 {
   if (!MakeRoom(openMargin)) return;
-  if (WriteLine(0, Joined({"<", Utf8FromWide(name), ">\n"}))) ++indent;
+  if (WriteLine(0, Joined({"<", name, ">\n"}))) ++indent;
 }
 
-void CFileSax::OpenElement(std::u16string_view name, const AttributeMap& attributes)
+void CFileSax::OpenElement(std::string_view name, const AttributeMap& attributes)
 {
   // Each pair goes to the front, so that the names stand in descending order here.
   std::string text;
   for (const auto& [key, value] : attributes) text.insert(0, AttributeText(key, value));
   if (!MakeRoom(elementMargin + text.size())) return;
-  if (WriteLine(0, Joined({"<", Utf8FromWide(name), " ", text, ">\n"}))) ++indent;
+  if (WriteLine(0, Joined({"<", name, " ", text, ">\n"}))) ++indent;
 }
 
-void CFileSax::CloseElement(std::u16string_view name)
+void CFileSax::CloseElement(std::string_view name)
 {
   if (!MakeRoom(elementMargin)) return;
   --indent;
-  if (!WriteLine(0, Joined({"</", Utf8FromWide(name), ">\n"}))) ++indent;
+  if (!WriteLine(0, Joined({"</", name, ">\n"}))) ++indent;
 }
 
-void CFileSax::WriteTextElement(std::u16string_view name, std::u16string_view value)
+void CFileSax::WriteTextElement(std::string_view name, std::u16string_view value)
 {
   const std::string text = Escape(value);
-  const std::string tag = Utf8FromWide(name);
-  WriteLine(elementMargin + text.size(), Joined({"<", tag, ">", text, "</", tag, ">\n"}));
+  WriteLine(elementMargin + text.size(), Joined({"<", name, ">", text, "</", name, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attributes,
                                  std::u16string_view body)
 {
   std::string text;
@@ -130,16 +122,14 @@ void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& a
     WriteEmptyElementText(name, text);
     return;
   }
-  const std::string tag = Utf8FromWide(name);
   const std::string content = Escape(body);
   WriteLine(elementMargin + text.size() + content.size(),
-            Joined({"<", tag, " ", text, ">", content, "</", tag, ">\n"}));
+            Joined({"<", name, " ", text, ">", content, "</", name, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElementText(std::u16string_view name, std::string_view attributeText)
+void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view attributeText)
 {
-  WriteLine(elementMargin + attributeText.size(),
-            Joined({"<", Utf8FromWide(name), " ", attributeText, "/>\n"}));
+  WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
 }
 
 bool CFileSax::WriteLine(std::size_t margin, std::string_view line)

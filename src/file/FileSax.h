@@ -7,15 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "file/SaxAttributes.h"
 #include "platform/MessageBoxes.h"
 
 namespace hullwright {
 
-/// Attributes of an element, ascending by name.
-using AttributeMap = std::map<std::u16string, std::u16string, std::less<>>;
-
-/// Value of an attribute; empty where it is missing.
-const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name);
+/// Attributes to write, ascending by name.
+using AttributeMap = std::map<std::u16string, std::u16string>;
 
 /// Why and where a file could not be read.
 struct ReadError {
@@ -40,15 +38,15 @@ public:
   CFileSax& operator=(const CFileSax&) = delete;
   virtual ~CFileSax();
 
-  // Callbacks of reading; the base forms do nothing.
-  virtual void StartElement(std::u16string_view name, const AttributeMap& attributes);
-  virtual void EndElement(std::u16string_view name);
-  virtual void Characters(std::u16string_view text);
+  // Callbacks of reading, with names and texts in UTF-8; the base forms do nothing.
+  virtual void StartElement(std::string_view name, SaxAttributes attributes);
+  virtual void EndElement(std::string_view name);
+  virtual void Characters(std::string_view text);
   virtual void Error(std::u16string_view message, int line, int column, int code);
 
   /// What no other callback gets to see: a comment or a processing instruction with its marks, or a
   /// chunk of text that the handler drops.
-  virtual void PassOver(std::u16string_view markup);
+  virtual void PassOver(std::string_view markup);
 
   /// Parses a file; every callback runs inside. 0, or -1 for a file that can't be read or is not
   /// well-formed XML. A document type declaration counts as not well-formed: no entity expands and
@@ -64,11 +62,11 @@ public:
   // Writing primitives: each makes room, writes `indent` blanks, then its text. When there is no
   // memory for the room, it writes nothing and leaves `indent` alone.
   void WriteDeclaration();
-  void OpenElement(std::u16string_view name);
-  void OpenElement(std::u16string_view name, const AttributeMap& attributes);
-  void CloseElement(std::u16string_view name);
-  void WriteTextElement(std::u16string_view name, std::u16string_view value);
-  void WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+  void OpenElement(std::string_view name);
+  void OpenElement(std::string_view name, const AttributeMap& attributes);
+  void CloseElement(std::string_view name);
+  void WriteTextElement(std::string_view name, std::u16string_view value);
+  void WriteEmptyElement(std::string_view name, const AttributeMap& attributes,
                          std::u16string_view body = {});
 
   /// Writes the block to a file, replacing it. 0 on success. -1 without a word when there is
@@ -94,7 +92,7 @@ protected:
   virtual void* Reallocate(void* block, std::size_t size);
 
   /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
-  void WriteEmptyElementText(std::u16string_view name, std::string_view attributeText);
+  void WriteEmptyElementText(std::string_view name, std::string_view attributeText);
 
 private:
   struct FreeBlock {

@@ -4,6 +4,7 @@
 
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "file/DesignElements.h"
 
 namespace hullwright {
@@ -19,11 +20,19 @@ bool HoldsPolyline(const CShapes& group)
   return holdsOne;
 }
 
-void ReadCoordinates(CShapeVertex& vertex, const AttributeMap& attributes)
+/// Takes the coordinates of a vertex; one that is missing is 0.
+void ReadCoordinates(CShapeVertex& vertex, SaxAttributes attributes)
 {
   for (const Coordinate& coordinate : coordinates) {
     vertex.*coordinate.member = ParseDouble(AttributeValue(attributes, coordinate.Name()));
   }
+}
+
+/// The attribute that holds the value of an element.
+template <class Object>
+AttributeMap ValueAttribute(const DesignElement& element, const Object& object)
+{
+  return {{WideFromAscii(element.attribute), MemberText(element, object)}};
 }
 
 }  // namespace
@@ -54,8 +63,7 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
                             EmptyGroups emptyGroups)
 {
   if (element.kind == ElementKind::Unit && NumberOf(unitCode) != 0) {
-    WriteEmptyElement(element.name,
-                      {{std::u16string(element.attribute), MemberText(element, *this)}});
+    WriteEmptyElement(element.name, ValueAttribute(element, *this));
   } else if (element.kind == ElementKind::Group) {
     ForEachUpToNull(shapeGroups, [&](const CShapes& group) {
       if (emptyGroups == EmptyGroups::Written || HoldsPolyline(group)) WriteGroup(element, group);
@@ -73,7 +81,7 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
 
 void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 {
-  OpenElement(element.name, {{std::u16string(element.attribute), MemberText(element, group)}});
+  OpenElement(element.name, ValueAttribute(element, group));
   Walk(group.cursor, group.shapes, [this](const CShape& shape) {
     if (shape.type == ShapeType::Polyline) WritePolyline(shape);
   });
@@ -94,7 +102,7 @@ void CFileVessel::WriteCoordinates(const DesignElement& element, const CShapeVer
 {
   std::string attributes;
   for (const Coordinate& coordinate : coordinates) {
-    attributes.push_back(static_cast<char>(coordinate.axis));
+    attributes.push_back(coordinate.axis);
     attributes += "=\"";
     AppendFixed3(attributes, vertex.*coordinate.member);
     attributes += "\" ";
@@ -114,7 +122,7 @@ void CFileVessel::WriteAnchor(const CAnchor& anchor)
   CloseElement(anchorElement.name);
 }
 
-void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& attributes)
+void CFileVessel::StartElement(std::string_view name, SaxAttributes attributes)
 {
   element_ = name;
   const DesignElement* const element = FindElement(name);
@@ -155,7 +163,7 @@ void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& att
   }
 }
 
-void CFileVessel::Characters(std::u16string_view text)
+void CFileVessel::Characters(std::string_view text)
 {
   if (state_ != State::InAnchor || !anchors || !currentAnchor_) return;
   // Text behind a close tag still counts for the element that ended, and each chunk replaces the
@@ -166,7 +174,7 @@ void CFileVessel::Characters(std::u16string_view text)
   }
 }
 
-void CFileVessel::EndElement(std::u16string_view name)
+void CFileVessel::EndElement(std::string_view name)
 {
   element_ = name;
   const DesignElement* const element = FindElement(name);

@@ -32,9 +32,9 @@ public:
   /// where memory ended (`LostBlock`).
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
 
-  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
-  void EndElement(std::u16string_view name) override;
-  void Characters(std::u16string_view text) override;
+  void StartElement(std::string_view name, SaxAttributes attributes) override;
+  void EndElement(std::string_view name) override;
+  void Characters(std::string_view text) override;
 
   UnitCode unitCode = UnitCode::Metre;
   std::unique_ptr<CShapeVertex> gps = std::make_unique<CShapeVertex>();
@@ -48,7 +48,7 @@ protected:
   const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
 
   /// The element that started or ended last.
-  const std::u16string& LastElement() const { return element_; }
+  const std::string& LastElement() const { return element_; }
 
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
@@ -62,7 +62,7 @@ private:
   void WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex);
   void WriteAnchor(const CAnchor& anchor);
 
-  std::u16string element_;
+  std::string element_;
   State state_ = State::Start;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;

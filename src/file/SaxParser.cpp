@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "base/ErrorText.h"
 #include "base/OpenFile.h"
@@ -25,10 +26,11 @@ constexpr char nameSeparator = '\x01';
 
 constexpr const char* outOfMemory = "out of memory";
 
-std::u16string LocalName(const XML_Char* name)
+/// What stands behind the last separator.
+std::string_view LocalName(const XML_Char* name)
 {
   const std::string_view text(name);
-  return WideFromUtf8(text.substr(text.rfind(nameSeparator) + 1));
+  return text.substr(text.rfind(nameSeparator) + 1);
 }
 
 /// Drives one parse: gathers text to chunks and stops at a document type.
@@ -91,11 +93,11 @@ private:
   void StartElement(const XML_Char* name, const XML_Char** attributes)
   {
     FlushText();
-    AttributeMap map;
+    attributes_.clear();
     for (; *attributes != nullptr; attributes += 2) {
-      map[LocalName(attributes[0])] = WideFromUtf8(attributes[1]);
+      attributes_.push_back({LocalName(attributes[0]), attributes[1]});
     }
-    content_.StartElement(LocalName(name), map);
+    content_.StartElement(LocalName(name), attributes_);
   }
 
   void EndElement(const XML_Char* name)
@@ -119,12 +121,13 @@ private:
     FlushText();
     std::string markup;
     for (const std::string_view part : parts) markup += part;
-    content_.PassOver(WideFromUtf8(markup));
+    content_.PassOver(markup);
   }
 
   void FlushText()
   {
-    content_.Characters(WideFromUtf8(chunk_));
+    if (chunk_.empty()) return;
+    content_.Characters(chunk_);
     chunk_.clear();
   }
 
@@ -147,6 +150,7 @@ private:
   XML_Parser parser_;
   CFileSaxContentHandler& content_;
   std::string chunk_;
+  std::vector<SaxAttribute> attributes_;  ///< of the element that starts
   const char* stopReason_ = nullptr;
 };
 
