@@ -76,6 +76,7 @@ void CFileSax::ResetOutput()
   outLength = 0;
   outCapacity = 0;
   outBuffer_.reset();
+  blockSize_ = 0;
   lostBlock_ = false;
 }
 
@@ -119,7 +120,7 @@ void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attr
   std::string text;
   for (const auto& [key, value] : attributes) text += AttributeText(key, value);
   if (body.empty()) {
-    WriteEmptyElementText(name, text);
+    WriteEmptyElementLine(Joined({"<", name, " ", text, "/>\n"}), text.size());
     return;
   }
   const std::string content = Escape(body);
@@ -127,9 +128,9 @@ void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attr
             Joined({"<", name, " ", text, ">", content, "</", name, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElementText(std::string_view name, std::string_view attributeText)
+void CFileSax::WriteEmptyElementLine(std::string_view line, std::size_t attributeLength)
 {
-  WriteLine(elementMargin + attributeText.size(), Joined({"<", name, " ", attributeText, "/>\n"}));
+  WriteLine(elementMargin + attributeLength, line);
 }
 
 bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
@@ -137,7 +138,8 @@ bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
   if (margin != 0 && !MakeRoom(margin)) return false;
   const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
   // The margin covers what the format writes; deep nesting or a long name may need more.
-  if (outLength + blanks + line.size() > outCapacity && !Grow(blanks + line.size())) return false;
+  if (outLength + blanks + line.size() > outCapacity && !GrowCapacity(blanks + line.size()))
+    return false;
   std::memset(outBuffer_.get() + outLength, ' ', blanks);
   outLength += static_cast<std::uint32_t>(blanks);
   Append(line);
@@ -146,24 +148,34 @@ bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
 
 bool CFileSax::MakeRoom(std::size_t margin)
 {
-  return outBuffer_ && outLength + margin < outCapacity ? true : Grow(margin);
+  return outBuffer_ && outLength + margin < outCapacity ? true : GrowCapacity(margin);
 }
 
-bool CFileSax::Grow(std::size_t margin)
+bool CFileSax::GrowCapacity(std::size_t margin)
 {
   constexpr std::size_t step = 0x8000;
   constexpr std::size_t largestSum = 0xFFFF7FFF;
   const std::size_t wanted = outLength + margin;
   const std::size_t request =
       wanted > largestSum ? std::numeric_limits<std::size_t>::max() : wanted + step;
+  if (request > blockSize_ && !GrowBlock(request)) return false;
+  outCapacity = static_cast<std::uint32_t>(request);
+  return true;
+}
+
+bool CFileSax::GrowBlock(std::size_t size)
+{
   const bool fresh = !outBuffer_;
+  // The capacity grows by steps; the block by half, so that moving it costs no more than filling
+  // it.
+  const std::size_t grown = std::max(size, blockSize_ + blockSize_ / 2);
   // A failed resize loses the block; the next one starts anew at the same length.
-  outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), request)));
+  outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), grown)));
+  blockSize_ = outBuffer_ ? grown : 0;
   if (!outBuffer_) {
     lostBlock_ = true;
     return false;
   }
-  outCapacity = static_cast<std::uint32_t>(request);
   if (fresh) std::memset(outBuffer_.get(), 0, outLength);
   return true;
 }

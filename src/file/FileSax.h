@@ -85,14 +85,15 @@ public:
 
   std::int32_t indent = 0;        ///< current nesting level
   std::uint32_t outLength = 0;    ///< bytes written
-  std::uint32_t outCapacity = 0;  ///< bytes of the block
+  std::uint32_t outCapacity = 0;  ///< bytes that the block is said to have
 
 protected:
   /// Resizes the block as `realloc` does; null when there is no memory for it.
   virtual void* Reallocate(void* block, std::size_t size);
 
-  /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
-  void WriteEmptyElementText(std::string_view name, std::string_view attributeText);
+  /// Writes an empty element from its "<" to its line break; `attributeLength` of it are the
+  /// attributes with the blanks behind them.
+  void WriteEmptyElementLine(std::string_view line, std::size_t attributeLength);
 
 private:
   struct FreeBlock {
@@ -100,12 +101,14 @@ private:
   };
 
   bool MakeRoom(std::size_t margin);
-  bool Grow(std::size_t margin);
+  bool GrowCapacity(std::size_t margin);
+  bool GrowBlock(std::size_t size);
   void Append(std::string_view text);
   bool WriteLine(std::size_t margin, std::string_view line);
 
   IMessageBoxes& messages_;
   std::unique_ptr<char, FreeBlock> outBuffer_;
+  std::size_t blockSize_ = 0;  ///< bytes of the block, never fewer than `outCapacity`
   bool lostBlock_ = false;
   int writeError_ = 0;
   ReadError readError_;

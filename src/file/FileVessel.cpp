@@ -1,10 +1,12 @@
 #include "file/FileVessel.h"
 
+#include <array>
 #include <utility>
 
 #include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "file/CoordinateLine.h"
 #include "file/DesignElements.h"
 
 namespace hullwright {
@@ -70,7 +72,7 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
     });
   } else if (const auto* const offset = std::get_if<OffsetMember>(&element.member)) {
     if (const CShapeVertex* const place = (this->*offset->inFile).get()) {
-      WriteCoordinates(element, *place);
+      WriteCoordinates(CoordinateLine(element), *place);
     }
   } else if (element.kind == ElementKind::AnchorList && anchors) {
     OpenElement(element.name);
@@ -91,23 +93,18 @@ void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 void CFileVessel::WritePolyline(const CShape& polyline)
 {
   constexpr const DesignElement& element = ElementOf(ElementKind::Polyline);
-  static constexpr const DesignElement& vertexElement = ElementOf(ElementKind::Vertex);
+  static constexpr CoordinateLine vertexLine(ElementOf(ElementKind::Vertex));
   OpenElement(element.name);
   Walk(polyline.cursor, polyline.vertices,
-       [this](const CShapeVertex& vertex) { WriteCoordinates(vertexElement, vertex); });
+       [this](const CShapeVertex& vertex) { WriteCoordinates(vertexLine, vertex); });
   CloseElement(element.name);
 }
 
-void CFileVessel::WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex)
+void CFileVessel::WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place)
 {
-  std::string attributes;
-  for (const Coordinate& coordinate : coordinates) {
-    attributes.push_back(coordinate.axis);
-    attributes += "=\"";
-    AppendFixed3(attributes, vertex.*coordinate.member);
-    attributes += "\" ";
-  }
-  WriteEmptyElementText(element.name, attributes);
+  std::array<char, CoordinateLine::longest> text;
+  const std::string_view whole(text.data(), line.Write(text.data(), place));
+  WriteEmptyElementLine(whole, whole.size() - line.TagLength());
 }
 
 void CFileVessel::WriteAnchor(const CAnchor& anchor)

@@ -11,6 +11,7 @@
 
 namespace hullwright {
 
+class CoordinateLine;
 struct DesignElement;
 
 /// The design file, for one open or one save. It has its own copies of offsets, unit and anchors;
@@ -59,7 +60,7 @@ private:
                  EmptyGroups emptyGroups);
   void WriteGroup(const DesignElement& element, const CShapes& group);
   void WritePolyline(const CShape& polyline);
-  void WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex);
+  void WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place);
   void WriteAnchor(const CAnchor& anchor);
 
   std::string element_;

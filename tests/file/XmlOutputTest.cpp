@@ -122,6 +122,21 @@ TEST_F(XmlOutput, TheBlockGrowsWhenTheMarginReachesItsEnd)
   EXPECT_EQ(file.outCapacity, length + 0x101 + 0x8000);
 }
 
+TEST_F(XmlOutput, TheBlockIsResizedFewTimesWhileItsCapacityGrowsByTheStep)
+{
+  constexpr std::uint32_t enough = 4'000'000;
+  constexpr std::uint32_t margin = 0x101;
+  while (file.outLength < enough) {
+    const std::uint32_t before = file.outLength;
+    const std::uint32_t capacity = file.outCapacity;
+    file.WriteTextElement("e", u"0");
+    const bool grows = before + margin >= capacity;
+    ASSERT_EQ(file.outCapacity, grows ? before + margin + 0x8000 : capacity) << before;
+  }
+  EXPECT_LT(file.wanted.size(), 20U);
+  EXPECT_GE(file.wanted.back(), file.outCapacity);
+}
+
 TEST_F(XmlOutput, ANameOf600CharactersIsWrittenInOnePiece)
 {
   const std::u16string name(600, u'\u00E4');
