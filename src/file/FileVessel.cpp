@@ -25,8 +25,13 @@ bool HoldsPolyline(const CShapes& group)
 /// Takes the coordinates of a vertex; one that is missing is 0.
 void ReadCoordinates(CShapeVertex& vertex, SaxAttributes attributes)
 {
-  for (const Coordinate& coordinate : coordinates) {
-    vertex.*coordinate.member = ParseDouble(AttributeValue(attributes, coordinate.Name()));
+  for (const Coordinate& coordinate : coordinates) vertex.*coordinate.member = 0.0;
+  for (const SaxAttribute& attribute : attributes) {
+    if (attribute.name.size() != 1) continue;
+    for (const Coordinate& coordinate : coordinates) {
+      if (coordinate.axis != attribute.name.front()) continue;
+      vertex.*coordinate.member = ParseDouble(attribute.value);
+    }
   }
 }
 
@@ -119,10 +124,19 @@ void CFileVessel::WriteAnchor(const CAnchor& anchor)
   CloseElement(anchorElement.name);
 }
 
+const DesignElement* CFileVessel::ElementOfTag(std::string_view name)
+{
+  // Most tags bear the name of the one before.
+  if (name != tagName_) {
+    tagName_ = name;
+    tagElement_ = FindElement(name);
+  }
+  return tagElement_;
+}
+
 void CFileVessel::StartElement(std::string_view name, SaxAttributes attributes)
 {
-  element_ = name;
-  const DesignElement* const element = FindElement(name);
+  const DesignElement* const element = ElementOfTag(name);
   if (element == nullptr) return;
   switch (element->kind) {
     case ElementKind::Unit:
@@ -165,7 +179,7 @@ void CFileVessel::Characters(std::string_view text)
   if (state_ != State::InAnchor || !anchors || !currentAnchor_) return;
   // Text behind a close tag still counts for the element that ended, and each chunk replaces the
   // one before it.
-  const DesignElement* const field = FindAnchorField(element_);
+  const DesignElement* const field = FindAnchorField(tagName_);
   if (field != nullptr && field->use != ElementUse::OnlyInLists) {
     ReadMember(*field, *currentAnchor_, text);
   }
@@ -173,8 +187,7 @@ void CFileVessel::Characters(std::string_view text)
 
 void CFileVessel::EndElement(std::string_view name)
 {
-  element_ = name;
-  const DesignElement* const element = FindElement(name);
+  const DesignElement* const element = ElementOfTag(name);
   if (element == nullptr) return;
   if (element->kind == ElementKind::Polyline && state_ == State::InPolyline) {
     if (currentGroup_ && currentPolyline_) {

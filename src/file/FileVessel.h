@@ -49,7 +49,7 @@ protected:
   const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
 
   /// The element that started or ended last.
-  const std::string& LastElement() const { return element_; }
+  const std::string& LastElement() const { return tagName_; }
 
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
@@ -62,8 +62,10 @@ private:
   void WritePolyline(const CShape& polyline);
   void WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place);
   void WriteAnchor(const CAnchor& anchor);
+  const DesignElement* ElementOfTag(std::string_view name);
 
-  std::string element_;
+  std::string tagName_;                        ///< of the start or end tag that came last
+  const DesignElement* tagElement_ = nullptr;  ///< what it stands for; null where it is unknown
   State state_ = State::Start;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;
