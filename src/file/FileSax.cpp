@@ -155,6 +155,7 @@ bool CFileSax::GrowCapacity(std::size_t margin)
 {
   constexpr std::size_t step = 0x8000;
   constexpr std::size_t largestSum = 0xFFFF7FFF;
+  if (outBuffer_) OnFullBlock();
   const std::size_t wanted = outLength + margin;
   const std::size_t request =
       wanted > largestSum ? std::numeric_limits<std::size_t>::max() : wanted + step;

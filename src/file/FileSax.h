@@ -91,6 +91,10 @@ protected:
   /// Resizes the block as `realloc` does; null when there is no memory for it.
   virtual void* Reallocate(void* block, std::size_t size);
 
+  /// Called when the block is full, before it grows: a class that has taken the text so far may set
+  /// `outLength` to 0.
+  virtual void OnFullBlock() {}
+
   /// Writes an empty element from its "<" to its line break; `attributeLength` of it are the
   /// attributes with the blanks behind them.
   void WriteEmptyElementLine(std::string_view line, std::size_t attributeLength);
