@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 #include <optional>
 
@@ -85,6 +87,39 @@ bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
   return position * digitsPerExponent + exponent > 0;
 }
 
+// A processor that computes in more than double precision would round a quotient twice.
+static_assert(FLT_EVAL_METHOD == 0);
+
+/// The number that the text begins with, if it is a decimal of few digits: an integer below 2^53
+/// over a power of ten, both without error, so that the one division rounds as the library does.
+/// Nothing for any other text, also for one with an exponent and for hexadecimal digits.
+std::optional<double> ParseShortDecimal(std::string_view text)
+{
+  constexpr std::ptrdiff_t mostDigits = 19;  // what 64 bits hold
+  constexpr std::uint64_t mostInteger = std::uint64_t{1} << 53U;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  const char* point = nullptr;
+  std::uint64_t integer = 0;
+  for (; at != end; ++at) {
+    if (IsDigit(*at)) {
+      integer = integer * 10 + static_cast<std::uint64_t>(*at - '0');
+    } else if (*at == '.' && point == nullptr) {
+      point = at;
+    } else {
+      break;
+    }
+  }
+  const std::ptrdiff_t decimals = point == nullptr ? 0 : at - point - 1;
+  const std::ptrdiff_t digits = at - text.data() - (point == nullptr ? 0 : 1);
+  if (digits == 0 || digits > mostDigits || integer > mostInteger) return std::nullopt;
+  if (at != end && (Lower(*at) == 'e' || Lower(*at) == 'x')) return std::nullopt;
+  static constexpr std::array<double, mostDigits + 1> powersOfTen = {
+      1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+      1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+  return static_cast<double>(integer) / powersOfTen[static_cast<std::size_t>(decimals)];
+}
+
 /// The number that the text begins with; nothing where there is none, so that no sign is put to it.
 std::optional<double> ParseMagnitude(std::string_view text)
 {
@@ -124,7 +159,9 @@ std::uint64_t ParseDigits(std::string_view text, int base)
 /// The magnitude of `value` times 1000, rounded to the nearest integer, halves to even; false where
 /// this arithmetic does not reach (2^52 and above, infinities, NaN). A double is m * 2^-shift with
 /// m below 2^53, so m * 1000 stays below 2^63 and the bits shifted out decide the rounding exactly
-/// as the library's does.
+/// as the library's does. What is added before the shift carries into the integer when they are
+/// more than a half, or a half above an odd integer: a branch here would be guessed wrong half the
+/// time.
 bool ScaleToThousandths(double value, std::uint64_t& thousandths)
 {
   constexpr int mantissaBits = 52;
@@ -140,10 +177,8 @@ bool ScaleToThousandths(double value, std::uint64_t& thousandths)
   const std::uint64_t mantissa =
       (bits & ((std::uint64_t{1} << mantissaBits) - 1)) | (std::uint64_t{1} << mantissaBits);
   const std::uint64_t product = mantissa * 1000;
-  const std::uint64_t rest = product & ((std::uint64_t{1} << shift) - 1);
-  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
-  thousandths = product >> shift;
-  if (rest > half || (rest == half && (thousandths & 1U) != 0)) ++thousandths;
+  const std::uint64_t belowHalf = (std::uint64_t{1} << (shift - 1)) - 1;
+  thousandths = (product + belowHalf + ((product >> shift) & 1U)) >> shift;
   return true;
 }
 
@@ -153,6 +188,34 @@ std::string Shortest(Number value)
   std::array<char, 32> text{};
   const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value);
   return {text.data(), end};
+}
+
+/// The numbers 000 to 999, three digits each. One that is copied from behind its leading zeros
+/// reads up to two characters past its own.
+constexpr auto threeDigits = [] {
+  std::array<char, 3 * 1000 + 2> text{};
+  for (std::size_t i = 0; i < 1000; ++i) {
+    text[3 * i] = static_cast<char>('0' + i / 100);
+    text[3 * i + 1] = static_cast<char>('0' + i / 10 % 10);
+    text[3 * i + 2] = static_cast<char>('0' + i % 10);
+  }
+  return text;
+}();
+
+/// Writes a number below 1000 with its leading zeros; the end of it.
+char* WriteThreeDigits(char* at, std::uint64_t number)
+{
+  std::memcpy(at, threeDigits.data() + 3 * number, 3);
+  return at + 3;
+}
+
+/// Writes an integer in three digits at a time; the end of it.
+char* WriteInteger(char* at, std::uint64_t number)
+{
+  if (number >= 1000) return WriteThreeDigits(WriteInteger(at, number / 1000), number % 1000);
+  const int zeros = number >= 100 ? 0 : number >= 10 ? 1 : 2;
+  std::memcpy(at, threeDigits.data() + 3 * number + zeros, 3);
+  return at + 3 - zeros;
 }
 
 }  // namespace
@@ -166,7 +229,8 @@ std::int32_t TruncateToInt32(double value)
 double ParseDouble(std::string_view text)
 {
   const bool negative = TakeSign(text);
-  const std::optional<double> magnitude = ParseMagnitude(text);
+  std::optional<double> magnitude = ParseShortDecimal(text);
+  if (!magnitude) magnitude = ParseMagnitude(text);
   if (!magnitude) return 0.0;
   return negative ? -*magnitude : *magnitude;
 }
@@ -213,22 +277,22 @@ std::string FormatFixed(double value, int decimals)
   return {text.data(), end};
 }
 
-void AppendFixed3(std::string& out, double value)
+char* WriteFixed3(char* at, double value)
 {
   std::uint64_t thousandths = 0;
   if (!ScaleToThousandths(value, thousandths)) {
-    out += FormatFixed(value, 3);
-    return;
+    return std::to_chars(at, at + longestFixed3, value, std::chars_format::fixed, 3).ptr;
   }
-  std::array<char, 24> text{};
-  char* at = text.data() + text.size();
-  for (int digits = 0; digits < 4 || thousandths != 0; ++digits) {
-    if (digits == 3) *--at = '.';
-    *--at = static_cast<char>('0' + thousandths % 10);
-    thousandths /= 10;
-  }
-  if (std::signbit(value)) *--at = '-';
-  out.append(at, text.data() + text.size());
+  *at = '-';
+  at = WriteInteger(at + (std::signbit(value) ? 1 : 0), thousandths / 1000);
+  *at++ = '.';
+  return WriteThreeDigits(at, thousandths % 1000);
+}
+
+void AppendFixed3(std::string& out, double value)
+{
+  std::array<char, longestFixed3> text;
+  out.append(text.data(), WriteFixed3(text.data(), value));
 }
 
 std::string FormatSignedFixed(double value, int decimals, int width)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -31,7 +32,14 @@ std::uint32_t ParseUInt32(std::string_view text, int base);
 /// Formats as "%.<decimals>lf"; `decimals` is at most 80.
 std::string FormatFixed(double value, int decimals);
 
-/// Appends "%.3lf", the form of all coordinates in files.
+/// What `WriteFixed3` needs room for: the largest double has 309 digits before the point.
+inline constexpr std::size_t longestFixed3 = 320;
+
+/// Writes "%.3lf", the form of all coordinates in files, without a NUL; the end of it. Room for
+/// `longestFixed3` characters must be there.
+char* WriteFixed3(char* at, double value);
+
+/// Appends "%.3lf".
 void AppendFixed3(std::string& out, double value);
 
 /// Formats as "%+0<width>.<decimals>lf": always a sign, filled with zeros behind it up to `width`.

@@ -78,10 +78,10 @@ static_assert(std::ranges::is_sorted(lossWords, {}, [](const LossWords& row) {
 }));
 
 /// The beginning of a text on one line, in quotation marks.
-std::string Quoted(std::u16string_view text)
+std::string Quoted(std::string_view text)
 {
   constexpr std::size_t longest = 60;
-  std::u16string line(text.substr(text.find_first_not_of(u" \t\r\n")));
+  std::u16string line = WideFromUtf8(text.substr(text.find_first_not_of(" \t\r\n")));
   if (line.size() > longest) line = line.substr(0, longest) + u"\u2026";
   std::ranges::replace_if(
       line, [](char16_t c) { return c < u' '; }, u' ');
@@ -90,20 +90,20 @@ std::string Quoted(std::u16string_view text)
 
 std::string ExampleText(Example example, const LossPlace& place)
 {
-  std::string element = "<" + Utf8FromWide(place.element) + ">";
-  const std::string attribute = Utf8FromWide(place.attribute);
-  const std::string value = "=\"" + Utf8FromWide(place.text) + "\"";
+  std::string element = "<" + place.element + ">";
+  const std::string& attribute = place.attribute;
+  const std::string value = "=\"" + place.text + "\"";
   switch (example) {
     case Example::Element: break;
-    case Example::ElementInParent: return element + " in <" + Utf8FromWide(place.parent) + ">";
-    case Example::ElementAndText: return element + " " + Utf8FromWide(place.text);
+    case Example::ElementInParent: return element + " in <" + place.parent + ">";
+    case Example::ElementAndText: return element + " " + place.text;
     case Example::Text: return Quoted(place.text);
     case Example::TextInElement: return Quoted(place.text) + " in " + element;
     case Example::Attribute: return attribute + value;
     case Example::AttributeOfElement: return attribute + value + " of " + element;
     case Example::Saved:
       return (attribute.empty() ? element : attribute + " of " + element) + value + ", saved as " +
-             Utf8FromWide(place.saved);
+             place.saved;
   }
   return element;
 }
@@ -112,7 +112,7 @@ std::string ExampleText(Example example, const LossPlace& place)
 std::string PlaceOf(const DesignNumber& number)
 {
   if (number.anchor != nullptr) return "anchor " + std::to_string(number.anchor->id);
-  if (number.group == nullptr) return "offset " + Utf8FromWide(number.element.name);
+  if (number.group == nullptr) return "offset " + std::string(number.element.name);
   std::string place = GroupName(number.group->viewCode);
   if (number.groupNumber != 1) place += " (group " + std::to_string(number.groupNumber) + ")";
   return place + ", polyline " + std::to_string(number.polylineNumber) + ", vertex " +
@@ -138,8 +138,8 @@ std::vector<std::string> LossFindings(const CSaveLosses& losses)
     findings.push_back(row.words + (" (" + std::to_string(loss.count)) +
                        "): " + ExampleText(row.example, loss.first));
   }
-  for (const std::u16string_view name : losses.Missing()) {
-    findings.push_back("there is no <" + Utf8FromWide(name) + ">; a save writes one of its own");
+  for (const std::string_view name : losses.Missing()) {
+    findings.push_back("there is no <" + std::string(name) + ">; a save writes one of its own");
   }
   return findings;
 }
@@ -151,7 +151,7 @@ std::vector<std::string> NumberFindings(const DesignState& design)
     const char* const value = std::isnan(number.value) ? "nan"
                               : number.value < 0.0     ? "-inf"
                                                        : "inf";
-    findings.push_back(PlaceOf(number) + ": " + Utf8FromWide(number.name) + " is not finite (" +
+    findings.push_back(PlaceOf(number) + ": " + std::string(number.name) + " is not finite (" +
                        value + ")");
   });
   return findings;

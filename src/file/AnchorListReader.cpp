@@ -13,20 +13,20 @@ CAnchorListReader::CAnchorListReader(CAnchors& anchors, IMessageBoxes& messages)
 
 CAnchorListReader::~CAnchorListReader() = default;
 
-void CAnchorListReader::StartElement(std::u16string_view name, const AttributeMap&)
+void CAnchorListReader::StartElement(std::string_view name, SaxAttributes)
 {
   element_ = name;
   if (name == ElementOf(ElementKind::Anchor).name) current_ = std::make_unique<CAnchor>();
 }
 
-void CAnchorListReader::EndElement(std::u16string_view name)
+void CAnchorListReader::EndElement(std::string_view name)
 {
   element_ = name;
   if (name == ElementOf(ElementKind::Anchor).name && current_)
     anchors_.items.push_back(std::move(current_));
 }
 
-void CAnchorListReader::Characters(std::u16string_view text)
+void CAnchorListReader::Characters(std::string_view text)
 {
   const DesignElement* const field = FindAnchorField(element_);
   if (current_ && field != nullptr) ReadMember(*field, *current_, text);

@@ -15,14 +15,14 @@ public:
   CAnchorListReader(CAnchors& anchors, IMessageBoxes& messages);
   ~CAnchorListReader() override;
 
-  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
-  void EndElement(std::u16string_view name) override;
-  void Characters(std::u16string_view text) override;
+  void StartElement(std::string_view name, SaxAttributes attributes) override;
+  void EndElement(std::string_view name) override;
+  void Characters(std::string_view text) override;
 
 private:
   CAnchors& anchors_;
   std::unique_ptr<CAnchor> current_;  ///< the anchor being read
-  std::u16string element_;            ///< the element that started or ended last
+  std::string element_;               ///< the element that started or ended last
 };
 
 }  // namespace hullwright

@@ -6,10 +6,13 @@
 namespace hullwright {
 namespace {
 
-void ReadValue(std::u16string& value, ValueFormat, std::u16string_view text) { value = text; }
+void ReadValue(std::u16string& value, ValueFormat, std::string_view text)
+{
+  value = WideFromUtf8(text);
+}
 
 template <class Value>
-void ReadValue(Value& value, ValueFormat format, std::u16string_view text)
+void ReadValue(Value& value, ValueFormat format, std::string_view text)
 {
   switch (format) {
     case ValueFormat::Decimal: value = static_cast<Value>(ParseInt32(text, 10)); break;
@@ -37,7 +40,8 @@ std::u16string ValueText(Value value, ValueFormat format)
     case ValueFormat::Flag: return WideFromAscii(std::to_string(static_cast<std::int64_t>(value)));
     case ValueFormat::Hexadecimal:
       return WideFromAscii(FormatHex(static_cast<std::uint32_t>(value), 2));
-    case ValueFormat::ThreeDecimals: return ThreeDecimalsText(static_cast<double>(value));
+    case ValueFormat::ThreeDecimals:
+      return WideFromAscii(FormatFixed(static_cast<double>(value), 3));
     case ValueFormat::None:
     case ValueFormat::Text: break;
   }
@@ -58,7 +62,7 @@ void VisitMember(const DesignElement& element, Object& object, Visit visit)
 }  // namespace
 
 template <class Object>
-void ReadMember(const DesignElement& element, Object& object, std::u16string_view text)
+void ReadMember(const DesignElement& element, Object& object, std::string_view text)
 {
   VisitMember(element, object, [&](auto& value) { ReadValue(value, element.format, text); });
 }
@@ -71,18 +75,11 @@ std::u16string MemberText(const DesignElement& element, const Object& object)
   return text;
 }
 
-template void ReadMember(const DesignElement&, CFileVessel&, std::u16string_view);
-template void ReadMember(const DesignElement&, CShapes&, std::u16string_view);
-template void ReadMember(const DesignElement&, CAnchor&, std::u16string_view);
+template void ReadMember(const DesignElement&, CFileVessel&, std::string_view);
+template void ReadMember(const DesignElement&, CShapes&, std::string_view);
+template void ReadMember(const DesignElement&, CAnchor&, std::string_view);
 template std::u16string MemberText(const DesignElement&, const CFileVessel&);
 template std::u16string MemberText(const DesignElement&, const CShapes&);
 template std::u16string MemberText(const DesignElement&, const CAnchor&);
-
-std::u16string ThreeDecimalsText(double value)
-{
-  std::string text;
-  AppendFixed3(text, value);
-  return WideFromAscii(text);
-}
 
 }  // namespace hullwright

@@ -61,34 +61,31 @@ using ElementMember =
 
 /// An element of the design file.
 struct DesignElement {
-  std::u16string_view name;
-  std::u16string_view parent;  ///< where a save puts it; a reader takes it anywhere
+  std::string_view name;
+  std::string_view parent;  ///< where a save puts it; a reader takes it anywhere
   ElementKind kind;
   ElementMember member = {};
   ValueFormat format = ValueFormat::None;
   ElementUse use = ElementUse::Saved;
-  std::u16string_view attribute = {};  ///< holds the value; empty where the text between tags does
+  std::string_view attribute = {};  ///< holds the value; empty where the text between tags does
 };
 
 /// One of the attributes that vertices and offsets have.
 struct Coordinate {
-  constexpr std::u16string_view Name() const { return {&axis, 1}; }
+  constexpr std::string_view Name() const { return {&axis, 1}; }
 
-  char16_t axis;
+  char axis;
   double CShapeVertex::*member;
 };
 
-/// Takes a text into the member of `object` that an element fills. Nothing happens where the member
-/// is that of another class.
+/// Takes a text in UTF-8 into the member of `object` that an element fills. Nothing happens where
+/// the member is that of another class.
 template <class Object>
-void ReadMember(const DesignElement& element, Object& object, std::u16string_view text);
+void ReadMember(const DesignElement& element, Object& object, std::string_view text);
 
 /// The member of `object` that an element fills as a save spells it; empty where the member is that
 /// of another class.
 template <class Object>
 std::u16string MemberText(const DesignElement& element, const Object& object);
-
-/// A number as a save spells it: "%.3lf".
-std::u16string ThreeDecimalsText(double value);
 
 }  // namespace hullwright

@@ -18,31 +18,31 @@ inline constexpr auto designElements = [] {
   constexpr OffsetMember txd = {&CFileVessel::txd, &DesignState::offsetTransducer};
   constexpr OffsetMember piv = {&CFileVessel::piv, &DesignState::offsetPivot};
   return std::to_array<DesignElement>({
-      {u"vessel", u"", Root},
-      {u"units", u"vessel", Unit, &CFileVessel::unitCode, Format::Decimal, Saved, u"id"},
-      {u"shapes", u"vessel", Group, &CShapes::viewCode, Format::Hexadecimal, Saved, u"view"},
-      {u"polyline", u"shapes", Polyline},
-      {u"vertex", u"polyline", Vertex},
-      {u"gps", u"vessel", Offset, gps},
-      {u"txd", u"vessel", Offset, txd},
-      {u"piv", u"vessel", Offset, piv},
-      {u"anchors", u"vessel", AnchorList},
-      {u"anchor", u"anchors", Anchor},
-      {u"id", u"anchor", AnchorField, &CAnchor::id, Format::Unsigned},
-      {u"name", u"anchor", AnchorField, &CAnchor::name, Format::Text},
-      {u"attachmentX", u"anchor", AnchorField, &CAnchor::attachmentX, Format::ThreeDecimals},
-      {u"attachmentY", u"anchor", AnchorField, &CAnchor::attachmentY, Format::ThreeDecimals},
-      {u"vessel", u"anchor", AnchorField, &CAnchor::vessel, Format::Unsigned, OnlyRead},
-      {u"visible", u"anchor", AnchorField, &CAnchor::visible, Format::Flag, OnlyInLists},
-      {u"state", u"anchor", AnchorField, &CAnchor::state, Format::Unsigned, OnlyInLists},
-      {u"easting", u"anchor", AnchorField, &CAnchor::easting, Format::ThreeDecimals, OnlyInLists},
-      {u"northing", u"anchor", AnchorField, &CAnchor::northing, Format::ThreeDecimals, OnlyInLists},
+      {"vessel", "", Root},
+      {"units", "vessel", Unit, &CFileVessel::unitCode, Format::Decimal, Saved, "id"},
+      {"shapes", "vessel", Group, &CShapes::viewCode, Format::Hexadecimal, Saved, "view"},
+      {"polyline", "shapes", Polyline},
+      {"vertex", "polyline", Vertex},
+      {"gps", "vessel", Offset, gps},
+      {"txd", "vessel", Offset, txd},
+      {"piv", "vessel", Offset, piv},
+      {"anchors", "vessel", AnchorList},
+      {"anchor", "anchors", Anchor},
+      {"id", "anchor", AnchorField, &CAnchor::id, Format::Unsigned},
+      {"name", "anchor", AnchorField, &CAnchor::name, Format::Text},
+      {"attachmentX", "anchor", AnchorField, &CAnchor::attachmentX, Format::ThreeDecimals},
+      {"attachmentY", "anchor", AnchorField, &CAnchor::attachmentY, Format::ThreeDecimals},
+      {"vessel", "anchor", AnchorField, &CAnchor::vessel, Format::Unsigned, OnlyRead},
+      {"visible", "anchor", AnchorField, &CAnchor::visible, Format::Flag, OnlyInLists},
+      {"state", "anchor", AnchorField, &CAnchor::state, Format::Unsigned, OnlyInLists},
+      {"easting", "anchor", AnchorField, &CAnchor::easting, Format::ThreeDecimals, OnlyInLists},
+      {"northing", "anchor", AnchorField, &CAnchor::northing, Format::ThreeDecimals, OnlyInLists},
   });
 }();
 
 /// The attributes of vertices and offsets, in the order of a save.
 inline constexpr std::array<Coordinate, 3> coordinates = {
-    {{u'x', &CShapeVertex::x}, {u'y', &CShapeVertex::y}, {u'z', &CShapeVertex::z}}};
+    {{'x', &CShapeVertex::x}, {'y', &CShapeVertex::y}, {'z', &CShapeVertex::z}}};
 
 /// Whether an element has the attributes of `coordinates`.
 constexpr bool HasCoordinates(const DesignElement& element)
@@ -71,7 +71,7 @@ constexpr const DesignElement& FieldOf(Value CAnchor::*member)
 }
 
 /// The element that the reader of designs takes a tag for; null for a name that it passes over.
-constexpr const DesignElement* FindElement(std::u16string_view name)
+constexpr const DesignElement* FindElement(std::string_view name)
 {
   const auto* const found =
       std::ranges::find_if(designElements, [name](const DesignElement& element) {
@@ -81,7 +81,7 @@ constexpr const DesignElement* FindElement(std::u16string_view name)
 }
 
 /// The element of a design that stands in another; null for one that belongs elsewhere.
-constexpr const DesignElement* FindElement(std::u16string_view name, std::u16string_view parent)
+constexpr const DesignElement* FindElement(std::string_view name, std::string_view parent)
 {
   const auto* const found =
       std::ranges::find_if(designElements, [name, parent](const DesignElement& element) {
@@ -93,7 +93,7 @@ constexpr const DesignElement* FindElement(std::u16string_view name, std::u16str
 
 /// The field of an anchor that a name stands for, also one that only anchor lists have; null for
 /// any other name.
-constexpr const DesignElement* FindAnchorField(std::u16string_view name)
+constexpr const DesignElement* FindAnchorField(std::string_view name)
 {
   const auto* const found =
       std::ranges::find_if(designElements, [name](const DesignElement& element) {

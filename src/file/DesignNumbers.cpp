@@ -10,18 +10,14 @@ namespace {
 
 using Visit = std::function<void(const DesignNumber&)>;
 
-void VisitIfNotFinite(const DesignNumber& number, const Visit& visit)
-{
-  if (!std::isfinite(number.value)) visit(number);
-}
-
 /// Reports the coordinates of a vertex; `number` is its place.
-void VisitCoordinates(const CShapeVertex& vertex, DesignNumber number, const Visit& visit)
+void VisitCoordinates(const CShapeVertex& vertex, DesignNumber& number, const Visit& visit)
 {
   for (const Coordinate& coordinate : coordinates) {
+    if (std::isfinite(vertex.*coordinate.member)) continue;
     number.name = coordinate.Name();
     number.value = vertex.*coordinate.member;
-    VisitIfNotFinite(number, visit);
+    visit(number);
   }
 }
 
@@ -51,13 +47,15 @@ void ForEachNonFiniteNumber(const DesignState& design, const Visit& visit)
     const auto* const member = std::get_if<OffsetMember>(&element.member);
     const CShapeVertex* const offset =
         member == nullptr ? nullptr : (design.*member->inDesign).get();
-    if (offset != nullptr) VisitCoordinates(*offset, {element, {}, 0.0}, visit);
+    DesignNumber number = {element, {}, 0.0};
+    if (offset != nullptr) VisitCoordinates(*offset, number, visit);
   }
   ForEachUpToNull(design.anchors->items, [&](const CAnchor& anchor) {
     for (const DesignElement& element : designElements) {
       const auto* const member = std::get_if<double CAnchor::*>(&element.member);
       if (member == nullptr || element.use != ElementUse::Saved) continue;
-      VisitIfNotFinite({element, element.name, anchor.**member, nullptr, 0, 0, 0, &anchor}, visit);
+      const double value = anchor.**member;
+      if (!std::isfinite(value)) visit({element, element.name, value, nullptr, 0, 0, 0, &anchor});
     }
   });
 }

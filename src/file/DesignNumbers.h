@@ -12,7 +12,7 @@ namespace hullwright {
 /// A number of a design, with the place where it stands.
 struct DesignNumber {
   const DesignElement& element;  ///< a vertex, an offset, or a field of an anchor
-  std::u16string_view name;      ///< of the attribute, or of the field
+  std::string_view name;         ///< of the attribute, or of the field
   double value;
 
   // Of a vertex; numbers count from 1.

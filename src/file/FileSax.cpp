@@ -34,22 +34,15 @@ std::string AttributeText(std::u16string_view name, std::u16string_view value)
 
 }  // namespace
 
-const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name)
-{
-  static const std::u16string missing;
-  const auto found = attributes.find(name);
-  return found == attributes.end() ? missing : found->second;
-}
-
 CFileSax::~CFileSax() = default;
 
-void CFileSax::StartElement(std::u16string_view, const AttributeMap&) {}
+void CFileSax::StartElement(std::string_view, SaxAttributes) {}
 
-void CFileSax::EndElement(std::u16string_view) {}
+void CFileSax::EndElement(std::string_view) {}
 
-void CFileSax::Characters(std::u16string_view) {}
+void CFileSax::Characters(std::string_view) {}
 
-void CFileSax::PassOver(std::u16string_view) {}
+void CFileSax::PassOver(std::string_view) {}
 
 void CFileSax::Error(std::u16string_view, int, int, int) {}
 
@@ -83,6 +76,7 @@ void CFileSax::ResetOutput()
   outLength = 0;
   outCapacity = 0;
   outBuffer_.reset();
+  blockSize_ = 0;
   lostBlock_ = false;
 }
 
@@ -92,54 +86,51 @@ void CFileSax::WriteDeclaration()
   Append("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n");
 }
 
-void CFileSax::OpenElement(std::u16string_view name)
+void CFileSax::OpenElement(std::string_view name)
 {
   if (!MakeRoom(openMargin)) return;
-  if (WriteLine(0, Joined({"<", Utf8FromWide(name), ">\n"}))) ++indent;
+  if (WriteLine(0, Joined({"<", name, ">\n"}))) ++indent;
 }
 
-void CFileSax::OpenElement(std::u16string_view name, const AttributeMap& attributes)
+void CFileSax::OpenElement(std::string_view name, const AttributeMap& attributes)
 {
   // Each pair goes to the front, so that the names stand in descending order here.
   std::string text;
   for (const auto& [key, value] : attributes) text.insert(0, AttributeText(key, value));
   if (!MakeRoom(elementMargin + text.size())) return;
-  if (WriteLine(0, Joined({"<", Utf8FromWide(name), " ", text, ">\n"}))) ++indent;
+  if (WriteLine(0, Joined({"<", name, " ", text, ">\n"}))) ++indent;
 }
 
-void CFileSax::CloseElement(std::u16string_view name)
+void CFileSax::CloseElement(std::string_view name)
 {
   if (!MakeRoom(elementMargin)) return;
   --indent;
-  if (!WriteLine(0, Joined({"</", Utf8FromWide(name), ">\n"}))) ++indent;
+  if (!WriteLine(0, Joined({"</", name, ">\n"}))) ++indent;
 }
 
-void CFileSax::WriteTextElement(std::u16string_view name, std::u16string_view value)
+void CFileSax::WriteTextElement(std::string_view name, std::u16string_view value)
 {
   const std::string text = Escape(value);
-  const std::string tag = Utf8FromWide(name);
-  WriteLine(elementMargin + text.size(), Joined({"<", tag, ">", text, "</", tag, ">\n"}));
+  WriteLine(elementMargin + text.size(), Joined({"<", name, ">", text, "</", name, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attributes,
                                  std::u16string_view body)
 {
   std::string text;
   for (const auto& [key, value] : attributes) text += AttributeText(key, value);
   if (body.empty()) {
-    WriteEmptyElementText(name, text);
+    WriteEmptyElementLine(Joined({"<", name, " ", text, "/>\n"}), text.size());
     return;
   }
-  const std::string tag = Utf8FromWide(name);
   const std::string content = Escape(body);
   WriteLine(elementMargin + text.size() + content.size(),
-            Joined({"<", tag, " ", text, ">", content, "</", tag, ">\n"}));
+            Joined({"<", name, " ", text, ">", content, "</", name, ">\n"}));
 }
 
-void CFileSax::WriteEmptyElementText(std::u16string_view name, std::string_view attributeText)
+void CFileSax::WriteEmptyElementLine(std::string_view line, std::size_t attributeLength)
 {
-  WriteLine(elementMargin + attributeText.size(),
-            Joined({"<", Utf8FromWide(name), " ", attributeText, "/>\n"}));
+  WriteLine(elementMargin + attributeLength, line);
 }
 
 bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
@@ -147,7 +138,8 @@ bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
   if (margin != 0 && !MakeRoom(margin)) return false;
   const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
   // The margin covers what the format writes; deep nesting or a long name may need more.
-  if (outLength + blanks + line.size() > outCapacity && !Grow(blanks + line.size())) return false;
+  if (outLength + blanks + line.size() > outCapacity && !GrowCapacity(blanks + line.size()))
+    return false;
   std::memset(outBuffer_.get() + outLength, ' ', blanks);
   outLength += static_cast<std::uint32_t>(blanks);
   Append(line);
@@ -156,24 +148,35 @@ bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
 
 bool CFileSax::MakeRoom(std::size_t margin)
 {
-  return outBuffer_ && outLength + margin < outCapacity ? true : Grow(margin);
+  return outBuffer_ && outLength + margin < outCapacity ? true : GrowCapacity(margin);
 }
 
-bool CFileSax::Grow(std::size_t margin)
+bool CFileSax::GrowCapacity(std::size_t margin)
 {
   constexpr std::size_t step = 0x8000;
   constexpr std::size_t largestSum = 0xFFFF7FFF;
+  if (outBuffer_) OnFullBlock();
   const std::size_t wanted = outLength + margin;
   const std::size_t request =
       wanted > largestSum ? std::numeric_limits<std::size_t>::max() : wanted + step;
+  if (request > blockSize_ && !GrowBlock(request)) return false;
+  outCapacity = static_cast<std::uint32_t>(request);
+  return true;
+}
+
+bool CFileSax::GrowBlock(std::size_t size)
+{
   const bool fresh = !outBuffer_;
+  // The capacity grows by steps; the block by half, so that moving it costs no more than filling
+  // it.
+  const std::size_t grown = std::max(size, blockSize_ + blockSize_ / 2);
   // A failed resize loses the block; the next one starts anew at the same length.
-  outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), request)));
+  outBuffer_.reset(static_cast<char*>(Reallocate(outBuffer_.release(), grown)));
+  blockSize_ = outBuffer_ ? grown : 0;
   if (!outBuffer_) {
     lostBlock_ = true;
     return false;
   }
-  outCapacity = static_cast<std::uint32_t>(request);
   if (fresh) std::memset(outBuffer_.get(), 0, outLength);
   return true;
 }

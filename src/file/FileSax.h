@@ -7,15 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "file/SaxAttributes.h"
 #include "platform/MessageBoxes.h"
 
 namespace hullwright {
 
-/// Attributes of an element, ascending by name.
-using AttributeMap = std::map<std::u16string, std::u16string, std::less<>>;
-
-/// Value of an attribute; empty where it is missing.
-const std::u16string& AttributeValue(const AttributeMap& attributes, std::u16string_view name);
+/// Attributes to write, ascending by name.
+using AttributeMap = std::map<std::u16string, std::u16string>;
 
 /// Why and where a file could not be read.
 struct ReadError {
@@ -40,15 +38,15 @@ public:
   CFileSax& operator=(const CFileSax&) = delete;
   virtual ~CFileSax();
 
-  // Callbacks of reading; the base forms do nothing.
-  virtual void StartElement(std::u16string_view name, const AttributeMap& attributes);
-  virtual void EndElement(std::u16string_view name);
-  virtual void Characters(std::u16string_view text);
+  // Callbacks of reading, with names and texts in UTF-8; the base forms do nothing.
+  virtual void StartElement(std::string_view name, SaxAttributes attributes);
+  virtual void EndElement(std::string_view name);
+  virtual void Characters(std::string_view text);
   virtual void Error(std::u16string_view message, int line, int column, int code);
 
   /// What no other callback gets to see: a comment or a processing instruction with its marks, or a
   /// chunk of text that the handler drops.
-  virtual void PassOver(std::u16string_view markup);
+  virtual void PassOver(std::string_view markup);
 
   /// Parses a file; every callback runs inside. 0, or -1 for a file that can't be read or is not
   /// well-formed XML. A document type declaration counts as not well-formed: no entity expands and
@@ -64,11 +62,11 @@ public:
   // Writing primitives: each makes room, writes `indent` blanks, then its text. When there is no
   // memory for the room, it writes nothing and leaves `indent` alone.
   void WriteDeclaration();
-  void OpenElement(std::u16string_view name);
-  void OpenElement(std::u16string_view name, const AttributeMap& attributes);
-  void CloseElement(std::u16string_view name);
-  void WriteTextElement(std::u16string_view name, std::u16string_view value);
-  void WriteEmptyElement(std::u16string_view name, const AttributeMap& attributes,
+  void OpenElement(std::string_view name);
+  void OpenElement(std::string_view name, const AttributeMap& attributes);
+  void CloseElement(std::string_view name);
+  void WriteTextElement(std::string_view name, std::u16string_view value);
+  void WriteEmptyElement(std::string_view name, const AttributeMap& attributes,
                          std::u16string_view body = {});
 
   /// Writes the block to a file, replacing it. 0 on success. -1 without a message when there is
@@ -87,14 +85,19 @@ public:
 
   std::int32_t indent = 0;        ///< current nesting level
   std::uint32_t outLength = 0;    ///< bytes written
-  std::uint32_t outCapacity = 0;  ///< bytes of the block
+  std::uint32_t outCapacity = 0;  ///< bytes that the block is said to have
 
 protected:
   /// Resizes the block as `realloc` does; null when there is no memory for it.
   virtual void* Reallocate(void* block, std::size_t size);
 
-  /// Writes an empty element whose attribute text needs no escaping, such as "x="1.000" ".
-  void WriteEmptyElementText(std::u16string_view name, std::string_view attributeText);
+  /// Called when the block is full, before it grows: a class that has taken the text so far may set
+  /// `outLength` to 0.
+  virtual void OnFullBlock() {}
+
+  /// Writes an empty element from its "<" to its line break; `attributeLength` of it are the
+  /// attributes with the blanks behind them.
+  void WriteEmptyElementLine(std::string_view line, std::size_t attributeLength);
 
 private:
   struct FreeBlock {
@@ -102,12 +105,14 @@ private:
   };
 
   bool MakeRoom(std::size_t margin);
-  bool Grow(std::size_t margin);
+  bool GrowCapacity(std::size_t margin);
+  bool GrowBlock(std::size_t size);
   void Append(std::string_view text);
   bool WriteLine(std::size_t margin, std::string_view line);
 
   IMessageBoxes& messages_;
   std::unique_ptr<char, FreeBlock> outBuffer_;
+  std::size_t blockSize_ = 0;  ///< bytes of the block, never fewer than `outCapacity`
   bool lostBlock_ = false;
   int writeError_ = 0;
   ReadError readError_;

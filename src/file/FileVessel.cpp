@@ -1,9 +1,12 @@
 #include "file/FileVessel.h"
 
+#include <array>
 #include <utility>
 
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
+#include "file/CoordinateLine.h"
 #include "file/DesignElements.h"
 
 namespace hullwright {
@@ -19,11 +22,24 @@ bool HoldsPolyline(const CShapes& group)
   return holdsOne;
 }
 
-void ReadCoordinates(CShapeVertex& vertex, const AttributeMap& attributes)
+/// Takes the coordinates of a vertex; one that is missing is 0.
+void ReadCoordinates(CShapeVertex& vertex, SaxAttributes attributes)
 {
-  for (const Coordinate& coordinate : coordinates) {
-    vertex.*coordinate.member = ParseDouble(AttributeValue(attributes, coordinate.Name()));
+  for (const Coordinate& coordinate : coordinates) vertex.*coordinate.member = 0.0;
+  for (const SaxAttribute& attribute : attributes) {
+    if (attribute.name.size() != 1) continue;
+    for (const Coordinate& coordinate : coordinates) {
+      if (coordinate.axis != attribute.name.front()) continue;
+      vertex.*coordinate.member = ParseDouble(attribute.value);
+    }
   }
+}
+
+/// The attribute that holds the value of an element.
+template <class Object>
+AttributeMap ValueAttribute(const DesignElement& element, const Object& object)
+{
+  return {{WideFromAscii(element.attribute), MemberText(element, object)}};
 }
 
 }  // namespace
@@ -54,15 +70,14 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
                             EmptyGroups emptyGroups)
 {
   if (element.kind == ElementKind::Unit && NumberOf(unitCode) != 0) {
-    WriteEmptyElement(element.name,
-                      {{std::u16string(element.attribute), MemberText(element, *this)}});
+    WriteEmptyElement(element.name, ValueAttribute(element, *this));
   } else if (element.kind == ElementKind::Group) {
     ForEachUpToNull(shapeGroups, [&](const CShapes& group) {
       if (emptyGroups == EmptyGroups::Written || HoldsPolyline(group)) WriteGroup(element, group);
     });
   } else if (const auto* const offset = std::get_if<OffsetMember>(&element.member)) {
     if (const CShapeVertex* const place = (this->*offset->inFile).get()) {
-      WriteCoordinates(element, *place);
+      WriteCoordinates(CoordinateLine(element), *place);
     }
   } else if (element.kind == ElementKind::AnchorList && anchors) {
     OpenElement(element.name);
@@ -73,7 +88,7 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
 
 void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 {
-  OpenElement(element.name, {{std::u16string(element.attribute), MemberText(element, group)}});
+  OpenElement(element.name, ValueAttribute(element, group));
   Walk(group.cursor, group.shapes, [this](const CShape& shape) {
     if (shape.type == ShapeType::Polyline) WritePolyline(shape);
   });
@@ -83,23 +98,18 @@ void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 void CFileVessel::WritePolyline(const CShape& polyline)
 {
   constexpr const DesignElement& element = ElementOf(ElementKind::Polyline);
-  static constexpr const DesignElement& vertexElement = ElementOf(ElementKind::Vertex);
+  static constexpr CoordinateLine vertexLine(ElementOf(ElementKind::Vertex));
   OpenElement(element.name);
   Walk(polyline.cursor, polyline.vertices,
-       [this](const CShapeVertex& vertex) { WriteCoordinates(vertexElement, vertex); });
+       [this](const CShapeVertex& vertex) { WriteCoordinates(vertexLine, vertex); });
   CloseElement(element.name);
 }
 
-void CFileVessel::WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex)
+void CFileVessel::WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place)
 {
-  std::string attributes;
-  for (const Coordinate& coordinate : coordinates) {
-    attributes.push_back(static_cast<char>(coordinate.axis));
-    attributes += "=\"";
-    AppendFixed3(attributes, vertex.*coordinate.member);
-    attributes += "\" ";
-  }
-  WriteEmptyElementText(element.name, attributes);
+  std::array<char, CoordinateLine::longest> text;
+  const std::string_view whole(text.data(), line.Write(text.data(), place));
+  WriteEmptyElementLine(whole, whole.size() - line.TagLength());
 }
 
 void CFileVessel::WriteAnchor(const CAnchor& anchor)
@@ -114,10 +124,19 @@ void CFileVessel::WriteAnchor(const CAnchor& anchor)
   CloseElement(anchorElement.name);
 }
 
-void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& attributes)
+const DesignElement* CFileVessel::ElementOfTag(std::string_view name)
 {
-  element_ = name;
-  const DesignElement* const element = FindElement(name);
+  // Most tags bear the name of the one before.
+  if (name != tagName_) {
+    tagName_ = name;
+    tagElement_ = FindElement(name);
+  }
+  return tagElement_;
+}
+
+void CFileVessel::StartElement(std::string_view name, SaxAttributes attributes)
+{
+  const DesignElement* const element = ElementOfTag(name);
   if (element == nullptr) return;
   switch (element->kind) {
     case ElementKind::Unit:
@@ -155,21 +174,20 @@ void CFileVessel::StartElement(std::u16string_view name, const AttributeMap& att
   }
 }
 
-void CFileVessel::Characters(std::u16string_view text)
+void CFileVessel::Characters(std::string_view text)
 {
   if (state_ != State::InAnchor || !anchors || !currentAnchor_) return;
   // Text behind a close tag still counts for the element that ended, and each chunk replaces the
   // one before it.
-  const DesignElement* const field = FindAnchorField(element_);
+  const DesignElement* const field = FindAnchorField(tagName_);
   if (field != nullptr && field->use != ElementUse::OnlyInLists) {
     ReadMember(*field, *currentAnchor_, text);
   }
 }
 
-void CFileVessel::EndElement(std::u16string_view name)
+void CFileVessel::EndElement(std::string_view name)
 {
-  element_ = name;
-  const DesignElement* const element = FindElement(name);
+  const DesignElement* const element = ElementOfTag(name);
   if (element == nullptr) return;
   if (element->kind == ElementKind::Polyline && state_ == State::InPolyline) {
     if (currentGroup_ && currentPolyline_) {

@@ -10,6 +10,7 @@
 
 namespace hullwright {
 
+class CoordinateLine;
 struct DesignElement;
 
 /// The design file, for one open or one save. It has its own copies of offsets, unit and anchors;
@@ -31,9 +32,9 @@ public:
   /// where memory ended (`LostBlock`).
   int Save(std::u16string_view path, const OwnedArray<CShapes>& shapeGroups);
 
-  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
-  void EndElement(std::u16string_view name) override;
-  void Characters(std::u16string_view text) override;
+  void StartElement(std::string_view name, SaxAttributes attributes) override;
+  void EndElement(std::string_view name) override;
+  void Characters(std::string_view text) override;
 
   UnitCode unitCode = UnitCode::Metre;
   std::unique_ptr<CShapeVertex> gps = std::make_unique<CShapeVertex>();
@@ -47,7 +48,7 @@ protected:
   const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
 
   /// The element that started or ended last.
-  const std::u16string& LastElement() const { return element_; }
+  const std::string& LastElement() const { return tagName_; }
 
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
@@ -58,10 +59,12 @@ private:
                  EmptyGroups emptyGroups);
   void WriteGroup(const DesignElement& element, const CShapes& group);
   void WritePolyline(const CShape& polyline);
-  void WriteCoordinates(const DesignElement& element, const CShapeVertex& vertex);
+  void WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place);
   void WriteAnchor(const CAnchor& anchor);
+  const DesignElement* ElementOfTag(std::string_view name);
 
-  std::u16string element_;
+  std::string tagName_;                        ///< of the start or end tag that came last
+  const DesignElement* tagElement_ = nullptr;  ///< what it stands for; null where it is unknown
   State state_ = State::Start;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;

@@ -50,6 +50,30 @@ private:
   std::u16string text_;
 };
 
+/// Hashes what a save writes piece by piece, so that it never stands in memory whole.
+class HashedFile : public CFileVessel {
+public:
+  using CFileVessel::CFileVessel;
+
+  /// Of what was composed; once.
+  std::size_t Hash()
+  {
+    OnFullBlock();
+    return hash_;
+  }
+
+protected:
+  void OnFullBlock() override
+  {
+    const std::size_t piece = std::hash<std::string_view>()(Output());
+    hash_ ^= piece + 0x9E3779B9U + (hash_ << 6U) + (hash_ >> 2U);
+    outLength = 0;
+  }
+
+private:
+  std::size_t hash_ = 0;
+};
+
 std::u16string CannotOpen(std::u16string_view path, const std::u16string& reason)
 {
   return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + reason + u".";
@@ -138,11 +162,11 @@ bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
 
 std::optional<std::size_t> CHullwrightDoc::Fingerprint() const
 {
-  CFileVessel file(messages_);
+  HashedFile file(messages_);
   FillFile(file);
   file.Compose(design_.shapeGroups, CFileVessel::EmptyGroups::LeftOut);
   if (file.LostBlock()) return std::nullopt;
-  return std::hash<std::string_view>()(file.Output());
+  return file.Hash();
 }
 
 }  // namespace hullwright

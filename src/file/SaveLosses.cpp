@@ -1,6 +1,7 @@
 #include "file/SaveLosses.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -12,49 +13,49 @@
 namespace hullwright {
 namespace {
 
-constexpr std::u16string_view whiteSpace = u" \t\r\n";
+constexpr std::string_view whiteSpace = " \t\r\n";
 
-bool IsWhite(std::u16string_view text)
+bool IsWhite(std::string_view text)
 {
-  return text.find_first_not_of(whiteSpace) == std::u16string_view::npos;
+  return text.find_first_not_of(whiteSpace) == std::string_view::npos;
 }
 
 /// Whether a text is a number from its first character to its last.
-bool IsNumber(std::u16string_view text)
+bool IsNumber(std::string_view text)
 {
-  std::string number = Utf8FromWide(text);
-  number.erase(0, number.find_first_not_of(" \t\r\n"));
-  if (number.starts_with('+')) number.erase(0, 1);
+  if (IsWhite(text)) return false;
+  std::string_view number = text.substr(text.find_first_not_of(whiteSpace));
+  if (number.front() == '+') number.remove_prefix(1);
   double value = 0.0;
   const char* const end = number.data() + number.size();
   return std::from_chars(number.data(), end, value).ptr == end && !number.empty();
 }
 
-bool HasAttribute(const DesignElement& element, std::u16string_view attribute)
+bool HasAttribute(const DesignElement& element, std::string_view attribute)
 {
   if (!HasCoordinates(element)) return element.attribute == attribute;
   return std::ranges::find(coordinates, attribute, &Coordinate::Name) != coordinates.end();
 }
 
-/// Whether a unit is half of a character beyond U+FFFF; a save writes two references for it, and no
+/// Whether a byte begins a character beyond U+FFFF; a save writes two references for it, and no
 /// reader takes them.
-bool IsSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+bool BeginsLongCharacter(char byte) { return static_cast<unsigned char>(byte) >= 0xF0; }
 
 bool IsSide(ViewSide viewCode)
 {
   return std::ranges::find(eachViewSide, viewCode) != eachViewSide.end();
 }
 
-constexpr std::u16string_view anchorName = ElementOf(ElementKind::Anchor).name;
+constexpr std::string_view anchorName = ElementOf(ElementKind::Anchor).name;
 constexpr const DesignElement& numberField = FieldOf(&CAnchor::id);
 constexpr const DesignElement& nameField = FieldOf(&CAnchor::name);
 
 /// The place of an attribute's value.
-LossPlace AttributePlace(const DesignElement& element, std::u16string_view text)
+LossPlace AttributePlace(const DesignElement& element, std::string_view text)
 {
-  return {.element = std::u16string(element.name),
-          .attribute = std::u16string(element.attribute),
-          .text = std::u16string(text)};
+  return {.element = std::string(element.name),
+          .attribute = std::string(element.attribute),
+          .text = std::string(text)};
 }
 
 }  // namespace
@@ -65,39 +66,45 @@ void CSaveLosses::Add(LossKind kind, const LossPlace& place)
   if (loss.count++ == 0) loss.first = place;
 }
 
-std::u16string_view CSaveLosses::Parent() const
+std::string_view CSaveLosses::Parent() const
 {
-  return path_.size() < 2 ? std::u16string_view() : path_[path_.size() - 2];
+  return path_.size() < 2 ? std::string_view() : path_[path_.size() - 2];
 }
 
-void CSaveLosses::StartElement(std::u16string_view name, const AttributeMap& attributes)
+void CSaveLosses::StartElement(std::string_view name, SaxAttributes attributes)
 {
   CFileVessel::StartElement(name, attributes);
   path_.emplace_back(name);
   const DesignElement* const element = FindElement(name, Parent());
-  const LossPlace place = {.element = path_.back(), .parent = std::u16string(Parent())};
+  const auto place = [this] {
+    return LossPlace{.element = path_.back(), .parent = std::string(Parent())};
+  };
   if (element == nullptr) {
     Add(FindElement(name) != nullptr ? LossKind::MisplacedElement : LossKind::UnknownElement,
-        place);
+        place());
     return;
   }
   nameBehindLineBreak_ = false;
   if (element->kind == ElementKind::Anchor) anchorFields_.clear();
   if (element->kind == ElementKind::AnchorField && !anchorFields_.insert(path_.back()).second) {
-    Add(LossKind::RepeatedAnchorField, place);
+    Add(LossKind::RepeatedAnchorField, place());
   }
-  if (IsSingle(*element) && ++singles_[path_.back()] == 2) Add(LossKind::RepeatedElement, place);
-  if (element->use == ElementUse::OnlyRead) Add(LossKind::AnchorVessel, place);
+  if (IsSingle(*element) && ++singles_[path_.back()] == 2) Add(LossKind::RepeatedElement, place());
+  if (element->use == ElementUse::OnlyRead) Add(LossKind::AnchorVessel, place());
   CheckAttributes(*element, attributes);
 }
 
-void CSaveLosses::CheckAttributes(const DesignElement& element, const AttributeMap& attributes)
+void CSaveLosses::CheckAttributes(const DesignElement& element, SaxAttributes attributes)
 {
+  // By their names, whatever order they come in; the last one of a name stands.
+  std::map<std::u16string, LossPlace> unknown;
   for (const auto& [attribute, value] : attributes) {
     if (HasAttribute(element, attribute)) continue;
-    Add(LossKind::UnknownAttribute,
-        {.element = std::u16string(element.name), .attribute = attribute, .text = value});
+    unknown[WideFromUtf8(attribute)] = {.element = std::string(element.name),
+                                        .attribute = std::string(attribute),
+                                        .text = std::string(value)};
   }
+  for (const auto& [name, place] : unknown) Add(LossKind::UnknownAttribute, place);
   if (HasCoordinates(element)) {
     for (const Coordinate& coordinate : coordinates) {
       CheckCoordinate(element, coordinate.Name(), AttributeValue(attributes, coordinate.Name()));
@@ -111,16 +118,16 @@ void CSaveLosses::CheckAttributes(const DesignElement& element, const AttributeM
   }
 }
 
-void CSaveLosses::CheckUnit(const DesignElement& element, std::u16string_view text)
+void CSaveLosses::CheckUnit(const DesignElement& element, std::string_view text)
 {
   const LossPlace place = AttributePlace(element, text);
-  if (MemberText(element, static_cast<const CFileVessel&>(*this)) != text) {
+  if (Utf8FromWide(MemberText(element, static_cast<const CFileVessel&>(*this))) != text) {
     Add(LossKind::UnitChanges, place);
   }
   if (NumberOf(unitCode) == 0) Add(LossKind::UnitIsZero, place);
 }
 
-void CSaveLosses::CheckView(const DesignElement& element, std::u16string_view text)
+void CSaveLosses::CheckView(const DesignElement& element, std::string_view text)
 {
   CShapes group;
   ReadMember(element, group, text);
@@ -138,36 +145,37 @@ void CSaveLosses::CheckView(const DesignElement& element, std::u16string_view te
   }
 }
 
-void CSaveLosses::CheckCoordinate(const DesignElement& element, std::u16string_view attribute,
-                                  std::u16string_view text)
+void CSaveLosses::CheckCoordinate(const DesignElement& element, std::string_view attribute,
+                                  std::string_view text)
 {
   const double value = ParseDouble(text);
-  const std::u16string saved = ThreeDecimalsText(value);
+  std::array<char, longestFixed3> room;
+  const std::string_view saved(room.data(), WriteFixed3(room.data(), value));
+  if (saved == text) return;
   const bool number = IsNumber(text);
   if (number && (ParseDouble(saved) == value || std::isnan(value))) return;
   Add(number ? LossKind::Decimals : LossKind::CoordinateIsNoNumber,
-      {.element = std::u16string(element.name),
-       .attribute = std::u16string(attribute),
-       .text = std::u16string(text),
-       .saved = saved});
+      {.element = std::string(element.name),
+       .attribute = std::string(attribute),
+       .text = std::string(text),
+       .saved = std::string(saved)});
 }
 
-void CSaveLosses::EndElement(std::u16string_view name)
+void CSaveLosses::EndElement(std::string_view name)
 {
-  const LossPlace place = {.element = std::u16string(name)};
-  if (name == anchorName && !anchorFields_.contains(std::u16string(numberField.name))) {
-    Add(LossKind::AnchorWithoutNumber, place);
+  if (name == anchorName && !anchorFields_.contains(std::string(numberField.name))) {
+    Add(LossKind::AnchorWithoutNumber, {.element = std::string(name)});
   }
   // A piece that came behind the line break, or before it, is kept.
   if (nameBehindLineBreak_ && CurrentAnchor() != nullptr && CurrentAnchor()->name.empty()) {
-    Add(LossKind::NameBehindLineBreak, place);
+    Add(LossKind::NameBehindLineBreak, {.element = std::string(name)});
   }
   nameBehindLineBreak_ = false;
   if (!path_.empty()) path_.pop_back();
   CFileVessel::EndElement(name);
 }
 
-void CSaveLosses::Characters(std::u16string_view text)
+void CSaveLosses::Characters(std::string_view text)
 {
   if (path_.empty()) return;
   if (Parent() == anchorName) {
@@ -178,11 +186,11 @@ void CSaveLosses::Characters(std::u16string_view text)
     ReadBehindField(text);
   } else {
     CFileVessel::Characters(text);
-    Add(LossKind::TextBetweenElements, {.element = path_.back(), .text = std::u16string(text)});
+    Add(LossKind::TextBetweenElements, {.element = path_.back(), .text = std::string(text)});
   }
 }
 
-void CSaveLosses::ReadBehindField(std::u16string_view text)
+void CSaveLosses::ReadBehindField(std::string_view text)
 {
   const DesignElement* const field = FindAnchorField(LastElement());
   if (CurrentAnchor() == nullptr || field == nullptr || field->use != ElementUse::Saved) return;
@@ -190,46 +198,45 @@ void CSaveLosses::ReadBehindField(std::u16string_view text)
   CFileVessel::Characters(text);
   const std::u16string after = MemberText(*field, *CurrentAnchor());
   if (after == before) return;
-  Add(LossKind::ReplacedAnchorField, {.element = std::u16string(field->name),
-                                      .text = before,
-                                      .saved = WideFromAscii(Escape(after))});
+  Add(LossKind::ReplacedAnchorField,
+      {.element = std::string(field->name), .text = Utf8FromWide(before), .saved = Escape(after)});
 }
 
-void CSaveLosses::CheckAnchorField(const DesignElement& field, std::u16string_view text)
+void CSaveLosses::CheckAnchorField(const DesignElement& field, std::string_view text)
 {
   if (field.format == ValueFormat::ThreeDecimals) CheckCoordinate(field, {}, text);
-  const LossPlace place = {.element = std::u16string(field.name), .text = std::u16string(text)};
+  const LossPlace place = {.element = std::string(field.name), .text = std::string(text)};
   if (field.format == ValueFormat::Unsigned && field.use == ElementUse::Saved) {
     CAnchor anchor;
     ReadMember(field, anchor, text);
-    if (MemberText(field, anchor) != text) Add(LossKind::AnchorNumberChanges, place);
+    if (Utf8FromWide(MemberText(field, anchor)) != text) Add(LossKind::AnchorNumberChanges, place);
   }
-  if (field.format == ValueFormat::Text && std::ranges::any_of(text, IsSurrogate)) {
+  if (field.format == ValueFormat::Text && std::ranges::any_of(text, BeginsLongCharacter)) {
     Add(LossKind::NameThatDoesNotOpen, place);
   }
 }
 
-void CSaveLosses::PassOver(std::u16string_view markup)
+void CSaveLosses::PassOver(std::string_view markup)
 {
-  if (markup.starts_with(u"<!--") || markup.starts_with(u"<?")) {
-    Add(LossKind::Comment, {.text = std::u16string(markup)});
+  if (markup.starts_with("<!--") || markup.starts_with("<?")) {
+    Add(LossKind::Comment, {.text = std::string(markup)});
     return;
   }
   const bool isName = path_.back() == nameField.name;
-  const bool isBlank = markup.front() == u' ';
+  const bool isBlank = markup.front() == ' ';
   if (isName && !isBlank) nameBehindLineBreak_ = true;
   if (!IsWhite(markup)) {
-    Add(LossKind::TextAfterLineBreak, {.element = path_.back(), .text = std::u16string(markup)});
+    Add(LossKind::TextAfterLineBreak, {.element = path_.back(), .text = std::string(markup)});
   } else if (isName && isBlank) {
     Add(LossKind::NameOfBlanks, {.element = path_.back()});
   }
 }
 
-std::vector<std::u16string_view> CSaveLosses::Missing() const
+std::vector<std::string_view> CSaveLosses::Missing() const
 {
-  std::vector<std::u16string_view> names;
+  std::vector<std::string_view> names;
   for (const DesignElement& element : designElements) {
-    if (IsSingle(element) && !singles_.contains(std::u16string(element.name))) {
+    if (IsSingle(element) && !singles_.contains(std::string(element.name))) {
       names.push_back(element.name);
     }
   }

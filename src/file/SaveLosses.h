@@ -38,15 +38,15 @@ enum class LossKind {
   NameThatDoesNotOpen,
 };
 
-/// Where a loss stands, as far as its kind has such a thing.
+/// Where a loss stands, as far as its kind has such a thing; in UTF-8.
 struct LossPlace {
   bool operator==(const LossPlace&) const = default;
 
-  std::u16string element = {};
-  std::u16string parent = {};
-  std::u16string attribute = {};
-  std::u16string text = {};   ///< as the file has it
-  std::u16string saved = {};  ///< as a save writes it
+  std::string element = {};
+  std::string parent = {};
+  std::string attribute = {};
+  std::string text = {};   ///< as the file has it
+  std::string saved = {};  ///< as a save writes it
 };
 
 /// All losses of one kind.
@@ -61,34 +61,34 @@ class CSaveLosses : public CFileVessel {
 public:
   using CFileVessel::CFileVessel;
 
-  void StartElement(std::u16string_view name, const AttributeMap& attributes) override;
-  void EndElement(std::u16string_view name) override;
-  void Characters(std::u16string_view text) override;
-  void PassOver(std::u16string_view markup) override;
+  void StartElement(std::string_view name, SaxAttributes attributes) override;
+  void EndElement(std::string_view name) override;
+  void Characters(std::string_view text) override;
+  void PassOver(std::string_view markup) override;
 
   /// What is lost or changed; call it after the reading.
   const std::map<LossKind, Loss>& Found() const { return found_; }
 
   /// The elements that a save adds to what was read.
-  std::vector<std::u16string_view> Missing() const;
+  std::vector<std::string_view> Missing() const;
 
 private:
   void Add(LossKind kind, const LossPlace& place);
-  std::u16string_view Parent() const;
-  void CheckAttributes(const DesignElement& element, const AttributeMap& attributes);
-  void CheckCoordinate(const DesignElement& element, std::u16string_view attribute,
-                       std::u16string_view text);
-  void CheckUnit(const DesignElement& element, std::u16string_view text);
-  void CheckView(const DesignElement& element, std::u16string_view text);
-  void CheckAnchorField(const DesignElement& field, std::u16string_view text);
-  void ReadBehindField(std::u16string_view text);
+  std::string_view Parent() const;
+  void CheckAttributes(const DesignElement& element, SaxAttributes attributes);
+  void CheckCoordinate(const DesignElement& element, std::string_view attribute,
+                       std::string_view text);
+  void CheckUnit(const DesignElement& element, std::string_view text);
+  void CheckView(const DesignElement& element, std::string_view text);
+  void CheckAnchorField(const DesignElement& field, std::string_view text);
+  void ReadBehindField(std::string_view text);
 
-  std::vector<std::u16string> path_;  ///< names of the open elements
+  std::vector<std::string> path_;  ///< names of the open elements
   std::map<LossKind, Loss> found_;
-  std::map<ViewSide, int> groups_;         ///< how often a view code came
-  std::map<std::u16string, int> singles_;  ///< how often an element came that should come once
-  std::set<std::u16string> anchorFields_;  ///< of the anchor being read
-  bool nameBehindLineBreak_ = false;       ///< so far, of the name being read
+  std::map<ViewSide, int> groups_;      ///< how often a view code came
+  std::map<std::string, int> singles_;  ///< how often an element came that should come once
+  std::set<std::string> anchorFields_;  ///< of the anchor being read
+  bool nameBehindLineBreak_ = false;    ///< so far, of the name being read
 };
 
 }  // namespace hullwright

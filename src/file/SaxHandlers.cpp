@@ -1,30 +1,40 @@
 #include "file/SaxHandlers.h"
 
+#include <algorithm>
+
 namespace hullwright {
 
-void CFileSaxContentHandler::StartElement(std::u16string_view localName,
-                                          const AttributeMap& attributes)
+std::string_view AttributeValue(SaxAttributes attributes, std::string_view name)
+{
+  const auto found =
+      std::find_if(attributes.rbegin(), attributes.rend(),
+                   [name](const SaxAttribute& attribute) { return attribute.name == name; });
+  return found == attributes.rend() ? std::string_view() : found->value;
+}
+
+void CFileSaxContentHandler::StartElement(std::string_view localName, SaxAttributes attributes)
 {
   if (owner_ != nullptr) owner_->StartElement(localName, attributes);
 }
 
-void CFileSaxContentHandler::EndElement(std::u16string_view localName)
+void CFileSaxContentHandler::EndElement(std::string_view localName)
 {
   if (owner_ != nullptr) owner_->EndElement(localName);
 }
 
-void CFileSaxContentHandler::Characters(std::u16string_view chunk)
+void CFileSaxContentHandler::Characters(std::string_view chunk)
 {
   if (owner_ == nullptr || chunk.empty()) return;
-  const bool blank = chunk.find_first_not_of(u' ') == std::u16string_view::npos;
-  if (blank || chunk.front() == u'\n' || chunk.front() == u'\r') {
+  // The line break first: most chunks are the line break and the blanks before a tag.
+  const bool lineBreak = chunk.front() == '\n' || chunk.front() == '\r';
+  if (lineBreak || chunk.find_first_not_of(' ') == std::string_view::npos) {
     owner_->PassOver(chunk);
   } else {
     owner_->Characters(chunk);
   }
 }
 
-void CFileSaxContentHandler::PassOver(std::u16string_view markup)
+void CFileSaxContentHandler::PassOver(std::string_view markup)
 {
   if (owner_ != nullptr) owner_->PassOver(markup);
 }

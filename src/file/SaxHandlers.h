@@ -11,16 +11,16 @@ class CFileSaxContentHandler {
 public:
   explicit CFileSaxContentHandler(CFileSax* owner) : owner_(owner) {}
 
-  /// `localName` bears no prefix; of attributes with the same local name the last one stands.
-  void StartElement(std::u16string_view localName, const AttributeMap& attributes);
-  void EndElement(std::u16string_view localName);
+  /// `localName` bears no prefix.
+  void StartElement(std::string_view localName, SaxAttributes attributes);
+  void EndElement(std::string_view localName);
 
   /// Drops a chunk that is empty, all blanks (tabs don't count), or starts with LF or CR, whatever
   /// follows there. Any other chunk is one call, nothing is gathered.
-  void Characters(std::u16string_view chunk);
+  void Characters(std::string_view chunk);
 
   /// A comment or a processing instruction, with its marks.
-  void PassOver(std::u16string_view markup);
+  void PassOver(std::string_view markup);
 
 private:
   CFileSax* owner_;

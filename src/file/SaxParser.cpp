@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "base/ErrorText.h"
 #include "base/OpenFile.h"
@@ -25,10 +26,15 @@ constexpr char nameSeparator = '\x01';
 
 constexpr const char* outOfMemory = "out of memory";
 
-std::u16string LocalName(const XML_Char* name)
+/// What stands behind the last separator.
+std::string_view LocalName(const XML_Char* name)
 {
-  const std::string_view text(name);
-  return WideFromUtf8(text.substr(text.rfind(nameSeparator) + 1));
+  const XML_Char* local = name;
+  const XML_Char* end = name;
+  for (; *end != '\0'; ++end) {
+    if (*end == nameSeparator) local = end + 1;
+  }
+  return {local, end};
 }
 
 /// Drives one parse: gathers text to chunks and stops at a document type.
@@ -91,11 +97,11 @@ private:
   void StartElement(const XML_Char* name, const XML_Char** attributes)
   {
     FlushText();
-    AttributeMap map;
+    attributes_.clear();
     for (; *attributes != nullptr; attributes += 2) {
-      map[LocalName(attributes[0])] = WideFromUtf8(attributes[1]);
+      attributes_.push_back({LocalName(attributes[0]), attributes[1]});
     }
-    content_.StartElement(LocalName(name), map);
+    content_.StartElement(LocalName(name), attributes_);
   }
 
   void EndElement(const XML_Char* name)
@@ -119,12 +125,13 @@ private:
     FlushText();
     std::string markup;
     for (const std::string_view part : parts) markup += part;
-    content_.PassOver(WideFromUtf8(markup));
+    content_.PassOver(markup);
   }
 
   void FlushText()
   {
-    content_.Characters(WideFromUtf8(chunk_));
+    if (chunk_.empty()) return;
+    content_.Characters(chunk_);
     chunk_.clear();
   }
 
@@ -147,6 +154,7 @@ private:
   XML_Parser parser_;
   CFileSaxContentHandler& content_;
   std::string chunk_;
+  std::vector<SaxAttribute> attributes_;  ///< of the element that starts
   const char* stopReason_ = nullptr;
 };
 
@@ -157,16 +165,20 @@ struct FreeParser {
 /// Feeds the file piece by piece; false at the first error of the disk or of the document.
 bool Feed(std::FILE* file, XML_Parser parser)
 {
-  // The parser scans an unfinished token again with each piece, so pieces grow with the file: a
-  // token of any length then takes linear time.
-  constexpr int largestPiece = 0x4000000;
-  int pieceSize = 0x10000;
-  for (bool last = false; !last; pieceSize = std::min(pieceSize * 2, largestPiece)) {
+  constexpr XML_Index usualPiece = 0x10000;  // stays in the processor's cache
+  constexpr XML_Index largestPiece = 0x4000000;
+  XML_Index fed = 0;
+  for (bool last = false; !last;) {
+    // The parser scans an unfinished token again with each piece. A piece as long as what has come
+    // of the token makes one of any length take linear time.
+    const XML_Index unfinished = fed - std::max<XML_Index>(XML_GetCurrentByteIndex(parser), 0);
+    const auto pieceSize = static_cast<int>(std::clamp(unfinished, usualPiece, largestPiece));
     void* const piece = XML_GetBuffer(parser, pieceSize);
     if (piece == nullptr) return false;
     const std::size_t length = std::fread(piece, 1, static_cast<std::size_t>(pieceSize), file);
     if (std::ferror(file) != 0) return false;
     last = length < static_cast<std::size_t>(pieceSize);
+    fed += static_cast<XML_Index>(length);
     if (XML_ParseBuffer(parser, static_cast<int>(length), last ? 1 : 0) != XML_STATUS_OK)
       return false;
   }

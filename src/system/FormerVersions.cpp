@@ -45,6 +45,13 @@ std::optional<std::string> ReadWhole(const fs::path& path)
   }
 }
 
+/// Whether a file holds these bytes. One of another size is not read.
+bool Holds(const fs::path& path, std::string_view bytes)
+{
+  std::error_code failed;
+  return fs::file_size(path, failed) == bytes.size() && ReadWhole(path) == bytes;
+}
+
 bool WriteWhole(const fs::path& path, std::string_view bytes)
 {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
@@ -149,7 +156,7 @@ fs::path FormerVersions::WriteCopy() const
   const std::string prefix = PrefixOf(file_);
   std::vector<fs::path> copies = CopiesOf(folder_, prefix);
   // Saving again without a change must not push the older versions out.
-  if (!copies.empty() && ReadWhole(copies.back()) == bytes_) return copies.back();
+  if (!copies.empty() && Holds(copies.back(), *bytes_)) return copies.back();
 
   std::string ending = file_.extension().string();
   if (ending.size() > longestEnding) ending.clear();
@@ -178,7 +185,7 @@ Restored FormerVersions::PutBack()
     return fs::exists(file_, failed) ? Restored::Damaged : Restored::Nothing;
   }
   if (!bytes_) return Restored::Unknown;
-  isDamaged_ = ReadWhole(file_) != bytes_ && !WriteWhole(file_, *bytes_);
+  isDamaged_ = !Holds(file_, *bytes_) && !WriteWhole(file_, *bytes_);
   return isDamaged_ ? Restored::Damaged : Restored::AsBefore;
 }
 

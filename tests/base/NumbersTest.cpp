@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <limits>
-#include <random>
 
 namespace hullwright {
 namespace {
@@ -30,6 +28,7 @@ TEST(ParseDouble, StopsAtTheFirstCharacterThatDoesNotBelong)
   EXPECT_EQ(ParseDouble(u"1e+"), 1.0);
   EXPECT_EQ(ParseDouble(u"2\u00E4"), 2.0);
   EXPECT_EQ(ParseDouble(u"1.2.3"), 1.2);
+  EXPECT_EQ(ParseDouble(u"1..2"), 1.0);
 }
 
 TEST(ParseDouble, TextWithoutANumberIsZero)
@@ -146,19 +145,6 @@ TEST(AppendFixed3, RoundsToNearestAndKeepsTheSignOfZero)
   EXPECT_EQ(Fixed3(-2.5), "-2.500");
   EXPECT_EQ(Fixed3(0.9996), "1.000");
   EXPECT_EQ(Fixed3(infinity), "inf");
-}
-
-TEST(AppendFixed3, AgreesWithTheLibraryForAnyDouble)
-{
-  std::mt19937_64 random(20240229);
-  for (int i = 0; i < 200000; ++i) {
-    const auto anyBits = std::bit_cast<double>(random());
-    if (!std::isnan(anyBits)) {
-      ASSERT_EQ(Fixed3(anyBits), FormatFixed(anyBits, 3)) << anyBits;
-    }
-    const double usual = static_cast<double>(static_cast<std::int64_t>(random()) >> 30) / 16384.0;
-    ASSERT_EQ(Fixed3(usual), FormatFixed(usual, 3)) << usual;
-  }
 }
 
 TEST(FormatSignedFixed, AlwaysHasASignAndFillsWithZeros)

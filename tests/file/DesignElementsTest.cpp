@@ -5,7 +5,6 @@
 #include <set>
 #include <utility>
 
-#include "base/Text.h"
 #include "file/AnchorListReader.h"
 #include "file/SaveLosses.h"
 #include "headless/KeptMessages.h"
@@ -38,40 +37,40 @@ constexpr std::string_view design =
 
 /// An element with what stands for it in the design above, and what else could stand there.
 struct Written {
-  std::u16string_view name;
-  std::u16string_view parent;
+  std::string_view name;
+  std::string_view parent;
   std::string_view text;
   std::string_view other;
 };
 
 constexpr auto saved = std::to_array<Written>({
-    {u"vessel", u"", "\n<vessel>\n", "\n<vessel>\n"},
-    {u"units", u"vessel", " <units id=\"9002\" />\n", " <units id=\"-7\" />\n"},
-    {u"shapes", u"vessel", " <shapes view=\"10\" >\n", " <shapes view=\"2A\" >\n"},
-    {u"polyline", u"shapes", "  <polyline>\n", "  <polyline>\n  </polyline>\n  <polyline>\n"},
-    {u"vertex", u"polyline", "   <vertex x=\"1.500\" y=\"-2.500\" z=\"3.500\" />\n",
+    {"vessel", "", "\n<vessel>\n", "\n<vessel>\n"},
+    {"units", "vessel", " <units id=\"9002\" />\n", " <units id=\"-7\" />\n"},
+    {"shapes", "vessel", " <shapes view=\"10\" >\n", " <shapes view=\"2A\" >\n"},
+    {"polyline", "shapes", "  <polyline>\n", "  <polyline>\n  </polyline>\n  <polyline>\n"},
+    {"vertex", "polyline", "   <vertex x=\"1.500\" y=\"-2.500\" z=\"3.500\" />\n",
      "   <vertex x=\"0.001\" y=\"0.002\" z=\"0.003\" />\n"},
-    {u"gps", u"vessel", " <gps x=\"4.500\" y=\"5.500\" z=\"6.500\" />\n",
+    {"gps", "vessel", " <gps x=\"4.500\" y=\"5.500\" z=\"6.500\" />\n",
      " <gps x=\"0.001\" y=\"0.002\" z=\"0.003\" />\n"},
-    {u"txd", u"vessel", " <txd x=\"7.500\" y=\"8.500\" z=\"9.500\" />\n",
+    {"txd", "vessel", " <txd x=\"7.500\" y=\"8.500\" z=\"9.500\" />\n",
      " <txd x=\"0.001\" y=\"0.002\" z=\"0.003\" />\n"},
-    {u"piv", u"vessel", " <piv x=\"10.500\" y=\"11.500\" z=\"12.500\" />\n",
+    {"piv", "vessel", " <piv x=\"10.500\" y=\"11.500\" z=\"12.500\" />\n",
      " <piv x=\"0.001\" y=\"0.002\" z=\"0.003\" />\n"},
-    {u"anchors", u"vessel", " <anchors>\n", " <anchors>\n"},
-    {u"anchor", u"anchors", "  <anchor>\n",
+    {"anchors", "vessel", " <anchors>\n", " <anchors>\n"},
+    {"anchor", "anchors", "  <anchor>\n",
      "  <anchor>\n   <id>1</id>\n   <name></name>\n   <attachmentX>0.000</attachmentX>\n"
      "   <attachmentY>0.000</attachmentY>\n  </anchor>\n  <anchor>\n"},
-    {u"id", u"anchor", "   <id>17</id>\n", "   <id>4294967295</id>\n"},
-    {u"name", u"anchor", "   <name>Bow</name>\n", "   <name> 1 &amp; &#xE1; </name>\n"},
-    {u"attachmentX", u"anchor", "   <attachmentX>13.500</attachmentX>\n",
+    {"id", "anchor", "   <id>17</id>\n", "   <id>4294967295</id>\n"},
+    {"name", "anchor", "   <name>Bow</name>\n", "   <name> 1 &amp; &#xE1; </name>\n"},
+    {"attachmentX", "anchor", "   <attachmentX>13.500</attachmentX>\n",
      "   <attachmentX>-0.001</attachmentX>\n"},
-    {u"attachmentY", u"anchor", "   <attachmentY>14.500</attachmentY>\n",
+    {"attachmentY", "anchor", "   <attachmentY>14.500</attachmentY>\n",
      "   <attachmentY>-0.002</attachmentY>\n"},
 });
 
 /// A field of an anchor that no save writes.
 struct ReadOnly {
-  std::u16string_view name;
+  std::string_view name;
   ElementUse use;
   std::u16string_view before;  ///< its value in a new anchor
   std::string_view text;
@@ -79,11 +78,11 @@ struct ReadOnly {
 };
 
 constexpr auto notSaved = std::to_array<ReadOnly>({
-    {u"vessel", ElementUse::OnlyRead, u"0", "65553", u"17"},
-    {u"visible", ElementUse::OnlyInLists, u"1", "0", u"0"},
-    {u"state", ElementUse::OnlyInLists, u"0", "4294967295", u"-1"},
-    {u"easting", ElementUse::OnlyInLists, u"0.000", "1.25", u"1.250"},
-    {u"northing", ElementUse::OnlyInLists, u"0.000", "2.25", u"2.250"},
+    {"vessel", ElementUse::OnlyRead, u"0", "65553", u"17"},
+    {"visible", ElementUse::OnlyInLists, u"1", "0", u"0"},
+    {"state", ElementUse::OnlyInLists, u"0", "4294967295", u"-1"},
+    {"easting", ElementUse::OnlyInLists, u"0.000", "1.25", u"1.250"},
+    {"northing", ElementUse::OnlyInLists, u"0.000", "2.25", u"2.250"},
 });
 
 std::string Replaced(std::string_view text, std::string_view part, std::string_view other)
@@ -123,10 +122,10 @@ protected:
 
 TEST_F(DesignElements, AllRowsAreTriedHere)
 {
-  std::set<std::pair<std::u16string_view, std::u16string_view>> tried;
+  std::set<std::pair<std::string_view, std::string_view>> tried;
   for (const Written& row : saved) tried.emplace(row.name, row.parent);
-  for (const ReadOnly& row : notSaved) tried.emplace(row.name, u"anchor");
-  std::set<std::pair<std::u16string_view, std::u16string_view>> rows;
+  for (const ReadOnly& row : notSaved) tried.emplace(row.name, "anchor");
+  std::set<std::pair<std::string_view, std::string_view>> rows;
   for (const DesignElement& element : designElements) rows.emplace(element.name, element.parent);
   EXPECT_EQ(rows, tried);
   EXPECT_EQ(rows.size(), designElements.size());
@@ -145,7 +144,7 @@ TEST_F(DesignElements, NoneLosesAnythingInASave)
 {
   EXPECT_EQ(Losses(design), std::set<LossKind>());
   for (const Written& row : saved) {
-    if (row.name == u"shapes") continue;  // its other value is that of no side
+    if (row.name == "shapes") continue;  // its other value is that of no side
     EXPECT_EQ(Losses(Replaced(design, row.text, row.other)), std::set<LossKind>()) << row.other;
   }
 }
@@ -153,7 +152,7 @@ TEST_F(DesignElements, NoneLosesAnythingInASave)
 TEST_F(DesignElements, EachIsReportedWithAnAttributeThatItDoesNotHave)
 {
   for (const Written& row : saved) {
-    const std::string tag = "<" + Utf8FromWide(row.name);
+    const std::string tag = "<" + std::string(row.name);
     const std::string text = Replaced(row.text, tag, tag + " colour=\"1\"");
     EXPECT_EQ(Losses(Replaced(design, row.text, text)),
               std::set<LossKind>({LossKind::UnknownAttribute}))
@@ -164,7 +163,7 @@ TEST_F(DesignElements, EachIsReportedWithAnAttributeThatItDoesNotHave)
 TEST_F(DesignElements, EachIsReportedWhereItDoesNotBelong)
 {
   for (const Written& row : saved) {
-    const std::string tag = Utf8FromWide(row.name);
+    const std::string tag(row.name);
     const std::string misplaced =
         Replaced(design, "\n<vessel>\n", "\n<vessel><strange><" + tag + " /></strange>\n");
     EXPECT_TRUE(Losses(misplaced).contains(LossKind::MisplacedElement)) << tag;
@@ -174,7 +173,7 @@ TEST_F(DesignElements, EachIsReportedWhereItDoesNotBelong)
 TEST_F(DesignElements, EachIsReportedUnderAnotherName)
 {
   for (const DesignElement& element : designElements) {
-    const std::string tag = "<strange" + Utf8FromWide(element.name) + " />";
+    const std::string tag = "<strange" + std::string(element.name) + " />";
     EXPECT_EQ(Losses(Replaced(design, "\n<vessel>\n", "\n<vessel>" + tag + "\n")),
               std::set<LossKind>({LossKind::UnknownElement}));
   }
@@ -183,10 +182,10 @@ TEST_F(DesignElements, EachIsReportedUnderAnotherName)
 TEST_F(DesignElements, FieldsThatNoSaveWritesAreReadByThoseWhoKnowThem)
 {
   for (const ReadOnly& row : notSaved) {
-    SCOPED_TRACE(Utf8FromWide(row.name));
+    SCOPED_TRACE(row.name);
     const DesignElement& element = *FindAnchorField(row.name);
     EXPECT_EQ(element.use, row.use);
-    const std::string tag = Utf8FromWide(row.name);
+    const std::string tag(row.name);
     const std::string field = "<" + tag + ">" + std::string(row.text) + "</" + tag + ">";
     const std::string text = Replaced(design, "  <anchor>\n", "  <anchor>" + field + "\n");
     EXPECT_EQ(SavedAgain(text), design);
@@ -207,7 +206,7 @@ TEST_F(DesignElements, FieldsThatNoSaveWritesAreReadByThoseWhoKnowThem)
 TEST_F(DesignElements, AMemberOfAnotherClassIsLeftAlone)
 {
   CShapes group(ViewSide::Rear);
-  ReadMember(ElementOf(ElementKind::Unit), group, u"5");
+  ReadMember(ElementOf(ElementKind::Unit), group, "5");
   EXPECT_EQ(group.viewCode, ViewSide::Rear);
   EXPECT_EQ(MemberText(ElementOf(ElementKind::Unit), group), u"");
 }

@@ -6,7 +6,6 @@
 #include <limits>
 #include <utility>
 
-#include "base/Text.h"
 #include "model/ShapePoint.h"
 #include "model/ShapePolyline.h"
 
@@ -25,7 +24,7 @@ protected:
   {
     std::vector<std::string> places;
     ForEachNonFiniteNumber(design, [&places](const DesignNumber& number) {
-      std::string place = Utf8FromWide(number.element.name) + "." + Utf8FromWide(number.name);
+      std::string place = std::string(number.element.name) + "." + std::string(number.name);
       if (number.group != nullptr) {
         place += " " + std::to_string(static_cast<std::int32_t>(number.group->viewCode)) + "/" +
                  std::to_string(number.groupNumber) + " " + std::to_string(number.polylineNumber) +

@@ -264,6 +264,28 @@ TEST_F(Document, ANameBeyondTheBasicPlaneMakesAFileThatIsRejected)
   EXPECT_FALSE(document.OnOpenDocument(folder.File("out.xml")));
 }
 
+TEST_F(Document, TheFingerprintIsThatOfEveryVertexOfALargeDesign)
+{
+  auto line = std::make_unique<CShapePolyline>();
+  for (int i = 0; i < 5000; ++i) line->AddVertex(i, i, i);
+  CShapePolyline& outline = *line;
+  design.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Top));
+  design.shapeGroups[0]->shapes.push_back(std::move(line));
+  const auto before = document.Fingerprint();
+  ASSERT_TRUE(before.has_value());
+  EXPECT_EQ(document.Fingerprint(), before);
+  for (std::size_t i = 0; i < outline.vertices.size(); i += 499) {
+    outline.vertices[i]->y += 0.0004;
+    EXPECT_EQ(document.Fingerprint(), before) << i;
+    outline.vertices[i]->y += 0.001;
+    EXPECT_NE(document.Fingerprint(), before) << i;
+    outline.vertices[i]->y = static_cast<double>(i);
+  }
+  EXPECT_EQ(document.Fingerprint(), before);
+  outline.vertices.pop_back();
+  EXPECT_NE(document.Fingerprint(), before);
+}
+
 class SampleRoundTrip : public Document, public testing::WithParamInterface<const char*> {};
 
 TEST_P(SampleRoundTrip, IsByteIdentical)

@@ -59,14 +59,14 @@ TEST_F(SaveLosses, AGroupBehindOneOfAllSidesIsHiddenUnlessAnotherOneWasThere)
 {
   EXPECT_THAT(Find("<shapes view='01'/><shapes view='3F'/><shapes view='02'/><shapes view='04'/>"),
               ElementsAre(Is(LossKind::GroupBehindOneOfAllSides, 2,
-                             {.element = u"shapes", .attribute = u"view", .text = u"02"})));
+                             {.element = "shapes", .attribute = "view", .text = "02"})));
   EXPECT_THAT(Find("<shapes view='01'/><shapes view='02'/><shapes view='3F'/>"), IsEmpty());
   EXPECT_THAT(Find("<shapes view='01'/><shapes view='3F'/><shapes view='01'/>"),
               ElementsAre(Is(LossKind::GroupsOfOneView, 1,
-                             {.element = u"shapes", .attribute = u"view", .text = u"01"})));
+                             {.element = "shapes", .attribute = "view", .text = "01"})));
   EXPECT_THAT(Find("<shapes view='3F'/><shapes view='03'/>"),
               ElementsAre(Is(LossKind::GroupOfNoSide, 1,
-                             {.element = u"shapes", .attribute = u"view", .text = u"03"})));
+                             {.element = "shapes", .attribute = "view", .text = "03"})));
   // Without a code it is one of the top side.
   EXPECT_TRUE(Find("<shapes view='3F'/><shapes/>").contains(LossKind::GroupBehindOneOfAllSides));
 }
@@ -76,10 +76,10 @@ TEST_F(SaveLosses, ATabBehindAFieldReplacesIt)
   EXPECT_THAT(FindInAnchor("<id>7</id>\t<name>Bow</name> \t<attachmentX>1.5</attachmentX>\t"
                            "<attachmentY>2</attachmentY>\n\t"),
               ElementsAre(Is(LossKind::ReplacedAnchorField, 3,
-                             {.element = u"id", .text = u"7", .saved = u"0"})));
+                             {.element = "id", .text = "7", .saved = "0"})));
   EXPECT_THAT(FindInAnchor("<id>7</id><name>Bow</name>\t"),
               ElementsAre(Is(LossKind::ReplacedAnchorField, 1,
-                             {.element = u"name", .text = u"Bow", .saved = u"&#x9;"})));
+                             {.element = "name", .text = "Bow", .saved = "&#x9;"})));
 }
 
 TEST_F(SaveLosses, ATabThatReplacesNothingIsNotReported)
@@ -96,13 +96,12 @@ TEST_F(SaveLosses, ATabThatReplacesNothingIsNotReported)
 
 TEST_F(SaveLosses, ANameThatBeginsWithALineBreakIsLost)
 {
-  const LossPlace name = {.element = u"name"};
+  const LossPlace name = {.element = "name"};
   EXPECT_THAT(FindInAnchor("<id>7</id><name>&#10;</name>"),
               ElementsAre(Is(LossKind::NameBehindLineBreak, 1, name)));
-  EXPECT_THAT(
-      FindInAnchor("<id>7</id><name>&#13;Bow</name>"),
-      ElementsAre(Is(LossKind::TextAfterLineBreak, 1, {.element = u"name", .text = u"\rBow"}),
-                  Is(LossKind::NameBehindLineBreak, 1, name)));
+  EXPECT_THAT(FindInAnchor("<id>7</id><name>&#13;Bow</name>"),
+              ElementsAre(Is(LossKind::TextAfterLineBreak, 1, {.element = "name", .text = "\rBow"}),
+                          Is(LossKind::NameBehindLineBreak, 1, name)));
   EXPECT_THAT(FindInAnchor("<id>7</id><name>\n  Bow\n  </name>"),
               testing::Contains(Is(LossKind::NameBehindLineBreak, 1, name)));
 }
@@ -123,45 +122,41 @@ TEST_F(SaveLosses, EveryKindIsFoundWithItsPlace)
 {
   EXPECT_THAT(
       Find("<engine/><x><gps/></x>lost\nlost<!--c-->"),
-      ElementsAre(Is(LossKind::UnknownElement, 2, {.element = u"engine", .parent = u"vessel"}),
-                  Is(LossKind::MisplacedElement, 1, {.element = u"gps", .parent = u"x"}),
-                  Is(LossKind::TextBetweenElements, 1, {.element = u"vessel", .text = u"lost"}),
-                  Is(LossKind::TextAfterLineBreak, 1, {.element = u"vessel", .text = u"\nlost"}),
-                  Is(LossKind::Comment, 1, {.text = u"<!--c-->"})));
+      ElementsAre(Is(LossKind::UnknownElement, 2, {.element = "engine", .parent = "vessel"}),
+                  Is(LossKind::MisplacedElement, 1, {.element = "gps", .parent = "x"}),
+                  Is(LossKind::TextBetweenElements, 1, {.element = "vessel", .text = "lost"}),
+                  Is(LossKind::TextAfterLineBreak, 1, {.element = "vessel", .text = "\nlost"}),
+                  Is(LossKind::Comment, 1, {.text = "<!--c-->"})));
   EXPECT_THAT(
       Find("<units id='0' name='m'/><gps x='1.2345' y='1a' z=''/>"),
       ElementsAre(
-          Is(LossKind::RepeatedElement, 2, {.element = u"units", .parent = u"vessel"}),
-          Is(LossKind::UnknownAttribute, 1,
-             {.element = u"units", .attribute = u"name", .text = u"m"}),
+          Is(LossKind::RepeatedElement, 2, {.element = "units", .parent = "vessel"}),
+          Is(LossKind::UnknownAttribute, 1, {.element = "units", .attribute = "name", .text = "m"}),
           Is(LossKind::CoordinateIsNoNumber, 2,
-             {.element = u"gps", .attribute = u"y", .text = u"1a", .saved = u"1.000"}),
+             {.element = "gps", .attribute = "y", .text = "1a", .saved = "1.000"}),
           Is(LossKind::Decimals, 1,
-             {.element = u"gps", .attribute = u"x", .text = u"1.2345", .saved = u"1.234"}),
-          Is(LossKind::UnitIsZero, 1, {.element = u"units", .attribute = u"id", .text = u"0"})));
+             {.element = "gps", .attribute = "x", .text = "1.2345", .saved = "1.234"}),
+          Is(LossKind::UnitIsZero, 1, {.element = "units", .attribute = "id", .text = "0"})));
   EXPECT_THAT(
       Find("<units id='+5'/><shapes/><shapes view='7'/><shapes view='7'/>"),
       ElementsAre(
-          Is(LossKind::RepeatedElement, 1, {.element = u"units", .parent = u"vessel"}),
-          Is(LossKind::UnitChanges, 1, {.element = u"units", .attribute = u"id", .text = u"+5"}),
-          Is(LossKind::GroupWithoutView, 1, {.element = u"shapes", .attribute = u"view"}),
-          Is(LossKind::GroupOfNoSide, 2,
-             {.element = u"shapes", .attribute = u"view", .text = u"7"}),
+          Is(LossKind::RepeatedElement, 1, {.element = "units", .parent = "vessel"}),
+          Is(LossKind::UnitChanges, 1, {.element = "units", .attribute = "id", .text = "+5"}),
+          Is(LossKind::GroupWithoutView, 1, {.element = "shapes", .attribute = "view"}),
+          Is(LossKind::GroupOfNoSide, 2, {.element = "shapes", .attribute = "view", .text = "7"}),
           Is(LossKind::GroupsOfOneView, 1,
-             {.element = u"shapes", .attribute = u"view", .text = u"7"})));
+             {.element = "shapes", .attribute = "view", .text = "7"})));
   EXPECT_THAT(
       FindInAnchor("<vessel>2</vessel><name>  </name><name>\U0001F6A2</name>"),
-      ElementsAre(
-          Is(LossKind::AnchorWithoutNumber, 1, {.element = u"anchor"}),
-          Is(LossKind::AnchorVessel, 1, {.element = u"vessel", .parent = u"anchor"}),
-          Is(LossKind::RepeatedAnchorField, 1, {.element = u"name", .parent = u"anchor"}),
-          Is(LossKind::NameOfBlanks, 1, {.element = u"name"}),
-          Is(LossKind::NameThatDoesNotOpen, 1, {.element = u"name", .text = u"\U0001F6A2"})));
-  EXPECT_THAT(
-      FindInAnchor("<id>007</id><attachmentX>0.0001</attachmentX>"),
-      ElementsAre(Is(LossKind::Decimals, 1,
-                     {.element = u"attachmentX", .text = u"0.0001", .saved = u"0.000"}),
-                  Is(LossKind::AnchorNumberChanges, 1, {.element = u"id", .text = u"007"})));
+      ElementsAre(Is(LossKind::AnchorWithoutNumber, 1, {.element = "anchor"}),
+                  Is(LossKind::AnchorVessel, 1, {.element = "vessel", .parent = "anchor"}),
+                  Is(LossKind::RepeatedAnchorField, 1, {.element = "name", .parent = "anchor"}),
+                  Is(LossKind::NameOfBlanks, 1, {.element = "name"}),
+                  Is(LossKind::NameThatDoesNotOpen, 1, {.element = "name", .text = "\U0001F6A2"})));
+  EXPECT_THAT(FindInAnchor("<id>007</id><attachmentX>0.0001</attachmentX>"),
+              ElementsAre(Is(LossKind::Decimals, 1,
+                             {.element = "attachmentX", .text = "0.0001", .saved = "0.000"}),
+                          Is(LossKind::AnchorNumberChanges, 1, {.element = "id", .text = "007"})));
   FindInAnchor("<id>1</id>\t<name>&#10;</name>");
   Find("<shapes view='3F'/><shapes view='1'/>");
   EXPECT_EQ(seen.size(), static_cast<std::size_t>(LossKind::NameThatDoesNotOpen) + 1);
@@ -170,9 +165,9 @@ TEST_F(SaveLosses, EveryKindIsFoundWithItsPlace)
 TEST_F(SaveLosses, WhatASaveAddsIsReportedInTheOrderOfASave)
 {
   FindIn("<other><vessel/></other>");
-  EXPECT_THAT(losses->Missing(), ElementsAre(u"vessel", u"units", u"gps", u"txd", u"piv"));
+  EXPECT_THAT(losses->Missing(), ElementsAre("vessel", "units", "gps", "txd", "piv"));
   FindIn("<vessel><txd/></vessel>");
-  EXPECT_THAT(losses->Missing(), ElementsAre(u"units", u"gps", u"piv"));
+  EXPECT_THAT(losses->Missing(), ElementsAre("units", "gps", "piv"));
   EXPECT_THAT(Find(""), IsEmpty());
   EXPECT_THAT(losses->Missing(), IsEmpty());
 }

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <array>
+
 #include "base/Text.h"
 #include "file/FileSax.h"
 #include "file/SaxHandlers.h"
@@ -18,18 +20,18 @@ class Listener : public CFileSax {
 public:
   using CFileSax::CFileSax;
 
-  void StartElement(std::u16string_view name, const AttributeMap& attributes) override
+  void StartElement(std::string_view name, SaxAttributes attributes) override
   {
-    std::string line = "<" + Utf8FromWide(name);
+    std::string line = "<" + std::string(name);
     for (const auto& [key, value] : attributes) {
-      line += " " + Utf8FromWide(key) + "=" + Utf8FromWide(value);
+      line += " " + std::string(key) + "=" + std::string(value);
     }
     events.push_back(line);
   }
-  void EndElement(std::u16string_view name) override { events.push_back(">" + Utf8FromWide(name)); }
-  void Characters(std::u16string_view text) override
+  void EndElement(std::string_view name) override { events.push_back(">" + std::string(name)); }
+  void Characters(std::string_view text) override
   {
-    events.push_back("'" + Utf8FromWide(text) + "'");
+    events.push_back("'" + std::string(text) + "'");
   }
   void Error(std::u16string_view message, int line, int column, int) override
   {
@@ -38,7 +40,7 @@ public:
     errorColumn = column;
   }
 
-  void PassOver(std::u16string_view markup) override { passedOver.push_back(Utf8FromWide(markup)); }
+  void PassOver(std::string_view markup) override { passedOver.emplace_back(markup); }
 
   std::vector<std::string> events;
   std::vector<std::string> passedOver;
@@ -59,7 +61,7 @@ protected:
 TEST_F(SaxInput, DeliversElementsAttributesAndText)
 {
   EXPECT_EQ(Read("<a y='2' x='1'><b>text</b></a>"), 0);
-  EXPECT_THAT(listener.events, ElementsAre("<a x=1 y=2", "<b", "'text'", ">b", ">a"));
+  EXPECT_THAT(listener.events, ElementsAre("<a y=2 x=1", "<b", "'text'", ">b", ">a"));
 }
 
 TEST_F(SaxInput, NamesLoseTheirPrefix)
@@ -70,13 +72,13 @@ TEST_F(SaxInput, NamesLoseTheirPrefix)
 
 TEST_F(SaxInput, AnUnboundPrefixIsNotWellFormed) { EXPECT_EQ(Read("<a:vertex/>"), -1); }
 
-TEST_F(SaxInput, OfAttributesWithTheSameLocalNameOneStands)
+TEST_F(SaxInput, AttributesWithTheSameLocalNameComeInTheOrderOfTheFile)
 {
   EXPECT_EQ(Read("<v xmlns:a='urn:a' x='1' a:x='2'/>"), 0);
-  EXPECT_THAT(listener.events, ElementsAre("<v x=2", ">v"));
+  EXPECT_THAT(listener.events, ElementsAre("<v x=1 x=2", ">v"));
   listener.events.clear();
   EXPECT_EQ(Read("<v xmlns:a='urn:a' a:x='2' x='1'/>"), 0);
-  EXPECT_THAT(listener.events, ElementsAre("<v x=1", ">v"));
+  EXPECT_THAT(listener.events, ElementsAre("<v x=2 x=1", ">v"));
 }
 
 TEST_F(SaxInput, TextIsNotCutAtReferencesOrPiecesOfTheFile)
@@ -184,37 +186,43 @@ protected:
 
 TEST_F(ContentHandler, DropsChunksOfBlanksButNotOfTabs)
 {
-  handler.Characters(u"   ");
-  handler.Characters(u"");
-  handler.Characters(u"\t");
-  handler.Characters(u"\t ");
+  handler.Characters("   ");
+  handler.Characters("");
+  handler.Characters("\t");
+  handler.Characters("\t ");
   EXPECT_THAT(listener.events, ElementsAre("'\t'", "'\t '"));
 }
 
 TEST_F(ContentHandler, DropsChunksThatStartWithALineBreakWhateverFollows)
 {
-  handler.Characters(u"\nBow");
-  handler.Characters(u"\rBow");
-  handler.Characters(u" \nBow");
+  handler.Characters("\nBow");
+  handler.Characters("\rBow");
+  handler.Characters(" \nBow");
   EXPECT_THAT(listener.events, ElementsAre("' \nBow'"));
 }
 
 TEST_F(ContentHandler, WithoutAnOwnerNothingHappens)
 {
   CFileSaxContentHandler orphan(nullptr);
-  orphan.StartElement(u"a", {});
-  orphan.Characters(u"text");
-  orphan.PassOver(u"<!-- -->");
-  orphan.EndElement(u"a");
+  orphan.StartElement("a", {});
+  orphan.Characters("text");
+  orphan.PassOver("<!-- -->");
+  orphan.EndElement("a");
   CFileSaxErrorHandler(nullptr).Error(u"", 0, 0, 0);
   EXPECT_TRUE(listener.events.empty());
 }
 
 TEST(AttributeValue, OfAMissingAttributeIsEmpty)
 {
-  const AttributeMap attributes = {{u"x", u"1"}};
-  EXPECT_EQ(AttributeValue(attributes, u"x"), u"1");
-  EXPECT_EQ(AttributeValue(attributes, u"y"), u"");
+  const std::array<SaxAttribute, 1> attributes = {{{"x", "1"}}};
+  EXPECT_EQ(AttributeValue(attributes, "x"), "1");
+  EXPECT_EQ(AttributeValue(attributes, "y"), "");
+}
+
+TEST(AttributeValue, OfSeveralWithOneNameIsTheLast)
+{
+  const std::array<SaxAttribute, 3> attributes = {{{"x", "1"}, {"x", "2"}, {"y", "3"}}};
+  EXPECT_EQ(AttributeValue(attributes, "x"), "2");
 }
 
 }  // namespace

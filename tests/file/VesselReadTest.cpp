@@ -138,12 +138,12 @@ TEST_F(VesselRead, TextBehindACloseTagOverwritesItsField)
 
 TEST_F(VesselRead, EachChunkReplacesTheOneBeforeIt)
 {
-  file.StartElement(u"anchor", {});
-  file.StartElement(u"name", {});
-  file.Characters(u"Bow");
-  file.Characters(u"Stern");
-  file.EndElement(u"name");
-  file.EndElement(u"anchor");
+  file.StartElement("anchor", {});
+  file.StartElement("name", {});
+  file.Characters("Bow");
+  file.Characters("Stern");
+  file.EndElement("name");
+  file.EndElement("anchor");
   EXPECT_EQ(Anchor(0).name, u"Stern");
 }
 

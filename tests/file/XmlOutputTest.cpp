@@ -51,43 +51,43 @@ TEST_F(XmlOutput, TheDeclarationHasABlankBeforeItsEnd)
 
 TEST_F(XmlOutput, NestingIndentsByOneBlankALevel)
 {
-  file.OpenElement(u"vessel");
-  file.OpenElement(u"anchors");
-  file.WriteTextElement(u"id", u"1");
-  file.CloseElement(u"anchors");
-  file.CloseElement(u"vessel");
+  file.OpenElement("vessel");
+  file.OpenElement("anchors");
+  file.WriteTextElement("id", u"1");
+  file.CloseElement("anchors");
+  file.CloseElement("vessel");
   EXPECT_EQ(file.Output(), "<vessel>\n <anchors>\n  <id>1</id>\n </anchors>\n</vessel>\n");
   EXPECT_EQ(file.indent, 0);
 }
 
 TEST_F(XmlOutput, AttributesOfAnOpenTagStandInDescendingOrder)
 {
-  file.OpenElement(u"shapes", {{u"a", u"1"}, {u"b", u"2"}});
+  file.OpenElement("shapes", {{u"a", u"1"}, {u"b", u"2"}});
   EXPECT_EQ(file.Output(), "<shapes b=\"2\" a=\"1\" >\n");
   EXPECT_EQ(file.indent, 1);
 }
 
 TEST_F(XmlOutput, AttributesOfAnEmptyElementStandInAscendingOrder)
 {
-  file.WriteEmptyElement(u"vertex", {{u"z", u"3"}, {u"x", u"1"}, {u"y", u"2"}});
+  file.WriteEmptyElement("vertex", {{u"z", u"3"}, {u"x", u"1"}, {u"y", u"2"}});
   EXPECT_EQ(file.Output(), "<vertex x=\"1\" y=\"2\" z=\"3\" />\n");
 }
 
 TEST_F(XmlOutput, AnElementWithABodyIsClosedBehindIt)
 {
-  file.WriteEmptyElement(u"note", {{u"id", u"1"}}, u"a<b");
+  file.WriteEmptyElement("note", {{u"id", u"1"}}, u"a<b");
   EXPECT_EQ(file.Output(), "<note id=\"1\" >a&lt;b</note>\n");
 }
 
 TEST_F(XmlOutput, AnEmptyNameGivesTheTwoTags)
 {
-  file.WriteTextElement(u"name", u"");
+  file.WriteTextElement("name", u"");
   EXPECT_EQ(file.Output(), "<name></name>\n");
 }
 
 TEST_F(XmlOutput, ValuesOfAttributesAreEscaped)
 {
-  file.WriteEmptyElement(u"e", {{u"v", u"a<b"}});
+  file.WriteEmptyElement("e", {{u"v", u"a<b"}});
   EXPECT_EQ(file.Output(), "<e v=\"a&lt;b\" />\n");
 }
 
@@ -106,7 +106,7 @@ TEST_F(XmlOutput, TheFirstPrimitiveAllocatesTheBlock)
   file.WriteDeclaration();
   EXPECT_EQ(file.outCapacity, 0x8200U);
   StingyFile other(messages);
-  other.CloseElement(u"a");
+  other.CloseElement("a");
   EXPECT_EQ(other.outCapacity, 0x8100U);
   EXPECT_EQ(other.indent, -1);
   EXPECT_EQ(other.Output(), "</a>\n");
@@ -115,25 +115,40 @@ TEST_F(XmlOutput, TheFirstPrimitiveAllocatesTheBlock)
 TEST_F(XmlOutput, TheBlockGrowsWhenTheMarginReachesItsEnd)
 {
   file.WriteDeclaration();
-  while (file.outLength + 0x100 + 1 < 0x8200U) file.WriteTextElement(u"e", u"0");
+  while (file.outLength + 0x100 + 1 < 0x8200U) file.WriteTextElement("e", u"0");
   const std::uint32_t length = file.outLength;
   EXPECT_EQ(file.outCapacity, 0x8200U);
-  file.WriteTextElement(u"e", u"0");
+  file.WriteTextElement("e", u"0");
   EXPECT_EQ(file.outCapacity, length + 0x101 + 0x8000);
+}
+
+TEST_F(XmlOutput, TheBlockIsResizedFewTimesWhileItsCapacityGrowsByTheStep)
+{
+  constexpr std::uint32_t enough = 4'000'000;
+  constexpr std::uint32_t margin = 0x101;
+  while (file.outLength < enough) {
+    const std::uint32_t before = file.outLength;
+    const std::uint32_t capacity = file.outCapacity;
+    file.WriteTextElement("e", u"0");
+    const bool grows = before + margin >= capacity;
+    ASSERT_EQ(file.outCapacity, grows ? before + margin + 0x8000 : capacity) << before;
+  }
+  EXPECT_LT(file.wanted.size(), 20U);
+  EXPECT_GE(file.wanted.back(), file.outCapacity);
 }
 
 TEST_F(XmlOutput, ANameOf600CharactersIsWrittenInOnePiece)
 {
   const std::u16string name(600, u'\u00E4');
-  file.WriteTextElement(u"name", name);
+  file.WriteTextElement("name", name);
   EXPECT_EQ(file.outLength, 600U * 6U + 14U);
   EXPECT_EQ(file.outCapacity, 0x100U + 3600U + 0x8000U);
 }
 
 TEST_F(XmlOutput, DeepNestingStaysInItsBlock)
 {
-  for (int level = 0; level < 3000; ++level) file.OpenElement(u"e");
-  for (int level = 0; level < 3000; ++level) file.CloseElement(u"e");
+  for (int level = 0; level < 3000; ++level) file.OpenElement("e");
+  for (int level = 0; level < 3000; ++level) file.CloseElement("e");
   EXPECT_EQ(file.indent, 0);
   EXPECT_EQ(file.Output().size(), 3000U * (4 + 5) + 2999U * 3000U);
 }
@@ -141,11 +156,11 @@ TEST_F(XmlOutput, DeepNestingStaysInItsBlock)
 TEST_F(XmlOutput, WithoutMemoryNothingIsWrittenAndTheIndentationStays)
 {
   file.failures = 2;
-  file.OpenElement(u"a");
-  file.WriteTextElement(u"b", u"1");
+  file.OpenElement("a");
+  file.WriteTextElement("b", u"1");
   EXPECT_EQ(file.indent, 0);
   EXPECT_EQ(file.outLength, 0U);
-  file.OpenElement(u"c");
+  file.OpenElement("c");
   EXPECT_EQ(file.Output(), "<c>\n");
 }
 
@@ -153,11 +168,11 @@ TEST_F(XmlOutput, WithoutMemoryForTheMarginTheIndentationStays)
 {
   file.indent = 2;
   file.failures = 3;
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.indent, 2);
-  file.OpenElement(u"a", {{u"b", u"1"}});
+  file.OpenElement("a", {{u"b", u"1"}});
   EXPECT_EQ(file.indent, 2);
-  file.CloseElement(u"a");
+  file.CloseElement("a");
   EXPECT_EQ(file.indent, 2);
   EXPECT_EQ(file.outLength, 0U);
   EXPECT_EQ(file.failures, 0);
@@ -177,9 +192,9 @@ TEST_F(XmlOutput, WithoutMemoryForItsBlanksTheIndentationStays)
     EXPECT_EQ(file.outLength, before);
     EXPECT_EQ(file.indent, deeperThanTheBlock);
   };
-  failsAtDepth([this] { file.OpenElement(u"a"); });
-  failsAtDepth([this] { file.OpenElement(u"a", {{u"b", u"1"}}); });
-  failsAtDepth([this] { file.CloseElement(u"a"); });
+  failsAtDepth([this] { file.OpenElement("a"); });
+  failsAtDepth([this] { file.OpenElement("a", {{u"b", u"1"}}); });
+  failsAtDepth([this] { file.CloseElement("a"); });
 }
 
 TEST_F(XmlOutput, ASumPastItsLimitAsksForTheLargestSizeAndFails)
@@ -188,9 +203,9 @@ TEST_F(XmlOutput, ASumPastItsLimitAsksForTheLargestSizeAndFails)
   constexpr std::uint32_t margin = 0x200;
   file.failures = 2;  // four gigabytes are not needed to see what is asked for
   file.outLength = largestSum - margin;
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   file.outLength = largestSum - margin + 1;
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_THAT(file.wanted,
               testing::ElementsAre(0xFFFFFFFFU, std::numeric_limits<std::size_t>::max()));
   EXPECT_EQ(file.indent, 0);
@@ -202,19 +217,19 @@ TEST_F(XmlOutput, ASumPastItsLimitAsksForTheLargestSizeAndFails)
 
 TEST_F(XmlOutput, ABlockThatWasLostGoesOnAtItsOffset)
 {
-  file.OpenElement(u"vessel");
+  file.OpenElement("vessel");
   const std::uint32_t before = file.outLength;
   file.failures = 1;
-  file.WriteTextElement(u"name", std::u16string(0x9000, u'x'));
+  file.WriteTextElement("name", std::u16string(0x9000, u'x'));
   EXPECT_EQ(file.outLength, before);
   EXPECT_EQ(file.Output(), "");
-  file.CloseElement(u"vessel");
+  file.CloseElement("vessel");
   EXPECT_EQ(file.Output(), std::string(before, '\0') + "</vessel>\n");
 }
 
 TEST_F(XmlOutput, ResetOutputBeginsAnew)
 {
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   file.ResetOutput();
   EXPECT_EQ(file.indent, 0);
   EXPECT_EQ(file.outLength, 0U);
@@ -224,7 +239,7 @@ TEST_F(XmlOutput, ResetOutputBeginsAnew)
 
 TEST_F(XmlOutput, FlushWritesTheBlock)
 {
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.Flush(folder.File("out.xml")), 0);
   EXPECT_EQ(folder.Read("out.xml"), "<a>\n");
   EXPECT_TRUE(messages.shown.empty());
@@ -233,7 +248,7 @@ TEST_F(XmlOutput, FlushWritesTheBlock)
 TEST_F(XmlOutput, FlushOverALongerFileLeavesNothingOfIt)
 {
   folder.Write("out.xml", std::string(10000, 'x'));
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.Flush(folder.File("out.xml")), 0);
   EXPECT_EQ(folder.Read("out.xml"), "<a>\n");
 }
@@ -242,14 +257,14 @@ TEST_F(XmlOutput, FlushOfNothingOrToNowhereFails)
 {
   EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);
   EXPECT_EQ(folder.Read("out.xml"), "(no file)");
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.Flush(u""), -1);
 }
 
 TEST_F(XmlOutput, FlushOfABlockWithoutLengthOrCapacityLeavesTheFileAndSaysNothing)
 {
   folder.Write("out.xml", "before");
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   const std::uint32_t length = file.outLength;
   file.outLength = 0;
   EXPECT_EQ(file.Flush(folder.File("out.xml")), -1);
@@ -262,7 +277,7 @@ TEST_F(XmlOutput, FlushOfABlockWithoutLengthOrCapacityLeavesTheFileAndSaysNothin
 
 TEST_F(XmlOutput, AFileThatWontOpenFailsWithoutAMessage)
 {
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.Flush(folder.File("no-folder/out.xml")), -1);
   EXPECT_EQ(file.Flush(folder.File("")), -1);
   EXPECT_TRUE(messages.shown.empty());
@@ -270,14 +285,14 @@ TEST_F(XmlOutput, AFileThatWontOpenFailsWithoutAMessage)
 
 TEST_F(XmlOutput, AFullDiskIsReported)
 {
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   EXPECT_EQ(file.Flush(u"/dev/full"), -1);
   EXPECT_THAT(messages.shown, testing::ElementsAre(u"Error writing config file!!!"));
 }
 
 TEST_F(XmlOutput, NamesWithBlanksUmlautsAndEmojiAreFine)
 {
-  file.OpenElement(u"a");
+  file.OpenElement("a");
   const char* const name = "Schiff \xC3\x84rger \xF0\x9F\x9A\xA2.xml";
   EXPECT_EQ(file.Flush(folder.File(name)), 0);
   EXPECT_EQ(folder.Read(name), "<a>\n");

@@ -177,7 +177,7 @@ Value WriteXml(ReplayEditor& editor, const Args& args)
   for (const Json& call : ListOf(args.At(0))) {
     const Json& parts = ListOf(call);
     const std::string name = TextOf(Item(parts, 0));
-    const std::u16string element = WideOf(Item(parts, 1));
+    const std::string element = Utf8FromWide(WideOf(Item(parts, 1)));
     if (name == "WriteDeclaration") file.WriteDeclaration();
     if (name == "OpenElement" && parts.size() < 3) file.OpenElement(element);
     if (name == "OpenElement" && parts.size() >= 3) {
