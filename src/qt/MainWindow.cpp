@@ -11,7 +11,6 @@
 #include <QToolBar>
 
 #include "qt/DroppedFiles.h"
-#include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "qt/MenuKeys.h"
 #include "qt/QtText.h"
@@ -40,7 +39,6 @@ MainWindow::MainWindow(const DeskPorts& ports)
                   [this] { return view_.drawing && !view_.newShape->vertices.empty(); }}),
       actions_(new Actions(this, [this](CommandId command) { RunCommand(command); }))
 {
-  setWindowIcon(ApplicationIcon());
   setCentralWidget(design_);
   BuildMenus();
   BuildStatusBar();
