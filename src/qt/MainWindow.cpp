@@ -221,6 +221,10 @@ void MainWindow::ShowNote(std::u16string_view text)
 
 bool MainWindow::event(QEvent* event)
 {
+  if (event->type() == QEvent::Paint && !painted_) {
+    painted_ = true;
+    QTimer::singleShot(0, this, [this] { UpdatePanes(); });
+  }
   // A dialog that closes under a resting mouse makes the button below it send its prompt anew.
   const bool hidesNote = event->type() == QEvent::StatusTip && !note_.isEmpty() &&
                          QCursor::pos() == notePlace_ &&
@@ -319,7 +323,8 @@ void MainWindow::UpdateCommands()
 void MainWindow::UpdatePanes()
 {
   coordinatesPane_->Show(ToQString(view_.statusText));
-  unitsPane_->Show(ToQString(view_.UnitsPaneText()));
+  // Its text takes the unit database, which nobody should wait for to see the window.
+  if (painted_) unitsPane_->Show(ToQString(view_.UnitsPaneText()));
   prompt_->Show(Prompt());
 }
 
