@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/ImportText.h"
+#include "render/Canvas.h"
 
 namespace hullwright {
 
@@ -25,6 +26,7 @@ HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
                .popupMenu = pointer_})
 {
   editor_.view.OnCreate(target);
+  editor_.view.viewPort->canvas->ReleaseResources();
   editor_.frame.hasWindow = true;
 }
 
@@ -97,6 +99,18 @@ void HeadlessEditor::ShowSide(ViewSide side, int width, int height, const Extent
   editor_.app.activeView = side;
   editor_.view.OnSize(width, height);
   Frame(stretch, 0.0);
+}
+
+void HeadlessEditor::Draw()
+{
+  const CViewPort& viewPort = *editor_.view.viewPort;
+  CCanvas& canvas = *viewPort.canvas;
+  canvas.Initialize(canvas.window);
+  if (IDrawingTarget* const target = canvas.Target()) {
+    target->Resize(static_cast<int>(viewPort.screenWidth), static_cast<int>(viewPort.screenHeight));
+  }
+  editor_.view.Repaint();
+  canvas.ReleaseResources();
 }
 
 void HeadlessEditor::Frame(const Extents& box, double marginPart) const

@@ -48,8 +48,8 @@ public:
   void ShowSide(ViewSide side, int width, int height);
   void ShowSide(ViewSide side, int width, int height, const Extents& stretch);
 
-  /// Draws the side in view as one frame.
-  void Draw() { editor_.view.Repaint(); }
+  /// Draws the side in view as one frame. What a window would show on the way to it isn't drawn.
+  void Draw();
 
 private:
   HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets);

@@ -138,7 +138,9 @@ QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
     if (picture.isNull()) return {};
     picture.fill(Qt::white);
     paint(picture);
-    picture.save(&buffer, "PNG");
+    // The first level of compression: two thirds of the time for a twentieth more bytes.
+    constexpr int firstLevel = 80;  // of the toolkit's quality, where 100 is no compression
+    picture.save(&buffer, "PNG", firstLevel);
   }
   return bytes;
 }

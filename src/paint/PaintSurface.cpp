@@ -21,6 +21,7 @@ void PaintSurface::Allocate(int width, int height)
   width_ = std::max(width, 0);
   height_ = std::max(height, 0);
   picture_ = QImage();  // the old one's memory goes first
+  if (device_ != nullptr) return;
   picture_ = QImage(static_cast<int>(std::ceil(width_ * ratio_)),
                     static_cast<int>(std::ceil(height_ * ratio_)), QImage::Format_RGB32);
   picture_.setDevicePixelRatio(ratio_);

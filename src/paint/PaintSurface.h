@@ -12,11 +12,11 @@ public:
   PaintSurface(int width, int height, double ratio = 1.0);
 
   /// Makes the picture anew at a client size. A size of zero, or one that there is no memory for,
-  /// leaves none.
+  /// leaves none, and so does another device that frames are painted on.
   void Allocate(int width, int height);
 
   /// Lets frames be painted on another device, such as a page, whose unit is the client pixel; null
-  /// for the picture again.
+  /// for the picture again, which needs an `Allocate` if there was one meanwhile.
   void SetDevice(QPaintDevice* device) { device_ = device; }
 
   /// What frames are painted on; null when there is nothing.

@@ -65,7 +65,11 @@ void ApplyLook(Look look)
 {
   const auto* found = std::ranges::find(looks, look, &LookColours::look);
   if (found == looks.end()) found = std::ranges::find(looks, Look::Blue, &LookColours::look);
-  QApplication::setStyle(QStyleFactory::create(QLatin1String(found->style)));
+  // Even the same style would have every widget measured anew.
+  const QLatin1String style(found->style);
+  if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0) {
+    QApplication::setStyle(QStyleFactory::create(style));
+  }
   QApplication::setPalette(PaletteOf(*found));
 }
 

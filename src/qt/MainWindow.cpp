@@ -11,7 +11,6 @@
 #include <QToolBar>
 
 #include "qt/DroppedFiles.h"
-#include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "qt/MenuKeys.h"
 #include "qt/QtText.h"
@@ -49,7 +48,6 @@ MainWindow::MainWindow(const DeskPorts& ports)
                   [this] { return view_.drawing && !view_.newShape->vertices.empty(); }}),
       actions_(new Actions(this, [this](CommandId command) { RunCommand(command); }))
 {
-  setWindowIcon(ApplicationIcon());
   setCentralWidget(design_);
   BuildMenus();
   BuildStatusBar();
@@ -229,6 +227,10 @@ void MainWindow::ShowNote(std::u16string_view text)
 
 bool MainWindow::event(QEvent* event)
 {
+  if (event->type() == QEvent::Paint && !painted_) {
+    painted_ = true;
+    QTimer::singleShot(0, this, [this] { UpdatePanes(); });
+  }
   // A dialog that closes under a resting mouse makes the button below it send its prompt anew.
   const bool hidesNote = event->type() == QEvent::StatusTip && !note_.isEmpty() &&
                          QCursor::pos() == notePlace_ &&
@@ -327,7 +329,8 @@ void MainWindow::UpdateCommands()
 void MainWindow::UpdatePanes()
 {
   coordinatesPane_->Show(ToQString(view_.statusText));
-  unitsPane_->Show(ToQString(view_.UnitsPaneText()));
+  // Its text takes the unit database, which nobody should wait for to see the window.
+  if (painted_) unitsPane_->Show(ToQString(view_.UnitsPaneText()));
   prompt_->Show(Prompt());
 }
 

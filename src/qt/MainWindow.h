@@ -123,6 +123,7 @@ private:
   ProgressPane* progress_ = nullptr;  ///< takes the prompt's place
   StatusPane* coordinatesPane_ = nullptr;
   StatusPane* unitsPane_ = nullptr;
+  bool painted_ = false;  ///< the window has been seen
 };
 
 }  // namespace hullwright

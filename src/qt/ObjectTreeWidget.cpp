@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "qt/Icons.h"
+#include "qt/ObjectTreeDelegate.h"
 #include "qt/QtText.h"
 
 namespace hullwright {
@@ -30,6 +31,7 @@ void ObjectTreeWidget::Attach(CObjectView& pane)
   pane_ = &pane;
   model_ = new ObjectTreeModel(pane.Tree(), this);
   setModel(model_);
+  setItemDelegate(new ObjectTreeDelegate(pane.Tree(), this));
   RefreshIcons();
 }
 

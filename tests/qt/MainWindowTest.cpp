@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QMenuBar>
+#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -75,6 +76,16 @@ TEST_F(Desk, PanesShowPositionAndUnit)
   const int middleY = View().height() / 2;
   Move({middleX, middleY});
   EXPECT_EQ(PaneText(0), QStringLiteral("X: +00.00 Y: +00.00"));
+  EXPECT_EQ(PaneText(1), QStringLiteral("Units: metre"));
+}
+
+TEST_F(Desk, TheWindowIsSeenBeforeTheUnitsAreRead)
+{
+  shell = std::make_unique<Shell>(QStringLiteral(HULLWRIGHT_SAMPLES "/workboat.xml"));
+  ASSERT_TRUE(shell->App().InitInstance(*shell));
+  EXPECT_EQ(PaneText(1), QStringLiteral("N/A"));
+  EXPECT_TRUE(shell->App().unitTable.empty());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !shell->App().unitTable.empty(); }));
   EXPECT_EQ(PaneText(1), QStringLiteral("Units: metre"));
 }
 

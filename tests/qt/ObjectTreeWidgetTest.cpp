@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QWindow>
 
@@ -59,6 +60,28 @@ protected:
   static QImage Picture(const char* name)
   {
     return ThemedIcon(name, QApplication::palette()).pixmap(16).toImage();
+  }
+
+  /// What a delegate takes for the size of a row.
+  QSize Measured(const QAbstractItemDelegate& delegate, const QModelIndex& index)
+  {
+    QStyleOptionViewItem option;
+    option.initFrom(&Tree());
+    option.font = Tree().font();
+    option.decorationSize = Tree().iconSize();
+    option.widget = &Tree();
+    return delegate.sizeHint(option, index);
+  }
+
+  void ExpectSizesOfTheToolkit()
+  {
+    const QStyledItemDelegate plain;
+    for (const QModelIndex& index : {At({0}), At({0, 0}), At({0, 0, 0}), At({0, 0, 1}),
+                                     At({0, 0, 0, 0}), At({1}), At({1, 1})}) {
+      const QString text = index.data().toString();
+      EXPECT_EQ(Measured(*Tree().itemDelegate(), index), Measured(plain, index))
+          << text.toStdString();
+    }
   }
 
   const CShape& Line(std::size_t row)
@@ -181,6 +204,17 @@ TEST_F(ObjectPane, TheReturnKeyIsAClickOnTheCurrentItem)
   QTest::keyClick(&Tree(), Qt::Key_Enter);
   EXPECT_TRUE(Line(1).editing);
   EXPECT_EQ(Icon({0, 0, 1}), Picture("tree-polyline-marked"));
+}
+
+TEST_F(ObjectPane, RowsAreAsLargeAsTheToolkitMeasuresThem)
+{
+  ExpectSizesOfTheToolkit();
+  QFont font = Tree().font();
+  font.setPointSize(3 * font.pointSize());
+  Tree().setFont(font);
+  ExpectSizesOfTheToolkit();
+  QApplication::processEvents();
+  EXPECT_GE(Tree().columnWidth(0), Measured(*Tree().itemDelegate(), At({0, 0, 0})).width());
 }
 
 TEST_F(ObjectPane, TheKeysForCopyingLeaveTheClipboardAlone)
