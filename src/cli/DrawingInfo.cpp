@@ -6,6 +6,8 @@
 #include <iterator>
 
 #include "app/ImportText.h"
+#include "base/Code.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "dxf/DxfKeywords.h"
 #include "dxf/FileDxf.h"
@@ -56,7 +58,7 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
   if (reader.Import(path, &layer) != 0) return std::u16string(unreadableDrawing);
   if (!reader.Tally().IsDrawing()) return DescribeImport(reader.Tally());
   for (const auto& [name, known] : reader.Drawing().layers.All()) {
-    summary.layers[name] = {known.colour, known.off, known.frozen};
+    summary.layers[name] = {NumberOf(known.colour), known.off, known.frozen};
   }
   for (const auto& [name, block] : reader.Drawing().blocks) {
     summary.blocks[name] = block->shapes.size();

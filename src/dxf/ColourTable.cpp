@@ -48,7 +48,7 @@ constexpr int Square(int value) { return value * value; }
 
 }  // namespace
 
-std::uint32_t ColourOfIndex(std::int32_t index)
+std::uint32_t ColourOfIndex(ColourIndex index)
 {
   const auto place = static_cast<std::uint32_t>(index);
   if (place >= colourCount) return 0;
@@ -56,11 +56,12 @@ std::uint32_t ColourOfIndex(std::int32_t index)
   return (rgb >> 16U) | (rgb & 0xFF00U) | ((rgb & 0xFFU) << 16U);
 }
 
-std::int32_t NearestColourIndex(std::uint32_t colour)
+ColourIndex NearestColourIndex(std::uint32_t colour)
 {
-  std::int32_t nearest = 0;
+  ColourIndex nearest{};
   int smallest = 3 * Square(255) + 1;
-  for (std::int32_t index = 0; index < static_cast<std::int32_t>(colourCount); ++index) {
+  for (std::int32_t place = 0; place < static_cast<std::int32_t>(colourCount); ++place) {
+    const ColourIndex index{place};
     const std::uint32_t entry = ColourOfIndex(index);
     const int sum = Square(Channel(entry, 0) - Channel(colour, 0)) +
                     Square(Channel(entry, 8) - Channel(colour, 8)) +

@@ -12,7 +12,7 @@ constexpr DxfCode Coordinate(DxfCode x, int axis)
 
 }  // namespace
 
-DxfEntity::DxfEntity(std::int32_t colour) : colour_(colour) { SetDefault(DxfCode::NormalZ, 1.0); }
+DxfEntity::DxfEntity(ColourIndex colour) : colour_(colour) { SetDefault(DxfCode::NormalZ, 1.0); }
 
 void DxfEntity::TakeOther(DxfCode code, std::string_view value)
 {
@@ -20,7 +20,7 @@ void DxfEntity::TakeOther(DxfCode code, std::string_view value)
     case DxfCode::Name: name_ = value; return;
     case DxfCode::Handle: handle_ = value; return;
     case DxfCode::LayerName: layerName_ = value; return;
-    case DxfCode::Colour: colour_ = ParseInt32(value, 10); return;
+    case DxfCode::Colour: colour_ = ColourIndex{ParseInt32(value, 10)}; return;
     case DxfCode::PaperSpace: paperSpace_ = ParseInt32(value, 10); return;
     case DxfCode::Flags: flags_ = ParseInt32(value, 10); return;
     default: return;

@@ -6,22 +6,19 @@
 #include <string_view>
 
 #include "base/Numbers.h"
+#include "dxf/ColourTable.h"
 #include "dxf/DxfCode.h"
 #include "dxf/DxfLines.h"
 #include "dxf/DxfPoint.h"
 
 namespace hullwright {
 
-// Colours that are no index of the table of colours.
-inline constexpr std::int32_t colourByBlock = 0;
-inline constexpr std::int32_t colourByLayer = 256;
-
 /// What the groups of one record say, by their codes. A group that comes again replaces its value;
 /// groups that no record has a use for are not kept. Texts are views of the lines they came in.
 class DxfEntity {
 public:
   /// `colour` is that of a record that names none.
-  explicit DxfEntity(std::int32_t colour = colourByLayer);
+  explicit DxfEntity(ColourIndex colour = ColourIndex::ByLayer);
 
   /// Takes a group in.
   void Take(DxfCode code, std::string_view value)
@@ -48,7 +45,7 @@ public:
   std::string_view Name() const { return name_; }
   std::string_view Handle() const { return handle_; }
   std::string_view LayerName() const { return layerName_; }
-  std::int32_t Colour() const { return colour_; }
+  ColourIndex Colour() const { return colour_; }
   std::int32_t Flags() const { return flags_; }
   bool HasFlag(std::int32_t bit) const { return (flags_ & bit) != 0; }
 
@@ -84,7 +81,7 @@ private:
   std::string_view name_;
   std::string_view handle_;
   std::string_view layerName_;
-  std::int32_t colour_;
+  ColourIndex colour_;
   std::int32_t paperSpace_ = 0;
   std::int32_t flags_ = 0;
   std::array<double, lowCount + highCount> numbers_{};

@@ -16,7 +16,7 @@ void DxfLayers::Add(const CFileDxfLayer& layer)
   if (!layer.name.empty()) layers_.try_emplace(layer.name, layer);
 }
 
-void DxfLayers::AddImplicitLayer(std::string_view name, std::int32_t colour)
+void DxfLayers::AddImplicitLayer(std::string_view name, ColourIndex colour)
 {
   if (layerTableSeen_ || Find(name) != nullptr) return;
   CFileDxfLayer layer;
@@ -31,9 +31,9 @@ bool DxfLayers::IsLayerHidden(std::string_view name) const
   return layer != nullptr && (layer->off || layer->frozen);
 }
 
-std::int32_t DxfLayers::ColourOf(std::string_view name) const
+ColourIndex DxfLayers::ColourOf(std::string_view name) const
 {
-  constexpr std::int32_t black = 0;
+  constexpr ColourIndex black{0};
   const CFileDxfLayer* const layer = Find(name);
   return layer == nullptr ? black : layer->colour;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
 
+#include "dxf/ColourTable.h"
 #include "dxf/FileDxfLayer.h"
 
 namespace hullwright {
@@ -23,13 +23,13 @@ public:
 
   /// While no table of layers has come: makes a layer for an entity that names a new one. The
   /// colour stays as it is given, so that one by layer makes a black layer.
-  void AddImplicitLayer(std::string_view name, std::int32_t colour);
+  void AddImplicitLayer(std::string_view name, ColourIndex colour);
 
   /// Whether the layer is known to be off or frozen.
   bool IsLayerHidden(std::string_view name) const;
 
   /// Index of the colour of a layer; black for one that is not known.
-  std::int32_t ColourOf(std::string_view name) const;
+  ColourIndex ColourOf(std::string_view name) const;
 
   const Map& All() const { return layers_; }
   bool LayerTableSeen() const { return layerTableSeen_; }

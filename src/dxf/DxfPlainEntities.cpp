@@ -54,7 +54,7 @@ void ReadArc(DxfLines& lines, DxfContext& context, CShapes& target)
 
 void ReadCircle(DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  DxfEntity entity(colourByBlock);
+  DxfEntity entity(ColourIndex::ByBlock);
   if (!ReadEntity(lines, context, entity)) return;
   const Extrusion toWorld = ExtrusionAlong(entity.Normal(), context);
   const DxfPoint centre = toWorld(entity.Point(DxfCode::X));
@@ -66,7 +66,7 @@ void ReadCircle(DxfLines& lines, DxfContext& context, CShapes& target)
 
 void ReadEllipse(DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  DxfEntity entity(colourByBlock);
+  DxfEntity entity(ColourIndex::ByBlock);
   if (!ReadEntity(lines, context, entity)) return;
   const double start = entity.Number(DxfCode::StartParameter) * degreesPerRadian;
   double end = entity.Number(DxfCode::EndParameter) * degreesPerRadian;

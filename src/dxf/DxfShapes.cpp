@@ -52,10 +52,10 @@ void Identify(CShape& shape, const DxfEntity& entity)
 }
 
 void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
-                   std::int32_t colour)
+                   ColourIndex colour)
 {
   if (!shape.style) shape.style = std::make_unique<ShapeStyle>();
-  const std::int32_t index = colour == colourByLayer ? layers.ColourOf(layerName) : colour;
+  const ColourIndex index = colour == ColourIndex::ByLayer ? layers.ColourOf(layerName) : colour;
   shape.style->lineColour = ColourOfIndex(index);
   shape.style->fillColour = shape.style->lineColour;
 }

@@ -31,7 +31,7 @@ void Identify(CShape& shape, const DxfEntity& entity);
 
 /// Gives a shape the colour of an index; that by layer stands for the colour of the layer.
 void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
-                   std::int32_t colour);
+                   ColourIndex colour);
 
 /// Gives a shape the colour of its entity, and the entity a layer.
 void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context);

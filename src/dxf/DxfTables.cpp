@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "base/Code.h"
 #include "dxf/DxfEntity.h"
 #include "dxf/DxfKeywords.h"
 
@@ -15,19 +16,19 @@ void ProcessLayer(DxfLines& lines, DxfContext& context)
   // it has shown that there is a table.
   constexpr std::int32_t frozen = 1;
   context.layers.NoteTable();
-  DxfEntity record(0);
+  DxfEntity record(ColourIndex{});
   ReadPairs(lines, record, DxfLines::shortLine);
   CFileDxfLayer layer;
   layer.name = record.Name();
   layer.colour = record.Colour();
   layer.frozen = record.HasFlag(frozen);
-  layer.off = record.Colour() < 0;
+  layer.off = NumberOf(record.Colour()) < 0;
   context.layers.Add(layer);
 }
 
 void ProcessBlock(DxfLines& lines, DxfContext& context)
 {
-  DxfEntity header(0);
+  DxfEntity header(ColourIndex{});
   ReadPairs(lines, header);
   auto block = std::make_unique<CFileDxfBlock>();
   block->name = header.Name();

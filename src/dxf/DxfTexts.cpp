@@ -20,8 +20,7 @@ void CleanTextCodes(CShapeText& shape, const DxfLayers& layers)
   CleanedText cleaned = CleanText(std::move(shape.text));
   if (cleaned.colourIndex) ResolveColour(shape, layers, {}, *cleaned.colourIndex);
   if (cleaned.colourValue) {
-    const auto value = static_cast<std::uint32_t>(*cleaned.colourValue);
-    ResolveColour(shape, layers, {}, NearestColourIndex(value));
+    ResolveColour(shape, layers, {}, NearestColourIndex(*cleaned.colourValue));
   }
   shape.text = std::move(cleaned.text);
 }

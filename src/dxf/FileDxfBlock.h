@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
+#include "dxf/ColourTable.h"
 #include "model/Shapes.h"
 
 namespace hullwright {
@@ -16,7 +16,7 @@ public:
   std::string handle;
   double baseX = 0.0;
   double baseY = 0.0;
-  std::int32_t colour = 0;
+  ColourIndex colour{};
 };
 
 }  // namespace hullwright

@@ -291,9 +291,11 @@ void Clean(CleanedText& cleaned)
     codes.RemoveUnderlines();
     codes.BreakParagraphs();
     codes.RemoveIndents();
-    cleaned.colourIndex = codes.FirstColour(u'C');
+    if (const auto index = codes.FirstColour(u'C')) cleaned.colourIndex = ColourIndex{*index};
     codes.RemoveColours(u'C');
-    cleaned.colourValue = codes.FirstColour(u'c');
+    if (const auto value = codes.FirstColour(u'c')) {
+      cleaned.colourValue = static_cast<std::uint32_t>(*value);
+    }
     codes.RemoveColours(u'c');
     codes.DecodeUnits();
     TextCodes::DecodeCarets(text);

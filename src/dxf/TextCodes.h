@@ -7,13 +7,15 @@
 #include <string_view>
 #include <vector>
 
+#include "dxf/ColourTable.h"
+
 namespace hullwright {
 
 /// A text of a drawing without its formatting codes, and what these say of its colour.
 struct CleanedText {
   std::u16string text;
-  std::optional<std::int32_t> colourIndex;  ///< of the first code for a colour index
-  std::optional<std::int32_t> colourValue;  ///< of the first code for a true colour, 0x00BBGGRR
+  std::optional<ColourIndex> colourIndex;    ///< of the first code for a colour index
+  std::optional<std::uint32_t> colourValue;  ///< of the first code for a true colour, 0x00BBGGRR
 };
 
 /// Strips the formatting codes of a text. Only a text with a backslash somewhere loses its codes,

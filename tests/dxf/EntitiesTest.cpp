@@ -217,7 +217,7 @@ TEST_F(PlainEntities, CirclesAndEllipsesAreBlackInsteadOfByLayer)
     EXPECT_EQ(ColourOf(0), 0xFFU) << keyword;
   }
   ImportEntities(Entity("CIRCLE", {{8, "A"}}));
-  EXPECT_EQ(Layers().at("A").colour, 0);
+  EXPECT_EQ(Layers().at("A").colour, ColourIndex{0});
 }
 
 // ---------------------------------------------------------------------------------------------------

@@ -23,7 +23,7 @@ TEST_F(ImplicitLayers, EveryKindOfEntityMakesItsLayer)
     ImportEntities(WithRecords(keyword, Lines({{5, "2F"}, {8, "A"}, {62, "3"}})) +
                    WithRecords("LINE", Lines({{8, "A"}})));
     ASSERT_EQ(Layers().size(), 1U) << keyword;
-    EXPECT_EQ(Layers().at("A").colour, 3) << keyword;
+    EXPECT_EQ(Layers().at("A").colour, ColourIndex{3}) << keyword;
     EXPECT_EQ(Layers().at("A").name, "A") << keyword;
     EXPECT_EQ(ColourOf(0), 0x00FF00U) << keyword;
     EXPECT_EQ(ColourOf(1), 0x00FF00U) << keyword;
@@ -36,7 +36,7 @@ TEST_F(ImplicitLayers, EveryKindOfEntityThatIsByLayerLooksForItsLayerBeforeItMak
   for (const char* keyword :
        {"LINE", "POINT", "ARC", "SOLID", "3DFACE", "POLYLINE", "LWPOLYLINE", "TEXT"}) {
     ImportEntities(WithRecords(keyword, Lines({{8, "A"}})));
-    EXPECT_EQ(Layers().at("A").colour, 256) << keyword;
+    EXPECT_EQ(Layers().at("A").colour, ColourIndex::ByLayer) << keyword;
     EXPECT_EQ(ColourOf(0), 0U) << keyword;
   }
 }

@@ -23,11 +23,11 @@ TEST_F(Tables, ALayerKeepsNameColourAndFlags)
   Import(LayerTable(LayerRecord("Hull", 3, 5) + LayerRecord("hull", -7, 0)));
   ASSERT_EQ(Layers().size(), 2U);
   const CFileDxfLayer& frozen = Layers().at("Hull");
-  EXPECT_EQ(frozen.colour, 3);
+  EXPECT_EQ(frozen.colour, ColourIndex{3});
   EXPECT_TRUE(frozen.frozen);
   EXPECT_FALSE(frozen.off);
   const CFileDxfLayer& off = Layers().at("hull");
-  EXPECT_EQ(off.colour, -7);
+  EXPECT_EQ(off.colour, ColourIndex{-7});
   EXPECT_TRUE(off.off);
   EXPECT_FALSE(off.frozen);
 }
@@ -82,13 +82,13 @@ TEST_F(Tables, WithoutATableTheFirstEntityMakesItsLayer)
   EXPECT_EQ(ColourOf(0), green);
   EXPECT_EQ(ColourOf(1), green);
   EXPECT_EQ(ColourOf(2), red);
-  EXPECT_EQ(Layers().at("A").colour, 3);
+  EXPECT_EQ(Layers().at("A").colour, ColourIndex{3});
 }
 
 TEST_F(Tables, AnEntityByLayerMakesABlackLayer)
 {
   ImportEntities(LineOn("A") + LineOn("A", 1) + LineOn("A"));
-  EXPECT_EQ(Layers().at("A").colour, 256);
+  EXPECT_EQ(Layers().at("A").colour, ColourIndex::ByLayer);
   EXPECT_EQ(ColourOf(2), 0U);
 }
 
@@ -128,7 +128,7 @@ TEST_F(Tables, ValuesOfALayerHaveTheShortLimit)
   EXPECT_TRUE(Layers().contains(name));
   // One byte more: the value counts as it stands, and its empty rest ends the record.
   Import(LayerTable(LayerRecord(name + "n", 1, 0)));
-  EXPECT_EQ(Layers().at(name + "n").colour, 0);
+  EXPECT_EQ(Layers().at(name + "n").colour, ColourIndex{0});
 }
 
 TEST_F(Tables, OtherGroupsOfALayerPlayNoPart)
@@ -136,7 +136,7 @@ TEST_F(Tables, OtherGroupsOfALayerPlayNoPart)
   Import(LayerTable(Entity(
       "LAYER",
       {{5, "1F"}, {102, "{A"}, {2, "A"}, {290, "0"}, {62, "1"}, {6, "CONTINUOUS"}, {370, "-3"}})));
-  EXPECT_EQ(Layers().at("A").colour, 1);
+  EXPECT_EQ(Layers().at("A").colour, ColourIndex{1});
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -161,7 +161,7 @@ TEST_F(BlockTable, ABlockKeepsItsHeaderAndItsShapes)
   EXPECT_EQ(block.layerName, "Deck");
   EXPECT_EQ(block.baseX, 4.0);
   EXPECT_EQ(block.baseY, 5.0);
-  EXPECT_EQ(block.colour, 3);
+  EXPECT_EQ(block.colour, ColourIndex{3});
   EXPECT_EQ(block.shapes.size(), 2U);
   EXPECT_EQ(ShapeCount(), 0U);
 }

@@ -99,8 +99,8 @@ TEST(TextCodes, GoStepByStepSoThatOneStepMayUncoverWhatALaterOneTakes)
 TEST(TextCodes, ForColoursAreReadWhereTheirStepStands)
 {
   // Uncovered by the step before: an index by an indent, a true colour by an index.
-  EXPECT_EQ(CleanText(u"\\\\pC1;").colourIndex, 1);
-  EXPECT_EQ(CleanText(u"\\\\C1;c5;").colourValue, 5);
+  EXPECT_EQ(CleanText(u"\\\\pC1;").colourIndex, ColourIndex{1});
+  EXPECT_EQ(CleanText(u"\\\\C1;c5;").colourValue, 5U);
   // Uncovered by a later step.
   EXPECT_FALSE(CleanText(u"\\\\c5;C1;").colourIndex);
   EXPECT_FALSE(CleanText(u"\\U+005Cc1;").colourValue);
@@ -117,10 +117,10 @@ TEST(TextCodes, ReportTheFirstColourOfEachKind)
   EXPECT_FALSE(none.colourIndex);
   EXPECT_FALSE(none.colourValue);
   const CleanedText both = CleanText(u"\\c99;a\\C7;b\\C8;\\c1;");
-  EXPECT_EQ(both.colourIndex, 7);
-  EXPECT_EQ(both.colourValue, 99);
+  EXPECT_EQ(both.colourIndex, ColourIndex{7});
+  EXPECT_EQ(both.colourValue, 99U);
   EXPECT_EQ(both.text, u"ab");
-  EXPECT_EQ(CleanText(u"\\C99999999999;").colourIndex, 2147483647);
+  EXPECT_EQ(CleanText(u"\\C99999999999;").colourIndex, ColourIndex{2147483647});
 }
 
 // ---------------------------------------------------------------------------------------------------

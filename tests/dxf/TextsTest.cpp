@@ -185,7 +185,7 @@ TEST_F(Texts, IndexByLayerInATextFindsTheNamelessLayerOfAnEarlierOne)
 TEST_F(Texts, TheLayerOfATextGetsTheColourOfTheEntityNotOfTheCode)
 {
   Label("TEXT", {{8, "A"}, {62, "3"}, {1, "\\C1;X"}});
-  EXPECT_EQ(Layers().at("A").colour, 3);
+  EXPECT_EQ(Layers().at("A").colour, ColourIndex{3});
 }
 
 }  // namespace
