@@ -6,6 +6,7 @@
 
 #include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
+#include "model/ShapePolyline.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
