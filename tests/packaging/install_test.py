@@ -4,6 +4,7 @@
 import os
 import pathlib
 import shlex
+import shutil
 import struct
 import subprocess
 import sys
@@ -54,7 +55,8 @@ class Installed(unittest.TestCase):
         cls.addClassCleanup(folder.cleanup)
         cls.prefix = pathlib.Path(folder.name)
         cls.share = tools.install(BUILD, cls.prefix)
-        cls.bare = {"PATH": f"{cls.prefix}/bin:/usr/bin:/bin"}
+        # No display and no home; only the sanitizers may be told something.
+        cls.bare = {"PATH": f"{cls.prefix}/bin:/usr/bin:/bin", "LSAN_OPTIONS": os.environ.get("LSAN_OPTIONS", "")}
 
     def test_everything_is_there(self):
         self.assertEqual([name for name in EXPECTED if not (self.share / name).is_file()], [])
@@ -99,7 +101,8 @@ class Installed(unittest.TestCase):
         self.assertNotEqual(self.thumbnail(broken, self.prefix / "none.png", 128), 0)
 
     def test_the_content_of_a_file_decides_whether_it_is_a_design(self):
-        tools.need("gio")
+        if shutil.which("gio") is None:
+            self.skipTest("gio is not installed")
         known = os.environ | {"XDG_DATA_DIRS": str(self.share), "XDG_DATA_HOME": str(self.prefix / "home")}
         declaration = '<?xml version="1.0" encoding="UTF-8" ?>\n'
         files = {
