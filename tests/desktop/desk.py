@@ -133,6 +133,10 @@ class Desk:
             raise AssertionError(f"{' '.join(reported.args)}: {reported.stderr.strip() or reported.returncode}")
         return reported.stdout
 
+    def run(self, *words):
+        """Runs a tool on this display; what it printed."""
+        return self._run(*words)
+
     # The program.
 
     def launch(self, program, *arguments, **environment):

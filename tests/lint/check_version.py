@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that the change log, the man pages and the metainfo file name the version that CMakeLists.txt states."""
+"""Checks that the change logs, the man pages and the metainfo file name the version that CMakeLists.txt states."""
 
 import re
 import sys
@@ -9,11 +9,13 @@ import checking
 
 LOG = "CHANGELOG.md"
 METAINFO = "packaging/hullwright.metainfo.xml"
+PACKAGE = "packaging/debian/changelog"
 PAGES = ("packaging/hullwright.1", "packaging/hullwright-cli.1")
 
 # file: how it names its version; the first place counts, where the newest one stands
 PLACES = {
     LOG: r"^## (\S+?),? ",
+    PACKAGE: r"^hullwright \(([^-]*)-\d+\) ",
     METAINFO: r'<release version="([^"]*)"',
     **{page: r'^\.TH \S+ 1 "[^"]*" "Hullwright ([^"]*)" ' for page in PAGES},
 }

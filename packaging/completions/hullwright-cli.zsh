@@ -1,0 +1,54 @@
+#compdef hullwright-cli
+
+_hullwright-cli() {
+  local context state line
+  typeset -A opt_args
+  local sides='(top bottom right left front rear)'
+
+  _arguments -C \
+    '(- *)'{-h,--help}'[show the usage]' \
+    '(- *)--version[show the version]' \
+    '1:verb:((check\:"what saving a design would lose, and wrong numbers and units"
+              import\:"import drawings into a design"
+              info\:"what designs and drawings hold"
+              render\:"draw sides of a design or drawing as pictures"))' \
+    '*::argument:->argument' && return
+
+  case $line[1] in
+    check)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '*:design:_files -g "*.xml(-.)"'
+      ;;
+    import)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-i --into)'{-i+,--into=}'[the design to add to]:design:_files -g "*.xml(-.)"' \
+        '(-s --side)'{-s+,--side=}"[the side to add to]:side:$sides" \
+        '(-o --output)'{-o+,--output=}'[the design to write]:design:_files -g "*.xml(-.)"' \
+        '(-j --json)'{-j,--json}'[print what each import gives]' \
+        '*:drawing:_files -g "*.(#i)dxf(-.)"'
+      ;;
+    info)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-j --json)'{-j,--json}'[as JSON, one document a line]' \
+        '*:design or drawing:_files -g "*.(#i)(xml|dxf)(-.)"'
+      ;;
+    render)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-s --side)'{-s+,--side=}'[the side to draw]:side:(top bottom right left front rear all)' \
+        '(-z --size)'{-z+,--size=}'[size of a picture in pixels]:width x height:(800x500 1600x1000 3200x2000)' \
+        '(-f --fit -v --view)'{-f,--fit}'[show everything of the side]' \
+        '(-v --view -f --fit)'{-v+,--view=}'[stretch of the world]:left,bottom,right,top: ' \
+        '(-g --grid)'{-g+,--grid=}'[draw the grid or not]:grid:(on off)' \
+        '(-y --symbols)'{-y+,--symbols=}'[draw offsets and anchors or not]:symbols:(on off)' \
+        '(-c --sheet)'{-c,--sheet}'[all sides on one sheet]' \
+        '(-o --output)'{-o+,--output=}'[the file to write]:picture:_files -g "*.(#i)(png|svg|pdf)(-.)"' \
+        '1:design or drawing:_files -g "*.(#i)(xml|dxf)(-.)"'
+      ;;
+  esac
+}
+
+_hullwright-cli "$@"
