@@ -126,6 +126,7 @@ union SlabsOf {
   constexpr SlabsOf() : pool() {}
   SlabsOf(const SlabsOf&) = delete;
   SlabsOf& operator=(const SlabsOf&) = delete;
+  // NOLINTNEXTLINE(modernize-use-equals-default): a defaulted one would be deleted
   ~SlabsOf() {}
 
   SlabPool<(sizeof(T) + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1)> pool;

@@ -15,7 +15,6 @@
 namespace hullwright {
 namespace {
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 class Commands : public test::CommandFixture {};

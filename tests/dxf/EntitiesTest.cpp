@@ -137,7 +137,7 @@ TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
     DxfPoint point = unit;
     point = Extrusion(normal)(point);
     for (const double component : {point.x, point.y, point.z}) {
-      volatile float rounded = static_cast<float>(component);
+      volatile auto rounded = static_cast<float>(component);
       EXPECT_EQ(component, static_cast<double>(rounded)) << component;
     }
   }

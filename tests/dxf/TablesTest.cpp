@@ -5,7 +5,6 @@ namespace {
 
 using namespace test;
 using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 constexpr std::uint32_t red = 0x0000FF;

@@ -282,7 +282,7 @@ TEST_F(PolylineHit, ThereIsNoReachBehindTheEarlierVertex)
 
 TEST_F(PolylineHit, ItsReachIsOpenOnAllFourSides)
 {
-  const auto hits = [this](CShapeVertex from, CShapeVertex to, double x, double y) {
+  const auto hits = [this](const CShapeVertex& from, const CShapeVertex& to, double x, double y) {
     CShapePolyline segment;
     segment.AddVertex(from.x, from.y, 0.0);
     segment.AddVertex(to.x, to.y, 0.0);

@@ -67,7 +67,7 @@ TEST_F(PaintedText, TabsAndSeparatorsHideNothing)
   Draw(u"abcdef", 20.0F);
   const int whole = ink;
   Draw(u"abc\u009Cdef", 20.0F);
-  EXPECT_NEAR(ink, whole, whole / 20);
+  EXPECT_NEAR(ink, whole, whole / 20.0);
 }
 
 TEST_F(PaintedText, GrowsWithItsSizeBeyondTheLargestFont)

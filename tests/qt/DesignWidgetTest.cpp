@@ -118,7 +118,7 @@ TEST_F(DesignPane, TheBandIsADashedLineOfOnePixelThatInvertsWhatIsUnderIt)
   }
   EXPECT_EQ(rows.size(), 1U);
   EXPECT_GT(ink, 0);
-  EXPECT_NEAR(on, 400 * 6 / 10, 8);
+  EXPECT_NEAR(on, 400 * 0.6, 8);
   EXPECT_NEAR(dashes, 40, 2);
 }
 

@@ -73,7 +73,7 @@ TEST_F(Focus, ShiftF10OpensTheMenuOfThePaneThatHasTheKeyboard)
 {
   const auto firstEntry = [] {
     auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    const QString text = menu == nullptr ? QString() : menu->actions().constFirst()->text();
+    QString text = menu == nullptr ? QString() : menu->actions().constFirst()->text();
     if (menu != nullptr) menu->close();
     return text;
   };

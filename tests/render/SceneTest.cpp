@@ -12,7 +12,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr const char* grey = "colour 0.5019608 0.5019608 0.5019608 1";

@@ -23,7 +23,7 @@ protected:
   /// Saves a text over a file, as the program does.
   std::u16string SaveOver(const std::string& name, const std::string& text)
   {
-    const std::u16string copy = versions.Keep(folder.File(name));
+    std::u16string copy = versions.Keep(folder.File(name));
     folder.Write(name, text);
     versions.Release();
     return copy;
