@@ -61,12 +61,12 @@ protected:
   /// Whether the last command notified all three: a repaint, a rebuild and a modified document.
   bool NotifiedAll()
   {
-    const bool notified = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
+    const bool all = Frames() == 1 && control.rebuilds == 1 && document.IsModified();
     const bool silent = Frames() == 0 && control.rebuilds == 0 && !document.IsModified();
-    EXPECT_TRUE(notified || silent);
+    EXPECT_TRUE(all || silent);
     control.rebuilds = 0;
     document.SetModifiedFlag(false);
-    return notified;
+    return all;
   }
 
   CObjectView& pane = editor.objects;
