@@ -120,42 +120,4 @@ private:
   std::byte* freshEnd_ = nullptr;  ///< the end of its slab
 };
 
-/// The slabs of a class. Never destroyed, so that static objects find them whenever they go.
-template <class T>
-union SlabsOf {
-  constexpr SlabsOf() : pool() {}
-  SlabsOf(const SlabsOf&) = delete;
-  SlabsOf& operator=(const SlabsOf&) = delete;
-  // NOLINTNEXTLINE(modernize-use-equals-default): a defaulted one would be deleted
-  ~SlabsOf() {}
-
-  SlabPool<(sizeof(T) + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1)> pool;
-};
-
-template <class T>
-inline constinit SlabsOf<T> slabsOf;
-
-// For the operators `new` and `delete` of a class that nothing derives from and of which a drawing
-// brings many. The address sanitizer watches single allocations and gets those.
-
-template <class T>
-void* TakePlace()
-{
-#ifdef HULLWRIGHT_SANITIZE
-  return ::operator new(sizeof(T));
-#else
-  return slabsOf<T>.pool.Take();
-#endif
-}
-
-template <class T>
-void GiveBackPlace(void* place)
-{
-#ifdef HULLWRIGHT_SANITIZE
-  ::operator delete(place);
-#else
-  slabsOf<T>.pool.GiveBack(place);
-#endif
-}
-
 }  // namespace hullwright

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/SlabPool.h"
+#include "base/ClassSlabs.h"
 #include "model/Walk.h"
 
 namespace hullwright {

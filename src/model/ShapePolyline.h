@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ClassSlabs.h"
 #include "model/OutlineShape.h"
 
 namespace hullwright {

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "base/SlabPool.h"
+#include "base/ClassSlabs.h"
 #include "model/Units.h"
 
 namespace hullwright {
