@@ -22,6 +22,8 @@ public:
   /// What is still taken then is lost.
   ~SlabPool()
   {
+    Slab* const fresh = fresh_ == freshEnd_ ? nullptr : SlabOf(fresh_);
+    if (fresh != nullptr && fresh->taken == piecesInSlab) Link(fresh);
     while (open_ != nullptr) Release(open_);
   }
 
