@@ -88,6 +88,7 @@ double ReadNumber(const IDialogControls& controls, ControlId field)
 std::vector<BoundNumber> Bind(const auto& fields, auto& values)
 {
   std::vector<BoundNumber> bound;
+  bound.reserve(std::size(fields));
   for (const auto& row : fields) bound.push_back({row.field, row.value(values), row.decimals});
   return bound;
 }
