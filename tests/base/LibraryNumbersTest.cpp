@@ -1,5 +1,5 @@
 #include <gtest/gtest.h>
-#include <locale.h>
+#include <clocale>
 
 #include <array>
 #include <bit>
