@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
-#include <clocale>
 
 #include <array>
 #include <bit>
+#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
