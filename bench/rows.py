@@ -61,7 +61,7 @@ ROWS = [
 
 @dataclasses.dataclass(frozen=True)
 class Growth:
-    """The same work at 1, 10 and 100 times the size; `amount` is the counter that tells how much it was."""
+    """The same work at 1, 10 and 100 times the size; `amount` is the counter that states how much it was."""
 
     work: str
     names: tuple
@@ -99,7 +99,7 @@ class Measurement:
 
 
 def cells(row, measured):
-    """The cells of a row; None where it was not measured. The last one tells whether the figure is reached."""
+    """The cells of a row; None where it was not measured. The last one states whether the figure is reached."""
     ours, theirs = measured.get(row.ours), measured.get(row.theirs)
     if ours is None or (theirs is None and row.kind != SIZE):
         return None

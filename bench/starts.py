@@ -32,7 +32,7 @@ def display():
 
 
 def of_threads(process, name):
-    """What the kernel tells of each thread of a process under a name; one that ends meanwhile is left out."""
+    """What the kernel reports of each thread of a process under a name; one that ends meanwhile is left out."""
     for path in pathlib.Path("/proc", str(process.pid), "task").glob(f"*/{name}"):
         with contextlib.suppress(OSError):
             yield path.read_text(encoding="ascii")

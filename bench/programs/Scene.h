@@ -18,7 +18,7 @@ struct Scene {
 };
 
 /// Polylines of a scene of 100,000 vertices; far fewer where a file `tiny` in the folder of inputs
-/// tells that all is only tried.
+/// states that all is only tried.
 std::size_t PolylinesOfWindow(const std::filesystem::path& inputs);
 
 /// The stretch of the world that a scene covers, or a part of it around the origin.

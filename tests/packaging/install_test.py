@@ -55,7 +55,7 @@ class Installed(unittest.TestCase):
         cls.addClassCleanup(folder.cleanup)
         cls.prefix = pathlib.Path(folder.name)
         cls.share = tools.install(BUILD, cls.prefix)
-        # No display and no home; only the sanitizers may be told something.
+        # No display and no home; only the sanitizers may be set up.
         cls.bare = {"PATH": f"{cls.prefix}/bin:/usr/bin:/bin", "LSAN_OPTIONS": os.environ.get("LSAN_OPTIONS", "")}
 
     def test_everything_is_there(self):
