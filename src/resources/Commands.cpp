@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array commands = std::to_array<CommandEntry>({
 #define COMMAND(name, number, ...) {.id = CommandId::name, __VA_ARGS__},
-#define LOOK(name, number, label) {.id = CommandOf(Look::name), .text = label},
+#define LOOK(name, number, label) {.id = CommandOf(Look::name), .text = (label)},
 #include "resources/Commands.def"
 });
 
