@@ -187,6 +187,19 @@ TEST_F(DxfExportTest, TheHeaderHasVersionUnitAndExtents)
   EXPECT_THAT(unit(9005), HasSubstr("$INSUNITS\n70\n0\n"));
 }
 
+TEST_F(DxfExportTest, TheWindowShowsTheWholeBoxAndTextsCanBeReadInIt)
+{
+  AddLine(design, ViewSide::Top, {{-20, 2, 5}, {30, -4, -6}});  // with the offsets 50 by 14
+  EXPECT_THAT(Bytes(), HasSubstr("\n12\n5.0\n22\n3.0\n"));
+  EXPECT_THAT(Bytes(), HasSubstr("\n40\n60.0\n41\n1.34\n"));
+  for (const DxfForm& form : {r12, r2000}) {
+    EXPECT_THAT(Bytes(form), HasSubstr("$PDMODE\n70\n3\n9\n$PDSIZE\n40\n0.5\n"));
+    ASSERT_EQ(Import(Bytes(form)), 0);
+    EXPECT_EQ(At<CShapeText>(2).height, 0.5);
+    EXPECT_THAT(VerticesOf(2), ElementsAre(ElementsAre(10.5, 0.5, 0.0)));
+  }
+}
+
 TEST_F(DxfExportTest, AnEmptyDesignAndOneOfHugeCoordinatesHaveFiniteNumbers)
 {
   RemoveOffsets();
