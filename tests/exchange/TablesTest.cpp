@@ -43,7 +43,7 @@ TEST_F(CsvExportTest, ANameThatCouldBeTakenForSeveralFieldsIsQuoted)
     AddAnchor(1, name, 0.0, 0.0);
   }
   const std::string csv = MakeCsv(Gather());
-  for (const char* const field : {"\"a,b\"", "\"a\"\"b\"", "\"a\nb\"", "\"a\rb\"", "\u00E4 b"}) {
+  for (const char* const field : {R"("a,b")", R"("a""b")", "\"a\nb\"", "\"a\rb\"", "\u00E4 b"}) {
     EXPECT_THAT(csv, HasSubstr("anchor,top,1,," + std::string(field) + ",0,0,,metre,,\r\n"));
   }
 }
