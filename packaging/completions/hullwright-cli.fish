@@ -11,6 +11,7 @@ end
 
 complete -c hullwright-cli -f
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a check -d 'What saving a design would lose'
+complete -c hullwright-cli -n __hullwright_cli_no_verb -a export -d 'Write a design for other programs'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a import -d 'Import drawings into a design'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a info -d 'What designs and drawings hold'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a render -d 'Draw sides as pictures'
@@ -18,6 +19,13 @@ complete -c hullwright-cli -n __hullwright_cli_no_verb -l version -d 'Show the v
 complete -c hullwright-cli -s h -l help -d 'Show the usage'
 
 complete -c hullwright-cli -n '__hullwright_cli_verb check' -k -a '(__fish_complete_suffix .xml)'
+
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -k -a '(__fish_complete_suffix .xml)'
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -s s -l side -x -a 'top bottom right left front rear all' -d 'The side to write'
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -s f -l format -x -a 'dxf geojson csv svg' -d 'The format in place of the ending'
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -s d -l dxf-version -x -a 'R2000 R12' -d 'The version of a drawing'
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -s l -l layer-by -x -a 'side kind' -d 'What layers stand for'
+complete -c hullwright-cli -n '__hullwright_cli_verb export' -s o -l output -r -F -d 'The file to write'
 
 complete -c hullwright-cli -n '__hullwright_cli_verb import' -k -a '(__fish_complete_suffix .dxf)'
 complete -c hullwright-cli -n '__hullwright_cli_verb import' -s i -l into -r -k -a '(__fish_complete_suffix .xml)' -d 'The design to add to'

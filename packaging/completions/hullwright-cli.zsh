@@ -9,6 +9,7 @@ _hullwright-cli() {
     '(- *)'{-h,--help}'[show the usage]' \
     '(- *)--version[show the version]' \
     '1:verb:((check\:"what saving a design would lose, and wrong numbers and units"
+              export\:"write a design as a drawing, GeoJSON, a table or a picture"
               import\:"import drawings into a design"
               info\:"what designs and drawings hold"
               render\:"draw sides of a design or drawing as pictures"))' \
@@ -19,6 +20,16 @@ _hullwright-cli() {
       _arguments \
         '(- *)'{-h,--help}'[show the usage]' \
         '*:design:_files -g "*.xml(-.)"'
+      ;;
+    export)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-s --side)'{-s+,--side=}'[the side to write]:side:(top bottom right left front rear all)' \
+        '(-f --format)'{-f+,--format=}'[the format in place of the ending]:format:(dxf geojson csv svg)' \
+        '(-d --dxf-version)'{-d+,--dxf-version=}'[the version of a drawing]:version:(R2000 R12)' \
+        '(-l --layer-by)'{-l+,--layer-by=}'[what layers stand for]:layers:(side kind)' \
+        '(-o --output)'{-o+,--output=}'[the file to write]:file:_files -g "*.(#i)(dxf|geojson|csv|svg)(-.)"' \
+        '1:design:_files -g "*.xml(-.)"'
       ;;
     import)
       _arguments \

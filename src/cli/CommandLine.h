@@ -25,6 +25,7 @@ struct Verb {
 };
 
 extern const Verb checkVerb;
+extern const Verb exportVerb;
 extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb renderVerb;

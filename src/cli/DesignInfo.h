@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Json.h"
 #include "cli/HeadlessEditor.h"
-#include "cli/Json.h"
 
 namespace hullwright {
 

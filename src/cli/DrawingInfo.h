@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "cli/Json.h"
+#include "base/Json.h"
 #include "model/Extents.h"
 
 namespace hullwright {

@@ -17,6 +17,7 @@ constexpr const char* help =
     "Works on vessel designs and drawings without a window.\n"
     "\n"
     "  check    report what saving a design would lose, and wrong numbers and units\n"
+    "  export   write a design as a drawing, GeoJSON, a table or a picture\n"
     "  import   import drawings into a design\n"
     "  info     report what designs and drawings hold\n"
     "  render   draw sides of a design or drawing as pictures\n"
@@ -26,7 +27,8 @@ constexpr const char* help =
     "\n"
     "Exit status: 0 success, 1 failure, 2 wrong usage; check has a status of its own.\n";
 
-const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
+const std::array<const Verb*, 5> verbs = {&checkVerb, &exportVerb, &importVerb, &infoVerb,
+                                          &renderVerb};
 
 /// The status of a run whose output must have reached its reader.
 int WithOutput(int status)

@@ -1,4 +1,5 @@
 #include "cli/CommandLine.h"
+#include "cli/Picture.h"
 
 namespace hullwright {
 namespace {
@@ -10,9 +11,16 @@ constexpr const char* help =
     "\n"
     "Exit status: 1.\n";
 
-int Run(int, char**) { return Fail("render: built without pictures"); }
+constexpr const char* noPictures = "built without pictures";
+
+int Run(int, char**) { return Fail(std::string("render: ") + noPictures); }
 
 }  // namespace
+
+std::string WritePictures(const PictureRequest& request)
+{
+  return request.output + ": " + noPictures;
+}
 
 const Verb renderVerb = {"render", help, Run};
 

@@ -49,6 +49,12 @@ std::string EndingOf(const std::string& path)
   return ending;
 }
 
+/// The ending that decides the format.
+std::string FormatOf(const PictureRequest& request)
+{
+  return request.ending.empty() ? EndingOf(request.output) : request.ending;
+}
+
 /// Sides of a design, drawn on whatever is wanted.
 class SidePainter {
 public:
@@ -193,7 +199,7 @@ QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
 {
   const SheetLayout layout(request);
   const QSize size = layout.Size();
-  return MakeFile(EndingOf(request.output), size, [&](QPaintDevice& device) {
+  return MakeFile(FormatOf(request), size, [&](QPaintDevice& device) {
     QPainter sheet(&device);
     sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
     QFont font(QString::fromLatin1(sansFace));
@@ -279,7 +285,7 @@ std::string WritePictures(const PictureRequest& request)
     const QSize size(request.width, request.height);
     for (const ViewSideEntry& side : request.sides) {
       problem = files.Add(NameFor(request, side),
-                          MakeFile(EndingOf(request.output), size,
+                          MakeFile(FormatOf(request), size,
                                    [&](QPaintDevice& device) { painter.Paint(side, device); }));
       if (!problem.empty()) break;
     }

@@ -12,6 +12,7 @@ namespace hullwright {
 struct PictureRequest {
   std::string input;   ///< path of a design or a drawing; "-" for standard input
   std::string output;  ///< path to write; its ending decides the format: .png, .svg or .pdf
+  std::string ending;  ///< the format in place of that ending, with its point; may be empty
   std::vector<ViewSideEntry> sides;  ///< the sides to draw
   bool oneEach = false;              ///< a file for each side, its name set before the ending
   bool sheet = false;                ///< all sides on one sheet, with their names

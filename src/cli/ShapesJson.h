@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "cli/Json.h"
+#include "base/Json.h"
 #include "headless/KeptTrace.h"
 #include "model/Layer.h"
 

@@ -10,6 +10,10 @@ class NoPicturesTest(CliTest):
         self.fail_with(1, ("render: built without pictures",), "render", SAMPLES / "workboat.xml",
                        "-o", self.folder / "boat.png")
 
+    def test_export_reports_that_there_are_no_pictures_and_writes_none(self):
+        self.fail_with(1, ("boat.svg: built without pictures",), "export", SAMPLES / "workboat.xml",
+                       "-o", self.folder / "boat.svg")
+
     def test_its_help_says_so(self):
         self.assertIn(b"built without pictures", self.succeed("render", "--help"))
 

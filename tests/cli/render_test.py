@@ -239,7 +239,7 @@ class RenderTest(CliTest):
             ("render", BOAT, "--symbols", "maybe", "-o", out), ("render", BOAT, "--symbols", "-o", out))
 
     def test_help_and_version(self):
-        for verb in ("check", "import", "info", "render"):
+        for verb in VERBS:
             self.assertIn(verb.encode(), self.succeed("--help"))
             self.assertIn(f"Usage: hullwright-cli {verb}".encode(), self.succeed(verb, "--help"))
         self.assertRegex(self.succeed("--version").decode(), r"^hullwright-cli \d+\.\d+\.\d+\n$")

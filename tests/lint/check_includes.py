@@ -17,11 +17,12 @@ ROOMS = {
     "resources": "model",
     "file": "base model platform",
     "dxf": "base model platform file",
+    "exchange": "base model resources dxf",
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform system headless render resources file dxf view app paint",
+    "cli": "base model platform system headless render resources file dxf exchange view app paint",
 }
 
 # where the programs start, which alone give the rooms what the system has for them

@@ -9,7 +9,7 @@ import sys
 import unittest
 
 CLI, FOLDER = sys.argv.pop(1), pathlib.Path(sys.argv.pop(1))
-VERBS = ("check", "import", "info", "render")
+VERBS = ("check", "export", "import", "info", "render")
 SIDES = ["top", "bottom", "right", "left", "front", "rear"]
 
 
@@ -20,7 +20,7 @@ def usage(*verb):
 
 def long_options(verb):
     """The long options of a verb."""
-    return set(re.findall(r"^  -\w, (--\w+)", usage(verb), re.MULTILINE)) | {"--help"}
+    return set(re.findall(r"^  -\w, (--[\w-]+)", usage(verb), re.MULTILINE)) | {"--help"}
 
 
 def by_bash(*words):
@@ -55,6 +55,8 @@ class Bash(unittest.TestCase):
         self.assertEqual(by_bash("render", "--side", "="), [*SIDES, "all"])
         self.assertEqual(by_bash("render", "--side", "=", "to"), ["top"])
         self.assertEqual(by_bash("render", "--grid", ""), ["on", "off"])
+        self.assertEqual(by_bash("export", "--dxf-version", ""), ["R2000", "R12"])
+        self.assertEqual(by_bash("export", "--layer-by", "="), ["side", "kind"])
 
     def test_offers_the_files_that_a_verb_takes(self):
         drawings = FOLDER / "../../samples/dxf/"
@@ -70,7 +72,7 @@ class Fish(unittest.TestCase):
     def test_names_every_option_of_a_verb_and_no_other(self):
         text = (FOLDER / "hullwright-cli.fish").read_text(encoding="utf-8")
         for verb in VERBS:
-            named = set(re.findall(rf"__hullwright_cli_verb {verb}' .*-l (\w+)", text))
+            named = set(re.findall(rf"__hullwright_cli_verb {verb}' .*-l ([\w-]+)", text))
             self.assertEqual({f"--{name}" for name in named} | {"--help"}, long_options(verb), verb)
 
     @unittest.skipUnless(shutil.which("fish"), "fish is not installed")
@@ -87,7 +89,7 @@ class Zsh(unittest.TestCase):
         text = (FOLDER / "hullwright-cli.zsh").read_text(encoding="utf-8")
         for verb in VERBS:
             block = re.search(rf"^    {verb}\)\n(.*?);;", text, re.MULTILINE | re.DOTALL)[1]
-            named = {short or long for short, long in re.findall(r"\{-\w\+?,(?:(--\w+)|(--\w+)=)", block)}
+            named = {short or long for short, long in re.findall(r"\{-\w\+?,(?:(--[\w-]+)|(--[\w-]+)=)", block)}
             self.assertEqual(named, long_options(verb), verb)
 
     @unittest.skipUnless(shutil.which("zsh"), "zsh is not installed")

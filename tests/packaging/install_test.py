@@ -21,6 +21,7 @@ EXPECTED = (
     "applications/hullwright.desktop",
     "bash-completion/completions/hullwright-cli",
     "doc/hullwright/DXF.md",
+    "doc/hullwright/EXCHANGE.md",
     "doc/hullwright/FILE-FORMAT.md",
     "doc/hullwright/guide/README.md",
     "fish/vendor_completions.d/hullwright-cli.fish",

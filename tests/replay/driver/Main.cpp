@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "cli/Json.h"
+#include "base/Json.h"
 #include "replay/driver/Names.h"
 #include "replay/driver/Player.h"
 #include "replay/driver/ScriptFile.h"

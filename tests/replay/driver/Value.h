@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "base/Code.h"
-#include "cli/Json.h"
+#include "base/Json.h"
 
 namespace hullwright::replay {
 

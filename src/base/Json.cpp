@@ -1,15 +1,20 @@
-#include "cli/Json.h"
+#include "base/Json.h"
 
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/RealText.h"
 #include "base/Text.h"
 
 namespace hullwright {
 
 void JsonWriter::Flush()
 {
-  std::fwrite(out_.data(), 1, out_.size(), stream_);
+  if (text_ != nullptr) {
+    *text_ += out_;
+  } else {
+    std::fwrite(out_.data(), 1, out_.size(), stream_);
+  }
   out_.clear();
 }
 
@@ -53,10 +58,7 @@ void JsonWriter::Double(double value)
 {
   if (std::isnan(value)) return Ascii("nan");
   if (std::isinf(value)) return Ascii(value > 0.0 ? "inf" : "-inf");
-  std::string number = FormatShortest(value);
-  // A reader must see that it is a double also where the fraction is zero, or minus zero is lost.
-  if (number.find_first_of(".e") == std::string::npos) number += ".0";
-  Raw(number);
+  Raw(RealText(value));
 }
 
 void JsonWriter::Doubles(std::initializer_list<double> values)

@@ -11,10 +11,11 @@
 namespace hullwright {
 
 /// Writes one JSON document to a stream, piece by piece, so that a document of any size takes
-/// little memory. Commas and colons come by themselves.
+/// little memory, or to the end of a text. Commas and colons come by themselves.
 class JsonWriter {
 public:
   explicit JsonWriter(std::FILE* stream) : stream_(stream) {}
+  explicit JsonWriter(std::string& text) : text_(&text) {}
   JsonWriter(const JsonWriter&) = delete;
   JsonWriter& operator=(const JsonWriter&) = delete;
   ~JsonWriter() { Flush(); }
@@ -55,7 +56,8 @@ private:
   void Escape(char16_t unit);
   void Flush();
 
-  std::FILE* stream_;
+  std::FILE* stream_ = nullptr;
+  std::string* text_ = nullptr;  ///< in place of the stream
   std::string out_;
   bool first_ = true;  ///< nothing stands before the next value that a comma must part it from
 };

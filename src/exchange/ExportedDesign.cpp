@@ -1,0 +1,108 @@
+#include "exchange/ExportedDesign.h"
+
+#include <array>
+#include <bit>
+#include <utility>
+
+#include "base/Code.h"
+#include "base/Numbers.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+namespace {
+
+void GatherPolylines(const CShapes& group, ExportedDesign& exported)
+{
+  constexpr std::size_t fewest = 2;  // vertices of a line
+  const std::string side = NameOfSide(group.viewCode);
+  std::size_t number = 0;
+  ForEachEntry(group.shapes, [&](const CShape& shape) {
+    if (shape.type != ShapeType::Polyline) return;
+    ++number;
+    if (shape.vertices.size() < fewest) {
+      ++exported.leftOut;
+    } else {
+      exported.polylines.push_back({side, number, &shape});
+    }
+  });
+}
+
+struct OffsetName {
+  std::u16string_view name;
+  std::unique_ptr<CShapeVertex> DesignState::*member;
+};
+
+constexpr auto offsetNames = std::to_array<OffsetName>({
+    {u"GNSS antenna", &DesignState::offsetGps},
+    {u"echo sounder", &DesignState::offsetTransducer},
+    {u"pivot", &DesignState::offsetPivot},
+});
+
+void GatherPlaces(const DesignState& design, ExportedDesign& exported)
+{
+  for (const OffsetName& row : offsetNames) {
+    const CShapeVertex* const place = (design.*row.member).get();
+    if (place == nullptr) continue;
+    exported.places.push_back(
+        {offsetKind, std::u16string(row.name), std::nullopt, place->x, place->y, place->z});
+  }
+  ForEachEntry(design.anchors->items, [&](const CAnchor& anchor) {
+    exported.places.push_back(
+        {anchorKind, anchor.name, anchor.id, anchor.attachmentX, anchor.attachmentY, std::nullopt});
+  });
+}
+
+bool SameBits(double a, double b)
+{
+  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+}  // namespace
+
+ExportedDesign GatherExport(const DesignState& design, ViewSide side, std::string unitName)
+{
+  ExportedDesign exported;
+  exported.unit = design.unitCode;
+  exported.unitName = std::move(unitName);
+  const bool everything = side == ViewSide::All;
+  ForEachEntry(design.shapeGroups, [&](const CShapes& group) {
+    if (everything || group.AnswersFor(side)) GatherPolylines(group, exported);
+  });
+  if (everything || side == ViewSide::Top) GatherPlaces(design, exported);
+  return exported;
+}
+
+std::string NameOfSide(ViewSide code)
+{
+  if (const ViewSideEntry* const side = FindViewSide(code)) return std::string(side->name);
+  if (code == ViewSide::All) return "all";
+  return "view-" + FormatHex(static_cast<std::uint32_t>(NumberOf(code)), 2);
+}
+
+bool IsClosed(const CShape& polyline)
+{
+  constexpr std::size_t fewest = 3;  // there, a corner, and back
+  if (polyline.vertices.size() < fewest) return false;
+  const CShapeVertex& first = *polyline.vertices.front();
+  const CShapeVertex& last = *polyline.vertices.back();
+  return SameBits(first.x, last.x) && SameBits(first.y, last.y) && SameBits(first.z, last.z);
+}
+
+std::uint32_t LineColourOf(const CShape& polyline)
+{
+  constexpr std::uint32_t channels = 0xFFFFFF;
+  return polyline.style ? polyline.style->lineColour & channels : 0;
+}
+
+double LineWidthOf(const CShape& polyline)
+{
+  return polyline.style ? polyline.style->lineWidth : ShapeStyle().lineWidth;
+}
+
+std::string HexColour(std::uint32_t colour)
+{
+  const std::uint32_t rgb = (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
+  return "#" + FormatHex(rgb, 6);
+}
+
+}  // namespace hullwright

@@ -1,0 +1,49 @@
+#include "base/Json.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "base/RealText.h"
+
+namespace hullwright {
+namespace {
+
+TEST(RealText, ANumberIsSeenToBeNoWholeOne)
+{
+  EXPECT_EQ(RealText(5.0), "5.0");
+  EXPECT_EQ(RealText(-0.0), "-0.0");
+  EXPECT_EQ(RealText(0.1), "0.1");
+  EXPECT_EQ(RealText(1e-7), "1e-07");
+  EXPECT_EQ(RealText(1e300), "1e+300");
+}
+
+TEST(JsonWriter, WritesToTheEndOfAText)
+{
+  std::string text = "before ";
+  {
+    JsonWriter json(text);
+    json.BeginObject();
+    json.Key("a");
+    json.Doubles({1.0, -0.0, std::numeric_limits<double>::infinity()});
+    json.Key("b");
+    json.Text(u"\"\u00E4\n");
+    json.EndObject();
+  }
+  EXPECT_EQ(text, "before {\"a\":[1.0,-0.0,\"inf\"],\"b\":\"\\\"\u00E4\\u000A\"}");
+}
+
+TEST(JsonWriter, ALongTextComesWhole)
+{
+  constexpr int many = 100000;
+  std::string text;
+  JsonWriter json(text);
+  json.BeginArray();
+  for (int i = 0; i < many; ++i) json.Integer(7);
+  json.EndArray();
+  json.EndLine();
+  EXPECT_EQ(text.size(), 2U * many + 2U);
+}
+
+}  // namespace
+}  // namespace hullwright

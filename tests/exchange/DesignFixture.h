@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "exchange/ExportedDesign.h"
+#include "model/ShapePolyline.h"
+#include "support/AddLine.h"
+
+namespace hullwright::test {
+
+/// A design that a test fills, with the three offsets of a new one. A base beside that of a test.
+class DesignFixture {
+protected:
+  ExportedDesign Gather(ViewSide side = ViewSide::All) const
+  {
+    return GatherExport(design, side, "metre");
+  }
+
+  void AddAnchor(std::uint32_t id, std::u16string name, double x, double y)
+  {
+    auto anchor = std::make_unique<CAnchor>();
+    anchor->id = id;
+    anchor->name = std::move(name);
+    anchor->attachmentX = x;
+    anchor->attachmentY = y;
+    design.anchors->items.push_back(std::move(anchor));
+  }
+
+  /// Gives a polyline a colour (0x00BBGGRR) and a width.
+  static void Style(CShapePolyline& line, std::uint32_t colour, float width)
+  {
+    line.style = std::make_unique<ShapeStyle>();
+    line.style->lineColour = colour;
+    line.style->lineWidth = width;
+  }
+
+  void RemoveOffsets()
+  {
+    design.offsetGps.reset();
+    design.offsetTransducer.reset();
+    design.offsetPivot.reset();
+  }
+
+  DesignState design;
+};
+
+}  // namespace hullwright::test
