@@ -21,7 +21,9 @@ protected:
 TEST_F(FileBase, ReadsAWholeFileAndEndsItWithANul)
 {
   file.position = 9;
-  ASSERT_EQ(file.Load(folder.Write("a.txt", "0\nSECTION\n")), 0);
+  const std::u16string path = folder.Write("a.txt", "0\nSECTION\n");
+  ASSERT_EQ(file.Load(path), 0);
+  EXPECT_EQ(file.path, path);
   EXPECT_EQ(TextOf(file), "0\nSECTION\n");
   EXPECT_EQ(file.buffer[10], '\0');
   EXPECT_EQ(file.position, 0);
