@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -47,6 +48,118 @@ TEST_F(Bulges, ABulgeAboveOneHasItsCentreOnTheFarSide)
     ImportEntities(TwoVertices(bulge));
     EXPECT_NEAR(VerticesOf(0).at(90).at(1), -sagitta, 1e-9);
   }
+}
+
+TEST_F(Bulges, BendToTheirOwnSideInEveryDirection)
+{
+  for (int eighth = 0; eighth < 8; ++eighth) {
+    const double angle = eighth * std::numbers::pi / 4.0;
+    const double dx = std::cos(angle);
+    const double dy = std::sin(angle);
+    const std::string end = Entity(
+        "VERTEX", {{10, FormatFixed(3.0 + 2.0 * dx, 15)}, {20, FormatFixed(7.0 + 2.0 * dy, 15)}});
+    for (const auto& [text, bulge] : {std::pair{"0.5", 0.5}, {"-0.5", -0.5}}) {
+      // From (3, 7), two long; the middle of the arc lies half a unit beside that of the chord.
+      ImportEntities(Header() + Vertex(3, 7, Lines({{42, text}})) + end + seqEnd);
+      const auto vertices = VerticesOf(0);
+      ASSERT_GE(vertices.size(), 182U);
+      EXPECT_NEAR(vertices[0][0], 3.0, 1e-9) << eighth;
+      EXPECT_NEAR(vertices[0][1], 7.0, 1e-9) << eighth;
+      EXPECT_NEAR(vertices[90][0], 3.0 + dx + bulge * dy, 1e-9) << eighth;
+      EXPECT_NEAR(vertices[90][1], 7.0 + dy - bulge * dx, 1e-9) << eighth;
+      EXPECT_NEAR(vertices[vertices.size() - 2][0], 3.0 + 2.0 * dx, 1e-9) << eighth;
+      EXPECT_NEAR(vertices[vertices.size() - 2][1], 7.0 + 2.0 * dy, 1e-9) << eighth;
+    }
+  }
+}
+
+/// Where the arc of a bulge begins and ends, step by step, in the order in which it is rounded.
+struct Arc {
+  double x;
+  double y;
+  double radius;
+  double start;
+  double end;
+};
+
+Arc ArcBetween(double px, double py, double qx, double qy, double bulge)
+{
+  const double pi = std::numbers::pi;
+  const auto angleTo = [&](double cx, double cy, double x, double y) {
+    const double l = std::sqrt((x - cx) * (x - cx) + (y - cy) * (y - cy));
+    const double a = std::acos((x - cx) / l);
+    return (y - cy) / l < 0.0 ? 2.0 * pi - a : a;
+  };
+  const double theta = 4.0 * std::atan(bulge);
+  const double d = std::sqrt((qx - px) * (qx - px) + (qy - py) * (qy - py));
+  const double r = std::abs((d / 2.0) / std::sin(theta / 2.0));
+  double phi = angleTo(px, py, qx, qy);
+  const double h = std::sqrt(std::abs(r * r - (d / 2.0) * (d / 2.0)));
+  phi += bulge > 0.0 ? pi / 2.0 : -(pi / 2.0);
+  const double cx = (px + qx) / 2.0 + std::cos(phi) * h;
+  const double cy = (py + qy) / 2.0 + std::sin(phi) * h;
+  const double degrees = 57.29577951308232;
+  const double radians = 0.017453292519943295;
+  return {cx, cy, r, angleTo(cx, cy, px, py) * degrees * radians,
+          angleTo(cx, cy, qx, qy) * degrees * radians};
+}
+
+TEST_F(Bulges, HaveTheBitsOfTheirFormulas)
+{
+  for (const double bulge : {0.37, -0.37}) {
+    ImportEntities(Entity("LWPOLYLINE", {{10, "1.1"},
+                                         {20, "2.3"},
+                                         {42, bulge > 0.0 ? "0.37" : "-0.37"},
+                                         {10, "-4.7"},
+                                         {20, "0.9"}}));
+    Arc arc = ArcBetween(1.1, 2.3, -4.7, 0.9, bulge);
+    const double turn = 2.0 * std::numbers::pi;
+    if (bulge > 0.0 && arc.end < arc.start) arc.end += turn;
+    if (bulge < 0.0 && arc.start < arc.end) arc.end -= turn;
+    const auto vertices = VerticesOf(0);
+    const auto expectAt = [&](std::size_t index, double t) {
+      EXPECT_EQ(vertices.at(index).at(0), arc.x + arc.radius * std::cos(t)) << bulge << index;
+      EXPECT_EQ(vertices.at(index).at(1), arc.y + arc.radius * std::sin(t)) << bulge << index;
+    };
+    double t = arc.start;
+    for (std::size_t i = 0; i < 180; ++i) {
+      expectAt(i, t);
+      t = bulge > 0.0 ? t + (arc.end - arc.start) / 180.0 : t - (arc.start - arc.end) / 180.0;
+    }
+    expectAt(vertices.size() - 2, arc.end);
+  }
+}
+
+TEST_F(Bulges, OfALastVertexLeadBackToTheFirstOneOfAClosedLine)
+{
+  const std::string bulge = Lines({{42, "1"}});
+  for (const std::string& circle :
+       {Header(Lines({{70, "1"}})) + Vertex(0, 0, bulge) + Vertex(2, 0, bulge) + seqEnd,
+        Entity("LWPOLYLINE",
+               {{70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "2"}, {20, "0"}, {42, "1"}})}) {
+    ImportEntities(circle);
+    const auto vertices = VerticesOf(0);
+    const auto passes = [&](double x, double y) {
+      return std::ranges::any_of(
+          vertices, [&](const auto& v) { return std::hypot(v[0] - x, v[1] - y) < 1e-9; });
+    };
+    EXPECT_TRUE(passes(1.0, -1.0));
+    EXPECT_TRUE(passes(1.0, 1.0));
+    EXPECT_NEAR(vertices.back()[0], 0.0, 1e-9);
+    EXPECT_NEAR(vertices.back()[1], 0.0, 1e-9);
+  }
+}
+
+TEST_F(Bulges, OfALightweightOneMayStandInFrontOfTheirVertexOrInIt)
+{
+  const auto expectHalfCircle = [this](Pairs pairs) {
+    ImportEntities(Entity("LWPOLYLINE", pairs));
+    ASSERT_GE(VerticesOf(0).size(), 182U);
+    EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
+    EXPECT_NEAR(VerticesOf(0)[90][1], -1.0, 1e-9);
+  };
+  expectHalfCircle({{42, "1"}, {10, "0"}, {20, "0"}, {10, "2"}, {20, "0"}});
+  expectHalfCircle({{10, "0"}, {42, "1"}, {20, "0"}, {10, "2"}, {20, "0"}});
 }
 
 TEST_F(Bulges, TheLastVertexIsLostWithABulge)

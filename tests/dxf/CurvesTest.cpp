@@ -32,6 +32,22 @@ TEST_F(Curves, ARadiusOfZeroOrLessIsTakenAsItIs)
   for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 1.0);
   ImportEntities(Entity("CIRCLE", {{40, "-2"}}));
   EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
+  ImportEntities(Entity("ARC", {{40, "-2"}, {50, "0"}, {51, "90"}}));
+  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(-2.0, 0.0, 0.0));
+  EXPECT_NEAR(VerticesOf(0).back()[1], -2.0, 1e-12);
+}
+
+TEST_F(Curves, ANormalMirrorsAnArcAndOfACircleTheCentreAlone)
+{
+  ImportEntities(
+      Entity("ARC", {{10, "2"}, {20, "3"}, {40, "1"}, {50, "0"}, {51, "90"}, {230, "-1"}}));
+  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(-3.0, 3.0, 0.0));
+  EXPECT_NEAR(VerticesOf(0).back()[0], -2.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0).back()[1], 4.0, 1e-12);
+  ImportEntities(Entity("CIRCLE", {{10, "2"}, {20, "3"}, {30, "4"}, {40, "1"}, {230, "-1"}}));
+  EXPECT_THAT(VerticesOf(0).front(), ElementsAre(-3.0, 3.0, 0.0));
+  EXPECT_NEAR(VerticesOf(0)[15][0], -2.0, 1e-12);
+  EXPECT_NEAR(VerticesOf(0)[15][1], 4.0, 1e-12);
 }
 
 TEST_F(Curves, AnArcGoesCounterClockwiseInSteps)
@@ -71,6 +87,24 @@ TEST_F(Curves, AnArcThatEndsWhereItStartsIsAFullTurn)
   EXPECT_NEAR(VerticesOf(0)[0][1], 1.0, 1e-12);
   EXPECT_NEAR(VerticesOf(0)[90][1], -1.0, 1e-12);
   EXPECT_NEAR(VerticesOf(0).back()[1], 1.0, 1e-12);
+}
+
+TEST_F(Curves, TheStepsOfAnArcAreAdded)
+{
+  // Rounding lets the 181st vertex pass the end of some arcs, and not that of others.
+  for (const auto& [end, count] :
+       {std::pair{15.0, 181U}, {30.0, 181U}, {60.0, 181U}, {90.0, 182U}}) {
+    const auto arc = MakeArc({}, Extrusion(), 3.0, 0.0, end, false);
+    ASSERT_EQ(arc->vertices.size(), count) << end;
+    double t = 0.0;
+    for (std::size_t i = 0; i + 1 < count; ++i) {
+      ASSERT_EQ(arc->vertices[i]->x, 3.0 * std::cos(t)) << end << " " << i;
+      ASSERT_EQ(arc->vertices[i]->y, 3.0 * std::sin(t)) << end << " " << i;
+      t += end * turn / 180.0;
+    }
+    EXPECT_EQ(arc->vertices.back()->x, 3.0 * std::cos(end * turn));
+    EXPECT_EQ(arc->vertices.back()->y, 3.0 * std::sin(end * turn));
+  }
 }
 
 TEST_F(Curves, AnArcWhoseStepsMeetItsEndHasThatVertexTwice)
@@ -166,6 +200,22 @@ TEST_F(Curves, APartOfAnEllipseRunsTheOtherWayFromItsStartTakenAsRadians)
   EXPECT_NEAR(VerticesOf(0)[0][0], std::cos(start), 1e-12);
   EXPECT_NEAR(VerticesOf(0)[60][0], std::cos(start - 1.0), 1e-12);
   EXPECT_NEAR(VerticesOf(0)[60][1], -std::sin(start - 1.0), 1e-12);
+}
+
+TEST_F(Curves, TheVerticesOfAnEllipseHaveTheBitsOfItsFormulas)
+{
+  const auto ellipse = MakeEllipse({10.0, 20.0, 3.0}, Extrusion(), 30.0, 4.1, 1.7, 20.0, 200.0);
+  const double c = std::cos(30.0 * turn);
+  const double s = std::sin(30.0 * turn);
+  const double step = (20.0 * turn - 200.0 * turn) / 60.0;
+  ASSERT_EQ(ellipse->vertices.size(), 61U);
+  for (int i = 0; i <= 60; ++i) {
+    const double t = i * step + 20.0;
+    const CShapeVertex& v = *ellipse->vertices[static_cast<std::size_t>(i)];
+    EXPECT_EQ(v.x, 10.0 + 4.1 * std::cos(t) * c + 1.7 * std::sin(t) * s) << i;
+    EXPECT_EQ(v.y, 20.0 - (4.1 * std::cos(t) * s + 1.7 * std::sin(t) * c)) << i;
+    EXPECT_EQ(v.z, 3.0) << i;
+  }
 }
 
 TEST_F(Curves, AnEllipseThatEndsBeforeItStartsGoesOnePastATurn)

@@ -1,3 +1,4 @@
+#include <cmath>
 
 #include "dxf/Extrusion.h"
 #include "support/DxfFixture.h"
@@ -15,7 +16,7 @@ class PlainEntities : public DxfFixture {};
 
 TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
 {
-  ImportEntities(Entity("LINE", {{5, "1F"},
+  ImportEntities(Entity("LINE", {{5, "1F\xE4"},
                                  {8,
                                   "D\xE4"
                                   "ck"},
@@ -32,7 +33,7 @@ TEST_F(PlainEntities, ALineHasBothEndsAndItsNames)
   EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.5, -2.0, 3.0), ElementsAre(4.0, 5.0, 6.0)));
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=D\xC3\xA4"
                                            "ck",
-                                           "HANDLE=1F"));
+                                           "HANDLE=1F\xC3\xA4"));
   EXPECT_EQ(At(0).tag, 0x1F);
   EXPECT_EQ(At(0).style->lineColour, 0x0000FFU);
   EXPECT_EQ(At(0).style->fillColour, 0x0000FFU);
@@ -60,6 +61,24 @@ TEST_F(PlainEntities, AHandleIsReadAsHexadecimalAndSaturates)
     ImportEntities(Entity("LINE", {{5, handle}}));
     EXPECT_EQ(At(0).tag, tag) << handle;
   }
+}
+
+TEST_F(PlainEntities, ApplicationDataPlaysNoPartInAnyRecord)
+{
+  const std::string data = Lines({{102, "{A"}, {62, "3"}, {102, "}"}});
+  const std::string red = Lines({{62, "1"}});
+  for (const char* keyword : {"LINE", "POINT", "ARC", "CIRCLE", "ELLIPSE", "SOLID", "3DFACE",
+                              "TEXT", "MTEXT", "ATTRIB", "ATTDEF", "LWPOLYLINE", "POLYLINE"}) {
+    for (const std::string& groups : {red + data, data + red}) {
+      ImportEntities(Entity(keyword) + groups + Entity("SEQEND"));
+      ASSERT_EQ(ShapeCount(), 1U) << keyword;
+      EXPECT_EQ(ColourOf(0), 0xFFU) << keyword;
+    }
+  }
+  ImportEntities(
+      Entity("LWPOLYLINE",
+             {{10, "1"}, {20, "1"}, {102, "{A"}, {70, "1"}, {10, "5"}, {20, "5"}, {102, "}"}}));
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 1.0, 0.0)));
 }
 
 TEST_F(PlainEntities, OnlyAPaperSpaceMarkOfExactlyOneDrops)
@@ -169,10 +188,20 @@ TEST_F(PlainEntities, TheExtrusionChangesItsAxisAtOneSixtyFourth)
   DxfPoint hardly{1.0, 0.0, 0.0};
   hardly = Extrusion(DxfPoint{0.0, 0.015624, 1.0})(hardly);
   EXPECT_EQ(hardly.x, 1.0);
+  // The axis is at a right angle to the normal.
+  const DxfPoint nearly = Extrusion(DxfPoint{0.01, 0.0, 1.0})({1.0, 0.0, 0.0});
+  EXPECT_EQ(nearly.z, static_cast<double>(static_cast<float>(-0.01 / std::sqrt(1.0001))));
   // Neither the normal nor its length is mended.
   DxfPoint high{0.0, 0.0, 1.0};
   high = Extrusion(DxfPoint{0.0, 0.0, 2.0})(high);
   EXPECT_EQ(high.z, 2.0);
+}
+
+TEST_F(PlainEntities, OnlyANormalThatIsExactlyUprightChangesNothing)
+{
+  const DxfPoint point = Extrusion(DxfPoint{0.001, 0.0, 1.0})({0.0, 0.0, 1000.0});
+  EXPECT_EQ(point.x, static_cast<double>(0.001F) * 1000.0);
+  EXPECT_EQ(point.z, 1000.0);
 }
 
 TEST_F(PlainEntities, TheExtrusionCanBeSwitchedOff)

@@ -35,6 +35,13 @@ TEST_F(Inserts, CopyEveryShapeWithTheNamesOfBoth)
   EXPECT_EQ(BlockOf("B").shapes[0]->tag, 0xA1);
 }
 
+TEST_F(Inserts, WithoutAHandleLeaveTheirCopiesWithoutATag)
+{
+  Import(Blocks(Block("B", unitLine)) + Entities(Insert("B", Lines({{8, "deck"}}))));
+  EXPECT_EQ(At(0).tag, 0);
+  EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=part", "HANDLE=A1", "LAYER=deck", "HANDLE="));
+}
+
 TEST_F(Inserts, ScaleThenTurnThenMove)
 {
   Import(Blocks(Block("B", unitLine)) + Entities(Insert("B", Lines({{50, "90"}, {10, "10"}}))));

@@ -1,4 +1,6 @@
+#include <limits>
 #include <new>
+#include <optional>
 #include <set>
 
 #include "support/DxfFixture.h"
@@ -17,37 +19,64 @@ std::string LineAt(const std::string& x)
 /// Imports in which memory ends at one place after the other.
 class Memory : public DxfFixture {
 protected:
-  /// Imports text once for each of its allocations, which fails, and at last without a failure.
-  /// `look` is called behind each import that has begun to walk the file, even if it could not
-  /// record its end in the log.
-  template <class Look>
-  void ImportWithEachFailure(const std::string& text, Look look)
+  /// Makes ready for an import. What a test keeps shall not be what fails, nor need memory in one
+  /// import alone.
+  void Prepare()
   {
     constexpr std::size_t plenty = 1000;
+    window = {};
+    log.records.clear();
+    window.list.reserve(plenty);
+    log.records.reserve(plenty);
+    layer = std::make_unique<CLayer>();
+    file = std::make_unique<CFileDxf>(&window, log);
+  }
+
+  /// Imports text once for each of its allocations, which fails, and at last without a failure.
+  /// `look` is called behind each import with its result, which is nothing if the import ended with
+  /// an exception: in the log, before or behind the reading.
+  template <class Look>
+  void TryWithEachFailure(const std::string& text, Look look)
+  {
     const auto path = folder.Write("drawing.dxf", text);
     bool failed = true;
     for (std::size_t which = 1; failed; ++which) {
-      window = {};
-      log.records.clear();
-      // What a test keeps shall not be what fails, nor need memory in one import alone.
-      window.list.reserve(plenty);
-      log.records.reserve(plenty);
-      layer = std::make_unique<CLayer>();
-      file = std::make_unique<CFileDxf>(&window, log);
-      int result = 0;
+      SCOPED_TRACE(which);
+      Prepare();
+      std::optional<int> result;
       const FailingNew memory(which);
       try {
         result = file->Import(path, layer.get());
       } catch (const std::bad_alloc&) {
-        // In the log, before or behind the reading.
+        result.reset();
       }
       failed = FailingNew::Stop();
-      if (window.list.empty()) continue;
-      EXPECT_EQ(result, 0) << which;
-      EXPECT_EQ(window.list.back(), "end") << which;
-      EXPECT_EQ(std::ranges::count(window.list, "end"), 1) << which;
-      look();
+      look(result);
     }
+  }
+
+  /// The same, but `look` is called behind each import that has begun to walk the file, even if it
+  /// could not record its end in the log.
+  template <class Look>
+  void ImportWithEachFailure(const std::string& text, Look look)
+  {
+    TryWithEachFailure(text, [&](std::optional<int> result) {
+      if (window.list.empty()) return;
+      EXPECT_EQ(result.value_or(0), 0);
+      EXPECT_EQ(window.list.back(), "end");
+      EXPECT_EQ(std::ranges::count(window.list, "end"), 1);
+      look();
+    });
+  }
+
+  /// Allocations of an import.
+  std::size_t AllocationsOf(const std::string& text)
+  {
+    const auto path = folder.Write("drawing.dxf", text);
+    Prepare();
+    const FailingNew none(std::numeric_limits<std::size_t>::max());
+    EXPECT_EQ(file->Import(path, layer.get()), 0);
+    return FailingNew::Count();
   }
 
   /// The first vertices' x of all shapes, in a row.
@@ -60,6 +89,35 @@ protected:
     return places;
   }
 };
+
+TEST_F(Memory, ThatDoesNotSufficeForTheTextIsAFileThatWontOpen)
+{
+  int withoutText = 0;
+  TryWithEachFailure(Entities(LineAt("1")), [&](std::optional<int> result) {
+    if (result.value_or(0) == 0) return;
+    ++withoutText;
+    EXPECT_EQ(result, -1);
+    EXPECT_THAT(window.list, testing::IsEmpty());
+    EXPECT_THAT(Records(), testing::ElementsAre(
+                               "1 General: [DXF] Failed to open AutoCAD DXF file. Either the file "
+                               "does not exist, or it is empty: [" +
+                               Utf8FromWide(folder.File("drawing.dxf")) + "]."));
+  });
+  EXPECT_EQ(withoutText, 1);
+}
+
+TEST_F(Memory, IsNotTakenForSingleLines)
+{
+  const auto withLines = [](int number) {
+    std::string lines;
+    for (int i = 0; i < number; ++i) {
+      lines += Lines({{999, "a remark that is too long for a text without memory of its own"}});
+    }
+    return lines + Section("HEADER", lines) + Section("TABLES", lines) + Section("BLOCKS", lines) +
+           Entities(lines + LineAt("1") + lines);
+  };
+  EXPECT_EQ(AllocationsOf(withLines(1000)), AllocationsOf(withLines(10)));
+}
 
 TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
 {

@@ -4,10 +4,12 @@ namespace hullwright {
 namespace {
 
 using namespace test;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 const std::string aLine = Entity("LINE", {{8, "Hull"}, {10, "1"}, {20, "2"}, {11, "3"}, {21, "4"}});
 
@@ -81,6 +83,25 @@ TEST_F(Reader, WithoutAWindowTheFileIsOpenedAndNotWalked)
   EXPECT_EQ(reader.Import(folder.Write("a.dxf", Entities(aLine)), &target), -1);
 }
 
+/// A window that has gone once it has shown some progress.
+class WindowThatGoes : public RecordedNotifications {
+public:
+  void ShowProgress(int) override { hasWindow = false; }
+};
+
+TEST_F(Reader, AWindowThatGoesInFrontOfTheEntitiesEndsTheImport)
+{
+  WindowThatGoes going;
+  CLayer target;
+  CFileDxf reader(&going, log);
+  const std::string text = Section("HEADER", Lines({{9, "$ACADVER"}})) + Entities(aLine);
+  EXPECT_EQ(reader.Import(folder.Write("a.dxf", text), &target), 0);
+  EXPECT_FALSE(going.hasWindow);
+  EXPECT_THAT(target.shapes->shapes, IsEmpty());
+  EXPECT_THAT(Records(), Not(Contains(HasSubstr("'ENTITIES'"))));
+  EXPECT_EQ(going.list.back(), "end");
+}
+
 TEST_F(Reader, WithoutAGroupTheFileIsNotWalked)
 {
   CLayer target;
@@ -141,8 +162,8 @@ TEST_F(Reader, AnyLineWithTheWordEndsASectionThatIsWalkedPast)
 TEST_F(Reader, EachSectionOfEntitiesReportsAllTheShapesSoFar)
 {
   Import(Entities(aLine) + Entities(aLine + aLine));
-  EXPECT_THAT(Records(), testing::Contains(HasSubstr("added 1 map features")));
-  EXPECT_THAT(Records(), testing::Contains(HasSubstr("added 3 map features")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("added 1 map features")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("added 3 map features")));
 }
 
 TEST_F(Reader, ARecordThatIsNotImportedHasItsApplicationDataReadAsPairs)
@@ -174,7 +195,7 @@ TEST_F(Reader, ACommentWithTheWordStartsASection)
 TEST_F(Reader, TheEndOfTheTextInASectionsNameEndsTheImport)
 {
   Import("0\nSECTION\n2\nENTITIES");
-  EXPECT_THAT(Records(), testing::Not(testing::Contains(HasSubstr("'ENTITIES'"))));
+  EXPECT_THAT(Records(), Not(Contains(HasSubstr("'ENTITIES'"))));
   Import("0\nSECTION\n2");
   EXPECT_TRUE(ProgressHasEnded());
 }
@@ -203,7 +224,7 @@ TEST_F(Reader, ATooLongLineAmongEntitiesEndsTheirSection)
   EXPECT_EQ(ShapeCount(), 2U);
   ImportEntities(aLine + "0\nOTHER\n" + std::string(256, 'x') + "\n" + aLine);
   EXPECT_EQ(ShapeCount(), 1U);
-  EXPECT_THAT(Records(), testing::Contains(HasSubstr("added 1 map features")));
+  EXPECT_THAT(Records(), Contains(HasSubstr("added 1 map features")));
 }
 
 TEST_F(Reader, TheLastLineIsNotSeenWithoutItsEnd)
@@ -273,6 +294,14 @@ TEST_F(Reader, ApplicationDataEndsAtAnyLineWithABraceOrALineTooLong)
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 3.0);
   ImportEntities(Entity("LINE") + "102\n{A\n" + std::string(256, 'x') + "\n10\n4\n");
   EXPECT_EQ(VerticesOf(0).at(0).at(0), 0.0);  // the empty rest of that line ends the record
+}
+
+TEST_F(Reader, ApplicationDataBeginsWhateverItsValue)
+{
+  for (const char* value : {"}", "X", ""}) {
+    ImportEntities(Entity("LINE", {{102, value}}) + "10\n1\n}\n10\n3\n");
+    EXPECT_EQ(VerticesOf(0).at(0).at(0), 3.0) << value;
+  }
 }
 
 }  // namespace

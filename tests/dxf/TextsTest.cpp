@@ -95,6 +95,7 @@ TEST_F(Texts, OnlyParagraphTextsHaveChunks)
   EXPECT_EQ(Label("TEXT", pairs).text, u"last");
   EXPECT_EQ(Label("ATTDEF", pairs).text, u"last");
   EXPECT_EQ(Label("TEXT", {{1, "a"}, {1, "b"}}).text, u"ab");
+  EXPECT_EQ(Label("MTEXT", {{1, "b"}, {3, "a"}, {1, "c"}}).text, u"bac");
 }
 
 TEST_F(Texts, AnAttributeIsDroppedByTheLowestBitOfItsFlags)
@@ -126,6 +127,8 @@ TEST_F(Texts, AreReadAsUtf8WithReplacements)
 {
   EXPECT_EQ(Label("TEXT", {{1, "Kr\xC3\xA4n \xF0\x9F\x9A\xA2"}}).text, u"Kr\u00E4n \U0001F6A2");
   EXPECT_EQ(Label("TEXT", {{1, "Kr\xE4n"}}).text, u"Kr\uFFFDn");
+  // Each line by itself, so that a character has no parts in two of them.
+  EXPECT_EQ(Label("MTEXT", {{3, "\xC3"}, {1, "\xA4"}}).text, u"\uFFFD\uFFFD");
 }
 
 TEST_F(Texts, WithoutTextAreEmptyShapes)

@@ -220,6 +220,7 @@ TEST_F(Document, SavingToAPathThatCannotBeWrittenCountsAsSaved)
 
 TEST_F(Document, SavingToAFullDiskIsReportedAndCountsAsSaved)
 {
+  messages.onShow = [this] { EXPECT_THAT(window.list, ElementsAre()); };
   EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
   EXPECT_THAT(window.list, ElementsAre("clean"));

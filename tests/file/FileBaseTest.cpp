@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <filesystem>
+
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -21,7 +24,9 @@ protected:
 TEST_F(FileBase, ReadsAWholeFileAndEndsItWithANul)
 {
   file.position = 9;
-  ASSERT_EQ(file.Load(folder.Write("a.txt", "0\nSECTION\n")), 0);
+  const std::u16string path = folder.Write("a.txt", "0\nSECTION\n");
+  ASSERT_EQ(file.Load(path), 0);
+  EXPECT_EQ(file.path, path);
   EXPECT_EQ(TextOf(file), "0\nSECTION\n");
   EXPECT_EQ(file.buffer[10], '\0');
   EXPECT_EQ(file.position, 0);
@@ -44,6 +49,14 @@ TEST_F(FileBase, AFileThatIsMissingEmptyOrAFolderFails)
   EXPECT_EQ(file.Load(folder.File("missing.txt")), -1);
   EXPECT_EQ(file.Load(folder.Write("empty.txt", "")), -1);
   EXPECT_EQ(file.Load(folder.File("")), -1);
+}
+
+TEST_F(FileBase, AFileOfTwoGibibytesFails)
+{
+  const std::u16string path = folder.Write("a.txt", "0\n");
+  std::filesystem::resize_file(path, std::uintmax_t{1} << 31U);  // what is added takes no room
+  EXPECT_EQ(file.Load(path), -1);
+  EXPECT_FALSE(file.buffer);
 }
 
 TEST_F(FileBase, AnEarlierBufferStaysWhenAFileWontOpen)

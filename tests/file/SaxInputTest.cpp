@@ -33,8 +33,9 @@ public:
   {
     events.push_back("'" + std::string(text) + "'");
   }
-  void Error(std::u16string_view message, int line, int column, int) override
+  void Error(std::u16string_view message, int line, int column, int code) override
   {
+    errorCode = code;
     error = Utf8FromWide(message);
     errorLine = line;
     errorColumn = column;
@@ -47,6 +48,7 @@ public:
   std::string error;
   int errorLine = -1;
   int errorColumn = -1;
+  int errorCode = -1;
 };
 
 class SaxInput : public testing::Test {
@@ -130,6 +132,7 @@ TEST_F(SaxInput, AnErrorIsReportedWithItsPlaceAndEndsTheReading)
   EXPECT_EQ(listener.error, "mismatched tag");
   EXPECT_EQ(listener.errorLine, 3);
   EXPECT_EQ(listener.errorColumn, 3);
+  EXPECT_EQ(listener.errorCode, 7);  // the parser's own number of a mismatched tag
 }
 
 TEST_F(SaxInput, ADocumentTypeIsRefused)

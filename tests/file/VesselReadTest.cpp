@@ -187,5 +187,16 @@ TEST_F(VesselRead, WithoutATargetTheGroupsAreDropped)
   EXPECT_TRUE(groups.empty());
 }
 
+TEST_F(VesselRead, WhatTheDesignHasNoPlaceForIsPassedOver)
+{
+  file.gps.reset();
+  file.anchors.reset();
+  ASSERT_EQ(Read("<gps x='1'/><txd x='2'/><anchor><id>1</id></anchor><piv x='3'/>"), 0);
+  EXPECT_EQ(file.txd->x, 2.0);
+  EXPECT_EQ(file.piv->x, 3.0);
+  EXPECT_EQ(file.gps, nullptr);
+  EXPECT_EQ(file.anchors, nullptr);
+}
+
 }  // namespace
 }  // namespace hullwright

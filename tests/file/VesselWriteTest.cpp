@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "file/FileVessel.h"
 #include "headless/KeptMessages.h"
 #include "model/ShapePoint.h"
@@ -209,6 +211,26 @@ TEST_F(VesselWrite, EachSaveBeginsWithAnEmptyBlock)
 {
   const std::string first = Save();
   EXPECT_EQ(Save(), first);
+}
+
+TEST_F(VesselWrite, VerticesMakeTheRoomOfTheirAttributes)
+{
+  CShapePolyline& line = AddLine(ViewSide::Top);
+  for (int i = 0; i < 3000; ++i) line.AddVertex(i, -i, 0.5);
+  Save();
+  CFileSax other(messages);
+  other.WriteDeclaration();
+  other.OpenElement("vessel");
+  other.WriteEmptyElement("units", {{u"id", u"9001"}});
+  other.OpenElement("shapes", {{u"view", u"01"}});
+  other.OpenElement("polyline");
+  for (const auto& vertex : line.vertices) {
+    other.WriteEmptyElement("vertex", {{u"x", WideFromAscii(FormatFixed(vertex->x, 3))},
+                                       {u"y", WideFromAscii(FormatFixed(vertex->y, 3))},
+                                       {u"z", WideFromAscii(FormatFixed(vertex->z, 3))}});
+  }
+  EXPECT_EQ(file.outCapacity, other.outCapacity);
+  EXPECT_GT(file.outCapacity, 100'000U);
 }
 
 }  // namespace

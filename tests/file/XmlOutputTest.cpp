@@ -227,6 +227,17 @@ TEST_F(XmlOutput, ABlockThatWasLostGoesOnAtItsOffset)
   EXPECT_EQ(file.Output(), std::string(before, '\0') + "</vessel>\n");
 }
 
+TEST_F(XmlOutput, FlushOfALostBlockFailsAndLeavesTheFile)
+{
+  const std::u16string path = folder.Write("out.xml", "before");
+  file.OpenElement("vessel");
+  file.failures = 1;
+  file.WriteTextElement("name", std::u16string(0x9000, u'x'));
+  EXPECT_EQ(file.Flush(path), -1);
+  EXPECT_EQ(folder.Read("out.xml"), "before");
+  EXPECT_TRUE(messages.shown.empty());
+}
+
 TEST_F(XmlOutput, ResetOutputBeginsAnew)
 {
   file.OpenElement("a");

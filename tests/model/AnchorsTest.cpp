@@ -31,6 +31,12 @@ TEST(Anchors, NewAnchorIsNotAdded)
   EXPECT_EQ(anchors.items.size(), 1U);
 }
 
+TEST(Anchors, AListBeginsEmptyAndEnabled)
+{
+  EXPECT_TRUE(CAnchors().enabled);
+  EXPECT_TRUE(CAnchors().items.empty());
+}
+
 TEST(Anchors, AnAnchorBeginsVisibleAndUnmarked)
 {
   const CAnchor anchor;

@@ -26,7 +26,12 @@ TEST(Layer, BeginsEmptyAndEnabled)
   EXPECT_EQ(layer.flagA, 0);
   EXPECT_EQ(layer.flagB, 1);
   EXPECT_EQ(layer.enabled, 1);
-  EXPECT_EQ(layer.extents.minX, 0.0);
+  EXPECT_TRUE(layer.name.empty());
+  EXPECT_TRUE(layer.description.empty());
+  for (const double number : {layer.extents.minX, layer.extents.minY, layer.extents.maxX,
+                              layer.extents.maxY, layer.spareA, layer.spareB}) {
+    EXPECT_EQ(number, 0.0);
+  }
 }
 
 TEST(Layer, ABoxWithoutAZeroCountsAsComputed)

@@ -11,9 +11,9 @@ TEST(Point, KeepsItsPositionApartFromTheVertices)
   CShapePoint point;
   EXPECT_EQ(point.type, ShapeType::Point);
   EXPECT_TRUE(point.vertices.empty());
-  std::vector<CShapeVertex*> list;
+  std::vector<CShapeVertex*> list(1, nullptr);
   point.GetVertices(list);
-  EXPECT_EQ(list, std::vector<CShapeVertex*>{&point.position});
+  EXPECT_EQ(list, (std::vector<CShapeVertex*>{nullptr, &point.position}));
 }
 
 TEST(Point, CloneCopiesCoordinatesOnly)

@@ -161,6 +161,7 @@ protected:
 TEST_F(RingInView, IsVisibleWithAVertexInView)
 {
   EXPECT_TRUE(Square(90.0, 300.0)->IsVisible(viewPort));
+  EXPECT_TRUE(Square(-10.0, 10.0)->IsVisible(viewPort));  // none of the view's corners lies in it
   EXPECT_FALSE(Square(110.0, 300.0)->IsVisible(viewPort));
 }
 
@@ -181,6 +182,15 @@ TEST_F(RingInView, IsVisibleAroundOneCorner)
       EXPECT_TRUE(overCorner->IsVisible(viewPort)) << x << " " << y;
     }
   }
+}
+
+TEST_F(RingInView, ATurnedViewHasTheCornersOfItsRectangle)
+{
+  viewPort.SetRotation(45.0);
+  const auto aroundCorner = Square(90.0, 110.0);
+  for (const auto& v : aroundCorner->vertices) EXPECT_FALSE(viewPort.Contains(v->x, v->y));
+  EXPECT_TRUE(aroundCorner->IsVisible(viewPort));
+  EXPECT_FALSE(Square(110.0, 300.0)->IsVisible(viewPort));
 }
 
 TEST_F(RingInView, IsNotVisibleWhereOnlyAnEdgeCrosses)
@@ -286,6 +296,17 @@ TEST(Polygon, RemoveVertexReleasesItOnce)
   EXPECT_EQ(polygon->rings[0]->vertices.size(), 4U);
   EXPECT_EQ(polygon->rings[1]->vertices.size(), 3U);
   polygon->RemoveVertex(new CShapeVertex);
+  EXPECT_EQ(polygon->rings[2]->vertices.size(), 4U);
+}
+
+TEST(Polygon, RemoveVertexTakesItOutOfEveryRingThatHasIt)
+{
+  const auto polygon = SquareWithHoleAndIsland();
+  auto* const vertex = polygon->rings[1]->vertices[0].get();
+  polygon->rings[2]->vertices.emplace_back(vertex);
+  polygon->RemoveVertex(vertex);
+  EXPECT_EQ(polygon->rings[0]->vertices.size(), 4U);
+  EXPECT_EQ(polygon->rings[1]->vertices.size(), 3U);
   EXPECT_EQ(polygon->rings[2]->vertices.size(), 4U);
 }
 

@@ -234,6 +234,16 @@ TEST(Polyline, AnArcHas61VerticesWhateverItsSizeAndStartsLeftOfTheCentre)
   EXPECT_NEAR(arc->vertices[60]->y, 25.0, 1e-12);
 }
 
+TEST(Polyline, AnArcIsAddedBehindWhatIsThere)
+{
+  CShapePolyline line;
+  line.AddVertex(1.0, 2.0, 3.0);
+  line.AddArc(10.0, 20.0, 5.0, 0.0, 90.0);
+  ASSERT_EQ(line.vertices.size(), 62U);
+  EXPECT_TRUE(*line.vertices[0] == CShapeVertex(1.0, 2.0, 3.0));
+  EXPECT_TRUE(*line.vertices[1] == CShapeVertex(5.0, 20.0, 0.0));
+}
+
 TEST(Polyline, TheAnglesOfAnArcAreAccumulated)
 {
   for (const double sweep : {47.0, 23.0}) {
@@ -323,6 +333,8 @@ TEST_F(PolylineHit, ANullVertexSkipsItsPairs)
 {
   line.vertices.insert(line.vertices.begin() + 1, nullptr);
   EXPECT_FALSE(line.HitTest(&viewPort, 20.0, 0.0));
+  line.AddVertex(40.0, 40.0, 0.0);
+  EXPECT_TRUE(line.HitTest(&viewPort, 40.0, 20.0));  // the pair behind it still counts
 }
 
 TEST_F(PolylineHit, IsVisibleWithOneVertexInside)

@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
+#include "base/Code.h"
 #include "model/ShapeAttributes.h"
 #include "model/ShapePolyline.h"
+#include "render/ViewPort.h"
+#include "support/PlainShape.h"
 
 namespace hullwright {
 namespace {
@@ -62,12 +67,47 @@ TEST(Shape, ResetClearsTypeTagSelectionAndVerticesButNotEditing)
   shape.tag = 5;
   shape.selected = true;
   shape.editing = true;
+  const std::size_t capacity = shape.vertices.capacity();
   shape.Reset();
   EXPECT_EQ(shape.type, ShapeType::None);
   EXPECT_EQ(shape.tag, 0);
   EXPECT_FALSE(shape.selected);
   EXPECT_TRUE(shape.editing);
   EXPECT_TRUE(shape.vertices.empty());
+  EXPECT_EQ(shape.vertices.capacity(), capacity);
+}
+
+TEST(Shape, WithNothingOfItsOwnHasNeitherCopyNorExtentsNorVertices)
+{
+  test::PlainShape shape;
+  EXPECT_EQ(shape.Clone(), nullptr);
+  EXPECT_EQ(shape.type, ShapeType::None);
+  shape.vertices.push_back(std::make_unique<CShapeVertex>(3.0, 4.0, 5.0));
+  Extents box{1.0, 1.0, 2.0, 2.0};
+  shape.GetExtents(box);
+  EXPECT_EQ(std::tie(box.minX, box.minY, box.maxX, box.maxY), std::make_tuple(1.0, 1.0, 2.0, 2.0));
+  std::vector<CShapeVertex*> list;
+  shape.GetVertices(list);
+  EXPECT_TRUE(list.empty());
+  shape.RemoveVertex(shape.vertices[0].get());
+  ASSERT_EQ(shape.vertices.size(), 1U);
+  shape.Translate(1.0, 1.0, 1.0);
+  shape.Scale(2.0, 2.0, 2.0);
+  shape.Rotate(90.0);
+  EXPECT_EQ(*shape.vertices[0], CShapeVertex(3.0, 4.0, 5.0));
+  EXPECT_EQ(shape.DistanceTo(50.0, 50.0), 0.0);
+  const CViewPort viewPort;
+  EXPECT_FALSE(shape.HitTest(&viewPort, 3.0, 4.0));
+  EXPECT_TRUE(shape.IsVisible(viewPort));
+}
+
+TEST(Shape, TypesHaveTheirCodes)
+{
+  EXPECT_EQ(NumberOf(ShapeType::Point), 1);
+  EXPECT_EQ(NumberOf(ShapeType::Polyline), 2);
+  EXPECT_EQ(NumberOf(ShapeType::Polygon), 3);
+  EXPECT_EQ(NumberOf(ShapeType::Text), 8);
+  EXPECT_EQ(NumberOf(ShapeType::Ring), 9);
 }
 
 TEST(Shape, CopyBaseToCopiesStyleAndAttributesWhereThereAreAny)
@@ -133,9 +173,11 @@ TEST(Shape, CopyBaseToLeavesWhatTheSourceLacks)
   CShapePolyline target;
   target.style = std::make_unique<ShapeStyle>();
   target.attributes = std::make_unique<CShapeAttributes>();
+  target.editing = true;
   source.CopyBaseTo(&target);
   EXPECT_NE(target.style, nullptr);
   EXPECT_NE(target.attributes, nullptr);
+  EXPECT_TRUE(target.editing);
   EXPECT_EQ(source.CopyBaseTo(nullptr), nullptr);
 }
 

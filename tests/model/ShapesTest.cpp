@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "base/Code.h"
 #include "model/DesignState.h"
 #include "model/ShapePolyline.h"
+#include "support/PlainShape.h"
 
 namespace hullwright {
 namespace {
@@ -69,14 +71,36 @@ TEST(Shapes, AppendClonesCopiesUpToTheFirstNullEntry)
   group.AppendClones(nullptr);
   ASSERT_EQ(group.shapes.size(), 1U);
   EXPECT_NE(group.shapes[0], source.shapes[0]);
+  EXPECT_EQ(source.cursor, 2U);
+  EXPECT_EQ(group.cursor, 0U);
+}
+
+TEST(Shapes, AppendClonesTakesOverThatAShapeHasNoCopy)
+{
+  CShapes source;
+  source.shapes.push_back(std::make_unique<test::PlainShape>());
+  source.shapes.push_back(std::make_unique<CShapePolyline>());
+  CShapes group;
+  group.AppendClones(&source);
+  ASSERT_EQ(group.shapes.size(), 2U);
+  EXPECT_EQ(group.shapes[0], nullptr);
+  EXPECT_NE(group.shapes[1], nullptr);
+}
+
+TEST(Shapes, BeginForNoSideAndEmpty)
+{
+  EXPECT_EQ(NumberOf(CShapes().viewCode), 0);
+  EXPECT_TRUE(CShapes().shapes.empty());
 }
 
 TEST(Shapes, ClearReleasesEveryShape)
 {
   CShapes group(ViewSide::Top);
   group.shapes.push_back(std::make_unique<CShapePolyline>());
+  const std::size_t capacity = group.shapes.capacity();
   group.Clear();
   EXPECT_TRUE(group.shapes.empty());
+  EXPECT_EQ(group.shapes.capacity(), capacity);
   EXPECT_EQ(group.viewCode, ViewSide::Top);
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "model/ShapeVertex.h"
 
 namespace hullwright {
@@ -60,6 +62,21 @@ TEST(Units, TheMetreAndCodesWithoutAnEntryLeaveTheValue)
     EXPECT_EQ(ToMetres(code, value), value) << number;
     EXPECT_EQ(HasUnitFactor(code), code == UnitCode::Metre) << number;
     EXPECT_EQ(FromMetres(code, value), value) << number;
+  }
+}
+
+TEST(Units, NoOtherCodeThanThese23HasAFactor)
+{
+  const std::set<int> withFactor = {9002, 9003, 9005, 9031, 9033, 9034, 9035, 9036,
+                                    9037, 9038, 9039, 9040, 9041, 9042, 9043, 9062,
+                                    9080, 9084, 9093, 9094, 9095, 9097, 9098};
+  ASSERT_EQ(withFactor.size(), 23U);
+  for (int number = 0; number <= 10100; ++number) {
+    const UnitCode code{number};
+    const bool isKnown = withFactor.contains(number);
+    EXPECT_EQ(ToMetres(code, value) != value, isKnown) << number;
+    EXPECT_EQ(FromMetres(code, value) != value, isKnown) << number;
+    EXPECT_EQ(HasUnitFactor(code), isKnown || code == UnitCode::Metre) << number;
   }
 }
 

@@ -1,9 +1,21 @@
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "model/ShapeVertex.h"
 
 namespace hullwright {
 namespace {
+
+// Its operators are virtual, but its destructor would cost each vertex of a drawing a call.
+static_assert(std::is_polymorphic_v<CShapeVertex> && !std::has_virtual_destructor_v<CShapeVertex>);
+
+template <class Vertex>
+concept HasProduct = requires(const Vertex& v)
+{
+  v* v;
+};
+static_assert(!HasProduct<CShapeVertex>);
 
 CShapeVertex Tagged(double x, double y, double z)
 {
@@ -94,6 +106,16 @@ TEST(DistanceToSegment, APointBehindTheStartGetsNoDistance)
 }
 
 TEST(DistanceToSegment, APointBeyondTheEndGetsTheNearerEnd) { EXPECT_EQ(Distance(13.0, 4.0), 5.0); }
+
+TEST(DistanceToSegment, OfTwoEndsThatAreAboutAsNearTheSmallerDistanceCounts)
+{
+  // The start, which lies behind the end by less than the distances are rounded.
+  double distance = 0.0;
+  DistanceToSegment({-9.935469634374655, 91.02481644496791, 0.0},
+                    {-9.935469633848225, 91.0248164458643, 0.0},
+                    {-394.8649971609564, 317.08686396187136, 0.0}, distance);
+  EXPECT_EQ(distance, 446.4020502746063);
+}
 
 TEST(DistanceToSegment, StatesWhetherThereIsADistance)
 {

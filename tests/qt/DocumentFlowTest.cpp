@@ -204,6 +204,7 @@ TEST_F(DocumentFlow, SavingAnUntitledDesignAsksForANameAndAddsTheSuffix)
   ASSERT_TRUE(Start());
   Modify();
   WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.nameFilters().constFirst(), QStringLiteral("Hullwright Files(*.xml)"));
     dialog.selectFile(Path("new boat"));
     static_cast<QDialog&>(dialog).accept();
   });

@@ -81,6 +81,13 @@ TEST_F(ImportedShapeDrawing, EveryRingIsAFigureOfOnePath)
                           "width 1 colour 1 1 1 1"));
 }
 
+TEST_F(ImportedShapeDrawing, ARingDrawsNothingByItself)
+{
+  Square(0.0, 10.0);
+  polygon.rings[0]->Draw(&viewPort);
+  EXPECT_TRUE(recorder.Lines().empty());
+}
+
 TEST_F(ImportedShapeDrawing, ASelectedPolygonIsYellow)
 {
   Square(0.0, 10.0);

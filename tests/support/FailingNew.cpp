@@ -8,10 +8,12 @@ namespace {
 /// Allocations up to the one that fails; 0 while none shall.
 thread_local std::size_t left = 0;
 thread_local bool failed = false;
+thread_local std::size_t count = 0;
 
 /// Null when it is this allocation's turn, or when there is no memory indeed.
 void* Allocate(std::size_t size, std::size_t alignment) noexcept
 {
+  ++count;
   if (left > 0 && --left == 0) {
     failed = true;
     return nullptr;
@@ -73,6 +75,7 @@ FailingNew::FailingNew(std::size_t which)
 {
   left = which;
   failed = false;
+  count = 0;
 }
 
 FailingNew::~FailingNew() { Stop(); }
@@ -82,5 +85,7 @@ bool FailingNew::Stop()
   left = 0;
   return failed;
 }
+
+std::size_t FailingNew::Count() { return count; }
 
 }  // namespace hullwright::test

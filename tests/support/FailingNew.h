@@ -17,6 +17,9 @@ public:
 
   /// From here on nothing fails; whether the one allocation was reached before.
   static bool Stop();
+
+  /// Allocations since it began, the one that failed included.
+  static std::size_t Count();
 };
 
 }  // namespace hullwright::test
