@@ -229,8 +229,19 @@ TEST_F(Bulges, OfNextToNothingAreArcsAllTheSame)
     ASSERT_GE(VerticesOf(0).size(), 182U) << bulge;
     EXPECT_NEAR(VerticesOf(0)[90][1], -sagitta, 1e-6) << bulge;
   }
+  ImportEntities(TwoVertices("1e-9"));
+  EXPECT_GE(VerticesOf(0).size(), 182U);
   ImportEntities(TwoVertices("-0.0"));
   EXPECT_EQ(VerticesOf(0).size(), 2U);
+}
+
+TEST_F(Bulges, BelowTheSmallestArcAreWholeCircles)
+{
+  // An arc of less than 1e-10 counts as one of no angle, to which a turn is added. Its radius is
+  // half of the distance between the ends through the sine of 2e-11.
+  ImportEntities(TwoVertices("1e-11"));
+  ASSERT_GE(VerticesOf(0).size(), 182U);
+  EXPECT_NEAR(VerticesOf(0)[90][1], 1e11, 1.0);
 }
 
 TEST_F(Bulges, AreExtrudedOnceWithTheirPolyline)

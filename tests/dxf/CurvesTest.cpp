@@ -160,6 +160,26 @@ TEST_F(Curves, AClockwiseArcWhoseStepsEndBehindThatPlaceStopsAtItsEnd)
   EXPECT_NEAR(arc->vertices[180]->x, arc->vertices[181]->x, 1e-9);
 }
 
+TEST_F(Curves, TheAnglesOfAnArcAreNotBroughtIntoOneTurn)
+{
+  const auto verticesOfArc = [this](const std::string& start, const std::string& end) {
+    ImportEntities(Entity("ARC", {{40, "1"}, {50, start}, {51, end}}));
+    return VerticesOf(0);
+  };
+  const auto twoTurns = verticesOfArc("0", "720");
+  EXPECT_NEAR(twoTurns.at(1).at(0), std::cos(4.0 * turn), 1e-12);
+  EXPECT_NEAR(twoTurns.at(1).at(1), std::sin(4.0 * turn), 1e-12);
+  // One turn more still ends this one before it begins, so that its end alone is there.
+  const auto backwards = verticesOfArc("400", "10");
+  ASSERT_EQ(backwards.size(), 1U);
+  EXPECT_NEAR(backwards[0][0], std::cos(10.0 * turn), 1e-12);
+  EXPECT_NEAR(backwards[0][1], std::sin(10.0 * turn), 1e-12);
+  const auto fromBelow = verticesOfArc("-90", "90");
+  EXPECT_NEAR(fromBelow.at(0).at(1), -1.0, 1e-12);
+  EXPECT_NEAR(fromBelow.at(90).at(0), 1.0, 1e-12);
+  EXPECT_NEAR(fromBelow.back()[1], 1.0, 1e-12);
+}
+
 TEST_F(Curves, AnArcAlwaysEnds)
 {
   for (const bool clockwise : {false, true}) {

@@ -167,6 +167,15 @@ TEST_F(PlainEntities, EveryComponentOfTheExtrusionIsRounded)
   EXPECT_EQ(far.z, 662993.5503005981);
 }
 
+TEST_F(PlainEntities, TheProductsOfTheExtrusionAreAddedInTheOrderOfTheAxes)
+{
+  // Each of the other orders rounds one of these differently.
+  const DxfPoint place = Extrusion({0.3, 0.1, 0.9})({123456.789, 654321.987, 12.345});
+  EXPECT_EQ(place.x, -624681.9541436268);
+  EXPECT_EQ(place.y, -78092.42679296843);
+  EXPECT_EQ(place.z, 216916.7391001416);
+}
+
 TEST_F(PlainEntities, AnAxisOfTheExtrusionIsRoundedAfterTheNextOneWasMade)
 {
   DxfPoint point{0.0, 1.0, 0.0};

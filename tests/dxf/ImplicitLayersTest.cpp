@@ -33,8 +33,8 @@ TEST_F(ImplicitLayers, EveryKindOfEntityMakesItsLayer)
 
 TEST_F(ImplicitLayers, EveryKindOfEntityThatIsByLayerLooksForItsLayerBeforeItMakesIt)
 {
-  for (const char* keyword :
-       {"LINE", "POINT", "ARC", "SOLID", "3DFACE", "POLYLINE", "LWPOLYLINE", "TEXT"}) {
+  for (const char* keyword : {"LINE", "POINT", "ARC", "SOLID", "3DFACE", "POLYLINE", "LWPOLYLINE",
+                              "TEXT", "MTEXT", "ATTRIB", "ATTDEF"}) {
     ImportEntities(WithRecords(keyword, Lines({{8, "A"}})));
     EXPECT_EQ(Layers().at("A").colour, ColourIndex::ByLayer) << keyword;
     EXPECT_EQ(ColourOf(0), 0U) << keyword;

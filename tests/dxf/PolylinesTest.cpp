@@ -83,6 +83,8 @@ TEST_F(Polylines, TheCurveTypeIsKeptAndNotUsed)
   ImportEntities(Header(Lines({{75, "6"}})) + triangle + seqEnd);
   EXPECT_EQ(file->Drawing().polyline.CurveType(), 6);
   EXPECT_EQ(CountOf(0), 3U);
+  ImportEntities(Header(Lines({{75, "6"}})) + triangle + seqEnd + Header() + triangle + seqEnd);
+  EXPECT_EQ(file->Drawing().polyline.CurveType(), 6);
 }
 
 TEST_F(Polylines, AWidthIsDoubledAndZeroIsAWidth)
@@ -230,7 +232,7 @@ TEST_F(Polylines, ALightweightRectangleIsClosedByItsFirstVertex)
 
 TEST_F(Polylines, ALightweightOneIsClosedByTheLowestBit)
 {
-  for (const auto& [flags, vertices] : {std::pair{"129", 2U}, {"128", 1U}, {"3", 2U}}) {
+  for (const auto& [flags, vertices] : {std::pair{"129", 2U}, {"128", 1U}, {"3", 2U}, {"2", 1U}}) {
     ImportEntities(Entity("LWPOLYLINE", {{70, flags}, {10, "1"}, {20, "2"}}));
     EXPECT_EQ(CountOf(0), vertices) << flags;
   }

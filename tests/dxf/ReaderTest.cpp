@@ -63,6 +63,27 @@ TEST_F(Reader, TheLogRecordsEveryStep)
                       "]. Please see the 'Processing' tab for details."));
 }
 
+TEST_F(Reader, TheLogSaysNothingOfWhatIsLeftOut)
+{
+  std::string entities = Entity("LINE", {{67, "1"}}) + Entity("INSERT", {{2, "unknown"}}) +
+                         Entity("ATTRIB", {{70, "1"}}) + Entity("SPLINE") + Entity("3DSOLID");
+  for (const char* keyword : {"LINE", "TEXT", "INSERT", "LWPOLYLINE", "POLYLINE"}) {
+    entities += Entity(keyword, {{8, "off"}});
+  }
+  ASSERT_EQ(Import(LayerTable(LayerRecord("Hull", 1, 0) + LayerRecord("Hull", 3, 0) +
+                              LayerRecord("", 1, 0) + LayerRecord("off", -1, 0)) +
+                   Blocks(Block("B", aLine) + Block("B", aLine + aLine) +
+                          Entity("BLOCK", {{67, "1"}, {2, "sheet"}}) + aLine + Entity("ENDBLK")) +
+                   Entities(entities + aLine)),
+            0);
+  EXPECT_THAT(Records(),
+              ElementsAre(HasSubstr("Successfully opened"), HasSubstr("Processing file"),
+                          HasSubstr("Processing 'TABLES'"), HasSubstr("found 2 DXF layers"),
+                          HasSubstr("Processing 'BLOCKS'"), HasSubstr("cached 1 blocks"),
+                          HasSubstr("Processing 'ENTITIES'"), HasSubstr("added 1 map features"),
+                          HasSubstr("drawing extends"), HasSubstr("Successfully loaded")));
+}
+
 TEST_F(Reader, AFileThatIsNoDrawingGivesNothingAndSucceeds)
 {
   EXPECT_EQ(Import("a letter\nto nobody\n"), 0);

@@ -29,6 +29,7 @@ TEST_F(Tables, ALayerKeepsNameColourAndFlags)
   EXPECT_EQ(off.colour, ColourIndex{-7});
   EXPECT_TRUE(off.off);
   EXPECT_FALSE(off.frozen);
+  EXPECT_THAT(Records(), Contains(HasSubstr("found 2 DXF layers.")));
 }
 
 TEST_F(Tables, EntitiesOnALayerThatIsOffOrFrozenAreLeftOut)
@@ -181,6 +182,7 @@ TEST_F(BlockTable, PaperSpaceIsNotKeptButModelSpaceAndTheNamelessAre)
   EXPECT_EQ(file->Drawing().blocks.size(), 3U);
   EXPECT_TRUE(file->Drawing().blocks.contains(""));
   EXPECT_FALSE(file->Drawing().blocks.contains("*Paper_Space"));
+  EXPECT_THAT(Records(), Contains(HasSubstr("cached 3 blocks.")));
 }
 
 /// Whether a keyword starts a reader inside a block: its pair of one blind group swallows the line

@@ -101,7 +101,8 @@ TEST_F(Texts, OnlyParagraphTextsHaveChunks)
 TEST_F(Texts, AnAttributeIsDroppedByTheLowestBitOfItsFlags)
 {
   for (const char* keyword : {"ATTRIB", "ATTDEF"}) {
-    for (const auto& [flags, shapes] : {std::pair{"1", 0U}, {"8", 1U}, {"9", 0U}, {"0", 1U}}) {
+    for (const auto& [flags, shapes] :
+         {std::pair{"1", 0U}, {"2", 1U}, {"4", 1U}, {"8", 1U}, {"9", 0U}, {"0", 1U}}) {
       ImportEntities(Entity(keyword, {{1, "x"}, {70, flags}}));
       EXPECT_EQ(ShapeCount(), shapes) << keyword << flags;
     }
