@@ -88,8 +88,7 @@ CShape* CHullwrightView::FindMarkedPolyline()
 void CHullwrightView::AddVertex(ClientPoint point)
 {
   if (FindMarkedPolyline() == nullptr) return;
-  const GridSettings grid = host_.LoadGridSettings();
-  const WorldPoint world = SnappedWorld(point, grid);
+  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
   auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
   if (!host_.EditVertex(*vertex)) return;
   // Looked up once more, for the dialog may have outlived the polyline.
@@ -97,7 +96,7 @@ void CHullwrightView::AddVertex(ClientPoint point)
   if (marked == nullptr) return;
   host_.SetModifiedFlag(true);
   marked->vertices.push_back(std::move(vertex));
-  Draw(grid);
+  Repaint();  // with the grid that is stored now
 }
 
 void CHullwrightView::AddAnchor(ClientPoint point)

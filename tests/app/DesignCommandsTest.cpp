@@ -382,5 +382,13 @@ TEST_F(Commands, TogglesFlipTheirSettingAndShowItAsTheirCheck)
   EXPECT_FALSE(document.IsModified());
 }
 
+TEST_F(Commands, WithoutASideInViewARotationNotifiesEverybodyAndMakesNoGroup)
+{
+  app.activeView = ViewSide::None;
+  Run(CommandId::RotateLeft, {.ok = true});
+  EXPECT_THAT(notified.list, ElementsAreArray(all));
+  EXPECT_TRUE(app.shapeGroups.empty());
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -210,6 +210,28 @@ TEST_F(Dialogs, AVertexDialogWithoutAVertexShowsTheUnitAloneAndEditsNothing)
   EXPECT_EQ(Start(VertexControls::x), u"");
 }
 
+TEST_F(Dialogs, TheMoveDialogShowsTheWayThatItIsGivenAndLeavesItsHeight)
+{
+  CShapeVertex way(1.234, -5.0, 7.0);
+  CDialogMove dialog(app, way);
+  dialogs.script = {.ok = true, .fields = {{MoveControls::directionX, u"2"}}};
+  EXPECT_EQ(dialogs.Run(dialog), DialogEnd::Ok);
+  EXPECT_EQ(Start(MoveControls::directionX), u"1.23");
+  EXPECT_EQ(Start(MoveControls::directionY), u"-5.00");
+  EXPECT_TRUE(way == CShapeVertex(2.0, -5.0, 7.0));
+}
+
+TEST_F(Dialogs, TheRotateDialogTurnsTheDesignBeforeItCloses)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{10.0, 0.0, 0.0}});
+  CDialogRotate dialog(app, false);
+  dialogs.script = {.ok = true};
+  EXPECT_EQ(dialogs.Run(dialog), DialogEnd::Ok);
+  EXPECT_NEAR(line.vertices[0]->x, 0.0, 1e-9);
+  EXPECT_NEAR(line.vertices[0]->y, 10.0, 1e-9);
+  EXPECT_TRUE(notified.list.empty());
+}
+
 TEST_F(Dialogs, UnitLabelsFollowTheUnitAndTheNumbersDoNot)
 {
   CShapeVertex vertex(1.0, 2.0, 3.0);

@@ -146,5 +146,14 @@ TEST_F(ObjectPaneCommands, ZoomPolylineFramesItAndOnlyRepaints)
   EXPECT_NEAR((app.viewPort->left + app.viewPort->right) * 0.5, 30.0, 1e-9);
 }
 
+TEST_F(ObjectPaneCommands, ZoomPolylineNeedsAViewPort)
+{
+  AddLine(ViewSide::Top, {{10.0, 20.0, 0.0}, {50.0, 30.0, 0.0}});
+  pane.BuildTree();
+  app.viewPort = nullptr;
+  Command(CommandId::ZoomPolyline, At({0, 0, 0}));
+  EXPECT_EQ(Frames(), 0);
+}
+
 }  // namespace
 }  // namespace hullwright

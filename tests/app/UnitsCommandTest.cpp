@@ -131,5 +131,16 @@ TEST_F(UnitsCommand, AVertexAtTheOriginStaysThere)
   EXPECT_TRUE(*top.vertices[0] == CShapeVertex());
 }
 
+TEST_F(UnitsCommand, WithoutASideInViewThereIsNothingToAskAbout)
+{
+  app.activeView = ViewSide::None;
+  messages.answer = true;
+  ToFeet();
+  EXPECT_TRUE(messages.asked.empty());
+  EXPECT_EQ(app.offsetGps->x, 10.0);
+  EXPECT_EQ(app.unitCode, UnitCode{9002});
+  EXPECT_TRUE(app.shapeGroups.empty());
+}
+
 }  // namespace
 }  // namespace hullwright

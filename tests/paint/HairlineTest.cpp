@@ -41,8 +41,9 @@ protected:
     return surface.Picture().copy();
   }
 
-  /// As the orders that a page or a file of vectors gets.
-  static QByteArray Orders(float width)
+  /// The orders that a page or a file of vectors gets for what is painted on a canvas.
+  template <class PaintOn>
+  static QByteArray OrdersOf(PaintOn paintOn)
   {
     PaintSurface surface(60, 40);
     PaintTarget target(surface);
@@ -50,8 +51,12 @@ protected:
     EXPECT_TRUE(canvas.Initialize(&target));
     QPicture page;
     surface.SetDevice(&page);
-    Paint(canvas, width);
+    paintOn(canvas);
     return {page.data(), static_cast<qsizetype>(page.size())};
+  }
+  static QByteArray Orders(float width)
+  {
+    return OrdersOf([width](CCanvas& canvas) { Paint(canvas, width); });
   }
 };
 
@@ -93,6 +98,20 @@ TEST_F(Strokes, WidthsBelowNothingOrThatAreNoNumbersPaintNothing)
     EXPECT_EQ(Picture(width), blank) << width;
     EXPECT_EQ(Orders(width), nothing) << width;
   }
+}
+
+TEST_F(Strokes, APolylineFromWhichNoSegmentCanBePaintedIsAnOrderAllTheSame)
+{
+  const auto orders = [](std::span<const PixelPoint> points) {
+    return OrdersOf([points](CCanvas& canvas) {
+      canvas.Target()->BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+      canvas.DrawPolyline(points, {{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F});
+      EXPECT_EQ(canvas.Target()->EndFrame().code, 0);
+    });
+  };
+  constexpr PixelPoint start{5.5F, 5.5F};
+  const float none = std::nanf("");
+  EXPECT_GT(orders(std::array{start, PixelPoint{none, none}}).size(), orders({}).size());
 }
 
 }  // namespace

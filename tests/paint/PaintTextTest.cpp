@@ -146,6 +146,17 @@ TEST_F(PaintedText, TurnsWithItsGroundAndLeavesNothingTurned)
   EXPECT_EQ(qGray(surface.Picture().pixel(25, 15)), 0);
 }
 
+TEST_F(PaintedText, LiesOverItsGround)
+{
+  TextBlock block{u"W", {u"Consolas", 20.0F}, {100.0F, 50.0F, 130.0F, 80.0F}};
+  Draw(block);
+  const int bare = ink;
+  ASSERT_GT(bare, 0);
+  block.ground = Colour{1.0F, 1.0F, 1.0F, 1.0F};
+  Draw(block);
+  EXPECT_EQ(ink, bare);
+}
+
 TEST_F(PaintedText, OfManySizesAndFacesIsEachInItsOwn)
 {
   const float small = Measure(u"mm", 10.0F).width;

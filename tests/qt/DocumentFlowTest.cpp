@@ -93,6 +93,20 @@ TEST_F(DocumentFlow, StartsWithAnUntitledDesign)
   EXPECT_TRUE(Window().isVisible());
 }
 
+TEST_F(DocumentFlow, AStartWithoutADesignShowsTheTreeOfANewOne)
+{
+  ASSERT_TRUE(Start());
+  const auto& tree = *Window().findChild<ObjectTreeWidget*>();
+  const QAbstractItemModel& model = *tree.model();
+  ASSERT_EQ(model.rowCount(), 2);
+  const QModelIndex design = model.index(0, 0);
+  EXPECT_EQ(design.data().toString(), QStringLiteral("Vessel Design"));
+  EXPECT_EQ(model.rowCount(design), 7);
+  EXPECT_TRUE(tree.isExpanded(design));
+  EXPECT_EQ(model.index(1, 0).data().toString(), QStringLiteral("Anchors"));
+  EXPECT_EQ(model.rowCount(model.index(1, 0)), 0);
+}
+
 TEST_F(DocumentFlow, OpensTheFileOfTheCommandLineOnTheTopSide)
 {
   ASSERT_TRUE(Start(Design("Schiff \xC3\x84 \xF0\x9F\x9A\xA2.xml")));

@@ -10,6 +10,7 @@
 #include "qt/Icons.h"
 #include "qt/Looks.h"
 #include "resources/CommandIds.h"
+#include "resources/Commands.h"
 #include "support/DeskFixture.h"
 
 namespace hullwright {
@@ -95,6 +96,14 @@ TEST_F(Icons, TheProgramsHasTheSizesOfTitleBarsAndSwitchers)
   const QList<QSize> sizes = QApplication::windowIcon().availableSizes();
   for (const int side : {16, 24, 32, 48, 64})
     EXPECT_TRUE(sizes.contains(QSize(side, side))) << side;
+}
+
+TEST_F(Icons, OfEveryCommandAreThere)
+{
+  for (const CommandEntry& command : Commands()) {
+    if (command.icon.empty()) continue;
+    EXPECT_FALSE(ThemedIcon(command.icon, QApplication::palette()).isNull()) << command.icon;
+  }
 }
 
 }  // namespace

@@ -108,6 +108,31 @@ TEST_F(Frame, TheLookIsStoredAndRestoredByItsId)
   EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("fusion"));
 }
 
+TEST_F(Frame, AStartStoresItsLookUnderTheNameOfTheMaker)
+{
+  shell->Window()->close();
+  shell.reset();
+  const std::string stored = folder.Read("config/Quillmere/Hullwright.ini");
+  EXPECT_NE(stored.find("[Workspace]\n"), std::string::npos) << stored;
+  EXPECT_NE(stored.find("ApplicationLook=210\n"), std::string::npos) << stored;
+}
+
+TEST_F(Frame, TheCursorWaitsWhileALookIsPutOn)
+{
+  struct Watch : QWidget {
+    void changeEvent(QEvent*) override
+    {
+      const QCursor* const cursor = QApplication::overrideCursor();
+      waits |= cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+    }
+    bool waits = false;
+  } watch;
+  watch.show();
+  Window().RunCommand(CommandOf(Look::Windows2000));
+  EXPECT_TRUE(watch.waits);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(Frame, TheStandardToolBarBeginsAsItsTableSays)
 {
   ASSERT_EQ(Bars().size(), 1);

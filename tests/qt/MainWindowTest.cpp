@@ -92,9 +92,9 @@ TEST_F(Desk, TheWindowIsSeenBeforeTheUnitsAreRead)
 TEST_F(Desk, APressOnTheUnitsPaneOpensTheUnitsDialogAndOneOnTheOtherDoesNot)
 {
   const auto panes = Window().statusBar()->findChildren<StatusPane*>();
-  const auto press = [](QWidget& pane) {
-    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
+  const auto press = [](QWidget& pane, Qt::MouseButton button = Qt::LeftButton) {
+    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), button, button,
+                      Qt::NoModifier);
     QApplication::sendEvent(&pane, &event);
   };
   press(*panes.at(0));
@@ -103,6 +103,8 @@ TEST_F(Desk, APressOnTheUnitsPaneOpensTheUnitsDialogAndOneOnTheOtherDoesNot)
     lastQuestion = dialog.windowTitle();
     dialog.reject();
   });
+  press(*panes.at(1), Qt::RightButton);
+  ASSERT_EQ(dialogs, 0);
   press(*panes.at(1));
   EXPECT_EQ(dialogs, 1);
   EXPECT_EQ(lastQuestion, QStringLiteral("Switch Units"));
@@ -165,6 +167,18 @@ TEST_F(Desk, ASecondRightClickBehindAPolylineOpensNoMenu)
   EXPECT_FALSE(opened);
 }
 
+TEST_F(Desk, TheEntriesOfTheViewsMenuBearTheirImages)
+{
+  Mouse(QEvent::MouseButtonPress, {3, 3}, Qt::RightButton, Qt::RightButton);
+  auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  ASSERT_EQ(menu->actions().size(), 6);
+  for (const QAction* entry : menu->actions()) {
+    EXPECT_EQ(entry->icon().isNull(), entry->isSeparator()) << entry->text().toStdString();
+  }
+  menu->close();
+}
+
 TEST_F(Desk, APolylineIsDrawnClickByClick)
 {
   Action("Right")->trigger();
@@ -193,6 +207,23 @@ TEST_F(Desk, TheRubberBandLeavesThePictureIntact)
   Action("Right")->trigger();
   Mouse(QEvent::MouseButtonPress, {200, 200}, Qt::RightButton, Qt::RightButton);
   EXPECT_EQ(View().grab().toImage(), clean);
+}
+
+TEST_F(Desk, NoBandIsShownBeforeTheFirstPressNorWithAnEndInTheFirstColumnOrRow)
+{
+  const auto shown = [this](QPoint mouse) {
+    Move(mouse);
+    return View().grab().toImage();
+  };
+  Window().RunCommand(CommandId::ToggleSnap);
+  Window().RunCommand(CommandId::DrawPolyline);
+  EXPECT_EQ(shown({400, 300}), shown({10, 300}));
+  Click({0, 300});
+  EXPECT_EQ(shown({400, 300}), shown({10, 300}));
+  Click({200, 250});
+  const QImage withoutBand = shown({300, 0});
+  EXPECT_EQ(shown({0, 300}), withoutBand);
+  EXPECT_NE(shown({300, 10}), withoutBand);
 }
 
 TEST_F(Desk, TheStatusBarHidesAndItsStateSurvivesARestart)

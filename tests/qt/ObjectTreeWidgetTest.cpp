@@ -105,6 +105,13 @@ TEST_F(ObjectPane, ALeftClickMarksAPolylineAndASecondOneTakesTheMarkBack)
   EXPECT_FALSE(Line(0).editing);
 }
 
+TEST_F(ObjectPane, ADoubleClickIsOneClick)
+{
+  QTest::mouseDClick(Window().windowHandle(), Qt::LeftButton, {},
+                     Tree().viewport()->mapTo(&Window(), Place(At({0, 0, 1}))));
+  EXPECT_TRUE(Line(1).editing);
+}
+
 TEST_F(ObjectPane, ALeftClickOnASideChoosesWhosePicturesFollow)
 {
   const QImage built = Picture("tree-polyline");
@@ -144,7 +151,10 @@ TEST_F(ObjectPane, ARightClickSelectsItsItemAndOpensTheMenuThereWithoutMarking)
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(menu->pos(), Tree().viewport()->mapToGlobal(place));
   QStringList entries;
-  for (const QAction* entry : menu->actions()) entries.append(entry->text());
+  for (const QAction* entry : menu->actions()) {
+    entries.append(entry->text());
+    EXPECT_FALSE(entry->icon().isNull()) << entry->text().toStdString();
+  }
   EXPECT_EQ(entries,
             (QStringList{QStringLiteral("&Edit Point..."), QStringLiteral("&Remove Point...")}));
   menu->close();

@@ -2,6 +2,7 @@
 
 #include <QThread>
 
+#include "app/GridSettingsStore.h"
 #include "qt/QtSettingsStore.h"
 #include "support/ShellFixture.h"
 
@@ -52,6 +53,18 @@ TEST_F(SettingsStore, ARefreshTakesInWhatAnotherProgramHasWritten)
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
   first.Refresh();
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 0);
+}
+
+TEST_F(SettingsStore, TheGridIsReadAsAnotherProgramHasLeftIt)
+{
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  store.WriteInteger("Grid", "Show", 1);
+  store.File()->sync();
+  EXPECT_EQ(LoadGridSettings(store).show, 1);
+  QThread::msleep(20);  // file times have a grain
+  folder.Write("config/Quillmere/Hullwright.ini", "[Grid]\nShow=0\n");
+  EXPECT_EQ(LoadGridSettings(store).show, 0);
 }
 
 }  // namespace

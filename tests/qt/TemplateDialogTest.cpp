@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 
 #include "resources/GridDialog.h"
 #include "resources/MoveDialog.h"
@@ -111,6 +113,31 @@ TEST_F(TemplateDialogs, ClicksReachTheLogicAndControlsCanBeDisabled)
   EXPECT_FALSE(dialog->findChildren<QLineEdit*>().at(0)->isEnabled());
   dialog->findChild<QAbstractButton*>()->click();
   EXPECT_EQ(logic->clicks, std::vector<ControlId>{GridControls::showGrid});
+}
+
+TEST_F(TemplateDialogs, EachLabelUnitAndFieldOfTheGridIsGreyedByItsOwnId)
+{
+  using namespace GridControls;
+  Open(DialogId::Grid);
+  const auto greyed = [this](auto* widget) {
+    return std::ranges::count_if(dialog->findChildren<decltype(widget)>(),
+                                 [](const QWidget* each) { return !each->isEnabled(); });
+  };
+  constexpr QLabel* labels = nullptr;
+  constexpr QLineEdit* fields = nullptr;
+  int count = 0;
+  for (const ControlId id : {showXLabel, showYLabel, snapXLabel, snapYLabel, showXUnit, showYUnit,
+                             snapXUnit, snapYUnit}) {
+    dialog->SetEnabled(id, false);
+    EXPECT_EQ(greyed(labels), ++count);
+  }
+  EXPECT_EQ(greyed(fields), 0);
+  count = 0;
+  for (const ControlId id : {showX, showY, snapX, snapY}) {
+    dialog->SetEnabled(id, false);
+    EXPECT_EQ(greyed(fields), ++count);
+  }
+  EXPECT_EQ(greyed(labels), 8);
 }
 
 TEST_F(TemplateDialogs, FieldsStateTheirUnitToAssistiveTechnology)

@@ -124,6 +124,18 @@ TEST_F(ImportedShapeDrawing, NothingIsDrawnWhereAStepFails)
   EXPECT_TRUE(recorder.Lines().empty());
 }
 
+TEST_F(ImportedShapeDrawing, ATextWithoutAStyleIsTrimmedAndKeepsItsBox)
+{
+  recorder.failing = DrawingFailure::TextStyle;
+  label.text = u" Crane ";
+  label.Draw(&viewPort);
+  EXPECT_EQ(label.text, u"Crane");
+  for (const auto& corner : label.screenBox) {
+    EXPECT_EQ(corner.x, 0.0F);
+    EXPECT_EQ(corner.y, 0.0F);
+  }
+}
+
 TEST_F(ImportedShapeDrawing, ATextStandsOnItsAnchorInAMonospacedFace)
 {
   label.Draw(&viewPort);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "model/Extents.h"
 #include "render/ViewPort.h"
 
 // Views at which other forms of the same formulas end in other last bits. Pixels are cut and
@@ -106,6 +107,34 @@ TEST_F(ViewPortBits, KeepAspectTakesTheHeightFromTheEdgesToTheLastBit)
   viewPort.width = viewPort.height = 200.0;  // of before the edges moved
   viewPort.KeepAspect();
   Expect({-3.7, 10.976510480887793, 14.1, 24.12348951911221}, 17.8, 13.146979038224414);
+  viewPort.CenterOn(100.0, 0.0);
+  Expect({-10.40517879161529, 17.55, 7.394821208384711, 30.696979038224413}, 17.8,
+         13.146979038224412);
+}
+
+TEST_F(ViewPortBits, TheHeightThatWasKeptCountsAndNotTheDistanceOfTheEdges)
+{
+  Show({{-17.0, -43.2, 18.0, 9.3}, 773.0, 701.0});
+  viewPort.KeepAspect();
+  EXPECT_EQ(viewPort.height, 31.739974126778783);
+  ASSERT_NE(viewPort.top - viewPort.bottom, viewPort.height);
+  ExpectWorld(100.0, 148.0, -12.472186287192756, -7.781177231565334);
+  viewPort.ZoomIn(100.0, 0.0);
+  EXPECT_EQ(viewPort.top, 10.822477360931433);
+}
+
+TEST_F(ViewPortBits, ATallBoxIsFramedWithTheHeightAsItStood)
+{
+  Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});
+  viewPort.ZoomToExtents({1.3, 4.7, 7.0, 10.7});
+  EXPECT_EQ(viewPort.bottom, 2.36666666666667);
+}
+
+TEST_F(ViewPortBits, AWideBoxIsFramedWithItsWidthForTheHeight)
+{
+  Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});
+  viewPort.ZoomToExtents({1.3, 4.7, 9.0, 10.7});
+  EXPECT_EQ(viewPort.bottom, 0.8555555555555556);
 }
 
 }  // namespace

@@ -26,14 +26,15 @@ std::u16string TextOf(const MenuItem& item)
   return key.empty() ? text : text + u'\t' + WideFromAscii(key);
 }
 
-/// The bar's menus in words: titles, entries with their ids, "-" for a separator.
+/// The bar's menus in words: titles, entries with their ids, "-" for a separator; a menu inside
+/// ends with a row of its own.
 std::vector<std::pair<int, std::u16string>> Rows(std::u16string_view menu)
 {
   std::vector<std::pair<int, std::u16string>> rows;
   bool inside = false;
   for (const MenuItem& item : mainMenu) {
     if (item.row == MenuRow::Menu) inside = item.title == menu;
-    if (!inside || item.row == MenuRow::Menu || item.row == MenuRow::EndSubMenu) continue;
+    if (!inside || item.row == MenuRow::Menu) continue;
     rows.emplace_back(NumberOf(item.id), TextOf(item));
   }
   return rows;
@@ -94,7 +95,9 @@ TEST(Menus, ViewMenuHasTheLooks)
                                       {215, u"&Blue Style"},
                                       {216, u"B&lack Style"},
                                       {217, u"&Silver Style"},
-                                      {218, u"&Aqua Style"}}));
+                                      {218, u"&Aqua Style"},
+                                      {0, u""},
+                                      {0, u""}}));
 }
 
 TEST(Menus, SideDropDown)
@@ -108,6 +111,28 @@ TEST(Menus, SideDropDown)
                             {32802, u"Right"},
                             {32803, u"Left"}}));
   EXPECT_EQ(viewButtonText, u"Select\rView");
+}
+
+TEST(Menus, OfTheObjectTree)
+{
+  std::map<TreeMenuKind, MenuRows> menus;
+  for (const TreeMenu& menu : treeMenus) {
+    for (const CommandId id : menu.entries) {
+      if (id != CommandId::None) menus[menu.kind].emplace_back(NumberOf(id), TreeMenuText(id));
+    }
+  }
+  EXPECT_EQ(
+      menus,
+      (std::map<TreeMenuKind, MenuRows>{
+          {TreeMenuKind::Side,
+           {{32796, u"&Add Polyline..."}, {32795, u"&Remove All Polylines..."}}},
+          {TreeMenuKind::Anchors, {{32815, u"&Add Anchor..."}}},
+          {TreeMenuKind::Polyline,
+           {{32789, u"&Add Point..."},
+            {32794, u"&Remove Polyline..."},
+            {32797, u"&Zoom Polyline..."}}},
+          {TreeMenuKind::Anchor, {{32816, u"&Remove Anchor..."}, {32817, u"&Modify Anchor..."}}},
+          {TreeMenuKind::Point, {{32791, u"&Edit Point..."}, {32798, u"&Remove Point..."}}}}));
 }
 
 std::vector<int> Numbers(std::span<const CommandId> commands)
@@ -164,6 +189,21 @@ TEST(Commands, PromptsHaveAStatusTextAndATooltip)
   EXPECT_EQ(FindCommand(CommandId{1}), nullptr);
 }
 
+TEST(Commands, TheCustomisationHasTheNumber126)
+{
+  const CommandEntry* const customize = FindCommand(CommandId{126});
+  ASSERT_NE(customize, nullptr);
+  EXPECT_EQ(TooltipText(*customize), u"Customize...");
+}
+
+TEST(Commands, OfTheSidesHaveNoPrompt)
+{
+  for (const int id : {32802, 32803, 32804, 32805, 32806, 32807}) {
+    ASSERT_NE(FindCommand(CommandId{id}), nullptr) << id;
+    EXPECT_EQ(FindCommand(CommandId{id})->prompt, u"") << id;
+  }
+}
+
 struct Prompt {
   int id;
   std::u16string_view text;
@@ -185,21 +225,21 @@ TEST_P(Prompts, StandWordForWord)
 
 INSTANTIATE_TEST_SUITE_P(
     Commands, Prompts,
-    testing::Values(Prompt{32776, u"Mirror design vertical\nMirror\rVert"},
-                    Prompt{32777, u"Mirror design horizontal\nMirror\rHorz"},
-                    Prompt{32779, u"Rotate right\nRotate\rRight"},
-                    Prompt{32778, u"Rotate left\nRotate\rLeft"},
-                    Prompt{32775, u"Scale design\nScale\rDesign"},
-                    Prompt{32781, u"Move design in a specified direction\nMove\rDesign"},
-                    Prompt{32780, u"Modify offsets for devices\nModify\rOffsets"},
-                    Prompt{32818, u""}, Prompt{32819, u"Switch design units\nSwitch Units"},
-                    Prompt{32782, u"Toggle grid\nToggle\rGrid"},
-                    Prompt{32783, u"Toggle snap to grid\nToggle\rSnap"},
-                    Prompt{32784, u"Cursor zooms in\nZoom\rIn"},
-                    Prompt{32785, u"Cursor zooms out\nZoom\rOut"},
-                    Prompt{32787, u"Cursor moves vessel\nMove\rDesign"},
-                    Prompt{32772, u"Import shape(s) from an AutoCAD DXF file\nImport\rDXF"},
-                    Prompt{32808, u"Select the current view mode\nView\rMode"}));
+    testing::Values(
+        Prompt{32776, u"Mirror design vertical\nMirror\rVert"},
+        Prompt{32777, u"Mirror design horizontal\nMirror\rHorz"},
+        Prompt{32779, u"Rotate right\nRotate\rRight"}, Prompt{32778, u"Rotate left\nRotate\rLeft"},
+        Prompt{32775, u"Scale design\nScale\rDesign"},
+        Prompt{32781, u"Move design in a specified direction\nMove\rDesign"},
+        Prompt{32780, u"Modify offsets for devices\nModify\rOffsets"}, Prompt{32818, u""},
+        Prompt{32819, u"Switch design units\nSwitch Units"},
+        Prompt{32782, u"Toggle grid\nToggle\rGrid"},
+        Prompt{32783, u"Toggle snap to grid\nToggle\rSnap"},
+        Prompt{32784, u"Cursor zooms in\nZoom\rIn"}, Prompt{32785, u"Cursor zooms out\nZoom\rOut"},
+        Prompt{32787, u"Cursor moves vessel\nMove\rDesign"},
+        Prompt{32772, u"Import shape(s) from an AutoCAD DXF file\nImport\rDXF"},
+        Prompt{32786, u"Show all shapes\nShow\rAll"}, Prompt{32788, u"Draw new shape\nDraw\rShape"},
+        Prompt{32808, u"Select the current view mode\nView\rMode"}));
 
 TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
 {
@@ -209,6 +249,16 @@ TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
     ASSERT_NE(entry, nullptr) << NumberOf(command);
     EXPECT_FALSE(entry->icon.empty()) << NumberOf(command);
     EXPECT_FALSE(TooltipText(*entry).empty()) << NumberOf(command);
+  }
+}
+
+TEST(Commands, OfTheContextMenusAndOfTheSidesHaveAnIcon)
+{
+  for (const int id : {32798, 32789, 32791, 32790, 32792, 32793, 32794, 32795, 32796, 32797, 32815,
+                       32816, 32817, 32802, 32803, 32804, 32805, 32806, 32807}) {
+    const CommandEntry* const entry = FindCommand(CommandId{id});
+    ASSERT_NE(entry, nullptr) << id;
+    EXPECT_FALSE(entry->icon.empty()) << id;
   }
 }
 

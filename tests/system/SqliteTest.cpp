@@ -23,6 +23,7 @@ struct Row {
   std::optional<int> code;
   const char* name = nullptr;
   const char* shortName = nullptr;
+  const char* otherName = nullptr;  ///< in a second column of the same name
 };
 
 /// A library that answers as it is set to and writes down what it is asked. Its entry points are
@@ -48,6 +49,7 @@ public:
   int initializeResult = 0;
   int openResult = 0;
   bool opensAHandle = true;
+  bool givesAStatement = true;
   int stepResult = 101;  ///< behind the rows
   std::vector<Row> rows;
   std::vector<std::string> calls;
@@ -72,7 +74,7 @@ private:
                      const char**)
   {
     one_->query.assign(query, static_cast<std::size_t>(length));
-    *statement = reinterpret_cast<sqlite3_stmt*>(one_);
+    *statement = one_->givesAStatement ? reinterpret_cast<sqlite3_stmt*>(one_) : nullptr;
     one_->next_ = 0;
     return Said("prepare", 0);
   }
@@ -82,10 +84,10 @@ private:
   }
   static int Finalize(sqlite3_stmt*) { return Said("finalize", 0); }
   static const Row& Current() { return one_->rows.at(one_->next_ - 1); }
-  static int ColumnCount(sqlite3_stmt*) { return 3; }
+  static int ColumnCount(sqlite3_stmt*) { return 4; }
   static const char* ColumnName(sqlite3_stmt*, int column)
   {
-    constexpr std::array names = {"numId", "strUnit", "strUnitShort"};
+    constexpr std::array names = {"numId", "strUnit", "strUnitShort", "STRUNIT"};
     return names.at(static_cast<std::size_t>(column));
   }
   static int ColumnType(sqlite3_stmt* statement, int column)
@@ -95,8 +97,9 @@ private:
   }
   static const unsigned char* ColumnText(sqlite3_stmt*, int column)
   {
-    return reinterpret_cast<const unsigned char*>(column == 1 ? Current().name
-                                                              : Current().shortName);
+    const Row& row = Current();
+    const std::array texts = {row.name, row.shortName, row.otherName};
+    return reinterpret_cast<const unsigned char*>(texts.at(static_cast<std::size_t>(column) - 1));
   }
   static int ColumnInt(sqlite3_stmt*, int) { return Current().code.value_or(0); }
   static const char* ErrorMessage(sqlite3*) { return "it failed"; }
@@ -184,6 +187,50 @@ TEST_F(SqliteBinding, AnOpenWithoutAHandleFailsWithoutAText)
   }
   EXPECT_EQ(sqlite.lastError, u"");
   EXPECT_THAT(library.calls, ElementsAre("open", "open"));
+}
+
+TEST_F(SqliteBinding, AQueryWithoutAStatementFailsWithTheTextOfTheLibrary)
+{
+  library.givesAStatement = false;
+  CSQLite sqlite(library, messages);
+  ASSERT_EQ(sqlite.Load(), 0);
+  ASSERT_EQ(sqlite.Open(u"geo.db"), 0);
+  library.calls.clear();
+  EXPECT_EQ(sqlite.SelectUnits(), -1);
+  EXPECT_EQ(sqlite.lastError, u"SQLite ERROR #14 (it failed)");
+  EXPECT_THAT(library.calls, ElementsAre("prepare"));
+}
+
+TEST_F(SqliteBinding, OfTwoColumnsOfOneNameTheFirstCountsAlsoWhereItIsNull)
+{
+  library.rows = {{9001, "metre", "m", "other"}, {9002, nullptr, "ft", "other"}};
+  const auto units = ReadUnits(library, messages, u"geo.db");
+  ASSERT_EQ(units.size(), 2U);
+  EXPECT_EQ(units[0].strUnit, u"metre");
+  EXPECT_EQ(units[1].strUnit, u"metre");  // what the row before has left
+  EXPECT_EQ(units[1].strUnitShort, u"ft");
+}
+
+TEST_F(SqliteBinding, AReadFinalisesItsQueryAtTheEndThenClosesAndUnloads)
+{
+  library.rows = {{9001, "metre", "m"}, {9002, "foot", "ft"}};
+  EXPECT_EQ(ReadUnits(library, messages, u"geo.db").size(), 2U);
+  EXPECT_THAT(library.calls, ElementsAre("load", "initialize", "open", "prepare", "step", "step",
+                                         "step", "finalize", "close", "shutdown", "free"));
+}
+
+TEST_F(SqliteBinding, BehindTheLastRowTheLibraryIsNotAskedAgain)
+{
+  library.rows = {{9001, "metre", "m"}};
+  CSQLite sqlite(library, messages);
+  ASSERT_EQ(sqlite.Load(), 0);
+  ASSERT_EQ(sqlite.Open(u"geo.db"), 0);
+  ASSERT_EQ(sqlite.SelectUnits(), 1);
+  library.calls.clear();
+  EXPECT_FALSE(sqlite.Next());
+  EXPECT_THAT(library.calls, ElementsAre("step", "finalize"));
+  EXPECT_FALSE(sqlite.Next());
+  EXPECT_EQ(library.calls.size(), 2U);
 }
 
 TEST_F(SqliteBinding, TheQueryIsPassedWithItsLength)

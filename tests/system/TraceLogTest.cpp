@@ -105,6 +105,14 @@ TEST_F(TraceLog, ARecordLongerThanItsBufferCountsAsSeveralLinesOfTheLimit)
   EXPECT_TRUE(text.ends_with("y\r\n201|0.000|1|new\r\n"));
 }
 
+TEST_F(TraceLog, AHeaderLongerThanItsBufferEndsAtTheLimitAndTheRestIsARecord)
+{
+  MakeFolder();
+  folder.Write("Sondaris/Tracing/Trace_General.txt", "7" + std::string(2057, 'x') + "\n");
+  log.Trace(0.0, TraceLevel::Failure, u"General", u"new");
+  EXPECT_EQ(General(), "8\n" + std::string(10, 'x') + "\n8|0.000|1|new\r\n");
+}
+
 TEST_F(TraceLog, TextEndsAtANul)
 {
   MakeFolder();

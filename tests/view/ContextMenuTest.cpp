@@ -224,6 +224,17 @@ TEST_F(ContextMenu, AddVertexGoesToTheEndOfThePolylineMarkedInTheTree)
   EXPECT_EQ(Frames(), 1);
 }
 
+TEST_F(ContextMenu, AddVertexDrawsTheGridThatIsStoredWhenItsDialogCloses)
+{
+  AddLine({{0.0, 0.0, 0.0}}).editing = true;
+  host.accept = true;
+  host.whileEditing = [this] { host.grid.show = 1; };
+  view.OnRButtonDown({600, 500});
+  view.OnMenuCommand(CommandId::AddVertex);
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_EQ(recorder.Count("line 390 300 410 300"), 1);  // the cross at the origin
+}
+
 TEST_F(ContextMenu, AddVertexWithoutAMarkedPolylineOrCancelledDoesNothing)
 {
   CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});

@@ -20,7 +20,11 @@ TEST_F(View, BeginsIdle)
   EXPECT_EQ(fresh.viewPort, nullptr);
   EXPECT_EQ(fresh.newShape, nullptr);
   EXPECT_TRUE(fresh.statusText.empty());
+  EXPECT_EQ(fresh.dragVertex, PickedItem());
+  EXPECT_EQ(fresh.hitVertex, PickedItem());
   EXPECT_EQ(fresh.cursorPoint, ClientPoint{});
+  EXPECT_EQ(fresh.lastPoint, ClientPoint{});
+  EXPECT_EQ(fresh.menuPoint, ClientPoint{});
 }
 
 TEST_F(View, CreationHangsTheCanvasOnTheViewPort)
@@ -43,6 +47,15 @@ TEST_F(View, ACanvasThatFailsIsReportedAndTheViewGoesOn)
   blind.OnMouseWheel(120, {400, 300});
   EXPECT_EQ(other.viewPort->width, 150.0);
   EXPECT_EQ(Frames(), 0);
+}
+
+TEST_F(View, AFrameThatFailsIsNeitherReportedNorRepeated)
+{
+  recorder.failing = DrawingFailure::FrameEnd;
+  recorder.failCode = recreateTarget;
+  view.Repaint();
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(Frames(), 1);
 }
 
 TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
