@@ -16,6 +16,7 @@ ROOMS = {
     "render": "base model platform",
     "resources": "model",
     "file": "base model platform",
+    "compare": "base model",
     "dxf": "base model platform file",
     "exchange": "base model resources dxf",
     "view": "base model platform render resources",
