@@ -130,9 +130,11 @@ Differences CompareIn(UnitCode formerUnit, const DesignState& former, const Desi
 {
   const Tolerance tolerance(options.tolerance);
   Differences differences;
-  differences.offsets = CompareOffsets(former, formerUnit, current, tolerance);
-  differences.anchors =
-      CompareAnchors(*former.anchors, formerUnit, *current.anchors, current.unitCode, tolerance);
+  if (options.symbols) {
+    differences.offsets = CompareOffsets(former, formerUnit, current, tolerance);
+    differences.anchors =
+        CompareAnchors(*former.anchors, formerUnit, *current.anchors, current.unitCode, tolerance);
+  }
   const DesignRecords before(former, formerUnit, current.unitCode, options.shapes);
   const DesignRecords now(current, current.unitCode, current.unitCode, options.shapes);
   differences.shapes = CompareAllShapes(before, now, tolerance);

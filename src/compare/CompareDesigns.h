@@ -9,6 +9,7 @@ namespace hullwright {
 struct CompareOptions {
   double tolerance = 0.001;  ///< the largest difference that doesn't count, in the current unit
   ShapeChoice shapes;
+  bool symbols = true;  ///< whether offsets and anchors are compared
 };
 
 /// What differs between two designs: unit, offsets (one that is missing in either is not compared),

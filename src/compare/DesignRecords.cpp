@@ -63,7 +63,7 @@ private:
   UnitCode to_;
 };
 
-Look LookOf(const CShape& shape)
+LineLook LookOf(const CShape& shape)
 {
   const ShapeStyle plain;
   const ShapeStyle& style = shape.style ? *shape.style : plain;
@@ -72,8 +72,8 @@ Look LookOf(const CShape& shape)
 
 bool IsChosen(const CShapes& group, const CShape& shape, const ShapeChoice& choice)
 {
-  if (choice.side && group.viewCode != *choice.side) return false;
-  return !choice.onlyPolylines || shape.type == ShapeType::Polyline;
+  if (choice.side && !group.AnswersFor(*choice.side)) return false;
+  return !choice.onlySaved || shape.type == ShapeType::Polyline;
 }
 
 }  // namespace
@@ -93,10 +93,10 @@ DesignRecords::DesignRecords(const DesignState& design, UnitCode from, UnitCode 
     ForEachEntry(group.shapes, [&](const CShape& shape) {
       if (!IsChosen(group, shape, choice)) return;
       ShapeRecord& record = shapes_.emplace_back();
-      record.side = group.viewCode;
+      record.side = choice.side.value_or(group.viewCode);
       record.type = shape.type;
-      record.number = ++counts[{group.viewCode, shape.type}];
-      record.look = LookOf(shape);
+      record.number = ++counts[{record.side, shape.type}];
+      if (!choice.onlySaved) record.look = LookOf(shape);
       RecordFiller filler(record, places_, from, to);
       shape.Accept(filler);
       ends.push_back(places_.size());

@@ -28,14 +28,14 @@ struct ShapeRecord {
   ShapeType type = ShapeType::Polyline;
   std::size_t number = 0;  ///< from 1, among those of its type on its side
   std::span<const Place> vertices;
-  Look look;
+  LineLook look;
   ShapeForm form;
 };
 
 /// Which shapes are compared.
 struct ShapeChoice {
-  std::optional<ViewSide> side;  ///< only those of this side
-  bool onlyPolylines = false;    ///< which are what a design file keeps
+  std::optional<ViewSide> side;  ///< only those of groups that answer for this side, as its own
+  bool onlySaved = false;        ///< only what a design file keeps: polylines, without a look
 };
 
 /// The shapes of a design with their vertices in one list: zeros without a sign, and anything that

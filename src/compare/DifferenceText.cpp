@@ -7,7 +7,7 @@
 
 #include "base/Code.h"
 #include "base/Numbers.h"
-#include "base/Text.h"
+#include "base/VisibleText.h"
 
 namespace hullwright {
 namespace {
@@ -50,18 +50,6 @@ std::string ColourText(std::uint32_t colour)
   const std::uint32_t blue = colour >> 16U & 0xFFU;
   return "#" + FormatHex(red << 16U | green << 8U | blue, 6);
 }
-
-/// Whether a unit of a text shows as nothing, moves the line, or turns the direction of writing.
-bool CanNotBeSeen(char16_t unit)
-{
-  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-  const bool isMark = unit == 0x061C || (unit >= 0x200B && unit <= 0x200F) ||
-                      (unit >= 0x2028 && unit <= 0x202E) || (unit >= 0x2060 && unit <= 0x206F);
-  return isControl || isMark || unit == 0xFEFF;
-}
-
-bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
 /// Puts the lines together.
 class DifferenceWriter {
@@ -118,7 +106,7 @@ private:
 
   static std::string AnchorTitle(const AnchorRecord& anchor)
   {
-    return "anchor " + std::to_string(anchor.id) + " " + Quoted(anchor.name);
+    return "anchor " + std::to_string(anchor.id) + " " + QuotedText(anchor.name);
   }
 
   void WriteAnchor(const AnchorDifference& difference)
@@ -181,7 +169,7 @@ private:
     const std::size_t number = removed ? shape.number.former : shape.number.current;
     std::string line = std::string(NameOf(shape.type)) + " " + std::to_string(number);
     const std::u16string& words = removed ? shape.text.former : shape.text.current;
-    if (shape.type == ShapeType::Text) line += " " + Quoted(words);
+    if (shape.type == ShapeType::Text) line += " " + QuotedText(words);
     const bool renumbered = shape.number.former != 0 && shape.number.current != 0 &&
                             shape.number.former != shape.number.current;
     if (renumbered) line += " (was " + std::to_string(shape.number.former) + ")";
@@ -236,7 +224,7 @@ private:
     if (!shape.otherForm) return {};
     if (shape.type != ShapeType::Text) return ", parted in other rings";
     if (shape.text.former == shape.text.current) return ", another angle or height";
-    return ", was " + Quoted(shape.text.former);
+    return ", was " + QuotedText(shape.text.former);
   }
 
   static std::string OtherLook(const ShapeDifference& shape)
@@ -321,24 +309,6 @@ std::string_view NameOf(ShapeType type)
     default: break;
   }
   return "shape";
-}
-
-std::string Quoted(std::u16string_view text)
-{
-  std::string quoted = "\"";
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char16_t unit = text[i];
-    const bool pair = IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
-    if (pair) {
-      quoted += Utf8FromWide(text.substr(i++, 2));
-    } else if (CanNotBeSeen(unit) || IsHighSurrogate(unit) || IsLowSurrogate(unit)) {
-      quoted += "\\u" + FormatHex(unit, 4);
-    } else {
-      if (unit == u'"' || unit == u'\\') quoted += '\\';
-      quoted += Utf8FromWide(text.substr(i, 1));
-    }
-  }
-  return quoted + '"';
 }
 
 }  // namespace hullwright

@@ -29,9 +29,4 @@ std::string_view NameOf(OffsetKind kind);
 /// Name of a type of shapes, as people say it: "polyline".
 std::string_view NameOf(ShapeType type);
 
-/// A text in quotation marks, on one line: what can't be seen, such as a line break, NUL or a mark
-/// that turns the direction of writing, as the escape of its 16-bit unit ("\u000A"), quotation
-/// marks and backslashes behind a backslash.
-std::string Quoted(std::u16string_view text);
-
 }  // namespace hullwright

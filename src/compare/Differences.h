@@ -51,11 +51,11 @@ struct AnchorDifference {
 };
 
 /// How a shape is stroked.
-struct Look {
+struct LineLook {
   std::uint32_t colour = 0;  ///< 0x00BBGGRR, red in the low byte
   float width = 1.0F;        ///< in pixels
 
-  bool operator==(const Look&) const = default;
+  bool operator==(const LineLook&) const = default;
 };
 
 /// A vertex was added (the former number is 0), removed (the current number is 0) or moved.
@@ -75,10 +75,10 @@ struct ShapeDifference {
   ShapeChange change = ShapeChange::Changed;
   BeforeAndAfter<std::size_t> number{0, 0};  ///< 0 in the design that lacks it
   BeforeAndAfter<std::size_t> vertexCount{0, 0};
-  Place by;                                  ///< the way of all vertices of one that was moved
-  bool reversed = false;                     ///< the same vertices from the last to the first
-  std::vector<VertexDifference> vertices;    ///< of one that was changed
-  std::optional<BeforeAndAfter<Look>> look;  ///< where it is another
+  Place by;                                      ///< the way of all vertices of one that was moved
+  bool reversed = false;                         ///< the same vertices from the last to the first
+  std::vector<VertexDifference> vertices;        ///< of one that was changed
+  std::optional<BeforeAndAfter<LineLook>> look;  ///< where it is another
   bool otherForm =
       false;  ///< wording, angle or height of a text, or how an area is parted in rings
   BeforeAndAfter<std::u16string> text;  ///< of a text

@@ -44,7 +44,7 @@ bool IsOfOneForm(const ShapeRecord& a, const ShapeRecord& b)
 std::strong_ordering ContentOrder(const ShapeRecord& a, const ShapeRecord& b, bool byLook)
 {
   const auto head = [byLook](const ShapeRecord& s) {
-    const Look look = byLook ? s.look : Look();
+    const LineLook look = byLook ? s.look : LineLook();
     return std::tuple(NumberOf(s.side), NumberOf(s.type), s.vertices.size(), look.colour,
                       std::bit_cast<std::uint32_t>(look.width), BitsOf(s.form.angle),
                       BitsOf(s.form.height));
@@ -189,22 +189,40 @@ private:
     DropMatched();
   }
 
+  /// The shapes of a list that begin at a finite place, by that place: what was moved as a whole
+  /// keeps this order, and so comes together where many are alike.
+  static std::vector<std::size_t> ByPlace(const Shapes& shapes, std::vector<std::size_t> left)
+  {
+    const auto begin = [&shapes](std::size_t index) {
+      const GridItem item = BeginOf(shapes[index]);
+      return std::tuple(item.x, item.y);
+    };
+    std::erase_if(left, [&](std::size_t index) {
+      const auto [x, y] = begin(index);
+      return !std::isfinite(x) || !std::isfinite(y);
+    });
+    std::ranges::stable_sort(left, {}, begin);
+    return left;
+  }
+
   /// The pairs of one form whose items lie near each other and for which `fits` is true.
   template <class Fits>
   std::vector<Candidate> PairsOfForm(GridItem (*itemOf)(const ShapeRecord&), Fits fits) const
   {
-    const auto items = [&](const Shapes& shapes, const std::vector<std::size_t>& left) {
+    const auto items = [itemOf](const Shapes& shapes, const std::vector<std::size_t>& indices) {
       std::vector<GridItem> list;
-      for (const std::size_t index : left) list.push_back(itemOf(shapes[index]));
+      for (const std::size_t index : indices) list.push_back(itemOf(shapes[index]));
       return list;
     };
+    const std::vector<std::size_t> formers = ByPlace(former_, left_.former);
+    const std::vector<std::size_t> currents = ByPlace(current_, left_.current);
     std::vector<Candidate> candidates;
-    ForEachNearPair(items(former_, left_.former), items(current_, left_.current), cellSize_,
+    ForEachNearPair(items(former_, formers), items(current_, currents), cellSize_,
                     [&](std::size_t i, std::size_t k) {
-                      const ShapeRecord& former = former_[left_.former[i]];
-                      const ShapeRecord& current = current_[left_.current[k]];
+                      const ShapeRecord& former = former_[formers[i]];
+                      const ShapeRecord& current = current_[currents[k]];
                       if (!IsOfOneForm(former, current) || !fits(former, current)) return;
-                      candidates.push_back({left_.former[i], left_.current[k]});
+                      candidates.push_back({formers[i], currents[k]});
                     });
     return candidates;
   }
@@ -255,7 +273,7 @@ private:
       if (back == countsBack.end()) continue;
       const std::size_t common = std::min(count, back->second);
       const auto [shorter, longer] =
-          std::minmax(former_[pair.first].vertices.size(), current_[pair.second].vertices.size());
+          std::minmax({former_[pair.first].vertices.size(), current_[pair.second].vertices.size()});
       if (2 * common >= shorter && 4 * common >= longer) {
         candidates.push_back({pair.first, pair.second, common});
       }

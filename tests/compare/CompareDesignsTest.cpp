@@ -169,7 +169,24 @@ TEST_F(ComparedDesigns, OfADrawingHaveOtherWordings)
   EXPECT_EQ(changed.type, ShapeType::Text);
   EXPECT_TRUE(changed.otherForm);
   EXPECT_EQ(changed.text.former, u"Winch");
-  options.shapes.onlyPolylines = true;
+  options.shapes.onlySaved = true;
+  EXPECT_TRUE(Compare().None());
+}
+
+TEST_F(ComparedDesigns, AreComparedWithoutOffsetsAndAnchors)
+{
+  now.offsetGps->x = 1.0;
+  AddAnchor(now, 1, u"Bow", 1.0, 2.0);
+  options.symbols = false;
+  EXPECT_TRUE(Compare().None());
+}
+
+TEST_F(ComparedDesigns, OnOneSideHaveWhatAnswersForIt)
+{
+  AddFormer(ViewSide::All, {{1.0, 0.0, 0.0}});
+  AddNow(ViewSide::Left, {{1.0, 0.0, 0.0}});
+  EXPECT_EQ(Compare().shapes.size(), 2U);
+  options.shapes.side = ViewSide::Left;
   EXPECT_TRUE(Compare().None());
 }
 

@@ -112,14 +112,5 @@ TEST(DifferenceNumbers, HaveTheDecimalsThatTheToleranceNeeds)
   EXPECT_EQ(FormatWithin(1.23456789, 0.0), "1.23456789");
 }
 
-TEST(DifferenceQuotes, ShowWhatCannotBeSeen)
-{
-  EXPECT_EQ(Quoted(u"B\u00F6w"), "\"B\u00F6w\"");
-  EXPECT_EQ(Quoted(std::u16string_view(u"a\0b\r\u202E", 5)), "\"a\\u0000b\\u000D\\u202E\"");
-  EXPECT_EQ(Quoted(u"\"\\"), "\"\\\"\\\\\"");
-  EXPECT_EQ(Quoted(u"\U0001F6A2"), "\"\U0001F6A2\"");
-  EXPECT_EQ(Quoted(std::u16string(1, char16_t{0xD83D})), "\"\\uD83D\"");
-}
-
 }  // namespace
 }  // namespace hullwright::test

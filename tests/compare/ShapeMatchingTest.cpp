@@ -46,6 +46,20 @@ TEST_F(MatchedShapes, GoTheWayThatMostOfThemWent)
   EXPECT_EQ(differences.shapes[8].number.former, 5U);
 }
 
+TEST_F(MatchedShapes, ThatAreAllAlikeAreFoundInAnyOrder)
+{
+  constexpr int count = 100;
+  for (int i = 0; i < count; ++i) {
+    AddSquare(former, 5.0 * i, 0.0);
+    AddSquare(now, 5.0 * (count - 1 - i), 0.5);
+  }
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 1U * count);
+  for (const ShapeDifference& shape : differences.shapes) {
+    EXPECT_EQ(shape.by, (Place{0.0, 0.5, 0.0}));
+  }
+}
+
 TEST_F(MatchedShapes, WithMostVerticesInCommonBelongTogether)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 1, 0}});
