@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <QStringList>
 #include <algorithm>
 
 #include "paint/PaintText.h"
@@ -21,20 +22,32 @@ constexpr int textSize = 34;
 constexpr double cellPadding = 12.0;
 constexpr double fieldNameWidth = 330.0;
 
-constexpr int wrapped = Qt::TextWrapAnywhere | Qt::AlignTop;
+/// How a text goes on in the next line at a width: between words, or anywhere where a word is
+/// wider.
+int WrappingOf(const QString& text, const QFont& font, double textWidth)
+{
+  const QFontMetricsF metrics(font);
+  const QStringList words = text.split(QLatin1Char(' '));
+  const bool fits = std::all_of(words.begin(), words.end(), [&](const QString& word) {
+    return metrics.horizontalAdvance(word) <= textWidth;
+  });
+  return Qt::AlignTop | (fits ? Qt::TextWordWrap : Qt::TextWrapAnywhere);
+}
 
 /// Height of a text that goes on in the next line at a width.
 double HeightOf(const QString& text, const QFont& font, double textWidth)
 {
   constexpr double highest = 1e5;
   const QFontMetricsF metrics(font);
-  const QRectF box = metrics.boundingRect(QRectF(0.0, 0.0, textWidth, highest), wrapped, text);
+  const QRectF box = metrics.boundingRect(QRectF(0.0, 0.0, textWidth, highest),
+                                          WrappingOf(text, font, textWidth), text);
   return std::max(box.height(), metrics.height());
 }
 
 void PaintWrapped(QPainter& painter, const QRectF& area, const QString& text, bool atRight = false)
 {
-  painter.drawText(area, wrapped | (atRight ? Qt::AlignRight : Qt::AlignLeft), text);
+  const int wrapping = WrappingOf(text, painter.font(), area.width());
+  painter.drawText(area, wrapping | (atRight ? Qt::AlignRight : Qt::AlignLeft), text);
 }
 
 /// Puts a date in the place of the one that the toolkit writes, which is that of the clock.

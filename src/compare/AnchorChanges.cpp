@@ -19,7 +19,10 @@ struct AnchorKey {
   std::uint64_t x = 0;
   std::uint64_t y = 0;
 
-  auto operator<=>(const AnchorKey&) const = default;
+  bool operator<(const AnchorKey& other) const
+  {
+    return std::tie(id, name, x, y) < std::tie(other.id, other.name, other.x, other.y);
+  }
 };
 
 AnchorKey ByAll(const AnchorRecord& anchor)

@@ -49,9 +49,9 @@ std::strong_ordering ContentOrder(const ShapeRecord& a, const ShapeRecord& b, bo
                       std::bit_cast<std::uint32_t>(look.width), BitsOf(s.form.angle),
                       BitsOf(s.form.height));
   };
-  if (const auto order = head(a) <=> head(b); order != 0) return order;
-  if (const auto order = a.form.text <=> b.form.text; order != 0) return order;
-  if (const auto order = a.form.ringEnds <=> b.form.ringEnds; order != 0) return order;
+  if (const auto order = head(a) <=> head(b); std::is_neq(order)) return order;
+  if (const auto order = a.form.text <=> b.form.text; std::is_neq(order)) return order;
+  if (const auto order = a.form.ringEnds <=> b.form.ringEnds; std::is_neq(order)) return order;
   return std::lexicographical_compare_three_way(
       a.vertices.begin(), a.vertices.end(), b.vertices.begin(), b.vertices.end(),
       [](const Place& p, const Place& q) {
@@ -174,7 +174,7 @@ private:
   {
     const auto sorted = [byLook](const Shapes& shapes, std::vector<std::size_t> left) {
       std::ranges::stable_sort(left, [&](std::size_t a, std::size_t b) {
-        return ContentOrder(shapes[a], shapes[b], byLook) < 0;
+        return std::is_lt(ContentOrder(shapes[a], shapes[b], byLook));
       });
       return left;
     };
@@ -182,9 +182,9 @@ private:
     const std::vector<std::size_t> currents = sorted(current_, left_.current);
     for (std::size_t i = 0, k = 0; i < formers.size() && k < currents.size();) {
       const auto order = ContentOrder(former_[formers[i]], current_[currents[k]], byLook);
-      if (order == 0) matches_.push_back({formers[i], currents[k], MatchRule::Equal});
-      if (order <= 0) ++i;
-      if (order >= 0) ++k;
+      if (std::is_eq(order)) matches_.push_back({formers[i], currents[k], MatchRule::Equal});
+      if (std::is_lteq(order)) ++i;
+      if (std::is_gteq(order)) ++k;
     }
     DropMatched();
   }
@@ -211,6 +211,7 @@ private:
   {
     const auto items = [itemOf](const Shapes& shapes, const std::vector<std::size_t>& indices) {
       std::vector<GridItem> list;
+      list.reserve(indices.size());
       for (const std::size_t index : indices) list.push_back(itemOf(shapes[index]));
       return list;
     };
