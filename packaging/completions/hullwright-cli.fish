@@ -11,14 +11,22 @@ end
 
 complete -c hullwright-cli -f
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a check -d 'What saving a design would lose'
+complete -c hullwright-cli -n __hullwright_cli_no_verb -a diff -d 'What differs between two designs or drawings'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a export -d 'Write a design for other programs'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a import -d 'Import drawings into a design'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a info -d 'What designs and drawings hold'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -a render -d 'Draw sides as pictures'
+complete -c hullwright-cli -n __hullwright_cli_no_verb -a report -d 'Make a document of a design'
 complete -c hullwright-cli -n __hullwright_cli_no_verb -l version -d 'Show the version'
 complete -c hullwright-cli -s h -l help -d 'Show the usage'
 
 complete -c hullwright-cli -n '__hullwright_cli_verb check' -k -a '(__fish_complete_suffix .xml)'
+
+complete -c hullwright-cli -n '__hullwright_cli_verb diff' -F
+complete -c hullwright-cli -n '__hullwright_cli_verb diff' -s t -l tolerance -x -d 'The largest difference that does not count'
+complete -c hullwright-cli -n '__hullwright_cli_verb diff' -s s -l side -x -a 'top bottom right left front rear' -d 'The side to compare'
+complete -c hullwright-cli -n '__hullwright_cli_verb diff' -s j -l json -d 'As JSON, one document'
+complete -c hullwright-cli -n '__hullwright_cli_verb diff' -s o -l output -r -F -d 'Draw what differs as well'
 
 complete -c hullwright-cli -n '__hullwright_cli_verb export' -k -a '(__fish_complete_suffix .xml)'
 complete -c hullwright-cli -n '__hullwright_cli_verb export' -s s -l side -x -a 'top bottom right left front rear all' -d 'The side to write'
@@ -45,3 +53,6 @@ complete -c hullwright-cli -n '__hullwright_cli_verb render' -s g -l grid -x -a 
 complete -c hullwright-cli -n '__hullwright_cli_verb render' -s y -l symbols -x -a 'on off' -d 'Draw offsets and anchors or not'
 complete -c hullwright-cli -n '__hullwright_cli_verb render' -s c -l sheet -d 'All sides on one sheet'
 complete -c hullwright-cli -n '__hullwright_cli_verb render' -s o -l output -r -F -d 'The file to write'
+
+complete -c hullwright-cli -n '__hullwright_cli_verb report' -k -a '(__fish_complete_suffix .xml)'
+complete -c hullwright-cli -n '__hullwright_cli_verb report' -s o -l output -r -k -a '(__fish_complete_suffix .pdf)' -d 'The document to write'

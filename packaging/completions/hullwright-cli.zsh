@@ -9,10 +9,12 @@ _hullwright-cli() {
     '(- *)'{-h,--help}'[show the usage]' \
     '(- *)--version[show the version]' \
     '1:verb:((check\:"what saving a design would lose, and wrong numbers and units"
+              diff\:"what differs between two designs or drawings"
               export\:"write a design as a drawing, GeoJSON, a table or a picture"
               import\:"import drawings into a design"
               info\:"what designs and drawings hold"
-              render\:"draw sides of a design or drawing as pictures"))' \
+              render\:"draw sides of a design or drawing as pictures"
+              report\:"make a document of a design"))' \
     '*::argument:->argument' && return
 
   case $line[1] in
@@ -20,6 +22,16 @@ _hullwright-cli() {
       _arguments \
         '(- *)'{-h,--help}'[show the usage]' \
         '*:design:_files -g "*.xml(-.)"'
+      ;;
+    diff)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-t --tolerance)'{-t+,--tolerance=}'[the largest difference that does not count]:length: ' \
+        '(-s --side)'{-s+,--side=}"[the side to compare]:side:$sides" \
+        '(-j --json)'{-j,--json}'[as JSON, one document]' \
+        '(-o --output)'{-o+,--output=}'[draw what differs as well]:picture:_files -g "*.(#i)(png|svg|pdf)(-.)"' \
+        '1:former design or drawing:_files -g "*.(#i)(xml|dxf)(-.)"' \
+        '2:new design or drawing:_files -g "*.(#i)(xml|dxf)(-.)"'
       ;;
     export)
       _arguments \
@@ -58,6 +70,12 @@ _hullwright-cli() {
         '(-c --sheet)'{-c,--sheet}'[all sides on one sheet]' \
         '(-o --output)'{-o+,--output=}'[the file to write]:picture:_files -g "*.(#i)(png|svg|pdf)(-.)"' \
         '1:design or drawing:_files -g "*.(#i)(xml|dxf)(-.)"'
+      ;;
+    report)
+      _arguments \
+        '(- *)'{-h,--help}'[show the usage]' \
+        '(-o --output)'{-o+,--output=}'[the document to write]:document:_files -g "*.(#i)pdf(-.)"' \
+        '1:design:_files -g "*.xml(-.)"'
       ;;
   esac
 }

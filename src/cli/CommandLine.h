@@ -22,13 +22,16 @@ struct Verb {
   const char* name;
   const char* help;
   int (*run)(int argc, char** argv);  ///< the first argument is the verb
+  int trouble = exitFailed;           ///< status where memory or standard output ends
 };
 
 extern const Verb checkVerb;
+extern const Verb diffVerb;
 extern const Verb exportVerb;
 extern const Verb importVerb;
 extern const Verb infoVerb;
 extern const Verb renderVerb;
+extern const Verb reportVerb;
 
 /// Reports what went wrong on standard error; the exit status for a failure.
 int Fail(const std::string& problem);

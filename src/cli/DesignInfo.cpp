@@ -48,12 +48,6 @@ bool HasBox(const GroupSummary& summary) { return summary.box.minX <= summary.bo
 
 std::string Place(double x, double y) { return FormatFixed(x, 3) + ", " + FormatFixed(y, 3); }
 
-std::string UnitOf(HeadlessEditor& editor)
-{
-  const std::u16string name = editor.App().GetUnitName();
-  return name.empty() ? "unknown" : Utf8FromWide(name);
-}
-
 void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
 {
   json.BeginObject();
@@ -88,6 +82,12 @@ void WriteGroup(JsonWriter& json, const CShapes& group)
 }
 
 }  // namespace
+
+std::string UnitOf(HeadlessEditor& editor)
+{
+  const std::u16string name = editor.App().GetUnitName();
+  return name.empty() ? "unknown" : Utf8FromWide(name);
+}
 
 void PrintDesign(HeadlessEditor& editor, const std::string& name)
 {

@@ -17,29 +17,29 @@ constexpr const char* help =
     "Works on vessel designs and drawings without a window.\n"
     "\n"
     "  check    report what saving a design would lose, and wrong numbers and units\n"
+    "  diff     report what differs between two designs or drawings\n"
     "  export   write a design as a drawing, GeoJSON, a table or a picture\n"
     "  import   import drawings into a design\n"
     "  info     report what designs and drawings hold\n"
     "  render   draw sides of a design or drawing as pictures\n"
+    "  report   make a document of a design: offsets, anchors, and the sides to scale\n"
     "\n"
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage; check has a status of its own.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage; check and diff have statuses of\n"
+    "their own.\n";
 
-const std::array<const Verb*, 5> verbs = {&checkVerb, &exportVerb, &importVerb, &infoVerb,
-                                          &renderVerb};
+const std::array<const Verb*, 7> verbs = {&checkVerb, &diffVerb,   &exportVerb, &importVerb,
+                                          &infoVerb,  &renderVerb, &reportVerb};
 
-/// The status of a run whose output must have reached its reader.
-int WithOutput(int status)
-{
-  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-  return Fail("standard output: it can't be written");
-}
+/// Whether what was printed has reached its reader.
+bool OutputIsWhole() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
 
 bool IsHelp(std::string_view argument) { return argument == "-h" || argument == "--help"; }
 
-int RunVerb(int argc, char** argv)
+/// Does what the arguments ask for; `trouble` becomes the verb's own status for a failure.
+int RunVerb(int argc, char** argv, int& trouble)
 {
   if (argc < 2) return UsageError(nullptr, "nothing to do");
   const std::string_view word = argv[1];
@@ -58,6 +58,7 @@ int RunVerb(int argc, char** argv)
     std::fputs((*verb)->help, stdout);
     return 0;
   }
+  trouble = (*verb)->trouble;
   return (*verb)->run(argc - 1, argv + 1);
 }
 
@@ -67,9 +68,13 @@ int main(int argc, char** argv)
 {
   // A file that grows too large is an error to be reported, not the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
+  int trouble = exitFailed;
   try {
-    return WithOutput(RunVerb(argc, argv));
+    const int status = RunVerb(argc, argv, trouble);
+    if (OutputIsWhole()) return status;
+    Fail("standard output: it can't be written");
   } catch (const std::exception& problem) {
-    return Fail(problem.what());
+    Fail(problem.what());
   }
+  return trouble;
 }

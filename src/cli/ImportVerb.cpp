@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -11,6 +9,7 @@
 #include "cli/CommandLine.h"
 #include "cli/HeadlessEditor.h"
 #include "cli/ShapesJson.h"
+#include "cli/TerminalProgress.h"
 #include "dxf/FileDxf.h"
 #include "headless/KeptTrace.h"
 #include "headless/SilentWindow.h"
@@ -46,30 +45,6 @@ struct Options {
   std::string output;
   ViewSide side = ViewSide::Top;
   bool json = false;
-};
-
-/// Shows the progress of an import on a terminal; in a pipe it is silent.
-class TerminalProgress : public NoWidgets {
-public:
-  void StartProgress(std::string_view) override { Show(0); }
-  void ShowProgress(int percent) override { Show(percent); }
-  void EndProgress() override
-  {
-    if (isTerminal_) std::fputs("\r\033[K", stderr);
-  }
-
-private:
-  void Show(int percent) const
-  {
-    constexpr int width = 40;
-    if (!isTerminal_) return;
-    const int done = std::clamp(percent, 0, 100) * width / 100;
-    const std::string bar = std::string(static_cast<std::size_t>(done), '#') +
-                            std::string(static_cast<std::size_t>(width - done), '.');
-    std::fprintf(stderr, "\rimporting [%s] %3d %%", bar.c_str(), percent);
-  }
-
-  bool isTerminal_ = isatty(STDERR_FILENO) != 0;
 };
 
 /// Takes the progress where there is no frame.

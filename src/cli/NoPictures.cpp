@@ -1,19 +1,27 @@
 #include "cli/CommandLine.h"
+#include "cli/DiffPicture.h"
 #include "cli/Picture.h"
 
 namespace hullwright {
 namespace {
 
-constexpr const char* help =
+constexpr const char* renderHelp =
     "Usage: hullwright-cli render\n"
     "Would draw sides of a vessel design, or of a drawing, as pictures. This program was\n"
     "built without pictures.\n"
     "\n"
     "Exit status: 1.\n";
 
+constexpr const char* reportHelp =
+    "Usage: hullwright-cli report\n"
+    "Would make a document of a vessel design. This program was built without pictures.\n"
+    "\n"
+    "Exit status: 1.\n";
+
 constexpr const char* noPictures = "built without pictures";
 
-int Run(int, char**) { return Fail(std::string("render: ") + noPictures); }
+int RunRender(int, char**) { return Fail(std::string("render: ") + noPictures); }
+int RunReport(int, char**) { return Fail(std::string("report: ") + noPictures); }
 
 }  // namespace
 
@@ -22,6 +30,12 @@ std::string WritePictures(const PictureRequest& request)
   return request.output + ": " + noPictures;
 }
 
-const Verb renderVerb = {"render", help, Run};
+std::string WriteDiffPicture(const DiffPictureRequest&)
+{
+  return std::string("diff: ") + noPictures;
+}
+
+const Verb renderVerb = {"render", renderHelp, RunRender};
+const Verb reportVerb = {"report", reportHelp, RunReport};
 
 }  // namespace hullwright

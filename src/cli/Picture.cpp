@@ -1,58 +1,29 @@
 #include "cli/Picture.h"
 
-#include <QBuffer>
-#include <QGuiApplication>
-#include <QPageSize>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPicture>
-#include <QSvgGenerator>
 #include <algorithm>
-#include <deque>
 #include <filesystem>
 
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/PictureFile.h"
+#include "cli/PictureName.h"
+#include "cli/PictureSheet.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
-#include "paint/PaintText.h"
-#include "resources/Strings.h"
 #include "system/InputFile.h"
-#include "system/OutputFile.h"
 
 namespace hullwright {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Fonts need the toolkit, but no display.
-void StartToolkit()
-{
-  if (QCoreApplication::instance() != nullptr) return;
-  // The toolkit's remarks on a machine without a desktop are nothing to the user of a command line.
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  static int count = 3;
-  static char program[] = "hullwright-cli";
-  static char option[] = "-platform";
-  static char platform[] = "offscreen";
-  static char* arguments[] = {program, option, platform, nullptr};
-  static const QGuiApplication toolkit(count, arguments);
-}
-
-std::string EndingOf(const std::string& path)
-{
-  std::string ending = path == "-" ? ".png" : fs::path(path).extension().string();
-  std::ranges::transform(ending, ending.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-  });
-  return ending;
-}
-
 /// The ending that decides the format.
 std::string FormatOf(const PictureRequest& request)
 {
-  return request.ending.empty() ? EndingOf(request.output) : request.ending;
+  return request.ending.empty() ? PictureEnding(request.output) : request.ending;
 }
 
 /// Sides of a design, drawn on whatever is wanted.
@@ -113,140 +84,24 @@ private:
   HeadlessEditor editor_;
 };
 
-/// The bytes of a picture file of a size in pixels that `paint` paints on. Empty where there is no
-/// memory for it.
-template <class Paint>
-QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
+/// The sheet of all sides that are asked for.
+PictureSheet SheetOf(const PictureRequest& request)
 {
-  const QString title = QString::fromLatin1(Strings::program);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  if (ending == ".svg") {
-    QSvgGenerator svg;
-    svg.setOutputDevice(&buffer);
-    svg.setTitle(title);
-    svg.setSize(size);
-    svg.setViewBox(QRect(QPoint(0, 0), size));
-    svg.setResolution(96);
-    paint(svg);
-  } else if (ending == ".pdf") {
-    constexpr double pointsPerPixel = 72.0 / 96.0;
-    QPdfWriter pdf(&buffer);
-    pdf.setResolution(96);
-    pdf.setTitle(title);
-    pdf.setPageMargins(QMarginsF());
-    pdf.setPageSize(QPageSize(QSizeF(size) * pointsPerPixel, QPageSize::Point, QString(),
-                              QPageSize::ExactMatch));
-    paint(pdf);
-  } else {
-    QImage picture(size, QImage::Format_RGB32);
-    if (picture.isNull()) return {};
-    picture.fill(Qt::white);
-    paint(picture);
-    // The first level of compression: two thirds of the time for a twentieth more bytes.
-    constexpr int firstLevel = 80;  // of the toolkit's quality, where 100 is no compression
-    picture.save(&buffer, "PNG", firstLevel);
-  }
-  return bytes;
-}
-
-/// Where the sides stand on a sheet, two beside each other or three.
-struct SheetLayout {
-  static constexpr int gap = 24;
-  static constexpr int caption = 40;
-
-  explicit SheetLayout(const PictureRequest& request)
-      : count(static_cast<int>(request.sides.size())),
-        columns(count > 4 ? 3 : std::min(count, 2)),
-        cell(request.width + gap, request.height + caption + gap)
-  {
-  }
-
-  QSize Size() const
-  {
-    const int rows = (count + columns - 1) / columns;
-    return {columns * cell.width() + gap, rows * cell.height() + gap};
-  }
-
-  QPoint Corner(int i) const
-  {
-    return {gap + i % columns * cell.width(), gap + i / columns * cell.height()};
-  }
-
-  int count;
-  int columns;
-  QSize cell;
-};
-
-std::string PixelsOf(QSize size)
-{
-  return std::to_string(size.width()) + "x" + std::to_string(size.height()) + " pixels";
-}
-
-/// Why there is no sheet of this size; empty where there is.
-std::string SheetProblem(const PictureRequest& request)
-{
-  constexpr int largest = 32767;  // of the toolkit's pictures
-  const QSize size = SheetLayout(request).Size();
-  if (size.width() <= largest && size.height() <= largest) return {};
-  return "the sheet would have " + PixelsOf(size) + ", more than " + std::to_string(largest) +
-         " one way; a smaller --size makes a smaller sheet";
+  std::vector<std::string> names;
+  for (const ViewSideEntry& side : request.sides) names.emplace_back(side.name);
+  return {QSize(request.width, request.height), std::move(names)};
 }
 
 /// Paints all sides with their names.
 QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
 {
-  const SheetLayout layout(request);
-  const QSize size = layout.Size();
-  return MakeFile(FormatOf(request), size, [&](QPaintDevice& device) {
-    QPainter sheet(&device);
-    sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
-    QFont font(QString::fromLatin1(sansFace));
-    font.setPixelSize(SheetLayout::caption / 2);
-    sheet.setFont(font);
-    for (int i = 0; i < layout.count; ++i) {
-      const ViewSideEntry& side = request.sides[static_cast<std::size_t>(i)];
-      const QPoint corner = layout.Corner(i);
-      const QRect area(corner, QSize(request.width, request.height));
-      QPicture picture;
-      painter.Paint(side, picture);
-      sheet.save();
-      sheet.setClipRect(area);
-      sheet.drawPicture(corner, picture);
-      sheet.restore();
-      sheet.setPen(Qt::black);
-      sheet.drawText(QRect(area.bottomLeft(), QSize(area.width(), SheetLayout::caption)),
-                     Qt::AlignCenter,
-                     QString::fromUtf8(side.name.data(), static_cast<qsizetype>(side.name.size())));
-    }
-  });
+  return SheetOf(request).Make(FormatOf(request),
+                               [&](std::size_t i, QPoint corner, QPainter& sheet) {
+                                 QPicture picture;
+                                 painter.Paint(request.sides[i], picture);
+                                 sheet.drawPicture(corner, picture);
+                               });
 }
-
-/// Pictures that come to be all together, or none of them.
-class PictureFiles {
-public:
-  /// Writes a picture beside its place. Empty on success, else what went wrong.
-  std::string Add(const std::string& path, const QByteArray& bytes)
-  {
-    if (bytes.isEmpty()) return path + ": no memory for a picture of this size";
-    OutputFile& file = files_.emplace_back(path);
-    const bool written = file.Write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    return written ? std::string() : file.Problem();
-  }
-
-  /// Puts the pictures in their places. Empty on success, else what went wrong.
-  std::string Commit()
-  {
-    for (OutputFile& file : files_) {
-      if (!file.Commit()) return file.Problem();
-    }
-    return {};
-  }
-
-private:
-  std::deque<OutputFile> files_;
-};
 
 std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 {
@@ -259,17 +114,11 @@ std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 
 }  // namespace
 
-bool IsPictureName(const std::string& path)
-{
-  const std::string ending = EndingOf(path);
-  return ending == ".png" || ending == ".svg" || ending == ".pdf";
-}
-
 std::string WritePictures(const PictureRequest& request)
 {
   StartToolkit();
   if (request.sheet) {
-    if (std::string problem = SheetProblem(request); !problem.empty()) return problem;
+    if (std::string problem = SheetOf(request).Problem(); !problem.empty()) return problem;
   }
   SidePainter painter(request);
   if (!painter.HasRoom()) {
@@ -285,8 +134,8 @@ std::string WritePictures(const PictureRequest& request)
     const QSize size(request.width, request.height);
     for (const ViewSideEntry& side : request.sides) {
       problem = files.Add(NameFor(request, side),
-                          MakeFile(FormatOf(request), size,
-                                   [&](QPaintDevice& device) { painter.Paint(side, device); }));
+                          MakePicture(FormatOf(request), size,
+                                      [&](QPaintDevice& device) { painter.Paint(side, device); }));
       if (!problem.empty()) break;
     }
   }

@@ -27,7 +27,4 @@ struct PictureRequest {
 /// else what went wrong. A file is written whole or not at all.
 std::string WritePictures(const PictureRequest& request);
 
-/// Whether the ending of a path is that of a picture format.
-bool IsPictureName(const std::string& path);
-
 }  // namespace hullwright

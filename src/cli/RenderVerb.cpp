@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "cli/CommandLine.h"
 #include "cli/Picture.h"
+#include "cli/PictureName.h"
 
 namespace hullwright {
 namespace {

@@ -10,7 +10,7 @@ import unittest
 
 PROGRAM = sys.argv.pop(1)
 SAMPLES = pathlib.Path(sys.argv.pop(1))
-VERBS = ("check", "export", "import", "info", "render")
+VERBS = ("check", "diff", "export", "import", "info", "render", "report")
 # The person's own units, logs and former versions are none of the tests' business.
 FOLDERS = {"XDG_STATE_HOME": "/dev/null", "XDG_DATA_HOME": "/dev/null", "XDG_DATA_DIRS": "/dev/null"}
 SIDES = ("top", "bottom", "right", "left", "front", "rear")

@@ -14,8 +14,15 @@ class NoPicturesTest(CliTest):
         self.fail_with(1, ("boat.svg: built without pictures",), "export", SAMPLES / "workboat.xml",
                        "-o", self.folder / "boat.svg")
 
-    def test_its_help_says_so(self):
-        self.assertIn(b"built without pictures", self.succeed("render", "--help"))
+    def test_so_do_the_report_and_the_picture_of_differences(self):
+        self.fail_with(1, ("report: built without pictures",), "report", SAMPLES / "workboat.xml",
+                       "-o", self.folder / "boat.pdf")
+        self.fail_with(2, ("diff: built without pictures",), "diff", SAMPLES / "workboat.xml", SAMPLES / "dredger.xml",
+                       "-o", self.folder / "boat.png")
+
+    def test_their_help_says_so(self):
+        for verb in ("render", "report"):
+            self.assertIn(b"built without pictures", self.succeed(verb, "--help"))
 
     def test_the_other_verbs_work(self):
         self.assertIn(b"workboat.xml", self.succeed("info", SAMPLES / "workboat.xml"))

@@ -16,20 +16,21 @@ ROOMS = {
     "render": "base model platform",
     "resources": "model",
     "file": "base model platform",
+    "compare": "base model",
     "dxf": "base model platform file",
     "exchange": "base model resources dxf",
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
     "paint": "base model platform render",
     "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform system headless render resources file dxf exchange view app paint",
+    "cli": "base model platform system headless render resources file dxf compare exchange view app paint",
 }
 
 # where the programs start, which alone give the rooms what the system has for them
 START = ("cli/", "qt/Hullwright.cpp", "qt/Shell.", "system/")
 
 # rooms, and single files, that may include the toolkit's headers
-TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp")
+TOOLKIT = ("paint/", "qt/", "cli/DiffPicture.cpp", "cli/Picture", "cli/Report")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<(Q[A-Za-z0-9/]+)>)')
 

@@ -9,7 +9,7 @@ import sys
 import unittest
 
 CLI, FOLDER = sys.argv.pop(1), pathlib.Path(sys.argv.pop(1))
-VERBS = ("check", "export", "import", "info", "render")
+VERBS = ("check", "diff", "export", "import", "info", "render", "report")
 SIDES = ["top", "bottom", "right", "left", "front", "rear"]
 
 
@@ -57,6 +57,7 @@ class Bash(unittest.TestCase):
         self.assertEqual(by_bash("render", "--grid", ""), ["on", "off"])
         self.assertEqual(by_bash("export", "--dxf-version", ""), ["R2000", "R12"])
         self.assertEqual(by_bash("export", "--layer-by", "="), ["side", "kind"])
+        self.assertEqual(by_bash("diff", "--side", ""), SIDES)
 
     def test_offers_the_files_that_a_verb_takes(self):
         drawings = FOLDER / "../../samples/dxf/"
@@ -66,6 +67,8 @@ class Bash(unittest.TestCase):
         samples = [name.rpartition("/")[2] for name in by_bash("check", f"{drawings}/../")]
         self.assertIn("workboat.xml", samples)
         self.assertNotIn("draw_samples.py", samples)
+        self.assertTrue(by_bash("diff", f"{drawings}/"))
+        self.assertFalse(by_bash("report", f"{drawings}/"))
 
 
 class Fish(unittest.TestCase):

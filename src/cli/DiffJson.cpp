@@ -1,0 +1,192 @@
+#include "cli/DiffJson.h"
+
+#include <array>
+
+#include "base/Code.h"
+#include "cli/DesignFindings.h"
+
+namespace hullwright {
+namespace {
+
+void WritePlace(JsonWriter& json, const Place& place) { json.Doubles({place.x, place.y, place.z}); }
+
+/// Writes a number that counts from 1; null for 0.
+void WriteNumber(JsonWriter& json, std::size_t number)
+{
+  if (number == 0) return json.Null();
+  json.Integer(static_cast<std::int64_t>(number));
+}
+
+/// Writes a member of two values, the former and the current one.
+template <class T, class Write>
+void WritePair(JsonWriter& json, std::string_view key, const BeforeAndAfter<T>& pair, Write write)
+{
+  json.Key(key);
+  json.BeginObject();
+  json.Key("former");
+  write(pair.former);
+  json.Key("current");
+  write(pair.current);
+  json.EndObject();
+}
+
+void WriteUnit(JsonWriter& json, const UnitDifference& unit, const DiffSubject& subject)
+{
+  const auto write = [&json](std::string_view key, UnitCode code, const std::string& name) {
+    json.Key(key);
+    json.BeginObject();
+    json.Key("code");
+    json.Integer(NumberOf(code));
+    json.Key("name");
+    json.Text(WideFromUtf8(name));
+    json.EndObject();
+  };
+  json.BeginObject();
+  write("former", unit.unit.former, subject.unit.former);
+  write("current", unit.unit.current, subject.unit.current);
+  json.Key("sameNumbers");
+  json.Boolean(unit.sameNumbers);
+  json.EndObject();
+}
+
+void WriteOffset(JsonWriter& json, const OffsetDifference& offset)
+{
+  json.BeginObject();
+  json.Key("name");
+  json.Ascii(NameOf(offset.kind));
+  json.Key("former");
+  WritePlace(json, offset.place.former);
+  json.Key("current");
+  WritePlace(json, offset.place.current);
+  json.Key("distance");
+  json.Double(LengthOf(Way(offset.place.former, offset.place.current)));
+  json.EndObject();
+}
+
+void WriteAnchor(JsonWriter& json, const AnchorDifference& difference)
+{
+  const auto write = [&json](const std::optional<AnchorRecord>& anchor) {
+    if (!anchor) return json.Null();
+    json.BeginObject();
+    json.Key("id");
+    json.Integer(anchor->id);
+    json.Key("name");
+    json.Text(anchor->name);
+    json.Key("attachment");
+    json.Doubles({anchor->place.x, anchor->place.y});
+    json.EndObject();
+  };
+  const auto& [former, current] = difference.anchor;
+  json.BeginObject();
+  json.Key("change");
+  json.Ascii(!former ? "added" : !current ? "removed" : "changed");
+  json.Key("former");
+  write(former);
+  json.Key("current");
+  write(current);
+  if (former && current) {
+    json.Key("distance");
+    json.Double(LengthOf(Way(former->place, current->place)));
+  }
+  json.EndObject();
+}
+
+void WriteVertex(JsonWriter& json, const VertexDifference& vertex)
+{
+  const auto write = [&json](std::string_view key, std::size_t number, const Place& place) {
+    json.Key(key);
+    if (number == 0) return json.Null();
+    json.BeginObject();
+    json.Key("number");
+    WriteNumber(json, number);
+    json.Key("place");
+    WritePlace(json, place);
+    json.EndObject();
+  };
+  json.BeginObject();
+  write("former", vertex.number.former, vertex.place.former);
+  write("current", vertex.number.current, vertex.place.current);
+  if (vertex.number.former != 0 && vertex.number.current != 0) {
+    json.Key("distance");
+    json.Double(LengthOf(Way(vertex.place.former, vertex.place.current)));
+  }
+  json.EndObject();
+}
+
+void WriteShape(JsonWriter& json, const ShapeDifference& shape)
+{
+  static constexpr std::array<const char*, 4> changes = {"added", "removed", "moved", "changed"};
+  json.BeginObject();
+  json.Key("side");
+  json.Ascii(GroupName(shape.side));
+  json.Key("type");
+  json.Ascii(NameOf(shape.type));
+  json.Key("change");
+  json.Ascii(changes.at(static_cast<std::size_t>(shape.change)));
+  WritePair(json, "number", shape.number, [&](std::size_t number) { WriteNumber(json, number); });
+  WritePair(json, "vertices", shape.vertexCount,
+            [&](std::size_t count) { json.Integer(static_cast<std::int64_t>(count)); });
+  if (shape.change == ShapeChange::Moved) {
+    json.Key("by");
+    WritePlace(json, shape.by);
+    json.Key("distance");
+    json.Double(LengthOf(shape.by));
+  }
+  json.Key("reversed");
+  json.Boolean(shape.reversed);
+  json.Key("changedVertices");
+  json.BeginArray();
+  for (const VertexDifference& vertex : shape.vertices) WriteVertex(json, vertex);
+  json.EndArray();
+  if (shape.look) {
+    WritePair(json, "look", *shape.look, [&](const LineLook& look) {
+      json.BeginObject();
+      json.Key("line");
+      json.Integer(look.colour);
+      json.Key("width");
+      json.Double(static_cast<double>(look.width));
+      json.EndObject();
+    });
+  }
+  if (shape.otherForm) {
+    WritePair(json, "form", shape.text, [&](const std::u16string& text) { json.Text(text); });
+  }
+  json.EndObject();
+}
+
+template <class T, class Write>
+void WriteList(JsonWriter& json, std::string_view key, const std::vector<T>& list, Write write)
+{
+  json.Key(key);
+  json.BeginArray();
+  for (const T& entry : list) write(json, entry);
+  json.EndArray();
+}
+
+}  // namespace
+
+void WriteDiffJson(JsonWriter& json, const Differences& differences, const DiffSubject& subject)
+{
+  json.BeginObject();
+  json.Key("former");
+  json.Text(WideFromUtf8(subject.name.former));
+  json.Key("current");
+  json.Text(WideFromUtf8(subject.name.current));
+  json.Key("tolerance");
+  json.Double(subject.tolerance);
+  json.Key("equal");
+  json.Boolean(differences.None());
+  json.Key("unit");
+  if (differences.unit) {
+    WriteUnit(json, *differences.unit, subject);
+  } else {
+    json.Null();
+  }
+  WriteList(json, "offsets", differences.offsets, WriteOffset);
+  WriteList(json, "anchors", differences.anchors, WriteAnchor);
+  WriteList(json, "shapes", differences.shapes, WriteShape);
+  json.EndObject();
+  json.EndLine();
+}
+
+}  // namespace hullwright

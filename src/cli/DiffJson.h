@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "base/Json.h"
+#include "compare/DifferenceText.h"
+
+namespace hullwright {
+
+/// What a comparison was made of.
+struct DiffSubject {
+  BeforeAndAfter<std::string> name;  ///< of the files
+  BeforeAndAfter<std::string> unit;  ///< names of the units
+  double tolerance = 0.0;
+};
+
+/// Writes differences as one JSON document, whole: a member for each kind, empty or null where
+/// there is no difference. Places are lists of x, y and z, of x and y for anchors.
+void WriteDiffJson(JsonWriter& json, const Differences& differences, const DiffSubject& subject);
+
+}  // namespace hullwright

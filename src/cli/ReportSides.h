@@ -1,0 +1,32 @@
+#pragma once
+
+#include "cli/HeadlessEditor.h"
+#include "cli/ReportPages.h"
+#include "paint/PaintSurface.h"
+#include "paint/PaintTarget.h"
+#include "resources/ViewSides.h"
+
+namespace hullwright {
+
+/// Draws the sides of a design to scale.
+class ReportSides {
+public:
+  ReportSides();
+
+  HeadlessEditor& Editor() { return editor_; }
+
+  /// Adds a side with its name, its scale, a bar of a round length, and what stands on it; a line
+  /// where nothing can be drawn. `unit` is what lengths are named by.
+  void Add(ReportPages& pages, const ViewSideEntry& side, const QString& unit);
+
+private:
+  PaintSurface surface_;
+  PaintTarget target_{surface_};
+  HeadlessEditor editor_;
+};
+
+/// The smallest round number (1, 2, 2.5 or 5 times a power of ten) that isn't below a positive
+/// value; the denominators of scales.
+double RoundUp(double value);
+
+}  // namespace hullwright

@@ -1,0 +1,157 @@
+#include "compare/CompareDesigns.h"
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+#include <utility>
+
+#include "base/Code.h"
+#include "compare/AnchorChanges.h"
+#include "compare/ShapeMatching.h"
+#include "compare/VertexChanges.h"
+
+namespace hullwright {
+namespace {
+
+struct OffsetRow {
+  OffsetKind kind;
+  std::unique_ptr<CShapeVertex> DesignState::*member;
+};
+
+constexpr std::array<OffsetRow, 3> offsetRows = {{
+    {OffsetKind::Antenna, &DesignState::offsetGps},
+    {OffsetKind::EchoSounder, &DesignState::offsetTransducer},
+    {OffsetKind::Pivot, &DesignState::offsetPivot},
+}};
+
+std::vector<OffsetDifference> CompareOffsets(const DesignState& former, UnitCode formerUnit,
+                                             const DesignState& current, const Tolerance& tolerance)
+{
+  std::vector<OffsetDifference> differences;
+  for (const OffsetRow& row : offsetRows) {
+    const CShapeVertex* const before = (former.*row.member).get();
+    const CShapeVertex* const now = (current.*row.member).get();
+    if (before == nullptr || now == nullptr) continue;
+    const Place formerPlace = PlaceOf(*before, formerUnit, current.unitCode);
+    const Place place = PlaceOf(*now, current.unitCode, current.unitCode);
+    if (!tolerance.Same(formerPlace, place))
+      differences.push_back({row.kind, {formerPlace, place}});
+  }
+  return differences;
+}
+
+/// A difference without what differs.
+ShapeDifference DifferenceOf(ShapeChange change, const ShapeRecord* former,
+                             const ShapeRecord* current)
+{
+  const ShapeRecord& shown = current == nullptr ? *former : *current;
+  ShapeDifference difference;
+  difference.side = shown.side;
+  difference.type = shown.type;
+  difference.change = change;
+  if (former != nullptr) {
+    difference.number.former = former->number;
+    difference.vertexCount.former = former->vertices.size();
+    difference.text.former = former->form.text;
+  }
+  if (current != nullptr) {
+    difference.number.current = current->number;
+    difference.vertexCount.current = current->vertices.size();
+    difference.text.current = current->form.text;
+  }
+  for (const Place& vertex : shown.vertices) difference.box.Widen(vertex.x, vertex.y);
+  return difference;
+}
+
+/// What differs between two shapes that are one and the same; nothing where they are equal.
+std::optional<ShapeDifference> CompareShapes(const ShapeRecord& former, const ShapeRecord& current,
+                                             MatchRule rule, const Tolerance& tolerance)
+{
+  ShapeDifference difference = DifferenceOf(ShapeChange::Changed, &former, &current);
+  if (former.look != current.look) difference.look = {{former.look, current.look}};
+  difference.otherForm = former.form != current.form;
+  if (rule == MatchRule::Moved) {
+    difference.change = ShapeChange::Moved;
+    difference.by = Way(former.vertices[0], current.vertices[0]);
+    return difference;
+  }
+  if (rule == MatchRule::Common) {
+    difference.vertices = CompareVertices(former.vertices, current.vertices, tolerance);
+    difference.reversed =
+        !difference.vertices.empty() && IsReversed(former.vertices, current.vertices, tolerance);
+    if (difference.reversed) difference.vertices.clear();
+  }
+  const bool differs = difference.look || difference.otherForm || difference.reversed ||
+                       !difference.vertices.empty();
+  return differs ? std::optional(std::move(difference)) : std::nullopt;
+}
+
+/// By side and type, in the order of the current design; removed shapes come last.
+bool IsReportedBefore(const ShapeDifference& a, const ShapeDifference& b)
+{
+  const auto rank = [](const ShapeDifference& d) {
+    return std::tuple(NumberOf(d.side), NumberOf(d.type), d.number.current == 0, d.number.current,
+                      d.number.former);
+  };
+  return rank(a) < rank(b);
+}
+
+std::vector<ShapeDifference> CompareAllShapes(const DesignRecords& former,
+                                              const DesignRecords& current,
+                                              const Tolerance& tolerance)
+{
+  const std::vector<ShapeRecord>& before = former.Shapes();
+  const std::vector<ShapeRecord>& now = current.Shapes();
+  std::vector<ShapeDifference> differences;
+  std::vector<bool> formerMatched(before.size());
+  std::vector<bool> currentMatched(now.size());
+  for (const ShapeMatch& match : MatchShapes(before, now, tolerance)) {
+    formerMatched[match.former] = true;
+    currentMatched[match.current] = true;
+    auto difference =
+        CompareShapes(before[match.former], now[match.current], match.rule, tolerance);
+    if (difference) differences.push_back(std::move(*difference));
+  }
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    if (formerMatched[i]) continue;
+    differences.push_back(DifferenceOf(ShapeChange::Removed, &before[i], nullptr));
+  }
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    if (currentMatched[i]) continue;
+    differences.push_back(DifferenceOf(ShapeChange::Added, nullptr, &now[i]));
+  }
+  std::ranges::sort(differences, IsReportedBefore);
+  return differences;
+}
+
+/// The differences where the numbers of the former design are those of a unit.
+Differences CompareIn(UnitCode formerUnit, const DesignState& former, const DesignState& current,
+                      const CompareOptions& options)
+{
+  const Tolerance tolerance(options.tolerance);
+  Differences differences;
+  if (options.symbols) {
+    differences.offsets = CompareOffsets(former, formerUnit, current, tolerance);
+    differences.anchors =
+        CompareAnchors(*former.anchors, formerUnit, *current.anchors, current.unitCode, tolerance);
+  }
+  const DesignRecords before(former, formerUnit, current.unitCode, options.shapes);
+  const DesignRecords now(current, current.unitCode, current.unitCode, options.shapes);
+  differences.shapes = CompareAllShapes(before, now, tolerance);
+  return differences;
+}
+
+}  // namespace
+
+Differences CompareDesigns(const DesignState& former, const DesignState& current,
+                           const CompareOptions& options)
+{
+  Differences differences = CompareIn(former.unitCode, former, current, options);
+  if (former.unitCode != current.unitCode) {
+    const bool sameNumbers = CompareIn(current.unitCode, former, current, options).None();
+    differences.unit = {{former.unitCode, current.unitCode}, sameNumbers};
+  }
+  return differences;
+}
+
+}  // namespace hullwright

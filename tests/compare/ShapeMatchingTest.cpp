@@ -1,0 +1,121 @@
+#include "compare/ShapeMatching.h"
+
+#include <chrono>
+#include <cmath>
+
+#include "support/DesignPair.h"
+
+namespace hullwright::test {
+namespace {
+
+class MatchedShapes : public DesignPair {
+protected:
+  /// Adds a square of side 1 with its lower left corner at a place.
+  static void AddSquare(DesignState& design, double x, double y)
+  {
+    AddLine(design, ViewSide::Top,
+            {{x, y, 0.0}, {x + 1.0, y, 0.0}, {x + 1.0, y + 1.0, 0.0}, {x, y + 1.0, 0.0}});
+  }
+};
+
+TEST_F(MatchedShapes, AreEqualBeforeTheyAreMoved)
+{
+  AddSquare(former, 0.0, 0.0);
+  AddSquare(former, 5.0, 0.0);
+  AddSquare(now, 5.0, 0.0);
+  AddSquare(now, 7.0, 0.0);
+  const ShapeDifference moved = OnlyShape();
+  EXPECT_EQ(moved.number.former, 1U);
+  EXPECT_EQ(moved.number.current, 2U);
+  EXPECT_EQ(moved.by, (Place{7.0, 0.0, 0.0}));
+}
+
+TEST_F(MatchedShapes, GoTheWayThatMostOfThemWent)
+{
+  for (int i = 0; i < 9; ++i) AddSquare(former, 3.0 * i, 0.5 * i * i);
+  for (int i = 0; i < 9; ++i) {
+    if (i != 4) AddSquare(now, 3.0 * i + 0.25, 0.5 * i * i);
+  }
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 9U);
+  for (std::size_t i = 0; i < 8; ++i) {
+    EXPECT_EQ(differences.shapes[i].change, ShapeChange::Moved);
+    EXPECT_NEAR(differences.shapes[i].by.x, 0.25, 1e-9);
+  }
+  EXPECT_EQ(differences.shapes[8].change, ShapeChange::Removed);
+  EXPECT_EQ(differences.shapes[8].number.former, 5U);
+}
+
+TEST_F(MatchedShapes, ThatAreAllAlikeAreFoundInAnyOrder)
+{
+  constexpr int count = 100;
+  for (int i = 0; i < count; ++i) {
+    AddSquare(former, 5.0 * i, 0.0);
+    AddSquare(now, 5.0 * (count - 1 - i), 0.5);
+  }
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 1U * count);
+  for (const ShapeDifference& shape : differences.shapes) {
+    EXPECT_EQ(shape.by, (Place{0.0, 0.5, 0.0}));
+  }
+}
+
+TEST_F(MatchedShapes, WithMostVerticesInCommonBelongTogether)
+{
+  AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 1, 0}});
+  AddNow(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 7, 0}, {3, 9, 0}, {4, 8, 0}});
+  AddNow(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {5, 1, 0}});
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 2U);
+  EXPECT_EQ(differences.shapes[0].change, ShapeChange::Added);
+  EXPECT_EQ(differences.shapes[1].change, ShapeChange::Changed);
+  EXPECT_EQ(differences.shapes[1].number, (BeforeAndAfter<std::size_t>{1, 2}));
+}
+
+TEST_F(MatchedShapes, WithFewVerticesInCommonDoNot)
+{
+  AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}});
+  AddNow(ViewSide::Top, {{0, 0, 0}, {5, 5, 0}, {6, 6, 0}, {7, 8, 0}, {8, 7, 0}});
+  EXPECT_EQ(Compare().shapes.size(), 2U);
+}
+
+TEST_F(MatchedShapes, AreFoundAcrossTheBordersOfCells)
+{
+  // Multiples of the cells' size of 0.002, so that each change crosses a border.
+  for (int i = 0; i < 100; ++i) {
+    const double x = 0.002 * i;
+    AddFormer(ViewSide::Top, {{x + 0.0004, -x, 0.0}, {x + 10.0 + i, 5.0, 0.0}});
+    AddNow(ViewSide::Top, {{x - 0.0004, -x - 0.0004, 0.0}, {x + 10.0 + i, 5.0, 0.0}});
+  }
+  EXPECT_TRUE(Compare().None());
+}
+
+TEST_F(MatchedShapes, AreFoundByTheThousandInAShortTime)
+{
+  // Shapes that are all alike and in one place, and shapes that share a vertex: what is worst.
+  constexpr int count = 3000;
+  for (int i = 0; i < count; ++i) {
+    const double x = 0.01 * i;
+    AddFormer(ViewSide::Top, {{0.0, 0.0, 0.0}, {x, 1.0, 0.0}, {x, 3.0, 0.0}});
+    AddNow(ViewSide::Top, {{0.0, 0.0, 0.0}, {x, 1.0, 0.0}, {x, 2.0, 0.0}});
+    AddSquare(former, x, 0.0);
+    AddSquare(now, x, 0.5);
+  }
+  const auto start = std::chrono::steady_clock::now();
+  const Differences differences = Compare();
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+  EXPECT_EQ(differences.shapes.size(), 2U * count);
+  std::size_t changed = 0;
+  std::size_t moved = 0;
+  for (const ShapeDifference& shape : differences.shapes) {
+    changed += shape.change == ShapeChange::Changed ? 1 : 0;
+    moved += shape.change == ShapeChange::Moved ? 1 : 0;
+  }
+  EXPECT_EQ(changed, count * 1U);
+  EXPECT_EQ(moved, count * 1U);
+  EXPECT_LT(taken.count(),
+            60.0);  // a fraction of a second where the machine has nothing else to do
+}
+
+}  // namespace
+}  // namespace hullwright::test

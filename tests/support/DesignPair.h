@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "compare/CompareDesigns.h"
+#include "support/AddLine.h"
+
+namespace hullwright::test {
+
+/// A former and a current design, which begin as two new ones.
+class DesignPair : public testing::Test {
+protected:
+  using Line = std::initializer_list<CShapeVertex>;
+
+  CShapePolyline& AddFormer(ViewSide side, Line vertices)
+  {
+    return AddLine(former, side, vertices);
+  }
+  CShapePolyline& AddNow(ViewSide side, Line vertices) { return AddLine(now, side, vertices); }
+
+  /// Adds the same polyline to both.
+  void AddToBoth(ViewSide side, Line vertices)
+  {
+    AddFormer(side, vertices);
+    AddNow(side, vertices);
+  }
+
+  static CAnchor& AddAnchor(DesignState& design, std::uint32_t id, std::u16string name, double x,
+                            double y)
+  {
+    design.anchors->items.push_back(std::make_unique<CAnchor>());
+    CAnchor& anchor = *design.anchors->items.back();
+    anchor.id = id;
+    anchor.name = std::move(name);
+    anchor.attachmentX = x;
+    anchor.attachmentY = y;
+    return anchor;
+  }
+
+  Differences Compare() const { return CompareDesigns(former, now, options); }
+
+  /// The only shape that differs.
+  ShapeDifference OnlyShape() const
+  {
+    const Differences differences = Compare();
+    EXPECT_EQ(differences.shapes.size(), 1U);
+    return differences.shapes.empty() ? ShapeDifference() : differences.shapes[0];
+  }
+
+  DesignState former;
+  DesignState now;
+  CompareOptions options;
+};
+
+}  // namespace hullwright::test
