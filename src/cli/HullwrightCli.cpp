@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
+#include "system/TemporaryFiles.h"
 
 namespace {
 
@@ -24,7 +25,8 @@ constexpr const char* help =
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage; check has a status of its own.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage, 3 a drawing came in only in part;\n"
+    "check has a status of its own.\n";
 
 const std::array<const Verb*, 4> verbs = {&checkVerb, &importVerb, &infoVerb, &renderVerb};
 
@@ -65,6 +67,7 @@ int main(int argc, char** argv)
 {
   // A file that grows too large is an error to be reported, not the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
+  RemoveTemporaryFilesAtSignals();
   try {
     return WithOutput(RunVerb(argc, argv));
   } catch (const std::exception& problem) {

@@ -69,6 +69,7 @@ public:
     if (opened && !isDesign && editor_.Tally().Shapes() == 0) {
       Remark(input.Name(), u"warning: " + DescribeShapes(editor_.Tally()));
     }
+    if (IsIncomplete()) Remark(input.Name(), DescribePassedOver(editor_.Tally()));
     // A drawing comes into a new design, whose offsets it doesn't have.
     if (!isDesign || !request_.symbols) editor_.RemoveSymbols();
     if (request_.grid) {
@@ -78,6 +79,9 @@ public:
     }
     return opened ? std::string() : input.Name() + ": " + Utf8FromWide(editor_.Problem());
   }
+
+  /// Whether the import of the drawing was cut short.
+  bool IsIncomplete() const { return editor_.Tally().IsIncomplete(); }
 
   /// Paints one side on a device of the picture's size.
   void Paint(const ViewSideEntry& side, QPaintDevice& device)
@@ -259,7 +263,7 @@ bool IsPictureName(const std::string& path)
   return ending == ".png" || ending == ".svg" || ending == ".pdf";
 }
 
-std::string WritePictures(const PictureRequest& request)
+std::string WritePictures(const PictureRequest& request, bool& isIncomplete)
 {
   StartToolkit();
   if (request.sheet) {
@@ -271,6 +275,7 @@ std::string WritePictures(const PictureRequest& request)
   }
   const InputFile input(request.input);
   if (std::string problem = painter.Open(input); !problem.empty()) return problem;
+  isIncomplete = painter.IsIncomplete();
   PictureFiles files;
   std::string problem;
   if (request.sheet) {

@@ -18,8 +18,7 @@ std::string LineAt(const std::string& x)
 class Memory : public DxfFixture {
 protected:
   /// Imports text once for each of its allocations, which fails, and at last without a failure.
-  /// `look` is called behind each import that has begun to walk the file, even if it could not
-  /// record its end in the log.
+  /// `look` is called behind each import that has begun to walk the file.
   template <class Look>
   void ImportWithEachFailure(const std::string& text, Look look)
   {
@@ -39,7 +38,7 @@ protected:
       try {
         result = file->Import(path, layer.get());
       } catch (const std::bad_alloc&) {
-        // In the log, before or behind the reading.
+        // Before the reading.
       }
       failed = FailingNew::Stop();
       if (window.list.empty()) continue;
@@ -83,7 +82,8 @@ TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
                                          "123134", "123124",         // a copy
                                          "23234", "13134", "12124",  // an entity of the block
                                          "123123",                   // the last entity
-                                         ""}));  // the block, or the log before the entities
+                                         "1234",                     // an insertion
+                                         ""}));                      // the block
 }
 
 TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextWithItsCodes)
@@ -166,7 +166,6 @@ TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
         seen.insert(names + " " + Places());
       });
   const std::set<std::string> whereItEnds = {
-      "  ",         // the log before the first entities
       "0  1",       // the first layer
       "0a  1",      // the second
       "0ab  1",     // the first block

@@ -99,6 +99,7 @@ private:
                                                               : Current().shortName);
   }
   static int ColumnInt(sqlite3_stmt*, int) { return Current().code.value_or(0); }
+  static void LimitWork(sqlite3*, int, int (*)(void*), void*) {}
   static const char* ErrorMessage(sqlite3*) { return "it failed"; }
   static int ErrorCode(sqlite3*) { return 14; }
 
@@ -124,6 +125,7 @@ private:
         {"sqlite3_column_int", Address(ColumnInt)},
         {"sqlite3_errmsg", Address(ErrorMessage)},
         {"sqlite3_errcode", Address(ErrorCode)},
+        {"sqlite3_progress_handler", Address(LimitWork)},
     };
     return functions;
   }
