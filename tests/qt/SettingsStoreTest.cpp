@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QThread>
 
@@ -52,6 +53,18 @@ TEST_F(SettingsStore, ARefreshTakesInWhatAnotherProgramHasWritten)
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
   first.Refresh();
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 0);
+}
+
+TEST_F(SettingsStore, APipeIsLeftAloneAndGivesTheDefaults)
+{
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere");
+  const auto pipe = folder.Path() / "config/Quillmere/Hullwright.ini";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  QtSettingsStore store;
+  // Would wait for ever.
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  store.Refresh();
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
 }
 
 }  // namespace
