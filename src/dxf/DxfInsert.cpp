@@ -1,3 +1,4 @@
+#include <cstddef>
 #include <new>
 #include <utility>
 #include <vector>
@@ -66,9 +67,7 @@ private:
     }
     try {
       auto copy = shape.Clone();
-      for (auto level = way_.rbegin(); level != way_.rend(); ++level) {
-        Place(*copy, *level->insertion);
-      }
+      for (std::size_t i = way_.size(); i-- > 0;) Place(*copy, *way_[i].insertion);
       target_.shapes.push_back(std::move(copy));
     } catch (const std::bad_alloc&) {
       // There is no memory for this copy; the next one may be smaller.
