@@ -40,9 +40,11 @@ bool ComesBack(const std::u16string& name)
          name.find(u'\xFFFF') == std::u16string::npos;
 }
 
+/// Nor does the unit 0, which is not written, and a group's code below 1.
 bool ComesBack(const Design& design)
 {
-  return std::ranges::all_of(design.groups,
+  return NumberOf(design.file.unitCode) != 0 &&
+         std::ranges::all_of(design.groups,
                              [](const auto& group) { return NumberOf(group->viewCode) > 0; }) &&
          std::ranges::all_of(design.file.anchors->items,
                              [](const auto& anchor) { return ComesBack(anchor->name); });
