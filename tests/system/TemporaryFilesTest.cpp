@@ -37,7 +37,7 @@ TEST_F(TemporaryFiles, GoWithTheSignalThatEndsTheProgram)
 
 TEST_F(TemporaryFiles, LeaveASignalIgnoredThatTheProgramWasStartedToIgnore)
 {
-  const auto run = [this] {
+  const auto run = [] {
     std::signal(SIGHUP, SIG_IGN);
     RemoveTemporaryFilesAtSignals();
     std::raise(SIGHUP);
