@@ -150,8 +150,10 @@ void CHullwrightApp::ImportDxf()
   const auto path = ports_.fileDialogs.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
   if (!path) return;
   ImportTally tally;
-  std::u16string note(unreadableDrawing);
-  if (ImportDrawing(*path, tally) == 0) {
+  std::u16string note;
+  if (ImportDrawing(*path, tally) != 0) {
+    note = DescribeUnreadable(tally);
+  } else {
     note = DescribeImport(tally);
     if (AreOutOfView(tally, *viewPort)) note += u"; outside the view: Show All";
   }

@@ -6,7 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/ErrorText.h"
 #include "base/Text.h"
+#include "dxf/VertexLimit.h"
 
 namespace hullwright {
 namespace {
@@ -58,6 +60,12 @@ std::string IgnoredOf(const ImportTally& tally)
 
 }  // namespace
 
+std::u16string DescribeUnreadable(const ImportTally& tally)
+{
+  if (tally.readError == 0) return u"the drawing can't be read, or it is empty";
+  return u"the drawing can't be read: " + WideFromUtf8(ErrorText(tally.readError));
+}
+
 std::u16string DescribeShapes(const ImportTally& tally)
 {
   const std::string shapes = ListOf({{tally.polylines, "polyline", "polylines"},
@@ -69,6 +77,7 @@ std::u16string DescribeShapes(const ImportTally& tally)
 
 std::u16string DescribePassedOver(const ImportTally& tally)
 {
+  static_assert(VertexLimit::usual == 25'000'000);  // as the text states
   List parts;
   if (std::string ignored = IgnoredOf(tally); !ignored.empty()) {
     parts.push_back("ignored: " + ignored);
@@ -79,6 +88,8 @@ std::u16string DescribePassedOver(const ImportTally& tally)
               {tally.unknownBlocks, "insert of an unknown block", "inserts of unknown blocks"},
               {tally.cutInserts, "insert for want of memory", "inserts for want of memory"},
               {tally.withoutMemory, "part for want of memory", "parts for want of memory"},
+              {tally.beyondLimit, "record beyond the limit of 25 million vertices",
+               "records beyond the limit of 25 million vertices"},
               {tally.cutParts, "part behind a line that is too long",
                "parts behind lines that are too long"}});
   if (!dropped.empty()) parts.push_back("left out: " + dropped);

@@ -7,9 +7,9 @@
 
 namespace hullwright {
 
-/// Reported for a drawing that gives nothing at all.
-inline constexpr std::u16string_view unreadableDrawing =
-    u"the drawing can't be read, or it is empty";
+/// Why an import gives nothing at all: "the drawing can't be read, or it is empty", or the error
+/// that ended the reading.
+std::u16string DescribeUnreadable(const ImportTally& tally);
 
 /// What came out of an import: "355 polylines, 12 texts".
 std::u16string DescribeShapes(const ImportTally& tally);

@@ -61,6 +61,12 @@ private:
 
 /// Widths of the three status panes for a client width: two of 250, the prompt takes the rest,
 /// which is negative in a window narrower than 500.
-constexpr std::array<int, 3> PaneWidths(int clientWidth) { return {clientWidth - 500, 250, 250}; }
+constexpr std::array<int, 3> PaneWidths(int clientWidth)
+{
+  constexpr int pane = 250;
+  // Without a sign: a width near the least number wraps around, which is no error this way.
+  const auto rest = static_cast<unsigned>(clientWidth) - 2U * static_cast<unsigned>(pane);
+  return {static_cast<int>(rest), pane, pane};
+}
 
 }  // namespace hullwright

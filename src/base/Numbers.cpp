@@ -120,13 +120,23 @@ std::optional<double> ParseShortDecimal(std::string_view text)
   return static_cast<double>(integer) / powersOfTen[static_cast<std::size_t>(decimals)];
 }
 
+/// The text up to a binary exponent with two signs, which is none: the library would read the
+/// second one as that of the exponent.
+std::string_view WithoutTwiceSignedExponent(std::string_view text)
+{
+  const std::size_t mark = text.find_first_of("pP");
+  const bool isTwiceSigned =
+      mark != std::string_view::npos && text.substr(mark + 1).starts_with("+-");
+  return isTwiceSigned ? text.substr(0, mark) : text;
+}
+
 /// The number that the text begins with; nothing where there is none, so that no sign is put to it.
 std::optional<double> ParseMagnitude(std::string_view text)
 {
   const bool hex =
       HasHexPrefix(text) &&
       (DigitValue(text[2]) < 16 || (text[2] == '.' && text.size() > 3 && DigitValue(text[3]) < 16));
-  if (hex) text.remove_prefix(2);
+  if (hex) text = WithoutTwiceSignedExponent(text.substr(2));
   if (text.empty() || text.front() == '-') return std::nullopt;  // a second sign is no number
   double value = 0.0;
   const auto [end, error] =

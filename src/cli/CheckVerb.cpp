@@ -40,7 +40,9 @@ int Check(const std::string& word)
   const std::u16string path = WideFromUtf8(input.Path());
   HeadlessEditor editor;
   if (losses.Read(path) != 0) {
-    Fail(input.Name() + ":" + Utf8FromWide(DescribeBriefly(losses.LastReadError())));
+    const ReadError& error = losses.LastReadError();
+    const char* const colon = error.line == 0 ? ": " : ":";  // a place follows the name at once
+    Fail(input.Name() + colon + Utf8FromWide(DescribeBriefly(error)));
     return exitUnreadable;
   }
   if (!editor.Open(path)) {

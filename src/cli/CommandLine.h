@@ -16,6 +16,7 @@ inline constexpr const char* notADesign = "not a design: it does not begin as XM
 // Exit statuses of the command line.
 inline constexpr int exitFailed = 1;
 inline constexpr int exitUsage = 2;
+inline constexpr int exitIncomplete = 3;  ///< memory or a limit cut an import short
 
 /// One thing that the program does.
 struct Verb {

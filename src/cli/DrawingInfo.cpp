@@ -55,16 +55,17 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
   const KeptTrace log;
   CLayer layer;
   CFileDxf reader(&window, log);
-  if (reader.Import(path, &layer) != 0) return std::u16string(unreadableDrawing);
+  if (reader.Import(path, &layer) != 0) return DescribeUnreadable(reader.Tally());
   if (!reader.Tally().IsDrawing()) return DescribeImport(reader.Tally());
   for (const auto& [name, known] : reader.Drawing().layers.All()) {
     summary.layers[name] = {NumberOf(known.colour), known.off, known.frozen};
   }
   for (const auto& [name, block] : reader.Drawing().blocks) {
-    summary.blocks[name] = block->shapes.size();
+    summary.blocks[name] = block->ShapesWhenInserted();
   }
   summary.shapes = layer.shapes->shapes.size();
   summary.extents = layer.extents;
+  if (reader.Tally().IsIncomplete()) summary.passedOver = DescribePassedOver(reader.Tally());
   summary.entities = Named(reader.Tally().entities);
   std::ranges::copy_if(summary.entities, std::inserter(summary.ignored, summary.ignored.end()),
                        [](const auto& entry) { return !IsImported(entry.first); });

@@ -24,6 +24,7 @@ struct DrawingSummary {
   std::map<std::string, std::size_t> ignored;   ///< those of them that nothing is made of
   std::size_t shapes = 0;                       ///< what the import gives
   Extents extents;                              ///< of the shapes
+  std::u16string passedOver;  ///< by an import that memory or a limit cut short; else empty
 };
 
 /// Reads a drawing. Empty on success, else what is wrong with the file.

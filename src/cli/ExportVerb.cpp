@@ -189,7 +189,8 @@ std::string WritePicture(const Options& options, const std::string& design)
   std::ranges::copy_if(
       viewSides, std::back_inserter(request.sides),
       [&](const ViewSideEntry& side) { return request.sheet || side.code == options.side; });
-  return WritePictures(request);
+  bool isIncomplete = false;  // only a drawing can be
+  return WritePictures(request, isIncomplete);
 }
 
 /// What went wrong; empty for nothing.

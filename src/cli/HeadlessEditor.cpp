@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "app/ImportText.h"
+#include "base/Text.h"
+#include "cli/CommandLine.h"
 #include "render/Canvas.h"
 
 namespace hullwright {
@@ -25,6 +27,7 @@ HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
                .rubberBand = pointer_,
                .popupMenu = pointer_})
 {
+  commonData_.units.onProblem = [](std::u16string_view reason) { Fail(Utf8FromWide(reason)); };
   editor_.view.OnCreate(target);
   editor_.view.viewPort->canvas->ReleaseResources();
   editor_.frame.hasWindow = true;
@@ -35,16 +38,20 @@ bool HeadlessEditor::Open(std::u16string_view path)
   messages_.shown.clear();
   if (editor_.document.OnOpenDocument(path)) return true;
   const ReadError& error = editor_.document.OpenError();
-  problem_ = messages_.shown.empty()
-                 ? u"not a well-formed design file (" + DescribeBriefly(error) + u")"
-                 : messages_.shown.back();
+  if (!messages_.shown.empty()) {
+    problem_ = messages_.shown.back();
+  } else if (error.line == 0) {
+    problem_ = u"the design can't be read: " + error.message;
+  } else {
+    problem_ = u"not a well-formed design file (" + DescribeBriefly(error) + u")";
+  }
   return false;
 }
 
 bool HeadlessEditor::Import(std::u16string_view path)
 {
   if (editor_.app.ImportDrawing(path, tally_) != 0) {
-    problem_ = unreadableDrawing;
+    problem_ = DescribeUnreadable(tally_);
   } else if (!tally_.IsDrawing()) {
     problem_ = DescribeImport(tally_);
   } else {

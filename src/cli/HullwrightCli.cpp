@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/CommandLine.h"
+#include "system/TemporaryFiles.h"
 
 namespace {
 
@@ -27,8 +28,8 @@ constexpr const char* help =
     "  -h, --help     show this text; behind a verb, that verb's\n"
     "      --version  show the version\n"
     "\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage; check and diff have statuses of\n"
-    "their own.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage, 3 a drawing came in only in part;\n"
+    "check and diff have statuses of their own.\n";
 
 const std::array<const Verb*, 7> verbs = {&checkVerb, &diffVerb,   &exportVerb, &importVerb,
                                           &infoVerb,  &renderVerb, &reportVerb};
@@ -68,6 +69,7 @@ int main(int argc, char** argv)
 {
   // A file that grows too large is an error to be reported, not the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
+  RemoveTemporaryFilesAtSignals();
   int trouble = exitFailed;
   try {
     const int status = RunVerb(argc, argv, trouble);

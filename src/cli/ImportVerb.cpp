@@ -36,8 +36,9 @@ constexpr const char* help =
     "\n"
     "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"
     "drawn, or no polylines; 1, with nothing written, when a file can't be read or is no\n"
-    "drawing in text form; 2 wrong usage. With --json alone 0 in the place of 1; the\n"
-    "object states the result.\n";
+    "drawing in text form; 2 wrong usage; 3 when the design was written, but parts of a\n"
+    "drawing were left out for want of memory or beyond a limit. With --json alone 0 in\n"
+    "the place of 1; the object states the result.\n";
 
 struct Options {
   std::vector<std::string> drawings;
@@ -75,6 +76,7 @@ void ReportTally(const std::string& name, const ImportTally& tally, bool keepsAl
 int PrintJson(const Options& options)
 {
   const bool reports = options.output.empty();  // else the import into the design does
+  int status = 0;
   JsonWriter json(stdout);
   for (const std::string& drawing : options.drawings) {
     const InputFile input(drawing);
@@ -85,6 +87,7 @@ int PrintJson(const Options& options)
     CFileDxf reader(&window, log);
     const int result = reader.Import(path, &layer);
     WriteImportJson(json, result, log, path, layer);
+    if (reader.Tally().IsIncomplete()) status = exitIncomplete;
     if (!reports || result != 0) continue;
     if (reader.Tally().IsDrawing()) {
       ReportTally(input.Name(), reader.Tally(), true);
@@ -92,7 +95,7 @@ int PrintJson(const Options& options)
       Remark(input.Name(), DescribeImport(reader.Tally()));
     }
   }
-  return 0;
+  return status;
 }
 
 int ImportAll(const Options& options)
@@ -108,6 +111,7 @@ int ImportAll(const Options& options)
     }
   }
   editor.App().activeView = options.side;
+  int status = 0;
   for (const std::string& drawing : options.drawings) {
     const InputFile input(drawing);
     if (std::string problem = input.Problem(); !problem.empty()) return Fail(problem);
@@ -116,6 +120,7 @@ int ImportAll(const Options& options)
       return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
     }
     ReportTally(input.Name(), editor.Tally(), false);
+    if (editor.Tally().IsIncomplete()) status = exitIncomplete;
   }
   OutputFile output(options.output);
   if (output.Path().empty()) return Fail(output.Problem());
@@ -127,7 +132,7 @@ int ImportAll(const Options& options)
     Remark(options.output, u"warning: " + numbers);
   }
   if (options.output != "-") FormerVersions(StateFolder()).Keep(WideFromUtf8(options.output));
-  return output.Commit() ? 0 : Fail(output.Problem());
+  return output.Commit() ? status : Fail(output.Problem());
 }
 
 bool WouldOverwrite(const Options& options)
@@ -140,6 +145,8 @@ bool WouldOverwrite(const Options& options)
 
 std::string TakeOption(int letter, const std::string& value, Options& options)
 {
+  if (letter != 'j' && value.empty())
+    return std::string("the option -") + static_cast<char>(letter) + " has an empty value";
   switch (letter) {
     case 'i': options.into = value; return {};
     case 'o': options.output = value; return {};

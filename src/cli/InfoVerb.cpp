@@ -19,20 +19,23 @@ constexpr const char* help =
     "  -j, --json  as JSON, one document a line\n"
     "\n"
     "Exit status: 0 success, 1 when a file is neither a design nor a drawing or can't be\n"
-    "read, 2 wrong usage.\n";
+    "read, 2 wrong usage, 3 when parts of a drawing were left out for want of memory or\n"
+    "beyond a limit.\n";
 
 int InfoOfDrawing(const InputFile& input, bool asJson)
 {
   DrawingSummary summary;
   const std::u16string problem = SummariseDrawing(WideFromUtf8(input.Path()), summary);
   if (!problem.empty()) return Fail(input.Name() + ": " + Utf8FromWide(problem));
-  if (!asJson) {
+  if (asJson) {
+    JsonWriter json(stdout);
+    WriteDrawingJson(json, summary, input.Name());
+  } else {
     PrintDrawing(summary, input.Name());
-    return 0;
   }
-  JsonWriter json(stdout);
-  WriteDrawingJson(json, summary, input.Name());
-  return 0;
+  if (summary.passedOver.empty()) return 0;
+  Remark(input.Name(), summary.passedOver);
+  return exitIncomplete;
 }
 
 int InfoOfDesign(const InputFile& input, bool asJson)
@@ -68,11 +71,13 @@ int Run(int argc, char** argv)
   for (const std::string& word : arguments.words) {
     const InputFile input(word);
     const std::string problem = input.Problem();
+    int failed = 0;
     if (!problem.empty()) {
-      status = Fail(problem);
-    } else if (input.IsDesign() ? InfoOfDesign(input, asJson) : InfoOfDrawing(input, asJson)) {
-      status = exitFailed;
+      failed = Fail(problem);
+    } else {
+      failed = input.IsDesign() ? InfoOfDesign(input, asJson) : InfoOfDrawing(input, asJson);
     }
+    if (status != exitFailed && failed != 0) status = failed;
   }
   return status;
 }

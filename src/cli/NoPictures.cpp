@@ -25,7 +25,7 @@ int RunReport(int, char**) { return Fail(std::string("report: ") + noPictures); 
 
 }  // namespace
 
-std::string WritePictures(const PictureRequest& request)
+std::string WritePictures(const PictureRequest& request, bool&)
 {
   return request.output + ": " + noPictures;
 }

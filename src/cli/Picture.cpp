@@ -46,6 +46,7 @@ public:
     if (opened && !isDesign && editor_.Tally().Shapes() == 0) {
       Remark(input.Name(), u"warning: " + DescribeShapes(editor_.Tally()));
     }
+    if (IsIncomplete()) Remark(input.Name(), DescribePassedOver(editor_.Tally()));
     // A drawing comes into a new design, whose offsets it doesn't have.
     if (!isDesign || !request_.symbols) editor_.RemoveSymbols();
     if (request_.grid) {
@@ -55,6 +56,9 @@ public:
     }
     return opened ? std::string() : input.Name() + ": " + Utf8FromWide(editor_.Problem());
   }
+
+  /// Whether the import of the drawing was cut short.
+  bool IsIncomplete() const { return editor_.Tally().IsIncomplete(); }
 
   /// Paints one side on a device of the picture's size.
   void Paint(const ViewSideEntry& side, QPaintDevice& device)
@@ -114,7 +118,7 @@ std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 
 }  // namespace
 
-std::string WritePictures(const PictureRequest& request)
+std::string WritePictures(const PictureRequest& request, bool& isIncomplete)
 {
   StartToolkit();
   if (request.sheet) {
@@ -126,6 +130,7 @@ std::string WritePictures(const PictureRequest& request)
   }
   const InputFile input(request.input);
   if (std::string problem = painter.Open(input); !problem.empty()) return problem;
+  isIncomplete = painter.IsIncomplete();
   PictureFiles files;
   std::string problem;
   if (request.sheet) {

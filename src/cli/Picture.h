@@ -24,7 +24,8 @@ struct PictureRequest {
 };
 
 /// Draws sides of a design, or of a drawing imported into them, to picture files. Empty on success,
-/// else what went wrong. A file is written whole or not at all.
-std::string WritePictures(const PictureRequest& request);
+/// else what went wrong. A file is written whole or not at all. `isIncomplete` is set to whether
+/// memory or a limit cut the import of the drawing short, which is reported.
+std::string WritePictures(const PictureRequest& request, bool& isIncomplete);
 
 }  // namespace hullwright

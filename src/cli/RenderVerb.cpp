@@ -31,7 +31,8 @@ constexpr const char* help =
     "\n"
     "Exit status: 0 success, also with a warning that a drawing has nothing that can be\n"
     "drawn; 1 when a file can't be read or written or is neither a design nor a drawing\n"
-    "in text form; 2 wrong usage.\n";
+    "in text form; 2 wrong usage; 3 when the pictures were written, but parts of a drawing\n"
+    "were left out for want of memory or beyond a limit.\n";
 
 /// The longest side of a picture.
 constexpr int largest = 20000;
@@ -139,8 +140,10 @@ int Run(int argc, char** argv)
     return UsageError(argv[0], "standard output takes one picture only");
   }
   request.input = arguments.words[0];
-  const std::string problem = WritePictures(request);
-  return problem.empty() ? 0 : Fail(problem);
+  bool isIncomplete = false;
+  const std::string problem = WritePictures(request, isIncomplete);
+  if (!problem.empty()) return Fail(problem);
+  return isIncomplete ? exitIncomplete : 0;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "model/Shape.h"
@@ -12,8 +13,9 @@ class CopyBudget {
 public:
   explicit CopyBudget(std::int64_t bytes) : left_(bytes) {}
 
-  /// Pays for a copy of a shape. False when that uses it up, or it was used up before.
-  bool Take(const CShape& shape);
+  /// Pays for a copy of a shape that is placed by so many insertions in one another, each of which
+  /// leaves its attributes on it. False when that uses it up, or it was used up before.
+  bool Take(const CShape& shape, std::size_t insertions = 1);
 
   bool IsUsedUp() const { return left_ < 0; }
   std::int64_t Left() const { return left_; }

@@ -53,13 +53,12 @@ BulgeArc ArcOfBulge(const DxfPoint& p, const DxfPoint& q, double bulge)
           AngleOf(c, q, Distance(c, q)) * degreesPerRadian};
 }
 
-/// How many vertices they are flattened to, or a few more; some of very many. An arc between
+/// How many vertices they are flattened to, or a few more; some of more than `most`. An arc between
 /// vertices in the same place has hardly any.
-std::size_t FlattenedCount(const std::vector<CFileDxfVertex>& vertices)
+std::size_t FlattenedCount(const std::vector<CFileDxfVertex>& vertices, std::size_t most)
 {
-  constexpr std::size_t veryMany = std::size_t{1} << 20U;
   std::size_t count = vertices.size();
-  for (std::size_t i = 0; i + 1 < vertices.size() && count < veryMany; ++i) {
+  for (std::size_t i = 0; i + 1 < vertices.size() && count <= most; ++i) {
     const CFileDxfVertex& p = vertices[i];
     const CFileDxfVertex& q = vertices[i + 1];
     if (p.bulge != 0.0 && (p.x != q.x || p.y != q.y)) count += mostArcVertices - 1;
@@ -124,10 +123,17 @@ std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrus
   return ellipse;
 }
 
+bool FlattensWithin(std::size_t most, const std::vector<CFileDxfVertex>& vertices)
+{
+  // Hardly any drawing needs more than the first look.
+  return vertices.size() <= most / mostArcVertices || FlattenedCount(vertices, most) <= most;
+}
+
 void AppendFlattened(CShapePolyline& shape, const std::vector<CFileDxfVertex>& vertices,
                      const Extrusion& toWorld)
 {
-  shape.vertices.reserve(shape.vertices.size() + FlattenedCount(vertices));
+  constexpr std::size_t veryMany = std::size_t{1} << 20U;
+  shape.vertices.reserve(shape.vertices.size() + FlattenedCount(vertices, veryMany));
   for (std::size_t i = 0; i < vertices.size(); ++i) {
     const CFileDxfVertex& p = vertices[i];
     if (p.bulge == 0.0) {

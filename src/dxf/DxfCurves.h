@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -32,6 +33,9 @@ std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion&
 std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrusion& toWorld,
                                             double rotationDegrees, double majorLength,
                                             double minorLength, double start, double end);
+
+/// Whether vertices with their bulges become no more vertices than `most`.
+bool FlattensWithin(std::size_t most, const std::vector<CFileDxfVertex>& vertices);
 
 /// Appends vertices with their bulges as arcs to a shape.
 void AppendFlattened(CShapePolyline& shape, const std::vector<CFileDxfVertex>& vertices,

@@ -61,7 +61,10 @@ bool IsRead(const Keyword* keyword) { return keyword != nullptr && keyword->read
 /// Takes the record of a line of the walk, if it starts a reader.
 void TakeLine(const Keyword* keyword, DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  if (IsRead(keyword)) {
+  if (IsRead(keyword) && context.limit.IsReached()) {
+    ++context.tally.beyondLimit;
+    lines.SkipEntity();
+  } else if (IsRead(keyword)) {
     keyword->read(lines, context, target);
   } else if (keyword != nullptr) {
     lines.SkipEntity();

@@ -13,8 +13,12 @@ namespace {
 /// begins, so that a bulge may follow its coordinates.
 class VertexGatherer {
 public:
-  /// Gathers into a list, which is emptied.
-  explicit VertexGatherer(std::vector<CFileDxfVertex>& list) : vertices_(list) { list.clear(); }
+  /// Gathers into a list, which is emptied: at most one more than `most`, which shows that there
+  /// are too many.
+  VertexGatherer(std::vector<CFileDxfVertex>& list, std::size_t most) : vertices_(list), most_(most)
+  {
+    list.clear();
+  }
 
   void TakeX(double x)
   {
@@ -43,12 +47,13 @@ private:
   bool PushComplete()
   {
     if (!seenX_ || !seenY_) return false;
-    vertices_.push_back(next_);
+    if (vertices_.size() <= most_) vertices_.push_back(next_);
     next_.bulge = 0.0;
     return true;
   }
 
   std::vector<CFileDxfVertex>& vertices_;
+  const std::size_t most_;
   CFileDxfVertex next_;
   bool seenX_ = false;
   bool seenY_ = false;
@@ -86,6 +91,8 @@ void ReadVertex(DxfLines& lines, DxfContext& context, CShapes&)
   DxfEntity entity;
   ReadPairs(lines, entity);
   if (entity.Flags() == splineControlPoint) return;
+  // One more than there may be shows that there are too many.
+  if (context.polyline.VertexCount() > context.limit.Left()) return;
   const DxfPoint p = entity.Point(DxfCode::X);
   context.polyline.AddVertex({p.x, p.y, p.z, entity.Number(DxfCode::Bulge), entity.Flags()});
 }
@@ -93,7 +100,11 @@ void ReadVertex(DxfLines& lines, DxfContext& context, CShapes&)
 void ReadSeqEnd(DxfLines& lines, DxfContext& context, CShapes& target)
 {
   lines.SkipEntity();
-  context.polyline.End(target);
+  bool leftOut = false;
+  if (auto shape = context.polyline.End(context.limit.Left(), leftOut)) {
+    AppendShape(std::move(shape), context, target);
+  }
+  if (leftOut) ++context.tally.beyondLimit;
 }
 
 void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
@@ -103,7 +114,7 @@ void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
   // around this one loses its normal.
   context.polyline.SetExtrusion(Extrusion());
   DxfEntity entity;
-  VertexGatherer vertices(context.vertices);
+  VertexGatherer vertices(context.vertices, context.limit.Left());
   const auto gather = [&](DxfCode code, std::string_view) {
     if (code == DxfCode::X) vertices.TakeX(entity.Number(code));
     if (code == DxfCode::Y) vertices.TakeY(entity.Number(code));
@@ -113,6 +124,10 @@ void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
   if (IsOnHiddenLayer(entity, context)) return;
   auto shape = std::make_unique<CShapePolyline>();
   vertices.Finish(entity.HasFlag(closed));
+  if (!FlattensWithin(context.limit.Left(), context.vertices)) {
+    ++context.tally.beyondLimit;
+    return;
+  }
   AppendFlattened(*shape, context.vertices, Extrusion());
   const double width = entity.Number(DxfCode::ConstantWidth);
   if (width != 0.0) {

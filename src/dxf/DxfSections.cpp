@@ -1,9 +1,7 @@
 #include "dxf/DxfSections.h"
 
 #include <new>
-#include <string>
 
-#include "base/Text.h"
 #include "dxf/DxfKeywords.h"
 #include "dxf/DxfTables.h"
 #include "dxf/ImportLog.h"
@@ -14,7 +12,7 @@ namespace {
 void LogStart(const DxfContext& context, std::u16string_view section)
 {
   LogRecord(context.log, TraceLevel::Progress, processingLog,
-            std::u16string(u"[DXF] Processing '").append(section).append(u"' section..."));
+            {u"[DXF] Processing '", section, u"' section..."});
 }
 
 /// Reports that a section is through, and a number with the text around it.
@@ -22,12 +20,7 @@ void LogEnd(const DxfContext& context, std::u16string_view section, std::u16stri
             std::size_t number, std::u16string_view behind)
 {
   LogRecord(context.log, TraceLevel::Success, processingLog,
-            std::u16string(u"[DXF] '")
-                .append(section)
-                .append(u"' section processed, ")
-                .append(before)
-                .append(WideFromAscii(std::to_string(number)))
-                .append(behind));
+            {u"[DXF] '", section, u"' section processed, ", before, number, behind});
 }
 
 /// Reads the records of a section whose lines begin with a keyword. Any line that begins with it

@@ -45,10 +45,20 @@ void Mark(CShape& shape, std::u16string_view name, std::u16string value)
 
 void Identify(CShape& shape, const DxfEntity& entity)
 {
+  Identify(shape, TagOf(entity), WideFromAnsi(entity.LayerName()), WideFromAnsi(entity.Handle()));
+}
+
+void Identify(CShape& shape, std::int32_t tag, std::u16string layerName, std::u16string handle)
+{
+  shape.tag = tag;
+  Mark(shape, u"LAYER", std::move(layerName));
+  Mark(shape, u"HANDLE", std::move(handle));
+}
+
+std::int32_t TagOf(const DxfEntity& entity)
+{
   constexpr int hexadecimal = 16;
-  shape.tag = ParseInt32(entity.Handle(), hexadecimal);
-  Mark(shape, u"LAYER", WideFromAnsi(entity.LayerName()));
-  Mark(shape, u"HANDLE", WideFromAnsi(entity.Handle()));
+  return ParseInt32(entity.Handle(), hexadecimal);
 }
 
 void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
@@ -71,6 +81,12 @@ void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, DxfContext
 {
   Identify(*shape, entity);
   Colour(*shape, entity, context);
+  AppendShape(std::move(shape), context, target);
+}
+
+void AppendShape(std::unique_ptr<CShape> shape, DxfContext& context, CShapes& target)
+{
+  context.limit.Count(*shape);
   target.shapes.push_back(std::move(shape));
 }
 

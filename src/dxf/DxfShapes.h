@@ -28,6 +28,10 @@ void Mark(CShape& shape, std::u16string_view name, std::u16string value);
 
 /// Gives a shape the layer and the handle of its entity, as attributes, and the handle as its tag.
 void Identify(CShape& shape, const DxfEntity& entity);
+void Identify(CShape& shape, std::int32_t tag, std::u16string layerName, std::u16string handle);
+
+/// The handle of an entity as a number.
+std::int32_t TagOf(const DxfEntity& entity);
 
 /// Gives a shape the colour of an index; that by layer stands for the colour of the layer.
 void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view layerName,
@@ -35,6 +39,9 @@ void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view laye
 
 /// Gives a shape the colour of its entity, and the entity a layer.
 void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context);
+
+/// Appends a finished shape to `target`.
+void AppendShape(std::unique_ptr<CShape> shape, DxfContext& context, CShapes& target);
 
 /// Identifies and colours a shape and appends it to `target`.
 void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, DxfContext& context,

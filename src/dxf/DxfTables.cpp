@@ -40,7 +40,7 @@ void ProcessBlock(DxfLines& lines, DxfContext& context)
   while (ReadNextEntity(lines, context, DxfPlace::Block, *block)) {
   }
   if (header.IsInPaperSpace()) {
-    context.tally.inPaperSpace += block->shapes.size();
+    context.tally.inPaperSpace += block->ShapesWhenInserted();
     return;
   }
   context.blocks.try_emplace(std::string(header.Name()), std::move(block));

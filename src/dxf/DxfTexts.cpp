@@ -60,7 +60,7 @@ void AddLabel(std::unique_ptr<CShapeText> label, const DxfEntity& entity, DxfCon
   Identify(*label, entity);
   Colour(*label, entity, context);
   CleanTextCodes(*label, context.layers);
-  target.shapes.push_back(std::move(label));
+  AppendShape(std::move(label), context, target);
 }
 
 }  // namespace

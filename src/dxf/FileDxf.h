@@ -21,8 +21,9 @@ public:
   /// `frame` is notified of the progress and may be null, which `ProcessFile` refuses.
   CFileDxf(IMainWindow* frame, const ITrace& log, const DxfOptions& options = {});
 
-  /// Reads a drawing into a layer. 0 on success; -1, with a record in the log, for a file that
-  /// can't be read or is empty. A file that is no drawing gives no shapes and counts as read.
+  /// Reads a drawing into a layer. 0 on success; -1, with a record in the log, for a file that is
+  /// empty or can't be read to its end. A file that is no drawing gives no shapes and counts as
+  /// read.
   int Import(std::u16string_view filePath, CLayer* layer);
 
   /// What was read of the drawing.
@@ -36,7 +37,11 @@ private:
   /// Walks the sections of the loaded text. -1 without a group to read into and without a window.
   int ProcessFile();
 
-  void Log(TraceLevel level, std::u16string_view category, std::u16string_view text) const;
+  /// Loads the drawing to its end. -1, with a record in the log, where that fails.
+  int LoadWhole(std::u16string_view filePath);
+
+  /// Adds a record for what the memory or the limit did not allow for.
+  void LogLosses() const;
 
   IMainWindow* frame_;
   CLayer* targetLayer_ = nullptr;

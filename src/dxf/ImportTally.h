@@ -20,6 +20,9 @@ struct ImportTally {
   /// Whether the file can be a drawing: in text form and with sections, or at least with shapes.
   bool IsDrawing() const { return !isBinary && (hasSections || Shapes() != 0); }
 
+  /// Whether the drawing holds more than came in, for want of memory or because of a limit.
+  bool IsIncomplete() const { return cutInserts + withoutMemory + beyondLimit != 0; }
+
   std::size_t polylines = 0;
   std::size_t points = 0;
   std::size_t areas = 0;
@@ -39,8 +42,10 @@ struct ImportTally {
 
   /// Entities, copies, or the rest of the drawing, once memory ended.
   std::size_t withoutMemory = 0;
+  std::size_t beyondLimit = 0;  ///< records of entities beyond the limit of vertices
   std::size_t cutParts = 0;  ///< sections and blocks that a line too long ended before their time
 
+  int readError = 0;         ///< the `errno` that ended the reading of the file; 0 for none
   bool isBinary = false;     ///< the file is a drawing in its binary form, which is not read
   bool hasSections = false;  ///< the file has a line that begins a section
 };

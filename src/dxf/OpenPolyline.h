@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -7,7 +8,6 @@
 #include "dxf/Extrusion.h"
 #include "dxf/FileDxfVertex.h"
 #include "model/ShapePolyline.h"
-#include "model/Shapes.h"
 
 namespace hullwright {
 
@@ -27,11 +27,12 @@ public:
   void Wait(std::unique_ptr<CShapePolyline> shape) { pendingPolyline_ = std::move(shape); }
 
   void AddVertex(const CFileDxfVertex& vertex) { polylineVertices_.push_back(vertex); }
+  std::size_t VertexCount() const { return polylineVertices_.size(); }
 
-  /// Puts the waiting shape with its vertices into `target`, if there is one. Afterwards, also when
-  /// memory ends here, no shape waits and there are no vertices, so that no other polyline gets
-  /// them.
-  void End(CShapes& target);
+  /// Gives the waiting shape its vertices and hands it over; null if there is none. `leftOut` is
+  /// set for one that has more than `mostVertices`, which is left out. Afterwards, also when memory
+  /// ends here, no shape waits and there are no vertices, so that no other polyline gets them.
+  std::unique_ptr<CShapePolyline> End(std::size_t mostVertices, bool& leftOut);
 
   std::int32_t CurveType() const { return polylineCurveType_; }
 

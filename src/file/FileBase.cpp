@@ -1,5 +1,6 @@
 #include "file/FileBase.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -35,6 +36,7 @@ std::size_t FoldToText(char* text, std::size_t length)
 int CFileBase::Load(std::u16string_view filePath)
 {
   path = filePath;
+  loadError_ = 0;
   const FilePointer file = OpenToRead(filePath);
   if (!file || std::fseek(file.get(), 0, SEEK_END) != 0) return -1;
   const long length = std::ftell(file.get());
@@ -43,7 +45,9 @@ int CFileBase::Load(std::u16string_view filePath)
   const auto bytes = static_cast<std::size_t>(length);
   buffer.reset(new (std::nothrow) char[bytes + 1]);
   if (!buffer) return -1;
-  const std::size_t kept = FoldToText(buffer.get(), std::fread(buffer.get(), 1, bytes, file.get()));
+  const std::size_t read = std::fread(buffer.get(), 1, bytes, file.get());
+  if (std::ferror(file.get()) != 0) loadError_ = errno;
+  const std::size_t kept = FoldToText(buffer.get(), read);
   buffer[kept] = '\0';
   size = static_cast<std::int64_t>(kept);
   position = 0;

@@ -17,12 +17,20 @@ public:
 
   /// Reads a file as text: each CR LF becomes one LF, and a byte 0x1A ends the text. 0 on success;
   /// -1 for a file that won't open, has no bytes, is 2 GiB or larger, or does not fit into memory.
+  /// What was read before an error of the disk counts as the text; `LoadError` states the error.
   int Load(std::u16string_view filePath);
+
+  /// The `errno` that ended the last `Load` before the end of the file; 0 where the file was read
+  /// whole.
+  int LoadError() const { return loadError_; }
 
   std::int64_t size = 0;      ///< bytes of text in the buffer
   std::int64_t position = 0;  ///< where the reader stands
   std::u16string path;
   std::unique_ptr<char[]> buffer;  ///< `size` bytes of text and a NUL
+
+private:
+  int loadError_ = 0;
 };
 
 }  // namespace hullwright

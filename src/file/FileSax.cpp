@@ -78,6 +78,7 @@ void CFileSax::ResetOutput()
   outBuffer_.reset();
   blockSize_ = 0;
   lostBlock_ = false;
+  stopsAtLoss_ = false;
 }
 
 void CFileSax::WriteDeclaration()
@@ -155,6 +156,7 @@ bool CFileSax::GrowCapacity(std::size_t margin)
 {
   constexpr std::size_t step = 0x8000;
   constexpr std::size_t largestSum = 0xFFFF7FFF;
+  if (lostBlock_ && stopsAtLoss_) return false;
   if (outBuffer_) OnFullBlock();
   const std::size_t wanted = outLength + margin;
   const std::size_t request =

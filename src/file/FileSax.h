@@ -18,7 +18,7 @@ using AttributeMap = std::map<std::u16string, std::u16string>;
 /// Why and where a file could not be read.
 struct ReadError {
   std::u16string message;  ///< empty while no file has failed
-  int line = 0;            ///< from 1; 0 where the place is not known
+  int line = 0;            ///< from 1; 0 where the disk or the memory is to blame, not the document
   int column = 0;          ///< from 1; 0 where the place is not known
 };
 
@@ -91,6 +91,10 @@ protected:
   /// Resizes the block as `realloc` does; null when there is no memory for it.
   virtual void* Reallocate(void* block, std::size_t size);
 
+  /// Makes a document that has lost its block stay without one until the next `ResetOutput`, so
+  /// that composing the rest of it costs next to nothing.
+  void StopAtLoss() { stopsAtLoss_ = true; }
+
   /// Called when the block is full, before it grows: a class that has taken the text so far may set
   /// `outLength` to 0.
   virtual void OnFullBlock() {}
@@ -114,6 +118,7 @@ private:
   std::unique_ptr<char, FreeBlock> outBuffer_;
   std::size_t blockSize_ = 0;  ///< bytes of the block, never fewer than `outCapacity`
   bool lostBlock_ = false;
+  bool stopsAtLoss_ = false;
   int writeError_ = 0;
   ReadError readError_;
 };

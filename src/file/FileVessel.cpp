@@ -58,6 +58,9 @@ void CFileVessel::Compose(const OwnedArray<CShapes>& shapeGroups, EmptyGroups em
 {
   constexpr const DesignElement& root = ElementOf(ElementKind::Root);
   ResetOutput();
+  // The document is lost with its block. A fresh one would have to be cleared up to the length of
+  // the text, again and again, for nothing.
+  StopAtLoss();
   WriteDeclaration();
   OpenElement(root.name);
   for (const DesignElement& element : designElements) {
@@ -90,7 +93,7 @@ void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 {
   OpenElement(element.name, ValueAttribute(element, group));
   Walk(group.cursor, group.shapes, [this](const CShape& shape) {
-    if (shape.type == ShapeType::Polyline) WritePolyline(shape);
+    if (shape.type == ShapeType::Polyline && !LostBlock()) WritePolyline(shape);
   });
   CloseElement(element.name);
 }

@@ -1,6 +1,7 @@
 #include "file/HullwrightDoc.h"
 
 #include <cerrno>
+#include <new>
 
 #include "base/ErrorText.h"
 #include "base/OpenFile.h"
@@ -143,16 +144,23 @@ void CHullwrightDoc::FillFile(CFileVessel& file) const
   });
 }
 
+std::u16string CHullwrightDoc::Write(std::u16string_view path, IMessageBoxes& messages) const
+{
+  try {
+    CFileVessel file(messages);
+    FillFile(file);
+    if (file.Save(path, design_.shapeGroups) == 0) return {};
+    return Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
+  } catch (const std::bad_alloc&) {
+    // Nothing needs memory once the file is open.
+    return Reason(ENOMEM, "");
+  }
+}
+
 bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
 {
   MessageForLater message;
-  CFileVessel file(message);
-  FillFile(file);
-  saveProblem_.clear();
-  if (file.Save(path, design_.shapeGroups) != 0) {
-    saveProblem_ =
-        Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
-  }
+  saveProblem_ = Write(path, message);
   // Before anybody reads a message: the file may be torn until then.
   if (!SavedWhole() && onSaveFailed) onSaveFailed();
   message.ShowOn(messages_);
@@ -162,11 +170,15 @@ bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
 
 std::optional<std::size_t> CHullwrightDoc::Fingerprint() const
 {
-  HashedFile file(messages_);
-  FillFile(file);
-  file.Compose(design_.shapeGroups, CFileVessel::EmptyGroups::LeftOut);
-  if (file.LostBlock()) return std::nullopt;
-  return file.Hash();
+  try {
+    HashedFile file(messages_);
+    FillFile(file);
+    file.Compose(design_.shapeGroups, CFileVessel::EmptyGroups::LeftOut);
+    if (file.LostBlock()) return std::nullopt;
+    return file.Hash();
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
 }
 
 }  // namespace hullwright

@@ -68,6 +68,9 @@ private:
   void DeleteContents();
   void FillFile(CFileVessel& file) const;
 
+  /// Saves the design; why that failed, empty when it did not.
+  std::u16string Write(std::u16string_view path, IMessageBoxes& messages) const;
+
   DesignState& design_;
   IMainWindow& mainWindow_;
   IMessageBoxes& messages_;

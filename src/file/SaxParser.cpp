@@ -24,7 +24,7 @@ namespace {
 /// Joins a namespace and a local name; no XML text can hold it.
 constexpr char nameSeparator = '\x01';
 
-constexpr const char* outOfMemory = "out of memory";
+constexpr std::u16string_view outOfMemory = u"out of memory";
 
 /// What stands behind the last separator.
 std::string_view LocalName(const XML_Char* name)
@@ -75,6 +75,9 @@ public:
   /// Why the parse was stopped from here; null when it was not.
   const char* StopReason() const { return stopReason_; }
 
+  /// Whether memory ended in a callback, which stopped the parse.
+  bool IsOutOfMemory() const { return isOutOfMemory_; }
+
 private:
   void Stop(const char* reason)
   {
@@ -90,7 +93,8 @@ private:
     try {
       work(*this);
     } catch (const std::bad_alloc&) {
-      Stop(outOfMemory);
+      isOutOfMemory_ = true;
+      Stop(nullptr);
     }
   }
 
@@ -156,6 +160,7 @@ private:
   std::string chunk_;
   std::vector<SaxAttribute> attributes_;  ///< of the element that starts
   const char* stopReason_ = nullptr;
+  bool isOutOfMemory_ = false;
 };
 
 struct FreeParser {
@@ -185,13 +190,22 @@ bool Feed(std::FILE* file, XML_Parser parser)
   return true;
 }
 
-/// Why a parse that has just failed did so. Reads `errno`, so nothing may come in between.
-std::string FailureReason(const Driver& driver, std::FILE* file, XML_Parser parser)
+/// Reports why a parse that has just failed did so, with its place where the document is to blame.
+/// Reads `errno`, so nothing may come in between.
+void ReportFailure(const Driver& driver, std::FILE* file, XML_Parser parser,
+                   CFileSaxErrorHandler& errors)
 {
-  if (std::ferror(file) != 0) return ErrorText(errno);
-  if (driver.StopReason() != nullptr) return driver.StopReason();
-  const XML_LChar* const text = XML_ErrorString(XML_GetErrorCode(parser));
-  return text == nullptr ? outOfMemory : text;
+  const XML_Error code = XML_GetErrorCode(parser);
+  if (std::ferror(file) != 0) {
+    errors.Error(WideFromUtf8(ErrorText(errno)), 0, 0, code);
+  } else if (code == XML_ERROR_NONE || code == XML_ERROR_NO_MEMORY || driver.IsOutOfMemory()) {
+    errors.Error(outOfMemory, 0, 0, XML_ERROR_NO_MEMORY);
+  } else {
+    const char* const reason =
+        driver.StopReason() == nullptr ? XML_ErrorString(code) : driver.StopReason();
+    errors.Error(WideFromUtf8(reason), static_cast<int>(XML_GetCurrentLineNumber(parser)),
+                 static_cast<int>(XML_GetCurrentColumnNumber(parser)) + 1, code);
+  }
 }
 
 }  // namespace
@@ -211,13 +225,13 @@ bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
   if (!file) return false;
   const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> parser(
       XML_ParserCreateNS(nullptr, nameSeparator));
-  if (!parser) return false;
+  if (!parser) {
+    errors.Error(outOfMemory, 0, 0, XML_ERROR_NO_MEMORY);
+    return false;
+  }
   Driver driver(parser.get(), content);
   if (Feed(file.get(), parser.get())) return true;
-  const std::string reason = FailureReason(driver, file.get(), parser.get());
-  const XML_Error code = XML_GetErrorCode(parser.get());
-  errors.Error(WideFromUtf8(reason), static_cast<int>(XML_GetCurrentLineNumber(parser.get())),
-               static_cast<int>(XML_GetCurrentColumnNumber(parser.get())) + 1, code);
+  ReportFailure(driver, file.get(), parser.get(), errors);
   return false;
 }
 

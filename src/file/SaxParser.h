@@ -13,7 +13,8 @@ bool XmlLibraryFits();
 /// chunk is the text of one line between two tags, whole: it never breaks at a character reference,
 /// and the line break belongs to the chunk that follows it. False for a file that can't be read, is
 /// not well-formed, declares a document type or needs more memory than there is; what stood before
-/// the error has been delivered, and an error in the document has been reported.
+/// the error has been delivered. What ended the parse has been reported, with its place where that
+/// is the document; a file that won't open has not.
 bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
                   CFileSaxErrorHandler& errors);
 

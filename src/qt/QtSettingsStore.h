@@ -13,7 +13,8 @@ namespace hullwright {
 /// its own: recent files and the window's layout.
 class QtSettingsStore : public ISettingsStore {
 public:
-  /// Until the store is opened, reads give the defaults and writes are lost.
+  /// Until the store is opened, reads give the defaults and writes are lost. Settings that are a
+  /// pipe or a device are not opened.
   void Open(const QString& maker, const QString& program);
 
   void Refresh() const override;

@@ -1,6 +1,7 @@
 #include "qt/Shell.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <cstdio>
 #include <utility>
 
@@ -12,7 +13,14 @@
 
 namespace hullwright {
 
-Shell::Shell(QString file) : file_(std::move(file)) {}
+Shell::Shell(QString file) : file_(std::move(file))
+{
+  commonData_.units.onProblem = [this](std::u16string_view reason) {
+    // Later: the units are asked for in the middle of showing the panes that the note is one of.
+    QTimer::singleShot(0, &window_,
+                       [this, note = std::u16string(reason)] { window_.ShowNote(note); });
+  };
+}
 
 void Shell::InitialiseControls()
 {

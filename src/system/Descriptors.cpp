@@ -1,24 +1,9 @@
 #include "system/Descriptors.h"
 
-#include <sys/stat.h>
-
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 
 namespace hullwright {
-
-std::string MakeTemporary(const std::filesystem::path& folder)
-{
-  std::string path = (folder / ".hullwright-XXXXXX").string();
-  const Descriptor file(mkstemp(path.data()));
-  if (file.Number() < 0) return {};
-  // As a file made in the usual way would be, not for its owner alone.
-  const mode_t mask = umask(0);
-  umask(mask);
-  fchmod(file.Number(), 0666 & ~mask);
-  return path;
-}
 
 bool WriteAll(int file, std::string_view bytes)
 {
@@ -40,13 +25,6 @@ bool Copy(int from, int to)
     if (length <= 0) return length == 0;
     if (!WriteAll(to, {block.data(), static_cast<std::size_t>(length)})) return false;
   }
-}
-
-std::filesystem::path TemporaryFolder()
-{
-  std::error_code failed;
-  const std::filesystem::path folder = std::filesystem::temp_directory_path(failed);
-  return failed ? std::filesystem::path("/tmp") : folder;
 }
 
 }  // namespace hullwright

@@ -2,8 +2,6 @@
 
 #include <unistd.h>
 
-#include <filesystem>
-#include <string>
 #include <string_view>
 
 namespace hullwright {
@@ -26,12 +24,6 @@ public:
 private:
   int number_;
 };
-
-/// Makes an empty file with a name of its own in a folder; its path, empty where that fails.
-std::string MakeTemporary(const std::filesystem::path& folder);
-
-/// Where temporary files lie that belong to no folder of the user.
-std::filesystem::path TemporaryFolder();
 
 /// Writes all bytes; false with `errno` where that fails.
 bool WriteAll(int file, std::string_view bytes);

@@ -11,6 +11,7 @@
 #include "base/ErrorText.h"
 #include "base/Text.h"
 #include "system/Descriptors.h"
+#include "system/TemporaryFiles.h"
 
 namespace hullwright {
 
@@ -26,10 +27,7 @@ InputFile::InputFile(const std::string& name) : name_(name), path_(name)
   }
 }
 
-InputFile::~InputFile()
-{
-  if (!copy_.empty()) unlink(copy_.c_str());
-}
+InputFile::~InputFile() { RemoveTemporary(copy_); }
 
 void InputFile::CopyFrom(int file)
 {

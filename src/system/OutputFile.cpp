@@ -5,11 +5,11 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 
 #include "base/ErrorText.h"
 #include "system/Descriptors.h"
+#include "system/TemporaryFiles.h"
 
 namespace hullwright {
 
@@ -40,10 +40,7 @@ OutputFile::OutputFile(const std::string& name) : name_(name)
   if (exists && !copied_) chmod(path_.c_str(), before.st_mode & 07777);
 }
 
-OutputFile::~OutputFile()
-{
-  if (!path_.empty()) unlink(path_.c_str());
-}
+OutputFile::~OutputFile() { RemoveTemporary(path_); }
 
 bool OutputFile::Fail(int error)
 {
@@ -55,7 +52,7 @@ bool OutputFile::Commit()
 {
   if (path_.empty()) return false;
   if (copied_) return CopyOut();
-  if (rename(path_.c_str(), name_.c_str()) != 0) return Fail(errno);
+  if (!KeepTemporary(path_, name_)) return Fail(errno);
   path_.clear();
   return true;
 }
@@ -64,7 +61,7 @@ bool OutputFile::CopyOut()
 {
   const Descriptor written(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
   // Its name goes first, so that nothing stays behind when the reader goes away.
-  unlink(path_.c_str());
+  RemoveTemporary(path_);
   path_.clear();
   if (name_ == standardStream) return Copy(written.Number(), STDOUT_FILENO) || Fail(errno);
   const Descriptor target(open(name_.c_str(), O_WRONLY | O_CLOEXEC));

@@ -14,7 +14,26 @@ constexpr std::string_view query = "SELECT * FROM tblUnits WHERE numDimension = 
 // Codes of the library's interface.
 constexpr int resultOk = 0;
 constexpr int resultRow = 100;
+constexpr int resultDone = 101;
 constexpr int typeNull = 5;
+
+// A query of the units takes some ten steps of the library's machine a row. This many take it about
+// a second.
+constexpr int stepsOfAPiece = 10'000;
+constexpr int mostPieces = 2'000;
+
+/// Why a step gave no row.
+std::u16string StepProblem(int result)
+{
+  constexpr int resultBusy = 5;
+  constexpr int resultCorrupt = 11;
+  switch (result) {
+    case resultDone: return u"it holds no unit of length";
+    case resultBusy: return u"another program has locked it";
+    case resultCorrupt: return u"it is damaged";
+    default: return u"SQLite ERROR #" + WideFromAscii(std::to_string(result));
+  }
+}
 
 bool SameName(std::string_view a, std::string_view b)
 {
@@ -70,6 +89,7 @@ int CSQLite::Open(std::u16string_view path)
   Close();
   if (!bound_) return -1;
   if (call_.open(Utf8FromWide(path).c_str(), &database_) == resultOk && database_ != nullptr) {
+    LimitWork();
     return 0;
   }
   if (database_ != nullptr) KeepError();
@@ -77,25 +97,52 @@ int CSQLite::Open(std::u16string_view path)
   return -1;
 }
 
+void CSQLite::LimitWork()
+{
+  pieces_ = 0;
+  tookTooLong_ = false;
+  using Ask = int (*)(void*);
+  if (auto* const limit = reinterpret_cast<void (*)(sqlite3*, int, Ask, void*)>(
+          loader_.Resolve(library_, "sqlite3_progress_handler"))) {
+    limit(database_, stepsOfAPiece, IsTooMuchWork, this);
+  }
+}
+
+int CSQLite::IsTooMuchWork(void* self)
+{
+  auto& sqlite = *static_cast<CSQLite*>(self);
+  sqlite.tookTooLong_ = ++sqlite.pieces_ > mostPieces;
+  return sqlite.tookTooLong_ ? 1 : 0;
+}
+
 int CSQLite::SelectUnits()
 {
   if (database_ == nullptr) return -1;
   FinishQuery();
+  problem_.clear();
   const int prepared =
       call_.prepare(database_, query.data(), static_cast<int>(query.size()), &statement_, nullptr);
   if (prepared != resultOk || statement_ == nullptr) {
     KeepError();
     return -1;
   }
-  if (call_.step(statement_) == resultRow) return 1;
+  return StepToRow() ? 1 : -1;
+}
+
+bool CSQLite::StepToRow()
+{
+  const int result = call_.step(statement_);
+  if (result == resultRow) return true;
+  problem_ = tookTooLong_ ? u"it gives no end of rows" : StepProblem(result);
   FinishQuery();
-  return -1;
+  return false;
 }
 
 void CSQLite::KeepError()
 {
   lastError = u"SQLite ERROR #" + WideFromAscii(std::to_string(call_.errorCode(database_))) +
               u" (" + WideFromUtf8(call_.errorMessage(database_)) + u")";
+  problem_ = lastError;
 }
 
 std::optional<int> CSQLite::FindColumn(std::string_view column) const
@@ -126,9 +173,9 @@ void CSQLite::GetText(std::string_view column, std::u16string& value) const
 bool CSQLite::Next()
 {
   if (statement_ == nullptr) return false;
-  if (call_.step(statement_) == resultRow) return true;
-  FinishQuery();
-  return false;
+  const bool hasRow = StepToRow();
+  if (problem_ == StepProblem(resultDone)) problem_.clear();  // the end, behind a row
+  return hasRow;
 }
 
 void CSQLite::FinishQuery()

@@ -45,6 +45,12 @@ public:
   void Close();
   void Unload();
 
+  /// Why the last reading ended before the last row, or without one; empty where it did not.
+  const std::u16string& Problem() const { return problem_; }
+
+  /// Whether it ended because the database gave no end of work: a view can go on for ever.
+  bool TookTooLong() const { return tookTooLong_; }
+
   std::u16string lastError;  ///< text of the last failed call
 
 private:
@@ -65,7 +71,12 @@ private:
     int (*errorCode)(sqlite3*);
   };
 
+  /// Lets the library ask now and then whether to go on; one that can't is never interrupted.
+  void LimitWork();
+  static int IsTooMuchWork(void* self);
+
   bool Bind();
+  bool StepToRow();
   void KeepError();
   void FinishQuery();
   std::optional<int> FindColumn(std::string_view column) const;
@@ -77,6 +88,9 @@ private:
   sqlite3_stmt* statement_ = nullptr;
   EntryPoints call_{};
   bool bound_ = false;  ///< all entry points are there
+  int pieces_ = 0;      ///< of work since the database was opened
+  bool tookTooLong_ = false;
+  std::u16string problem_;
 };
 
 }  // namespace hullwright

@@ -1,15 +1,24 @@
 #include "system/TraceLog.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <chrono>
+#include <deque>
+#include <new>
 #include <optional>
-#include <vector>
+#include <thread>
 
 #include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/OpenFile.h"
 #include "base/Text.h"
 #include "system/CommonDataFolder.h"
+#include "system/Descriptors.h"
 
 namespace hullwright {
 namespace {
@@ -19,8 +28,15 @@ constexpr std::size_t mostRecords = 200;
 constexpr std::size_t longestPath = 259;
 
 struct Log {
+  /// Adds a record behind the others, of which the last ones stay.
+  void Add(std::string record)
+  {
+    records.push_back(std::move(record));
+    if (records.size() > mostRecords) records.pop_front();
+  }
+
   std::uint32_t sequence = 0;
-  std::vector<std::string> records;  ///< with their line ends
+  std::deque<std::string> records;  ///< with their line ends
 };
 
 /// One line with its line end, cut after the longest length; nothing at the end of the file.
@@ -44,7 +60,7 @@ Log ReadLog(std::u16string_view path)
     const bool blank = line->find_first_not_of("\r\n") == std::string::npos;
     const bool keep = continued || !blank;
     continued = !line->ends_with('\n');
-    if (keep) log.records.push_back(std::move(*line));
+    if (keep) log.Add(std::move(*line));
   }
   return log;
 }
@@ -70,6 +86,27 @@ std::string Decimal(std::uint32_t number)
   return std::to_string(static_cast<std::int32_t>(number));
 }
 
+/// Waits until no other program is between the reading and the writing of a log. One that stays
+/// there, because it was halted, is not waited for any longer.
+void Lock(int file)
+{
+  constexpr std::chrono::milliseconds between(1);
+  constexpr int mostTries = 1000;
+  for (int i = 0; i < mostTries && flock(file, LOCK_EX | LOCK_NB) != 0; ++i) {
+    if (errno != EWOULDBLOCK) return;  // a file system without locks
+    std::this_thread::sleep_for(between);
+  }
+}
+
+/// Replaces what a file holds.
+void Rewrite(int file, const Log& log)
+{
+  std::string text = Decimal(log.sequence) + '\n';
+  for (const std::string& record : log.records) text += record;
+  // Pipes and devices can't be cut and are written into all the same.
+  if (ftruncate(file, 0) == 0 || errno == EINVAL) WriteAll(file, text);
+}
+
 }  // namespace
 
 std::u16string CTraceLog::PathOf(std::u16string_view category) const
@@ -81,21 +118,30 @@ std::u16string CTraceLog::PathOf(std::u16string_view category) const
 void CTraceLog::Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
                       std::u16string_view text) const
 {
+  try {
+    Add(elapsedSeconds, level, category, text);
+  } catch (const std::bad_alloc&) {
+    // The log goes without this record; what it holds is replaced only once the new text is there.
+  }
+}
+
+void CTraceLog::Add(double elapsedSeconds, TraceLevel level, std::u16string_view category,
+                    std::u16string_view text) const
+{
+  constexpr mode_t anybody = 0666;
   const std::u16string path = PathOf(category);
   if (path.size() > longestPath) return;
+  const Descriptor file(
+      open(Utf8FromWide(path).c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, anybody));
+  if (file.Number() < 0) return;
+  Lock(file.Number());
   Log log = ReadLog(path);
-  const FilePointer file = OpenToWrite(path);
-  if (!file) return;
   ++log.sequence;
   const std::string record = Decimal(log.sequence) + "|" + FormatFixed(elapsedSeconds, 3) + "|" +
                              std::to_string(NumberOf(level)) + "|" +
                              AnsiFromWide(text.substr(0, text.find(u'\0')));
-  log.records.push_back(OnOneLine(record) + "\r\n");
-  std::fprintf(file.get(), "%s\n", Decimal(log.sequence).c_str());
-  const std::size_t first = log.records.size() - std::min(log.records.size(), mostRecords);
-  for (std::size_t i = first; i < log.records.size(); ++i) {
-    std::fputs(log.records[i].c_str(), file.get());
-  }
+  log.Add(OnOneLine(record) + "\r\n");
+  Rewrite(file.Number(), log);
 }
 
 }  // namespace hullwright

@@ -21,8 +21,9 @@ public:
   {
   }
 
-  /// Adds one record, rewriting the log whole. `text` is the formatted message, which ends at a
-  /// NUL; its line breaks and tabs become "<CR>", "<LF>" and "<TAB>".
+  /// Adds one record, rewriting the log whole, which is locked meanwhile: programs that share a log
+  /// wait for one another. `text` is the formatted message, which ends at a NUL; its line breaks
+  /// and tabs become "<CR>", "<LF>" and "<TAB>". Without memory for it there is no record.
   void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
              std::u16string_view text) const override;
 
@@ -30,6 +31,9 @@ public:
   std::u16string PathOf(std::u16string_view category) const;
 
 private:
+  void Add(double elapsedSeconds, TraceLevel level, std::u16string_view category,
+           std::u16string_view text) const;
+
   std::function<std::u16string()> folder_;
 };
 

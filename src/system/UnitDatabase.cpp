@@ -14,11 +14,11 @@ std::u16string GetDatabasePath(std::u16string_view commonDataFolder)
   return path;
 }
 
-std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
-                                  std::u16string_view databasePath)
+namespace {
+
+std::vector<UnitRecord> ReadWith(CSQLite& database, std::u16string_view databasePath)
 {
   std::vector<UnitRecord> units;
-  CSQLite database(loader, messages);
   if (database.Load() != 0 || database.Open(databasePath) != 0) return units;
   if (database.SelectUnits() != 1) return units;
   UnitRecord row;
@@ -30,7 +30,36 @@ std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& message
     database.GetText("strUnitShort", row.strUnitShort);
     units.push_back(row);
   } while (database.Next());
+  if (database.TookTooLong()) units.clear();
   return units;
+}
+
+}  // namespace
+
+std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
+                                  std::u16string_view databasePath)
+{
+  CSQLite database(loader, messages);
+  return ReadWith(database, databasePath);
+}
+
+std::vector<UnitRecord> UnitDatabase::ReadUnits()
+{
+  if (tookTooLong_) return {};
+  const std::u16string path = GetDatabasePath(folder_());
+  CSQLite database(loader_, messages_);
+  std::vector<UnitRecord> units = ReadWith(database, path);
+  tookTooLong_ = database.TookTooLong();
+  Report(path, database.Problem());
+  return units;
+}
+
+void UnitDatabase::Report(std::u16string_view path, std::u16string_view problem)
+{
+  if (problem.empty() || isReported_ || !onProblem) return;
+  isReported_ = true;
+  onProblem(u"The units of length can't be read from \"" + std::u16string(path) + u"\": " +
+            std::u16string(problem));
 }
 
 }  // namespace hullwright

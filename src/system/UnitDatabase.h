@@ -21,7 +21,8 @@ std::u16string GetDatabasePath(std::u16string_view commonDataFolder);
 std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
                                   std::u16string_view databasePath);
 
-/// The unit database in the common data folder.
+/// The unit database in the common data folder. One that gives no end of rows has no units, and is
+/// not asked again.
 class UnitDatabase : public IUnitDatabase {
 public:
   /// `commonDataFolder` returns the folder at each reading, since it may come to be during the run.
@@ -31,15 +32,19 @@ public:
   {
   }
 
-  std::vector<UnitRecord> ReadUnits() override
-  {
-    return hullwright::ReadUnits(loader_, messages_, GetDatabasePath(folder_()));
-  }
+  std::vector<UnitRecord> ReadUnits() override;
+
+  /// Called with the reason when the units can't be read for the first time.
+  std::function<void(std::u16string_view reason)> onProblem;
 
 private:
+  void Report(std::u16string_view path, std::u16string_view problem);
+
   ILibraryLoader& loader_;
   IMessageBoxes& messages_;
   std::function<std::u16string()> folder_;
+  bool isReported_ = false;
+  bool tookTooLong_ = false;
 };
 
 }  // namespace hullwright

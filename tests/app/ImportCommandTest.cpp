@@ -148,7 +148,7 @@ TEST_F(ImportCommand, TheStatusBarSaysWhatCameInAndWhatDidNot)
       widgets.notes,
       ElementsAre(u"1 polyline, 1 text", u"nothing that can be drawn; ignored: 2 SPLINE, 1 HATCH",
                   u"a binary drawing; only drawings in text form can be imported",
-                  unreadableDrawing));
+                  DescribeUnreadable({})));
 }
 
 TEST_F(ImportCommand, TheStatusBarSaysWhenNothingOfTheShapesIsInView)

@@ -210,5 +210,12 @@ TEST(PaneWidths, GiveThePromptTheRestEvenIfThatIsNegative)
   EXPECT_EQ(PaneWidths(400), (std::array<int, 3>{-100, 250, 250}));
 }
 
+TEST(PaneWidths, WrapAroundForTheLeastNumber)
+{
+  // As a constant expression, in which an overflow would not compile.
+  constexpr auto widths = PaneWidths(std::numeric_limits<int>::min());
+  EXPECT_EQ(widths, (std::array<int, 3>{std::numeric_limits<int>::max() - 499, 250, 250}));
+}
+
 }  // namespace
 }  // namespace hullwright

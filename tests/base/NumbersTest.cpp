@@ -50,6 +50,15 @@ TEST(ParseDouble, ReadsHexadecimalInfinityAndNan)
   EXPECT_TRUE(std::isnan(ParseDouble(u"NaN")));
 }
 
+TEST(ParseDouble, ASecondSignOfABinaryExponentEndsTheNumber)
+{
+  for (const char* text : {"0x10p+-4", "0x10P+-4", "0x10p-+4", "0x10p--4", "0x10p"}) {
+    EXPECT_EQ(ParseDouble(text), 16.0) << text;
+  }
+  EXPECT_EQ(ParseDouble("0x10p-4 and p+-4"), 1.0);
+  EXPECT_EQ(ParseDouble("0x10p+4"), 256.0);
+}
+
 TEST(ParseDouble, TooLargeIsInfiniteAndTooSmallIsZero)
 {
   EXPECT_EQ(ParseDouble(u"1e999"), infinity);

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "support/DxfFixture.h"
 
 namespace hullwright {
@@ -9,7 +7,6 @@ using namespace test;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 const std::string unitLine = Lines(
     {{0, "LINE"}, {5, "A1"}, {8, "part"}, {62, "1"}, {10, "1"}, {20, "0"}, {30, "2"}, {11, "2"}});
@@ -177,60 +174,6 @@ TEST_F(Inserts, AttributesThatFollowAreTextsOfTheirOwn)
   ASSERT_EQ(ShapeCount(), 3U);
   EXPECT_EQ(At<CShapeText>(1).text, u"No. 7");
   EXPECT_EQ(VerticesOf(1)[0][0], 1.0);
-}
-
-// ---------------------------------------------------------------------------------------------------
-// Blocks that multiply
-
-/// Each of these blocks inserts the one before it ten times.
-std::string Multiplying(int levels)
-{
-  std::string blocks = Block("b0", unitLine);
-  for (int level = 1; level <= levels; ++level) {
-    std::string inserts;
-    for (int i = 0; i < 10; ++i) inserts += Insert("b" + std::to_string(level - 1));
-    blocks += Block("b" + std::to_string(level), inserts);
-  }
-  return Blocks(blocks);
-}
-
-std::ptrdiff_t FailuresIn(const std::vector<std::string>& records)
-{
-  return std::ranges::count_if(
-      records, [](const std::string& record) { return record.starts_with("1 General: "); });
-}
-
-TEST_F(Inserts, StopCopyingAtABudgetAndReportThatOnce)
-{
-  const std::string inserts = unitLine + Insert("b30") + Insert("b0") + unitLine;
-  EXPECT_EQ(Import(Multiplying(30) + Entities(inserts), {.copyBudget = 1000000}), 0);
-  EXPECT_EQ(ShapeCount(), 2U);  // the lines; blocks and copies made before stay
-  EXPECT_EQ(FailuresIn(Records()), 1);
-  EXPECT_THAT(Records(), Contains(StartsWith("1 General: [DXF] The inserted blocks")));
-  EXPECT_EQ(BlockOf("b2").shapes.size(), 100U);
-}
-
-TEST_F(Inserts, OfAnOrdinaryDrawingStayFarBelowTheBudget)
-{
-  Import(Multiplying(4) + Entities(Insert("b4")));
-  EXPECT_EQ(ShapeCount(), 10000U);
-  EXPECT_EQ(FailuresIn(Records()), 0);
-  EXPECT_GT(file->Drawing().copyBudget.Left(), (std::int64_t{1} << 30) * 9 / 10);
-}
-
-TEST_F(Inserts, PayForVerticesRingsTextsAndAttributes)
-{
-  const std::string lwpolyline =
-      Entity("LWPOLYLINE", {{10, "0"}, {20, "0"}, {42, "1"}, {10, "9"}, {20, "0"}});
-  for (const auto& [entity, least] : {std::pair<std::string, std::int64_t>{lwpolyline, 180 * 56},
-                                      {Entity("SOLID"), 4 * 56},
-                                      {Entity("TEXT", {{1, std::string(500, 'x')}}), 1000},
-                                      {Entity("POINT", {{8, std::string(500, 'x')}}), 1000}}) {
-    Import(Blocks(Block("B", entity)) + Entities(Insert("B")));
-    const std::int64_t paid = (std::int64_t{1} << 30) - file->Drawing().copyBudget.Left();
-    EXPECT_GE(paid, least + 400);
-    EXPECT_LE(paid, least + 2000);
-  }
 }
 
 }  // namespace

@@ -141,7 +141,8 @@ TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
                                          "123134", "123124",         // a copy
                                          "23234", "13134", "12124",  // an entity of the block
                                          "123123",                   // the last entity
-                                         ""}));  // the block, or the log before the entities
+                                         "1234",                     // an insertion
+                                         ""}));                      // the block
 }
 
 TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextWithItsCodes)
@@ -224,7 +225,6 @@ TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
         seen.insert(names + " " + Places());
       });
   const std::set<std::string> whereItEnds = {
-      "  ",         // the log before the first entities
       "0  1",       // the first layer
       "0a  1",      // the second
       "0ab  1",     // the first block

@@ -3,8 +3,11 @@
 #include <cstdlib>
 
 #include "file/FileVessel.h"
+#include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
+#include "headless/SilentWindow.h"
 #include "model/ShapePolyline.h"
+#include "support/FailingNew.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -15,10 +18,12 @@ class ShortOfMemory : public CFileVessel {
 public:
   using CFileVessel::CFileVessel;
   int until = -1;  ///< resizes that still succeed; below 0 all do
+  int resizes = 0;
 
 protected:
   void* Reallocate(void* block, std::size_t size) override
   {
+    ++resizes;
     if (until-- != 0) return CFileVessel::Reallocate(block, size);
     std::free(block);
     return nullptr;
@@ -54,6 +59,14 @@ TEST_F(LostBlock, IsKnownWhereverMemoryEnded)
   EXPECT_FALSE(file.LostBlock());
 }
 
+TEST_F(LostBlock, IsNotReplacedByAFreshOne)
+{
+  file.until = 1;
+  file.Compose(groups);
+  EXPECT_EQ(file.resizes, 2);
+  EXPECT_TRUE(file.Output().empty());
+}
+
 TEST_F(LostBlock, IsForgottenByTheNextDocument)
 {
   file.until = 1;
@@ -74,6 +87,28 @@ TEST_F(LostBlock, ReachesNoFile)
   EXPECT_EQ(file.WriteError(), 0);
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(file.Save(path, groups), 0);
+  EXPECT_TRUE(folder.Read("boat.xml").ends_with("</vessel>\n"));
+}
+
+TEST_F(LostBlock, IsNotAllThatASaveNeedsMemoryFor)
+{
+  DesignState design;
+  design.shapeGroups = std::move(groups);
+  SilentWindow window;
+  CHullwrightDoc document(design, window, messages);
+  const std::u16string path = folder.Write("boat.xml", "before");
+  int failures = 0;
+  for (std::size_t which = 1;; ++which) {
+    folder.Write("boat.xml", "before");
+    const test::FailingNew memory(which);
+    document.OnSaveDocument(path);
+    if (!test::FailingNew::Stop()) break;
+    ++failures;
+    EXPECT_EQ(document.SaveProblem(), u"Cannot allocate memory") << which;
+    EXPECT_EQ(folder.Read("boat.xml"), "before") << which;
+  }
+  EXPECT_GT(failures, 5);
+  EXPECT_TRUE(document.SavedWhole());
   EXPECT_TRUE(folder.Read("boat.xml").ends_with("</vessel>\n"));
 }
 

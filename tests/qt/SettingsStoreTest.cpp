@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QThread>
 
@@ -65,6 +66,18 @@ TEST_F(SettingsStore, TheGridIsReadAsAnotherProgramHasLeftIt)
   QThread::msleep(20);  // file times have a grain
   folder.Write("config/Quillmere/Hullwright.ini", "[Grid]\nShow=0\n");
   EXPECT_EQ(LoadGridSettings(store).show, 0);
+}
+
+TEST_F(SettingsStore, APipeIsLeftAloneAndGivesTheDefaults)
+{
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere");
+  const auto pipe = folder.Path() / "config/Quillmere/Hullwright.ini";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  QtSettingsStore store;
+  // Would wait for ever.
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  store.Refresh();
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
 }
 
 }  // namespace

@@ -7,7 +7,9 @@
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <filesystem>
 
+#include "qt/PromptPane.h"
 #include "resources/CommandIds.h"
 #include "support/DeskFixture.h"
 
@@ -231,6 +233,22 @@ TEST_F(NewWindow, WithoutThePaneStyleTheSmallToolBarStandsInForTheMainOne)
   EXPECT_EQ(labels.join(QLatin1Char(' ')).toStdString(),
             "New\nDesign Open\nDesign Save\nDesign | Cut Copy Paste | Print About Customize...");
   EXPECT_EQ(shell.Window()->findChild<QToolBar*>()->windowTitle(), QStringLiteral("Standard"));
+}
+
+TEST_F(NewWindow, ShowsOnceWhatIsWrongWithTheUnits)
+{
+  std::filesystem::create_directories(folder.Path() / "data/Sondaris/Database");
+  folder.Write("data/Sondaris/Database/geo.db", "this is no database, not even a small one");
+  Create();
+  EXPECT_EQ(shell.App().GetUnitName(), u"");
+  QCoreApplication::processEvents();
+  const auto* const prompt = shell.Window()->findChild<PromptPane*>();
+  EXPECT_TRUE(prompt->Text().startsWith(QStringLiteral("The units of length can't be read")))
+      << prompt->Text().toStdString();
+  shell.Window()->ShowNote(u"3 polylines");
+  EXPECT_EQ(shell.App().GetUnitName(), u"");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(prompt->Text(), QStringLiteral("3 polylines"));
 }
 
 }  // namespace

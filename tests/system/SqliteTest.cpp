@@ -102,6 +102,7 @@ private:
     return reinterpret_cast<const unsigned char*>(texts.at(static_cast<std::size_t>(column) - 1));
   }
   static int ColumnInt(sqlite3_stmt*, int) { return Current().code.value_or(0); }
+  static void LimitWork(sqlite3*, int, int (*)(void*), void*) {}
   static const char* ErrorMessage(sqlite3*) { return "it failed"; }
   static int ErrorCode(sqlite3*) { return 14; }
 
@@ -127,6 +128,7 @@ private:
         {"sqlite3_column_int", Address(ColumnInt)},
         {"sqlite3_errmsg", Address(ErrorMessage)},
         {"sqlite3_errcode", Address(ErrorCode)},
+        {"sqlite3_progress_handler", Address(LimitWork)},
     };
     return functions;
   }
