@@ -14,6 +14,7 @@
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/Sheet.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
 #include "paint/PaintText.h"
@@ -98,6 +99,11 @@ public:
     surface_.SetDevice(nullptr);
   }
 
+  /// Width of the world that the last picture shows, in units of the design.
+  double WorldWidth() { return editor_.App().viewPort->right - editor_.App().viewPort->left; }
+
+  SheetFacts Facts(const QString& file) { return FactsOf(editor_.App(), file); }
+
 private:
   bool ImportIntoSides(const std::u16string& path)
   {
@@ -151,76 +157,9 @@ QByteArray MakeFile(const std::string& ending, QSize size, Paint paint)
   return bytes;
 }
 
-/// Where the sides stand on a sheet, two beside each other or three.
-struct SheetLayout {
-  static constexpr int gap = 24;
-  static constexpr int caption = 40;
-
-  explicit SheetLayout(const PictureRequest& request)
-      : count(static_cast<int>(request.sides.size())),
-        columns(count > 4 ? 3 : std::min(count, 2)),
-        cell(request.width + gap, request.height + caption + gap)
-  {
-  }
-
-  QSize Size() const
-  {
-    const int rows = (count + columns - 1) / columns;
-    return {columns * cell.width() + gap, rows * cell.height() + gap};
-  }
-
-  QPoint Corner(int i) const
-  {
-    return {gap + i % columns * cell.width(), gap + i / columns * cell.height()};
-  }
-
-  int count;
-  int columns;
-  QSize cell;
-};
-
 std::string PixelsOf(QSize size)
 {
   return std::to_string(size.width()) + "x" + std::to_string(size.height()) + " pixels";
-}
-
-/// Why there is no sheet of this size; empty where there is.
-std::string SheetProblem(const PictureRequest& request)
-{
-  constexpr int largest = 32767;  // of the toolkit's pictures
-  const QSize size = SheetLayout(request).Size();
-  if (size.width() <= largest && size.height() <= largest) return {};
-  return "the sheet would have " + PixelsOf(size) + ", more than " + std::to_string(largest) +
-         " one way; a smaller --size makes a smaller sheet";
-}
-
-/// Paints all sides with their names.
-QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
-{
-  const SheetLayout layout(request);
-  const QSize size = layout.Size();
-  return MakeFile(FormatOf(request), size, [&](QPaintDevice& device) {
-    QPainter sheet(&device);
-    sheet.fillRect(QRect(QPoint(0, 0), size), Qt::white);
-    QFont font(QString::fromLatin1(sansFace));
-    font.setPixelSize(SheetLayout::caption / 2);
-    sheet.setFont(font);
-    for (int i = 0; i < layout.count; ++i) {
-      const ViewSideEntry& side = request.sides[static_cast<std::size_t>(i)];
-      const QPoint corner = layout.Corner(i);
-      const QRect area(corner, QSize(request.width, request.height));
-      QPicture picture;
-      painter.Paint(side, picture);
-      sheet.save();
-      sheet.setClipRect(area);
-      sheet.drawPicture(corner, picture);
-      sheet.restore();
-      sheet.setPen(Qt::black);
-      sheet.drawText(QRect(area.bottomLeft(), QSize(area.width(), SheetLayout::caption)),
-                     Qt::AlignCenter,
-                     QString::fromUtf8(side.name.data(), static_cast<qsizetype>(side.name.size())));
-    }
-  });
 }
 
 /// Pictures that come to be all together, or none of them.
@@ -248,6 +187,59 @@ private:
   std::deque<OutputFile> files_;
 };
 
+/// The layout of a sheet with a table of as many rows.
+SheetLayout LayoutOf(const PictureRequest& request, qsizetype tableRows)
+{
+  return {QSize(request.width, request.height), static_cast<int>(request.sides.size()),
+          static_cast<int>(tableRows)};
+}
+
+/// Why there is no sheet of this size; empty where there is.
+std::string SheetProblem(const SheetLayout& layout)
+{
+  constexpr int largest = 32767;  // of the toolkit's pictures
+  const QSize size = layout.Size();
+  if (size.width() <= largest && size.height() <= largest) return {};
+  return "the sheet would have " + PixelsOf(size) + ", more than " + std::to_string(largest) +
+         " one way; a smaller --size makes a smaller sheet";
+}
+
+/// Paints one side in its place, with its name and a scale bar below it.
+void PaintSide(QPainter& sheet, const SheetLayout& layout, int i, const ViewSideEntry& side,
+               SidePainter& painter, const QString& unit)
+{
+  const QRect area = layout.Picture(i);
+  QPicture picture;
+  painter.Paint(side, picture);
+  sheet.save();
+  sheet.setClipRect(area);
+  sheet.drawPicture(area.topLeft(), picture);
+  sheet.restore();
+  PaintCaption(sheet, layout.Caption(i),
+               QString::fromUtf8(side.name.data(), static_cast<qsizetype>(side.name.size())));
+  PaintScaleBar(sheet, layout, i, painter.WorldWidth(), unit);
+}
+
+/// Paints all sides with their names, and what there is to tell beside them. A table makes the
+/// sheet higher, so that it may be too large only now.
+std::string AddSheet(const PictureRequest& request, const SheetFacts& facts, SidePainter& painter,
+                     PictureFiles& files)
+{
+  const SheetLayout layout = LayoutOf(request, facts.rows.size());
+  if (std::string problem = SheetProblem(layout); !problem.empty()) return problem;
+  const auto paint = [&](QPaintDevice& device) {
+    QPainter sheet(&device);
+    sheet.fillRect(QRect(QPoint(0, 0), layout.Size()), Qt::white);
+    PaintHeading(sheet, layout, facts);
+    for (int i = 0; i < layout.Count(); ++i) {
+      PaintSide(sheet, layout, i, request.sides[static_cast<std::size_t>(i)], painter,
+                facts.unitShort);
+    }
+    PaintTable(sheet, layout, facts);
+  };
+  return files.Add(request.output, MakeFile(FormatOf(request), layout.Size(), paint));
+}
+
 std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 {
   if (!request.oneEach) return request.output;
@@ -269,7 +261,7 @@ std::string WritePictures(const PictureRequest& request)
 {
   StartToolkit();
   if (request.sheet) {
-    if (std::string problem = SheetProblem(request); !problem.empty()) return problem;
+    if (std::string problem = SheetProblem(LayoutOf(request, 0)); !problem.empty()) return problem;
   }
   SidePainter painter(request);
   if (!painter.HasRoom()) {
@@ -280,7 +272,9 @@ std::string WritePictures(const PictureRequest& request)
   PictureFiles files;
   std::string problem;
   if (request.sheet) {
-    problem = files.Add(request.output, MakeSheet(request, painter));
+    problem = AddSheet(
+        request, painter.Facts(QString::fromStdString(fs::path(input.Name()).filename().string())),
+        painter, files);
   } else {
     const QSize size(request.width, request.height);
     for (const ViewSideEntry& side : request.sides) {

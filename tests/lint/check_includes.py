@@ -29,7 +29,7 @@ ROOMS = {
 START = ("cli/", "qt/Hullwright.cpp", "qt/Shell.", "system/")
 
 # rooms, and single files, that may include the toolkit's headers
-TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp")
+TOOLKIT = ("paint/", "qt/", "cli/Picture.cpp", "cli/Sheet.")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<(Q[A-Za-z0-9/]+)>)')
 
