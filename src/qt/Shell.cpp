@@ -9,16 +9,26 @@
 #include "qt/Icons.h"
 #include "qt/QtText.h"
 #include "resources/Strings.h"
+#include "system/LibraryVersions.h"
 
 namespace hullwright {
 
-Shell::Shell(QString file) : file_(std::move(file)) {}
+Shell::Shell(QString file) : file_(std::move(file)) { dialogs_.libraries = Libraries; }
 
 void Shell::InitialiseControls()
 {
   QApplication::setApplicationDisplayName(QString());
   QApplication::setDesktopFileName(QStringLiteral("hullwright"));
   QApplication::setWindowIcon(ApplicationIcon());
+}
+
+QString Shell::Libraries()
+{
+  const QString expat = QString::fromStdString(XmlLibraryVersion());
+  const QString sqlite = QString::fromStdString(SqliteVersion());
+  return QCoreApplication::translate("Shell", "Runs on Qt %1, Expat %2, SQLite %3.")
+      .arg(QLatin1String(qVersion()), expat,
+           sqlite.isEmpty() ? QCoreApplication::translate("Shell", "(not found)") : sqlite);
 }
 
 bool Shell::InitialiseLibraries() { return XmlLibraryFits(); }
@@ -43,8 +53,10 @@ bool Shell::ProcessCommandLine()
   }
   if (window_.Document().Open(ToWide(file_))) return true;
   // The process ends without a window; at least a terminal shows why.
-  std::fprintf(stderr, "hullwright: cannot open the design '%s': %s\n",
-               file_.toLocal8Bit().constData(), Utf8FromWide(window_.OpenProblem()).c_str());
+  const QString problem =
+      QCoreApplication::translate("Shell", "hullwright: cannot open the design '%1': %2\n")
+          .arg(file_, ToQString(window_.OpenProblem()));
+  std::fputs(problem.toLocal8Bit().constData(), stderr);
   return false;
 }
 
