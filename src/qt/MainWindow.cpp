@@ -300,8 +300,7 @@ void MainWindow::changeEvent(QEvent* event)
 {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && actions_ != nullptr) {
-    actions_->RefreshIcons();
-    SetViewButtonImage(frame_.viewButtonImage);
+    RefreshIcons();
   }
 }
 

@@ -88,6 +88,7 @@ private:
   void FillToolBarsMenu();
   void Customize();
   void ShowGuide();
+  void RefreshIcons();
   void BuildStatusBar();
   void BuildObjectPane();
   void GoToNextPane();
@@ -118,6 +119,7 @@ private:
   QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
   ToolBars* toolBars_ = nullptr;
+  QAction* guideAction_ = nullptr;
   QPointer<GuideWindow> guide_;            ///< while it is open
   QPointer<CustomizeDialog> customizing_;  ///< while it is open
   QMenu* recentMenu_ = nullptr;

@@ -20,11 +20,10 @@ void MainWindow::BuildMenus()
   };
   actions_->FillMenuBar(*menuBar(), mainMenu);
   QMenu* const help = menuBar()->actions().constLast()->menu();
-  QAction* const guide = help->addAction(ThemedIcon("help", palette()), tr("&Help"));
-  guide->setObjectName(QStringLiteral("Guide"));
-  guide->setShortcut(Qt::Key_F1);
-  guide->setStatusTip(tr("Read the guide"));
-  connect(guide, &QAction::triggered, this, [this] { ShowGuide(); });
+  guideAction_ = help->addAction(ThemedIcon("help", palette()), tr("&Help"));
+  guideAction_->setShortcut(Qt::Key_F1);
+  guideAction_->setStatusTip(tr("Read the guide"));
+  connect(guideAction_, &QAction::triggered, this, [this] { ShowGuide(); });
   recentMenu_ = new QMenu(this);
   actions_->Get(CommandId::RecentFile)->setMenu(recentMenu_);
   toolBarsMenu_ = new QMenu(this);
@@ -99,6 +98,13 @@ void MainWindow::ShowGuide()
   guide_->show();
   guide_->raise();
   guide_->activateWindow();
+}
+
+void MainWindow::RefreshIcons()
+{
+  actions_->RefreshIcons();
+  guideAction_->setIcon(ThemedIcon("help", palette()));
+  SetViewButtonImage(frame_.viewButtonImage);
 }
 
 void MainWindow::BuildStatusBar()

@@ -141,11 +141,4 @@ void ObjectTreeWidget::contextMenuEvent(QContextMenuEvent* event)
   pane_->OnContextMenu(model_->ItemAt(index));
 }
 
-void ObjectTreeWidget::initViewItemOption(QStyleOptionViewItem* option) const
-{
-  QTreeView::initViewItemOption(option);
-  // The chosen row is pale while the keyboard is elsewhere, also in the same window.
-  if (!hasFocus()) option->state.setFlag(QStyle::State_Active, false);
-}
-
 }  // namespace hullwright

@@ -41,7 +41,6 @@ protected:
                                                        const QEvent* event) const override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
-  void initViewItemOption(QStyleOptionViewItem* option) const override;
 
 private:
   void RefreshIcons();

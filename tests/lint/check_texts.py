@@ -9,7 +9,7 @@ import sys
 import checking
 
 # Names that look like words and are shown to nobody: of objects, styles, and contexts of translations.
-NAMES = {"CustomizeButton", "Fusion", "Guide", "ObjectView", "SideButton", "StandardToolBar", "Windows"}
+NAMES = {"CustomizeButton", "Fusion", "ObjectView", "SideButton", "StandardToolBar", "Windows"}
 
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 DOOR = re.compile(r'(?:\btr|\bTr)\(\s*$|\btranslate\(\s*(?:"\w+",\s*)?$')

@@ -10,6 +10,7 @@
 #include <QTextFragment>
 
 #include "file/SaxParser.h"
+#include "qt/Icons.h"
 #include "qt/TemplateDialog.h"
 #include "support/DeskFixture.h"
 #include "system/LibraryVersions.h"
@@ -74,6 +75,15 @@ TEST_F(Guide, HelpStandsBehindAboutAndHasTheKeyF1)
   EXPECT_EQ(entries.at(1)->text(), QStringLiteral("&Help"));
   EXPECT_EQ(entries.at(1)->shortcut(), QKeySequence(Qt::Key_F1));
   EXPECT_FALSE(entries.at(1)->icon().isNull());
+}
+
+TEST_F(Guide, TheImageOfItsEntryFollowsTheLook)
+{
+  const QAction& entry = *Window().menuBar()->actions().constLast()->menu()->actions().constLast();
+  Window().RunCommand(CommandOf(Look::Black));
+  EXPECT_EQ(entry.icon().pixmap(16).toImage(),
+            ThemedIcon("help", QApplication::palette()).pixmap(16).toImage());
+  Window().RunCommand(CommandOf(Look::VisualStudio2008));
 }
 
 TEST_F(Guide, IsNotMadeBeforeItIsAskedForAndOpensOnce)

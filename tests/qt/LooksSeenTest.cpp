@@ -119,7 +119,7 @@ TEST_F(LooksSeen, TheButtonsOfAPaneAreSeen)
       ASSERT_TRUE(button->isVisible());
       const QRect place = button->geometry();
       const QImage image = pane.grab(place).toImage();
-      EXPECT_GE(PixelsSeen(image, image.rect(), image.pixelColor(0, 0)), 8) << look << name;
+      EXPECT_GE(PixelsSeen(image, image.rect(), image.pixelColor(0, 0)), 18) << look << name;
     }
   });
 }
