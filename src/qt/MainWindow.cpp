@@ -299,7 +299,7 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && actions_ != nullptr) {
+  if (event->type() == QEvent::PaletteChange && guideAction_ != nullptr) {
     RefreshIcons();
   }
 }

@@ -81,6 +81,7 @@ TEST_F(Guide, TheImageOfItsEntryFollowsTheLook)
 {
   const QAction& entry = *Window().menuBar()->actions().constLast()->menu()->actions().constLast();
   Window().RunCommand(CommandOf(Look::Black));
+  QApplication::processEvents();
   EXPECT_EQ(entry.icon().pixmap(16).toImage(),
             ThemedIcon("help", QApplication::palette()).pixmap(16).toImage());
   Window().RunCommand(CommandOf(Look::VisualStudio2008));
