@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <cmath>
 
 #include "qt/Contrast.h"
 
@@ -22,10 +23,9 @@ QColor ShapeColour(const QStyleOption& option, const QColor& wanted, const QColo
 /// The largest square in the middle of a rectangle, on the middles of pixels.
 QRectF Square(const QRect& rect)
 {
-  const int side = qMin(rect.width(), rect.height()) - 1;
-  return {rect.left() + (rect.width() - 1 - side) / 2 + 0.5,
-          rect.top() + (rect.height() - 1 - side) / 2 + 0.5, static_cast<double>(side),
-          static_cast<double>(side)};
+  const double side = qMin(rect.width(), rect.height()) - 1;
+  const QPointF corner = QRectF(rect).center() - QPointF(side / 2, side / 2);
+  return {std::floor(corner.x()) + 0.5, std::floor(corner.y()) + 0.5, side, side};
 }
 
 /// The edge of a box or circle: it stands on the window and holds the colour of fields.
@@ -34,7 +34,7 @@ QPen Edge(const QStyleOption& option)
   const QColor window = option.palette.color(QPalette::Window);
   // Darker than it must be: what smoothing leaves of a thin line at its edges is paler.
   const QColor grey = Between(option.palette.color(QPalette::WindowText), window, 0.25);
-  return QPen(ShapeColour(option, grey, window), 1.2);
+  return {ShapeColour(option, grey, window), 1.2};
 }
 
 QColor MarkColour(const QStyleOption& option)
