@@ -11,7 +11,7 @@
 #include "cli/HeadlessEditor.h"
 #include "cli/PictureFile.h"
 #include "cli/PictureName.h"
-#include "cli/PictureSheet.h"
+#include "cli/Sheet.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
 #include "paint/PaintText.h"
@@ -273,14 +273,17 @@ std::string WriteDiffPicture(const DiffPictureRequest& request)
   std::vector<std::string> captions;
   captions.reserve(sides.size());
   for (const ViewSideEntry& side : sides) captions.push_back(std::string(side.name) + legend);
-  const PictureSheet sheet(pictureSize, std::move(captions));
+  const SheetLayout layout(pictureSize, static_cast<int>(sides.size()));
+  const auto paint = [&](QPaintDevice& device) {
+    QPainter sheet(&device);
+    PaintPictures(sheet, layout, captions, [&](std::size_t i, QPoint corner) {
+      sheet.translate(corner);
+      overlay.Paint(sides[i].code, sheet);
+    });
+  };
   PictureFiles files;
   std::string problem =
-      files.Add(request.output, sheet.Make(PictureEnding(request.output),
-                                           [&](std::size_t i, QPoint corner, QPainter& painter) {
-                                             painter.translate(corner);
-                                             overlay.Paint(sides[i].code, painter);
-                                           }));
+      files.Add(request.output, MakePicture(PictureEnding(request.output), layout.Size(), paint));
   return problem.empty() ? files.Commit() : problem;
 }
 

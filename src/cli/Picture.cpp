@@ -10,7 +10,7 @@
 #include "cli/CommandLine.h"
 #include "cli/PictureFile.h"
 #include "cli/PictureName.h"
-#include "cli/PictureSheet.h"
+#include "cli/Sheet.h"
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
 #include "system/InputFile.h"
@@ -73,6 +73,11 @@ public:
     surface_.SetDevice(nullptr);
   }
 
+  /// Width of the world that the last picture shows, in units of the design.
+  double WorldWidth() { return editor_.App().viewPort->right - editor_.App().viewPort->left; }
+
+  SheetFacts Facts(const QString& file) { return FactsOf(editor_.App(), file); }
+
 private:
   bool ImportIntoSides(const std::u16string& path)
   {
@@ -88,23 +93,44 @@ private:
   HeadlessEditor editor_;
 };
 
-/// The sheet of all sides that are asked for.
-PictureSheet SheetOf(const PictureRequest& request)
+/// The layout of a sheet with a table of as many rows.
+SheetLayout LayoutOf(const PictureRequest& request, qsizetype tableRows)
 {
-  std::vector<std::string> names;
-  for (const ViewSideEntry& side : request.sides) names.emplace_back(side.name);
-  return {QSize(request.width, request.height), std::move(names)};
+  return {QSize(request.width, request.height), static_cast<int>(request.sides.size()),
+          static_cast<int>(tableRows)};
 }
 
-/// Paints all sides with their names.
-QByteArray MakeSheet(const PictureRequest& request, SidePainter& painter)
+/// Paints all sides with their names, and what there is to tell beside them.
+void PaintSheet(const PictureRequest& request, const SheetLayout& layout, const SheetFacts& facts,
+                SidePainter& painter, QPaintDevice& device)
 {
-  return SheetOf(request).Make(FormatOf(request),
-                               [&](std::size_t i, QPoint corner, QPainter& sheet) {
-                                 QPicture picture;
-                                 painter.Paint(request.sides[i], picture);
-                                 sheet.drawPicture(corner, picture);
-                               });
+  QPainter sheet(&device);
+  std::vector<std::string> names;
+  for (const ViewSideEntry& side : request.sides) names.emplace_back(side.name);
+  std::vector<double> widths;
+  PaintPictures(sheet, layout, names, [&](std::size_t i, QPoint corner) {
+    QPicture picture;
+    painter.Paint(request.sides[i], picture);
+    sheet.drawPicture(corner, picture);
+    widths.push_back(painter.WorldWidth());
+  });
+  for (int i = 0; i < layout.Count(); ++i) {
+    PaintScaleBar(sheet, layout, i, widths[static_cast<std::size_t>(i)], facts.unitShort);
+  }
+  PaintHeading(sheet, layout, facts);
+  PaintTable(sheet, layout, facts);
+}
+
+/// A table makes the sheet higher, so that it may be too large only now.
+std::string AddSheet(const PictureRequest& request, const SheetFacts& facts, SidePainter& painter,
+                     PictureFiles& files)
+{
+  const SheetLayout layout = LayoutOf(request, facts.rows.size());
+  if (std::string problem = layout.Problem(); !problem.empty()) return problem;
+  return files.Add(request.output,
+                   MakePicture(FormatOf(request), layout.Size(), [&](QPaintDevice& device) {
+                     PaintSheet(request, layout, facts, painter, device);
+                   }));
 }
 
 std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
@@ -122,7 +148,7 @@ std::string WritePictures(const PictureRequest& request, bool& isIncomplete)
 {
   StartToolkit();
   if (request.sheet) {
-    if (std::string problem = SheetOf(request).Problem(); !problem.empty()) return problem;
+    if (std::string problem = LayoutOf(request, 0).Problem(); !problem.empty()) return problem;
   }
   SidePainter painter(request);
   if (!painter.HasRoom()) {
@@ -134,7 +160,9 @@ std::string WritePictures(const PictureRequest& request, bool& isIncomplete)
   PictureFiles files;
   std::string problem;
   if (request.sheet) {
-    problem = files.Add(request.output, MakeSheet(request, painter));
+    problem = AddSheet(
+        request, painter.Facts(QString::fromStdString(fs::path(input.Name()).filename().string())),
+        painter, files);
   } else {
     const QSize size(request.width, request.height);
     for (const ViewSideEntry& side : request.sides) {

@@ -218,6 +218,13 @@ bool XmlLibraryFits()
   return running >= built;
 }
 
+std::string XmlLibraryVersion()
+{
+  const XML_Expat_Version found = XML_ExpatVersionInfo();
+  return std::to_string(found.major) + '.' + std::to_string(found.minor) + '.' +
+         std::to_string(found.micro);
+}
+
 bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
                   CFileSaxErrorHandler& errors)
 {

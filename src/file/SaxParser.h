@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "file/SaxHandlers.h"
@@ -8,6 +9,9 @@ namespace hullwright {
 
 /// Whether the XML library found at run time is at least the one that the program was built with.
 bool XmlLibraryFits();
+
+/// Version of the XML library found at run time, such as "2.5.0".
+std::string XmlLibraryVersion();
 
 /// Parses an XML file with namespaces and delivers local names, attributes and chunks of text. A
 /// chunk is the text of one line between two tags, whole: it never breaks at a character reference,

@@ -19,6 +19,18 @@ QString TwoLines(std::u16string_view label)
   return ToQString(label).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+QString ToolTip(const CommandEntry& command)
+{
+  QString tip = OneLine(TooltipText(command));
+  if (!command.key.empty()) {
+    const QKeySequence key(ToQString(command.key));
+    tip += QStringLiteral(" (%1)").arg(key.toString(QKeySequence::NativeText));
+  }
+  const QString prompt = ToQString(StatusText(command));
+  const bool tellsMore = prompt.compare(tip, Qt::CaseInsensitive) != 0;
+  return tip.isEmpty() || prompt.isEmpty() || !tellsMore ? tip : tip + QLatin1Char('\n') + prompt;
+}
+
 Actions::Actions(QWidget* window, std::function<void(CommandId)> run)
     : QObject(window), window_(window), looks_(new QActionGroup(this)), run_(std::move(run))
 {
@@ -36,7 +48,7 @@ QAction* Actions::Get(CommandId command)
     const std::u16string_view tooltip = TooltipText(*entry);
     action->setText(OneLine(tooltip));
     action->setIconText(TwoLines(tooltip));
-    action->setToolTip(OneLine(tooltip));
+    action->setToolTip(ToolTip(*entry));
     SetKeys(*entry, *action);
   }
   if (LookOf(command)) looks_->addAction(action);
@@ -52,8 +64,6 @@ void Actions::SetKeys(const CommandEntry& command, QAction& action)
   }
   if (keys.isEmpty()) return;
   action.setShortcuts(keys);
-  action.setToolTip(action.toolTip() +
-                    QStringLiteral(" (%1)").arg(keys.first().toString(QKeySequence::NativeText)));
   window_->addAction(&action);
 }
 

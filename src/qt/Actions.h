@@ -48,6 +48,9 @@ private:
 /// A label of the resources on one line, with a blank where a carriage return marks its line break.
 QString OneLine(std::u16string_view label);
 
+/// A command's label with its key, and below it what the command does.
+QString ToolTip(const CommandEntry& command);
+
 /// The same label on two lines.
 QString TwoLines(std::u16string_view label);
 

@@ -7,10 +7,11 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "base/Code.h"
-#include "qt/Icons.h"
+#include "qt/DialogButtons.h"
 
 namespace hullwright {
 namespace {
@@ -62,19 +63,21 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   column->addStretch();
   grid->addLayout(column, 2, 1);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setIcon(ThemedIcon("dialog-ok", palette()));
-  buttons->button(QDialogButtonBox::Cancel)->setIcon(ThemedIcon("dialog-cancel", palette()));
   connect(buttons, &QDialogButtonBox::accepted, this, [this] {
     TakeOver();
     accept();
   });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
   grid->addWidget(buttons, 3, 0, 1, 3);
+  SetButtonImages(*this);
   bars_->setMinimumWidth(160);
   for (QListWidget* const list : {available_, shown_}) {
-    list->setMinimumSize(340, 420);
+    list->setMinimumSize(160, 120);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   }
+  constexpr QSize comfortable(860, 560);
+  constexpr double mostOfTheScreen = 0.9;
+  resize(comfortable.boundedTo(screen()->availableSize() * mostOfTheScreen));
 
   for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
   FillAvailable();

@@ -1,9 +1,9 @@
 #include "qt/DroppedFiles.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
-#include <QObject>
 #include <QUrl>
 
 namespace hullwright {
@@ -23,7 +23,7 @@ QString NotOpened(const QStringList& paths)
   for (const QString& path : paths) {
     names.append(QLatin1Char('"') + QFileInfo(path).fileName() + QLatin1Char('"'));
   }
-  return QObject::tr("One design is open at a time; not opened: %1")
+  return QCoreApplication::translate("DroppedFiles", "One design is open at a time; not opened: %1")
       .arg(names.join(QStringLiteral(", ")));
 }
 

@@ -2,6 +2,8 @@
 #include <QCommandLineParser>
 #include <chrono>
 
+#include "qt/Accessibility.h"
+#include "qt/Looks.h"
 #include "qt/QtText.h"
 #include "qt/Shell.h"
 #include "resources/Strings.h"
@@ -14,8 +16,9 @@ void Describe(QCommandLineParser& commandLine)
   commandLine.setApplicationDescription(hullwright::ToQString(hullwright::Strings::description));
   commandLine.addHelpOption();
   commandLine.addVersionOption();
-  commandLine.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The design to open."),
-                                    QStringLiteral("[FILE]"));
+  commandLine.addPositionalArgument(
+      QStringLiteral("file"), QCoreApplication::translate("CommandLine", "The design to open."),
+      QStringLiteral("[FILE]"));
 }
 
 /// Help and version need no display; the toolkit's own options are not known yet and are no errors.
@@ -39,6 +42,8 @@ int main(int argc, char** argv)
   hullwright::LeaveSilentSessionBus(std::chrono::seconds(3));
   const QApplication toolkit(argc, argv);
   commandLine.process(toolkit);
+  hullwright::PrepareLooks();
+  hullwright::InstallAccessibility();
 
   hullwright::Shell shell(commandLine.positionalArguments().value(0));
   if (!shell.App().InitInstance(shell)) return 1;

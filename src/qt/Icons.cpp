@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QPalette>
 
+#include "qt/Contrast.h"
 #include "qt/QtText.h"
 #include "qt/SvgIconEngine.h"
 
@@ -22,12 +23,14 @@ QIcon FromFile(std::string_view name, const IconColours& normal,
 
 QIcon ThemedIcon(std::string_view name, const QPalette& palette)
 {
-  const bool dark = palette.color(QPalette::Window).lightness() < 128;
+  const QColor window = palette.color(QPalette::Window);
+  const auto seen = [window](QRgb colour) { return Seen(QColor(colour), window).rgb(); };
   const IconColours normal = {palette.color(QPalette::WindowText).rgb(),
-                              dark ? lightAccent : drawnColours.accent};
+                              window.lightness() < 128 ? lightAccent : drawnColours.accent,
+                              seen(drawnColours.good), seen(drawnColours.bad)};
   // In a chosen row the background is the highlight colour, which the accent resembles.
   const QRgb chosen = palette.color(QPalette::HighlightedText).rgb();
-  return FromFile(name, normal, IconColours{chosen, chosen});
+  return FromFile(name, normal, IconColours{chosen, chosen, chosen, chosen});
 }
 
 QIcon ApplicationIcon() { return FromFile("app", drawnColours, std::nullopt); }

@@ -3,10 +3,11 @@
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 #include <algorithm>
 #include <array>
 
+#include "qt/Contrast.h"
+#include "qt/LookStyle.h"
 #include "resources/CommandIds.h"
 
 namespace hullwright {
@@ -20,30 +21,35 @@ struct LookColours {
   QRgb highlight;
 };
 
+// What smoothing leaves of thin letters is paler than the colour that they are drawn in.
+constexpr double smoothTextContrast = textContrast + 0.5;
+
+constexpr const char* usualStyle = "Fusion";
 constexpr QRgb plainWindow = qRgb(0xef, 0xef, 0xef);
 constexpr QRgb plainHighlight = qRgb(0x20, 0x6f, 0xa8);
 
 constexpr auto looks = std::to_array<LookColours>({
     {Look::Windows2000, "Windows", qRgb(0xd4, 0xd0, 0xc8), qRgb(0x0a, 0x24, 0x6a)},
-    {Look::OfficeXp, "Fusion", qRgb(0xec, 0xe9, 0xd8), qRgb(0x31, 0x6a, 0xc5)},
-    {Look::WindowsXp, "Fusion", qRgb(0xf1, 0xef, 0xe2), qRgb(0x31, 0x6a, 0xc5)},
-    {Look::Office2003, "Fusion", qRgb(0xdd, 0xe8, 0xf7), qRgb(0x31, 0x6a, 0xc5)},
-    {Look::VisualStudio2005, "Fusion", qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
-    {Look::VisualStudio2008, "Fusion", plainWindow, plainHighlight},
-    {Look::Blue, "Fusion", qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
-    {Look::Black, "Fusion", qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
-    {Look::Silver, "Fusion", qRgb(0xe4, 0xe6, 0xea), qRgb(0x45, 0x5f, 0x85)},
-    {Look::Aqua, "Fusion", qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
-    {Look::Windows7, "Fusion", qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
+    {Look::OfficeXp, usualStyle, qRgb(0xec, 0xe9, 0xd8), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::WindowsXp, usualStyle, qRgb(0xf1, 0xef, 0xe2), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::Office2003, usualStyle, qRgb(0xdd, 0xe8, 0xf7), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::VisualStudio2005, usualStyle, qRgb(0xf0, 0xee, 0xe6), qRgb(0x31, 0x6a, 0xc5)},
+    {Look::VisualStudio2008, usualStyle, plainWindow, plainHighlight},
+    {Look::Blue, usualStyle, qRgb(0xd6, 0xe4, 0xf5), qRgb(0x1f, 0x6f, 0xb2)},
+    {Look::Black, usualStyle, qRgb(0x35, 0x37, 0x3a), qRgb(0x2a, 0x6a, 0xa3)},
+    {Look::Silver, usualStyle, qRgb(0xe4, 0xe6, 0xea), qRgb(0x45, 0x5f, 0x85)},
+    {Look::Aqua, usualStyle, qRgb(0xd9, 0xef, 0xee), qRgb(0x1d, 0x8a, 0x86)},
+    {Look::Windows7, usualStyle, qRgb(0xf0, 0xf4, 0xfa), qRgb(0x1a, 0x6a, 0xc4)},
 });
 
 QPalette PaletteOf(const LookColours& look)
 {
   QPalette palette = QPalette(QColor(look.window));
-  palette.setColor(QPalette::Highlight, QColor(look.highlight));
+  palette.setColor(QPalette::Highlight,
+                   Seen(QColor(look.highlight), Qt::white, smoothTextContrast));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   // What is chosen in a list that has not the keyboard.
-  palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x76, 0x7b, 0x80));
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x6b, 0x70, 0x75));
   const QColor window(look.window);
   if (window.lightness() < 128) {
     palette.setColor(QPalette::Base, window.darker(130));
@@ -59,17 +65,22 @@ QPalette PaletteOf(const LookColours& look)
   return palette;
 }
 
+void SetLookStyle(const QString& base)
+{
+  const auto* const current = qobject_cast<LookStyle*>(QApplication::style());
+  if (current == nullptr || current->Base() != base) QApplication::setStyle(new LookStyle(base));
+}
+
 }  // namespace
+
+void PrepareLooks() { SetLookStyle(QString::fromLatin1(usualStyle)); }
 
 void ApplyLook(Look look)
 {
   const auto* found = std::ranges::find(looks, look, &LookColours::look);
   if (found == looks.end()) found = std::ranges::find(looks, Look::Blue, &LookColours::look);
   // Even the same style would have every widget measured anew.
-  const QLatin1String style(found->style);
-  if (QApplication::style()->name().compare(style, Qt::CaseInsensitive) != 0) {
-    QApplication::setStyle(QStyleFactory::create(style));
-  }
+  SetLookStyle(QString::fromLatin1(found->style));
   QApplication::setPalette(PaletteOf(*found));
 }
 

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include "qt/Busy.h"
 #include "qt/DroppedFiles.h"
 #include "qt/Looks.h"
 #include "qt/MenuKeys.h"
@@ -17,6 +18,7 @@
 #include "qt/ShellCommandTable.h"
 #include "resources/Commands.h"
 #include "resources/Strings.h"
+#include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
@@ -99,105 +101,6 @@ void MainWindow::ShowAsBefore()
   UpdateCommands();
 }
 
-void MainWindow::BuildMenus()
-{
-  // What a menu shows is brought up to date when it opens.
-  actions_->onMenu = [this](QMenu& menu) {
-    connect(&menu, &QMenu::aboutToShow, this, [this] { UpdateCommands(); });
-  };
-  actions_->FillMenuBar(*menuBar(), mainMenu);
-  recentMenu_ = new QMenu(this);
-  actions_->Get(CommandId::RecentFile)->setMenu(recentMenu_);
-  toolBarsMenu_ = new QMenu(this);
-  actions_->Get(CommandId::ViewToolbars)->setMenu(toolBarsMenu_);
-  connect(recentMenu_, &QMenu::aboutToShow, this, [this] { FillRecentFiles(*recentMenu_); });
-}
-
-void MainWindow::BuildToolBars()
-{
-  using Row = std::span<const CommandId>;
-  const Row commands = app_.paneStyleFlag != 0 ? Row(mainToolBar) : Row(smallToolBar);
-  toolBars_ = new ToolBars(*this, *actions_, QList<CommandId>(commands.begin(), commands.end()));
-  if (const QSettings* const file = settings_.File()) {
-    toolBars_->Load(*file);
-  } else {
-    toolBars_->Build({toolBars_->StandardSpec()});
-  }
-  QAction* const customize = actions_->Get(CommandId::Customize);
-  customize->setText(ToQString(Strings::customize));
-  connect(toolBarsMenu_, &QMenu::aboutToShow, this, [this] { FillToolBarsMenu(); });
-}
-
-void MainWindow::FillToolBarsMenu()
-{
-  toolBarsMenu_->clear();
-  for (const QToolBar* const bar : toolBars_->Bars()) {
-    toolBarsMenu_->addAction(bar->toggleViewAction());
-  }
-  toolBarsMenu_->addAction(objectPane_->toggleViewAction());
-  toolBarsMenu_->addSeparator();
-  toolBarsMenu_->addAction(actions_->Get(CommandId::Customize));
-}
-
-QMenu* MainWindow::createPopupMenu()
-{
-  // The menu on toolbars and panes; it is the caller's to delete.
-  FillToolBarsMenu();
-  auto* const menu = new QMenu(this);
-  menu->addActions(toolBarsMenu_->actions());
-  return menu;
-}
-
-void MainWindow::Customize()
-{
-  if (customizing_ == nullptr) {
-    customizing_ = new CustomizeDialog(*toolBars_, *actions_, this);
-    customizing_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(customizing_, &QDialog::accepted, this, [this] {
-      toolBars_->Build(customizing_->Specs());
-      if (QSettings* const file = settings_.File()) toolBars_->Store(*file);
-      UpdateCommands();
-    });
-  }
-  customizing_->show();
-  customizing_->raise();
-  customizing_->activateWindow();
-}
-
-void MainWindow::BuildStatusBar()
-{
-  const auto dataPane = [this](int width) {
-    auto* const pane = new StatusPane(ToQString(Strings::paneEmpty), width, this);
-    statusBar()->addPermanentWidget(pane);
-    return pane;
-  };
-  prompt_ = new PromptPane(ToQString(Strings::ready), this);
-  statusBar()->addWidget(prompt_, 1);
-  progress_ = new ProgressPane(this);
-  statusBar()->addWidget(progress_, 1);
-  progress_->hide();  // adding has shown it
-  constexpr auto widths = PaneWidths(0);
-  coordinatesPane_ = dataPane(widths[1]);
-  unitsPane_ = dataPane(widths[2]);
-  unitsPane_->onPress = [this] { RunCommand(CommandId::Units); };
-}
-
-void MainWindow::BuildObjectPane()
-{
-  constexpr int startWidth = 200;
-  constexpr int leastWidth = 120;
-  tree_->setMinimumWidth(leastWidth);  // a window made tiny would keep it at a sliver
-  tree_->iconOf = [this](CommandId command) { return actions_->Get(command)->icon(); };
-  tree_->Attach(editor_.objects);
-  editor_.objects.BuildTree();
-  objectPane_ = new QDockWidget(ToQString(Strings::objectView), this);
-  objectPane_->setObjectName(QStringLiteral("ObjectView"));
-  objectPane_->setWidget(tree_);
-  addDockWidget(Qt::LeftDockWidgetArea, objectPane_);
-  resizeDocks({objectPane_}, {startWidth}, Qt::Horizontal);
-  connect(tree_, &ObjectTreeWidget::Changed, this, [this] { UpdateAll(); });
-}
-
 void MainWindow::GoToNextPane()
 {
   // There are two panes, so the next one is also the one before.
@@ -272,6 +175,7 @@ void MainWindow::FillRecentFiles(QMenu& menu)
 void MainWindow::OpenFromOutside(const QStringList& paths)
 {
   note_.clear();
+  ShowBusy();
   documents_.Open(ToWide(paths.first()));
   if (paths.size() > 1) {
     const QString others = NotOpened(paths.mid(1));
@@ -319,7 +223,11 @@ void MainWindow::UpdateAll()
 void MainWindow::UpdateCommands()
 {
   actions_->ForEach([this](CommandId command, QAction& action) {
-    const CommandState state = Query(command);
+    CommandState state = Query(command);
+    if (const ViewSideEntry* const side = FindViewSideByCommand(command)) {
+      state.checkable = true;
+      state.checked = side->code == app_.activeView;
+    }
     action.setEnabled(state.enabled);
     action.setCheckable(state.checkable);
     action.setChecked(state.checked);
@@ -391,9 +299,8 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && actions_ != nullptr) {
-    actions_->RefreshIcons();
-    SetViewButtonImage(frame_.viewButtonImage);
+  if (event->type() == QEvent::PaletteChange && guideAction_ != nullptr) {
+    RefreshIcons();
   }
 }
 

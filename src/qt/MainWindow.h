@@ -10,6 +10,7 @@
 #include "qt/Actions.h"
 #include "qt/CustomizeDialog.h"
 #include "qt/DesignWidget.h"
+#include "qt/GuideWindow.h"
 #include "qt/ObjectTreeWidget.h"
 #include "qt/ProgressPane.h"
 #include "qt/PromptPane.h"
@@ -57,6 +58,8 @@ public:
   /// Carries out a command of menu, toolbar or key, if it is enabled.
   void RunCommand(CommandId command);
 
+  QString guideFolder;  ///< where the guide lies; empty for beside the program
+
   /// Shows the window where and as it was closed last.
   void ShowAsBefore();
 
@@ -84,6 +87,8 @@ private:
   void BuildToolBars();
   void FillToolBarsMenu();
   void Customize();
+  void ShowGuide();
+  void RefreshIcons();
   void BuildStatusBar();
   void BuildObjectPane();
   void GoToNextPane();
@@ -114,6 +119,8 @@ private:
   QDockWidget* objectPane_ = nullptr;
   Actions* actions_ = nullptr;
   ToolBars* toolBars_ = nullptr;
+  QAction* guideAction_ = nullptr;
+  QPointer<GuideWindow> guide_;            ///< while it is open
   QPointer<CustomizeDialog> customizing_;  ///< while it is open
   QMenu* recentMenu_ = nullptr;
   QMenu* toolBarsMenu_ = nullptr;

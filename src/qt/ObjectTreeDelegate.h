@@ -16,6 +16,10 @@ public:
   /// The tree is that of the model whose rows are measured.
   ObjectTreeDelegate(const CObjectTree& tree, QObject* parent);
 
+  /// Shows the text of a row that is not seen whole above what the model tells of it.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:

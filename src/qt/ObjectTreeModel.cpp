@@ -1,5 +1,6 @@
 #include "qt/ObjectTreeModel.h"
 
+#include <QColor>
 #include <utility>
 
 #include "qt/QtText.h"
@@ -85,9 +86,24 @@ QVariant ObjectTreeModel::data(const QModelIndex& index, int role) const
 {
   const TreeItem item = ItemAt(index);
   if (role == Qt::DisplayRole) return ToQString(tree_.Text(item));
+  if (role == Qt::ToolTipRole) return ToolTip(item);
   if (role != Qt::DecorationRole) return {};
   const auto icon = icons_.find(tree_.Image(item));
   return icon == icons_.end() ? QVariant() : QVariant(icon->second);
+}
+
+QVariant ObjectTreeModel::ToolTip(const TreeItem& item) const
+{
+  const CShape* const shape = item.level == TreeLevel::Polyline ? tree_.Shape(item) : nullptr;
+  if (shape == nullptr) return {};
+  // As the shape is drawn without a style.
+  const ShapeStyle style = shape->style == nullptr ? ShapeStyle() : *shape->style;
+  const QColor colour(static_cast<int>(style.lineColour & 0xFFU),
+                      static_cast<int>(style.lineColour >> 8U & 0xFFU),
+                      static_cast<int>(style.lineColour >> 16U & 0xFFU));
+  return tr("%1 points, width %2, colour %3")
+      .arg(tree_.ChildCount(item))
+      .arg(QString::number(style.lineWidth), colour.name());
 }
 
 void ObjectTreeModel::SetIcons(std::map<TreeImage, QIcon> icons) { icons_ = std::move(icons); }

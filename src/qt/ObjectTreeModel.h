@@ -31,6 +31,8 @@ public:
   void SetIcons(std::map<TreeImage, QIcon> icons);
 
 private:
+  /// What a row tells beside its text; made at each call.
+  QVariant ToolTip(const TreeItem& item) const;
   QModelIndex IndexOf(const TreeItem& item) const;
 
   const CObjectTree& tree_;

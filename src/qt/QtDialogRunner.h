@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 #include "platform/DialogPort.h"
 
@@ -12,6 +13,10 @@ class QtDialogRunner : public IDialogRunner {
 public:
   DialogEnd Run(IDialog& dialog) override;
   void SetParent(QWidget* parent) { parent_ = parent; }
+
+  /// Names the libraries that the program runs on, with their versions; asked for by the about box
+  /// alone.
+  std::function<QString()> libraries;
 
 private:
   QPointer<QWidget> parent_;

@@ -1,10 +1,12 @@
 #include "qt/QtFileDialogs.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 
+#include "qt/FileDialogLook.h"
 #include "qt/QtText.h"
 
 namespace hullwright {
@@ -18,7 +20,7 @@ QStringList NameFilters(std::u16string_view filter)
   QStringList names;
   const QStringList parts = ToQString(filter).split(QLatin1Char('|'), Qt::SkipEmptyParts);
   for (qsizetype i = 0; i < parts.size(); i += 2) names.append(parts[i]);
-  names.append(QObject::tr("All Files (*)"));
+  names.append(QCoreApplication::translate("FileDialogs", "All Files (*)"));
   return names;
 }
 
@@ -47,11 +49,12 @@ std::optional<std::u16string> QtFileDialogs::AskOpen(std::u16string_view extensi
   QSettings* const store = settings_.File();
   const QString folder =
       store == nullptr ? QString() : store->value(QLatin1String(folderKey)).toString();
-  DrawingDialog dialog(parent_, QObject::tr("Import DXF File"),
+  DrawingDialog dialog(parent_, QCoreApplication::translate("FileDialogs", "Import DXF File"),
                        folder.isEmpty() ? QDir::currentPath() : folder);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(filter));
   dialog.ending = ToQString(extension);
+  PrepareFileDialog(dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QString path = dialog.selectedFiles().constFirst();
   if (store != nullptr) {

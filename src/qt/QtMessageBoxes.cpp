@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include "qt/DialogButtons.h"
 #include "qt/QtText.h"
 #include "resources/Strings.h"
 
@@ -38,6 +39,7 @@ void QtMessageBoxes::ShowMessage(std::u16string_view text)
   QMessageBox box(QMessageBox::Warning, QString::fromLatin1(Strings::program), ToQString(text),
                   QMessageBox::Ok, Parent());
   box.setTextFormat(Qt::PlainText);
+  SetButtonImages(box);
   box.exec();
 }
 
@@ -48,6 +50,7 @@ bool QtMessageBoxes::AskYesNo(std::u16string_view question)
   box.setWindowFlag(Qt::WindowCloseButtonHint, false);
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::Yes);
+  SetButtonImages(box);
   return box.exec() == QMessageBox::Yes;
 }
 

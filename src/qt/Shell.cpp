@@ -10,11 +10,13 @@
 #include "qt/Icons.h"
 #include "qt/QtText.h"
 #include "resources/Strings.h"
+#include "system/LibraryVersions.h"
 
 namespace hullwright {
 
 Shell::Shell(QString file) : file_(std::move(file))
 {
+  dialogs_.libraries = Libraries;
   commonData_.units.onProblem = [this](std::u16string_view reason) {
     // Later: the units are asked for in the middle of showing the panes that the note is one of.
     QTimer::singleShot(0, &window_,
@@ -27,6 +29,15 @@ void Shell::InitialiseControls()
   QApplication::setApplicationDisplayName(QString());
   QApplication::setDesktopFileName(QStringLiteral("hullwright"));
   QApplication::setWindowIcon(ApplicationIcon());
+}
+
+QString Shell::Libraries()
+{
+  const QString expat = QString::fromStdString(XmlLibraryVersion());
+  const QString sqlite = QString::fromStdString(SqliteVersion());
+  return QCoreApplication::translate("Shell", "Runs on Qt %1, Expat %2, SQLite %3.")
+      .arg(QLatin1String(qVersion()), expat,
+           sqlite.isEmpty() ? QCoreApplication::translate("Shell", "(not found)") : sqlite);
 }
 
 bool Shell::InitialiseLibraries() { return XmlLibraryFits(); }
@@ -51,8 +62,10 @@ bool Shell::ProcessCommandLine()
   }
   if (window_.Document().Open(ToWide(file_))) return true;
   // The process ends without a window; at least a terminal shows why.
-  std::fprintf(stderr, "hullwright: cannot open the design '%s': %s\n",
-               file_.toLocal8Bit().constData(), Utf8FromWide(window_.OpenProblem()).c_str());
+  const QString problem =
+      QCoreApplication::translate("Shell", "hullwright: cannot open the design '%1': %2\n")
+          .arg(file_, ToQString(window_.OpenProblem()));
+  std::fputs(problem.toLocal8Bit().constData(), stderr);
   return false;
 }
 

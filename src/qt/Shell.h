@@ -32,6 +32,9 @@ public:
   void AcceptDroppedFiles() override;
   void ReleaseLibraries() override {}
 
+  /// The libraries that the program runs on, with the versions that were found.
+  static QString Libraries();
+
 private:
   QString file_;
   std::size_t recentFiles_ = 0;  ///< length of the list of recent files

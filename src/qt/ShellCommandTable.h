@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/DesignCommandTable.h"
+#include "qt/Busy.h"
 #include "qt/MainWindow.h"
 #include "resources/Menus.h"
 #include "resources/ToolBarButtons.h"
@@ -16,6 +17,11 @@ struct ShellCommandTable {
   using Window = MainWindow;
 
   static void Nothing(Window&) {}
+  static void Save(Window& window)
+  {
+    ShowBusy();
+    window.documents_.Save();
+  }
   static CommandState HasRecentFiles(const Window& window)
   {
     return {.enabled = !window.documents_.RecentFiles().empty()};
@@ -28,7 +34,7 @@ struct ShellCommandTable {
   static constexpr auto rows = std::to_array<CommandHandler<Window>>({
       {CommandId::FileNew, [](Window& window) { window.documents_.New(); }},
       {CommandId::FileOpen, [](Window& window) { window.documents_.Open(); }},
-      {CommandId::FileSave, [](Window& window) { window.documents_.Save(); }},
+      {CommandId::FileSave, Save},
       {CommandId::FileSaveAs, [](Window& window) { window.documents_.SaveAs(); }},
       {CommandId::Exit, [](Window& window) { window.close(); }},
       {CommandId::Customize, [](Window& window) { window.Customize(); }},

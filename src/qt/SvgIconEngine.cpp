@@ -19,8 +19,10 @@ QByteArray InColours(const QString& path, const IconColours& colours)
 {
   QFile file(path);
   QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  svg.replace(Written(drawnColours.ink), Written(colours.ink));
-  svg.replace(Written(drawnColours.accent), Written(colours.accent));
+  for (const auto colour :
+       {&IconColours::ink, &IconColours::accent, &IconColours::good, &IconColours::bad}) {
+    svg.replace(Written(drawnColours.*colour), Written(colours.*colour));
+  }
   return svg;
 }
 

@@ -10,14 +10,17 @@
 
 namespace hullwright {
 
-/// The two colours that an icon is drawn in.
+/// The colours that an icon is drawn in.
 struct IconColours {
   QRgb ink;
   QRgb accent;
+  QRgb good;  ///< of the sign for yes
+  QRgb bad;   ///< of the signs for no
 };
 
 /// The colours of the files.
-constexpr IconColours drawnColours = {qRgb(0x30, 0x34, 0x38), qRgb(0x1f, 0x6f, 0xb2)};
+constexpr IconColours drawnColours = {qRgb(0x30, 0x34, 0x38), qRgb(0x1f, 0x6f, 0xb2),
+                                      qRgb(0x3c, 0x9a, 0x4c), qRgb(0xd0, 0x43, 0x3c)};
 
 /// An icon that is drawn from its file in the size that is asked for, and once in each size: a
 /// start needs few sizes of few icons, and drawing all of them would take longer than all the rest.

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "qt/DialogButtons.h"
 #include "qt/Icons.h"
 #include "qt/QtText.h"
 #include "resources/Strings.h"
@@ -185,6 +186,7 @@ void TemplateDialog::AddList(const DialogRow& row)
   list_ = list;
   list_->setAccessibleName(ToQString(row.text));
   list_->setMinimumSize(noteWidth, noteWidth);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Keep(row.id, list_);
   Grid().addWidget(list_, Grid().rowCount(), labelColumn, 1, allColumns);
 }
@@ -207,24 +209,34 @@ void TemplateDialog::AddProduct(const DialogRow& row)
                      .arg(QLatin1String(Strings::program), QLatin1String(HULLWRIGHT_VERSION)),
                  this);
   Keep(row.id, product);
+  product_ = new QVBoxLayout;
+  product_->addStretch(1);
+  product_->addWidget(product);
+  product_->addStretch(1);
   auto* const line = new QHBoxLayout;
   line->addWidget(icon);
-  line->addWidget(product, 1);
+  line->addLayout(product_);
+  line->addStretch(1);
   Grid().addLayout(line, Grid().rowCount(), labelColumn, 1, allColumns);
+}
+
+void TemplateDialog::ShowBesideIcon(const QString& text)
+{
+  if (product_ == nullptr) return;
+  auto* const label = new QLabel(text, this);
+  label->setTextFormat(Qt::PlainText);
+  product_->insertWidget(product_->count() - 1, label);
 }
 
 void TemplateDialog::AddOkAndCancel(bool hasCancel)
 {
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
   if (hasCancel) buttons->addButton(QDialogButtonBox::Cancel);
-  buttons->button(QDialogButtonBox::Ok)->setIcon(ThemedIcon("dialog-ok", palette()));
   buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-  if (hasCancel) {
-    buttons->button(QDialogButtonBox::Cancel)->setIcon(ThemedIcon("dialog-cancel", palette()));
-  }
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
   boxes_->addWidget(buttons);
+  SetButtonImages(*this);
 }
 
 std::u16string TemplateDialog::GetText(ControlId id) const
@@ -280,6 +292,15 @@ void TemplateDialog::FillList(std::span<const DialogListItem> items)
     entry->setData(Qt::UserRole, item.data);
   }
   list_->setUpdatesEnabled(true);
+  ShowWholeRows();
+}
+
+void TemplateDialog::ShowWholeRows()
+{
+  constexpr int rows = 16;
+  const int height = list_->sizeHintForRow(0);
+  if (height <= 0) return;
+  list_->setFixedHeight(rows * height + 2 * list_->frameWidth());
 }
 
 void TemplateDialog::SelectListItem(std::size_t index)

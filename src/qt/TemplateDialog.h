@@ -35,6 +35,9 @@ public:
   void SelectListItem(std::size_t index) override;
   std::optional<std::int32_t> SelectedListData() const override;
 
+  /// Shows a text below the product's name.
+  void ShowBesideIcon(const QString& text);
+
   /// OK: closes the dialog if the logic agrees.
   void accept() override;
 
@@ -46,6 +49,7 @@ private:
   void AddList(const DialogRow& row);
   void AddNote(const DialogRow& row);
   void AddProduct(const DialogRow& row);
+  void ShowWholeRows();
   void AddUnit(const DialogRow& row);
   void AddOkAndCancel(bool hasCancel);
   void FocusFirst(const DialogTemplate& rows);
@@ -63,6 +67,7 @@ private:
   QWidget* box_ = nullptr;       ///< the box that rows go into
   QGridLayout* grid_ = nullptr;  ///< its layout
   QListWidget* list_ = nullptr;
+  QVBoxLayout* product_ = nullptr;  ///< what stands beside the icon
   std::map<ControlId, QWidget*> widgets_;
   std::map<QLabel*, QLineEdit*> unitOf_;  ///< the field that a unit's label stands behind
 };

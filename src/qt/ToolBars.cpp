@@ -33,11 +33,15 @@ QString ToText(const ToolBarSpec& spec)
 
 void ShowSide(QToolButton& button, const QAction& side, CommandId command)
 {
+  const QString name = command == CommandId::SelectView ? QString() : side.text();
+  const CommandEntry& entry = *FindCommand(CommandId::SelectView);
+  const QString label = OneLine(TooltipText(entry));
   button.setIcon(side.icon());
-  button.setAccessibleDescription(command == CommandId::SelectView ? QString() : side.text());
+  button.setAccessibleDescription(name);
+  button.setToolTip(QStringLiteral("%1\n%2").arg(
+      name.isEmpty() ? label : QStringLiteral("%1: %2").arg(label, name),
+      ToQString(StatusText(entry))));
 }
-
-constexpr const char* viewButtonName = "SideButton";
 
 }  // namespace
 
@@ -45,7 +49,8 @@ ToolBars::ToolBars(QMainWindow& window, Actions& actions, QList<CommandId> stand
     : QObject(&window),
       window_(window),
       actions_(actions),
-      standardCommands_(std::move(standardCommands))
+      standardCommands_(std::move(standardCommands)),
+      fit_(new ToolBarFit(window))
 {
 }
 
@@ -110,6 +115,7 @@ void ToolBars::Build(const QList<ToolBarSpec>& specs)
   QStringList before;
   for (const QToolBar* const bar : bars_) before.append(bar->objectName());
   const QByteArray places = window_.saveState();
+  fit_->SetBars({});
   qDeleteAll(std::exchange(bars_, {}));
   specs_ = specs;
   NumberBars();
@@ -127,9 +133,19 @@ void ToolBars::Build(const QList<ToolBarSpec>& specs)
   if (!before.isEmpty()) window_.restoreState(places);
   // A toolbar without a place of before would stay hidden.
   for (QToolBar* const bar : bars_) {
-    if (!before.contains(bar->objectName())) bar->show();
+    if (before.contains(bar->objectName())) continue;
+    if (bar != bars_.constFirst()) PutInRowOfItsOwn(*bar);
+    bar->show();
   }
+  fit_->SetBars(bars_);
   SetViewImage(viewImage_);
+  fit_->Fit();
+}
+
+void ToolBars::PutInRowOfItsOwn(QToolBar& bar)
+{
+  window_.addToolBarBreak(Qt::TopToolBarArea);
+  window_.addToolBar(Qt::TopToolBarArea, &bar);
 }
 
 void ToolBars::NumberBars()
@@ -178,6 +194,7 @@ void ToolBars::AddCustomizeButton(QToolBar& bar)
   AddButton(bar, *action);
   // Its image alone: it stands on every toolbar and must not take the place of a command's.
   if (auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
+    button->setObjectName(QLatin1String(customizeButtonName));
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     button->setIconSize(QSize(16, 16));
   }
@@ -186,7 +203,7 @@ void ToolBars::AddCustomizeButton(QToolBar& bar)
 QToolButton* ToolBars::MakeViewButton()
 {
   auto* const button = new QToolButton(&window_);
-  button->setObjectName(QLatin1String(viewButtonName));
+  button->setObjectName(QLatin1String(sideButtonName));
   auto* const menu = new QMenu(button);
   actions_.FillMenu(*menu, viewMenu);
   button->setMenu(menu);
@@ -197,7 +214,6 @@ QToolButton* ToolBars::MakeViewButton()
   button->setText(TwoLines(viewButtonText));
   button->setAccessibleName(OneLine(viewButtonText));
   const CommandEntry* const entry = FindCommand(CommandId::SelectView);
-  button->setToolTip(OneLine(TooltipText(*entry)));
   button->setStatusTip(ToQString(StatusText(*entry)));
   ShowSide(*button, *actions_.Get(CommandId::SelectView), CommandId::SelectView);
   return button;
@@ -209,7 +225,7 @@ QToolButton* ToolBars::FirstViewButton() const
   // In the order of the buttons, which is not the order in which the toolbar's children were made.
   for (QAction* const action : bars_.first()->actions()) {
     auto* const button = qobject_cast<QToolButton*>(bars_.first()->widgetForAction(action));
-    if (button != nullptr && button->objectName() == QLatin1String(viewButtonName)) return button;
+    if (button != nullptr && button->objectName() == QLatin1String(sideButtonName)) return button;
   }
   return nullptr;
 }

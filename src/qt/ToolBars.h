@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "qt/Actions.h"
+#include "qt/ToolBarFit.h"
 
 class QMainWindow;
 class QSettings;
@@ -58,12 +59,14 @@ private:
   void Fill(QToolBar& bar, const QList<CommandId>& commands);
   void AddButton(QToolBar& bar, QAction& action);
   void AddCustomizeButton(QToolBar& bar);
+  void PutInRowOfItsOwn(QToolBar& bar);
   QToolButton* MakeViewButton();
   QToolButton* FirstViewButton() const;
 
   QMainWindow& window_;
   Actions& actions_;
   QList<CommandId> standardCommands_;
+  ToolBarFit* fit_;
   QList<ToolBarSpec> specs_;
   QList<QToolBar*> bars_;
   CommandId viewImage_ = CommandId::SelectView;

@@ -7,8 +7,6 @@
 namespace hullwright {
 namespace {
 
-constexpr const char* libraryName = "libsqlite3.so.0";
-
 constexpr std::string_view query = "SELECT * FROM tblUnits WHERE numDimension = 1 ORDER BY numId";
 
 // Codes of the library's interface.
@@ -52,7 +50,7 @@ CSQLite::~CSQLite()
 int CSQLite::Load()
 {
   if (library_ != nullptr) return -1;
-  library_ = loader_.Load(libraryName);
+  library_ = loader_.Load(sqliteLibrary);
   if (library_ == nullptr) {
     messages_.ShowMessage(u"Failed to load sqlite3.dll");
     return -1;

@@ -83,9 +83,9 @@ class RenderTest(CliTest):
         for size in ("20001x5", "5x99999", "0x5", "5x99999999999", "-1x5", "5x5x5", "12", "ax5", "5x"):
             self.fail_with(2, ("two lengths from 1 to 20000 pixels", f"'{size}'", "Try 'hullwright-cli render --help'"),
                            "render", BOAT, "--size", size, "-o", out)
-        self.fail_with(1, ("the sheet would have 33096x232 pixels, more than 32767 one way", "--size"),
+        self.fail_with(1, ("the sheet would have 33096x320 pixels, more than 32767 one way", "--size"),
                        "render", BOAT, "--sheet", "--size", "11000x40", "-o", out)
-        self.fail_with(1, ("the sheet would have 288x40152 pixels",), "render", BOAT, "-c", "-z", "64x20000", "-o", out)
+        self.fail_with(1, ("the sheet would have 288x40240 pixels",), "render", BOAT, "-c", "-z", "64x20000", "-o", out)
         self.succeed("render", BOAT, "-s", "rear", "-z", "20000x1", "-o", out)
         self.assertEqual(size_of(out.read_bytes()), (20000, 1))
 
@@ -128,11 +128,46 @@ class RenderTest(CliTest):
             self.assertEqual([p.name for p in self.folder.iterdir()], [out.name])
             data = out.read_bytes()
             if ending == "png":
-                self.assertEqual(size_of(data), (3 * (160 + 24) + 24, 2 * (100 + 64) + 24))
+                self.assertEqual(size_of(data), (3 * (160 + 24) + 24, 24 + 40 + 2 * (100 + 88) + 10 * 16 + 24))
             if ending == "svg":
                 for side in SIDES:
                     self.assertIn(side.encode(), data)
             out.unlink()
+
+    def sheet_texts(self, *arguments):
+        """The texts of a sheet, in the order in which they are drawn."""
+        out = self.folder / "sheet.svg"
+        self.succeed("render", *arguments, "--sheet", "-o", out)
+        nodes = xml.dom.minidom.parse(str(out)).getElementsByTagName("text")
+        texts = [node.firstChild.data.strip() for node in nodes]
+        out.unlink()
+        return texts
+
+    def test_a_sheet_tells_file_unit_scale_offsets_and_anchors(self):
+        text = BOAT.read_text()
+        texts = self.sheet_texts(shutil.copyfile(BOAT, self.folder / "my boat.xml"), "-z", "500x320")
+        self.assertEqual(texts[:2], ["my boat.xml", "Unit: metre"])
+        head = texts.index("Offsets and anchors")
+        self.assertEqual(texts[head + 1:head + 4], ["X (m)", "Y (m)", "Z (m)"])
+        rows = texts[head + 1:]
+        for name, tag in (("GNSS antenna", "gpsOffset"), ("Echo sounder transducer", "transducerOffset"), ("Pivot point", "pivotOffset")):
+            self.assertIn(name, rows)
+            at = rows.index(name)
+            for shown in rows[at + 1:at + 4]:
+                self.assertRegex(shown, r"^-?\d+\.\d{3}$")
+        self.assertEqual(sum(row.startswith("Anchor ") for row in rows), text.count("<anchor>"))
+        bars = [shown for shown in texts if re.fullmatch(r"[125]0* m", shown)]
+        self.assertEqual(len(bars), len(SIDES))
+
+    def test_a_sheet_without_symbols_has_no_table(self):
+        for arguments in ((PLAN,), (BOAT, "--symbols=off")):
+            self.assertNotIn("Offsets and anchors", self.sheet_texts(*arguments, "-z", "300x200"))
+
+    def test_a_scale_bar_is_as_long_as_it_says(self):
+        out = self.folder / "sheet.svg"
+        self.succeed("render", BOAT, "--sheet", "-z", "500x320", "--view=-15,-10,15,9.2", "-o", out)
+        # 30 m on 500 pixels: a third is 10 m, which takes 166.7 pixels.
+        self.assertRegex(out.read_text(), r'M24\.5,\d+\.5 L191\.167,|points="24\.5,\d+\.5 191\.167,')
 
     def test_the_stretch_of_the_world_and_the_grid(self):
         pictures = set()

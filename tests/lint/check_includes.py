@@ -30,7 +30,7 @@ ROOMS = {
 START = ("cli/", "qt/Hullwright.cpp", "qt/Shell.", "system/")
 
 # rooms, and single files, that may include the toolkit's headers
-TOOLKIT = ("paint/", "qt/", "cli/DiffPicture.cpp", "cli/Picture", "cli/Report")
+TOOLKIT = ("paint/", "qt/", "cli/DiffPicture.cpp", "cli/Picture", "cli/Report", "cli/Sheet.")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<(Q[A-Za-z0-9/]+)>)')
 

@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolBar>
 
 #include "qt/CustomizeDialog.h"
@@ -40,6 +40,13 @@ protected:
       labels.append(action->isSeparator() ? QStringLiteral("|") : action->iconText());
     }
     return labels;
+  }
+
+  /// The style of the toolkit's that the look is drawn over.
+  static QString BaseStyle()
+  {
+    const auto* const style = qobject_cast<QProxyStyle*>(QApplication::style());
+    return style == nullptr ? QString() : style->baseStyle()->name().toLower();
   }
 
   QList<QToolBar*> Bars() { return Window().findChildren<QToolBar*>(Qt::FindDirectChildrenOnly); }
@@ -103,9 +110,9 @@ TEST_F(Frame, TheLookIsStoredAndRestoredByItsId)
   EXPECT_EQ(shell->App().applicationLook, Look::Black);
   EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 128);
   Window().RunCommand(CommandOf(Look::Windows2000));
-  EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("windows"));
+  EXPECT_EQ(BaseStyle(), QStringLiteral("windows"));
   Window().RunCommand(CommandOf(Look::VisualStudio2008));
-  EXPECT_EQ(QApplication::style()->name().toLower(), QStringLiteral("fusion"));
+  EXPECT_EQ(BaseStyle(), QStringLiteral("fusion"));
 }
 
 TEST_F(Frame, AStartStoresItsLookUnderTheNameOfTheMaker)

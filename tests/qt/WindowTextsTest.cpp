@@ -103,11 +103,18 @@ TEST_F(WindowTexts, ButtonsOfTheToolBarHaveTheirTooltips)
   QStringList tips;
   for (QAction* action : Bar().actions()) {
     const auto* const button = qobject_cast<QToolButton*>(Bar().widgetForAction(action));
-    if (button != nullptr) tips.append(button->toolTip());
+    if (button == nullptr) continue;
+    const QStringList lines = button->toolTip().split(QLatin1Char('\n'));
+    tips.append(lines.first());
+    // The second line is the prompt, unless it says no more than the first.
+    EXPECT_EQ(lines.size() > 1 ? lines.at(1).toLower() : lines.first().toLower(),
+              button == &Button("Select\nView") ? QStringLiteral("select the current view mode")
+                                                : action->statusTip().toLower())
+        << lines.first().toStdString();
   }
   EXPECT_EQ(tips.join(QLatin1Char('\n')).toStdString(),
             "New Design (Ctrl+N)\nOpen Design (Ctrl+O)\nSave Design (Ctrl+S)\nImport DXF\n"
-            "View Mode\nZoom In\nZoom Out\nShow All\nMove Design\nUndo (Ctrl+Z)\nRedo\n"
+            "View Mode: Top\nZoom In\nZoom Out\nShow All\nMove Design\nUndo (Ctrl+Z)\nRedo\n"
             "Scale Design\nMove Design\nMirror Vert\nMirror Horz\nRotate Left\nRotate Right\n"
             "Modify Offsets\nToggle Grid\nToggle Snap\nDraw Shape\nCustomize...");
 }

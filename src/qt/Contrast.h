@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+
+namespace hullwright {
+
+/// What eyes need to tell a shape from its background, and to read a text on it.
+inline constexpr double shapeContrast = 3.0;
+inline constexpr double textContrast = 4.5;
+
+/// The contrast of two opaque colours: the ratio of their luminances, from 1.0 for equal ones to
+/// 21.0 for black and white.
+double Contrast(const QColor& a, const QColor& b);
+
+/// A colour `part` of the way from one to another.
+QColor Between(const QColor& from, const QColor& to, double part);
+
+/// The colour next to `wanted` that has at least this contrast to a background, darker on a light
+/// one and lighter on a dark one; black or white where none has it.
+QColor Seen(const QColor& wanted, const QColor& background, double contrast = shapeContrast);
+
+}  // namespace hullwright

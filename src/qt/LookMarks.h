@@ -1,0 +1,20 @@
+#pragma once
+
+class QPainter;
+class QStyleOption;
+
+namespace hullwright {
+
+// Marks in the colours of an option's palette, each with the contrast of a shape to what it stands
+// on. Disabled ones are paler.
+
+/// A button of a toolbar that is down or switched on.
+void DrawDownButton(QPainter& painter, const QStyleOption& option);
+
+void DrawRadioButton(QPainter& painter, const QStyleOption& option);
+void DrawCheckBox(QPainter& painter, const QStyleOption& option);
+
+/// The lines of a tree that lead to a row, and the box that opens and closes it.
+void DrawBranch(QPainter& painter, const QStyleOption& option);
+
+}  // namespace hullwright

@@ -1,0 +1,278 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "qt/Icons.h"
+#include "support/DeskFixture.h"
+#include "support/Pixels.h"
+
+namespace hullwright {
+namespace {
+
+using test::ForEachLook;
+using test::Picture;
+using test::PixelsSeen;
+
+/// Every look as it is seen: shapes and texts are measured in pictures of widgets.
+class LooksSeen : public test::DeskFixture {
+protected:
+  LooksSeen()
+  {
+    Window().activateWindow();
+    QApplication::processEvents();
+  }
+
+  static QColor Colour(QPalette::ColorRole role) { return QApplication::palette().color(role); }
+
+  /// The indicator of a check box or radio button.
+  static QRect Indicator(QAbstractButton& button, QStyle::SubElement element)
+  {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    return button.style()->subElementRect(element, &option, &button);
+  }
+
+  void ExpectIndicatorSeen(QAbstractButton& button, QStyle::SubElement element, int look)
+  {
+    button.resize(button.sizeHint());
+    const QRect place = Indicator(button, element);
+    button.setChecked(false);
+    const QImage off = Picture(button);
+    EXPECT_GE(PixelsSeen(off, place, Colour(QPalette::Window)), 20) << look;
+    button.setChecked(true);
+    const QImage on = Picture(button);
+    int marked = 0;
+    for (int y = place.top() + 3; y <= place.bottom() - 3; ++y) {
+      for (int x = place.left() + 3; x <= place.right() - 3; ++x) {
+        const bool differs = Contrast(on.pixelColor(x, y), off.pixelColor(x, y)) >= shapeContrast;
+        marked += differs ? 1 : 0;
+      }
+    }
+    EXPECT_GE(marked, 6) << look;
+  }
+
+  void ExpectRowImageSeen(const QString& what, int look)
+  {
+    const QModelIndex row = Tree().model()->index(0, 0, Tree().model()->index(0, 0));
+    Tree().setCurrentIndex(row);
+    QApplication::processEvents();
+    const QRect place = Tree().visualRect(row);
+    const QImage image = Picture(*Tree().viewport());
+    const QColor chosen = image.pixelColor(place.right() - 1, place.center().y());
+    const QRect icon(place.topLeft(), QSize(18, place.height()));
+    EXPECT_GE(PixelsSeen(image, icon, chosen), 10) << look << what.toStdString();
+    const QRect text = place.adjusted(20, 0, 0, 0);
+    EXPECT_GE(PixelsSeen(image, text, chosen, textContrast), 5) << look << what.toStdString();
+  }
+};
+
+TEST_F(LooksSeen, AButtonThatIsDownHasAnEdgeThatOneThatIsUpLacks)
+{
+  ForEachLook([](int look) {
+    QToolBar bar;
+    QAction* const action = bar.addAction(QStringLiteral("Snap"));
+    action->setCheckable(true);
+    bar.show();
+    QWidget& button = *bar.widgetForAction(action);
+    const QColor window = Colour(QPalette::Window);
+    const QRect edge(0, 3, 1, button.height() - 6);
+    EXPECT_EQ(PixelsSeen(Picture(button), edge, window), 0) << look;
+    action->setChecked(true);
+    const QImage down = Picture(button);
+    EXPECT_EQ(PixelsSeen(down, edge, window), edge.height()) << look;
+    // The label on it can be read.
+    const QColor fill = down.pixelColor(3, 3);
+    EXPECT_NE(fill, window) << look;
+    EXPECT_GE(PixelsSeen(down, down.rect().adjusted(3, 3, -3, -3), fill, textContrast), 10) << look;
+  });
+}
+
+TEST_F(LooksSeen, RadioButtonsAndCheckBoxesAndTheirMarksAreSeen)
+{
+  ForEachLook([this](int look) {
+    QRadioButton radio(QStringLiteral("Rotate"));
+    radio.setAutoExclusive(false);
+    ExpectIndicatorSeen(radio, QStyle::SE_RadioButtonIndicator, look);
+    QCheckBox check(QStringLiteral("Show Grid"));
+    ExpectIndicatorSeen(check, QStyle::SE_CheckBoxIndicator, look);
+  });
+}
+
+TEST_F(LooksSeen, TheButtonsOfAPaneAreSeen)
+{
+  auto& pane = *Window().findChild<QDockWidget*>();
+  ForEachLook([&pane](int look) {
+    QApplication::processEvents();
+    for (const char* name : {"qt_dockwidget_closebutton", "qt_dockwidget_floatbutton"}) {
+      auto* const button = pane.findChild<QAbstractButton*>(QLatin1String(name));
+      ASSERT_NE(button, nullptr);
+      ASSERT_TRUE(button->isVisible());
+      const QRect place = button->geometry();
+      const QImage image = pane.grab(place).toImage();
+      EXPECT_GE(PixelsSeen(image, image.rect(), image.pixelColor(0, 0)), 18) << look << name;
+    }
+  });
+}
+
+TEST_F(LooksSeen, TextsCanBeReadOnWhatTheyStandOn)
+{
+  ForEachLook([](int look) {
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+      const QPalette palette = QApplication::palette();
+      const auto contrast = [&](QPalette::ColorRole text, QPalette::ColorRole on) {
+        return Contrast(palette.color(group, text), palette.color(group, on));
+      };
+      EXPECT_GE(contrast(QPalette::WindowText, QPalette::Window), textContrast) << look;
+      EXPECT_GE(contrast(QPalette::Text, QPalette::Base), textContrast) << look;
+      EXPECT_GE(contrast(QPalette::ButtonText, QPalette::Button), textContrast) << look;
+      EXPECT_GE(contrast(QPalette::HighlightedText, QPalette::Highlight), textContrast) << look;
+      EXPECT_GE(contrast(QPalette::ToolTipText, QPalette::ToolTipBase), textContrast) << look;
+      EXPECT_GE(contrast(QPalette::Link, QPalette::Base), textContrast) << look;
+    }
+    QLabel label(QStringLiteral("Offsets"));
+    label.resize(label.sizeHint());
+    const QImage image = Picture(label);
+    EXPECT_GE(PixelsSeen(image, image.rect(), image.pixelColor(0, 0), textContrast), 20) << look;
+  });
+}
+
+TEST_F(LooksSeen, TheImageAndTheTextOfAChosenRowAreSeenWithAndWithoutTheKeyboard)
+{
+  ForEachLook([this](int look) {
+    Tree().setFocus();
+    ExpectRowImageSeen(QStringLiteral(" with"), look);
+    View().setFocus();
+    ExpectRowImageSeen(QStringLiteral(" without"), look);
+  });
+}
+
+TEST_F(LooksSeen, TheImageOfAChosenEntryOfAMenuIsSeen)
+{
+  ForEachLook([](int look) {
+    QMenu menu;
+    QAction* const action =
+        menu.addAction(ThemedIcon("file-save", QApplication::palette()), QStringLiteral("Save"));
+    menu.popup(QPoint(10, 10));
+    menu.setActiveAction(action);
+    QApplication::processEvents();
+    const QImage image = Picture(menu);
+    const QRect row = menu.actionGeometry(action);
+    const QColor chosen = image.pixelColor(row.right() - 4, row.center().y());
+    EXPECT_EQ(chosen, Colour(QPalette::Highlight)) << look;
+    EXPECT_GE(PixelsSeen(image, QRect(row.topLeft(), QSize(24, row.height())), chosen), 10) << look;
+    menu.close();
+  });
+}
+
+TEST_F(LooksSeen, TheImageOfAChosenRowOfAListIsSeen)
+{
+  ForEachLook([](int look) {
+    QListWidget list;
+    auto* const item = new QListWidgetItem(ThemedIcon("file-save", QApplication::palette()),
+                                           QStringLiteral("Save"), &list);
+    list.setCurrentItem(item);
+    list.show();
+    const QRect row = list.visualItemRect(item);
+    const QImage image = Picture(*list.viewport());
+    const QColor chosen = image.pixelColor(row.right() - 2, row.center().y());
+    EXPECT_GE(PixelsSeen(image, QRect(row.topLeft(), QSize(20, row.height())), chosen), 10) << look;
+  });
+}
+
+TEST_F(LooksSeen, TheTreeHasLinesAlsoAtItsRootsAndBoxesThatOpenAndCloseANode)
+{
+  ForEachLook([this](int look) {
+    QApplication::processEvents();
+    const QModelIndex root = Tree().model()->index(0, 0);
+    const QModelIndex anchors = Tree().model()->index(1, 0);
+    const QRect place = Tree().visualRect(root);
+    const QImage image = Picture(*Tree().viewport());
+    const QColor base = Colour(QPalette::Base);
+    const QRect branch(0, place.top(), place.left(), place.height());
+    EXPECT_GE(PixelsSeen(image, branch, base), 20) << look;  // the box
+    // The line from the one root down to the other.
+    const int middle = branch.center().x();
+    const QRect between(middle, place.bottom() + 1, 1,
+                        Tree().visualRect(anchors).top() - place.bottom() - 1);
+    EXPECT_GT(between.height(), 20);
+    EXPECT_EQ(PixelsSeen(image, between, base, 1.5), between.height()) << look;
+    // A closed node's sign has an upright arm that an open one's lacks.
+    const QModelIndex side = Tree().model()->index(0, 0, root);
+    const QRect node = Tree().visualRect(side);
+    const QPoint arm(node.left() - Tree().indentation() / 2, node.center().y());
+    EXPECT_GT(Tree().model()->rowCount(side), 0);
+    Tree().collapse(side);
+    const QImage closed = Picture(*Tree().viewport());
+    Tree().expand(side);
+    const QImage open = Picture(*Tree().viewport());
+    const QRect box(arm - QPoint(4, 4), QSize(9, 9));
+    EXPECT_GT(PixelsSeen(closed, box, base), PixelsSeen(open, box, base)) << look;
+    Tree().collapse(side);
+  });
+}
+
+TEST_F(LooksSeen, ASignalColourIsSeenOnEveryWindow)
+{
+  ForEachLook([](int look) {
+    for (const char* name : {"dialog-ok", "dialog-cancel", "dialog-no"}) {
+      const QImage sign = ThemedIcon(name, QApplication::palette()).pixmap(16).toImage();
+      QImage onWindow(sign.size(), QImage::Format_RGB32);
+      onWindow.fill(Colour(QPalette::Window));
+      QPainter(&onWindow).drawImage(0, 0, sign);
+      EXPECT_GE(PixelsSeen(onWindow, onWindow.rect(), Colour(QPalette::Window)), 15)
+          << look << name;
+    }
+  });
+}
+
+TEST_F(LooksSeen, MessageBoxesBearTheProgramsOwnImages)
+{
+  const auto image = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
+  const auto own = [image](const char* name) {
+    return image(ThemedIcon(name, QApplication::palette()));
+  };
+  WhenAsked<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(image(box.button(QMessageBox::Yes)->icon()), own("dialog-ok"));
+    EXPECT_EQ(image(box.button(QMessageBox::No)->icon()), own("dialog-no"));
+    box.button(QMessageBox::No)->click();
+  });
+  EXPECT_FALSE(shell->App().AskYesNo(u"Really?"));
+  WhenAsked<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(image(box.button(QMessageBox::Ok)->icon()), own("dialog-ok"));
+    box.accept();
+  });
+  shell->App().ShowMessage(u"Note");
+  WhenAsked<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(image(box.button(QMessageBox::Yes)->icon()), own("dialog-ok"));
+    EXPECT_EQ(image(box.button(QMessageBox::No)->icon()), own("dialog-no"));
+    EXPECT_EQ(image(box.button(QMessageBox::Cancel)->icon()), own("dialog-cancel"));
+    box.button(QMessageBox::Cancel)->click();
+  });
+  shell->App().SetModifiedFlag(true);
+  EXPECT_FALSE(Window().Document().MayLeave());
+  shell->App().SetModifiedFlag(false);
+  EXPECT_EQ(dialogs, 3);
+}
+
+TEST(Contrasts, AreThoseOfTheLuminances)
+{
+  EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21.0, 1e-9);
+  EXPECT_NEAR(Contrast(Qt::white, QColor(0x76, 0x76, 0x76)), 4.54, 0.01);
+  EXPECT_EQ(Contrast(Qt::red, Qt::red), 1.0);
+  EXPECT_GE(Contrast(Seen(QColor(240, 240, 240), Qt::white), Qt::white), shapeContrast);
+  EXPECT_GE(Contrast(Seen(QColor(30, 30, 30), Qt::black), Qt::black), shapeContrast);
+  EXPECT_EQ(Seen(Qt::blue, Qt::white), QColor(Qt::blue));
+}
+
+}  // namespace
+}  // namespace hullwright
