@@ -276,6 +276,7 @@ std::string WriteDiffPicture(const DiffPictureRequest& request)
   const SheetLayout layout(pictureSize, static_cast<int>(sides.size()));
   const auto paint = [&](QPaintDevice& device) {
     QPainter sheet(&device);
+    PaintGround(sheet, layout);
     PaintPictures(sheet, layout, captions, [&](std::size_t i, QPoint corner) {
       sheet.translate(corner);
       overlay.Paint(sides[i].code, sheet);

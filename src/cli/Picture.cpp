@@ -105,6 +105,8 @@ void PaintSheet(const PictureRequest& request, const SheetLayout& layout, const 
                 SidePainter& painter, QPaintDevice& device)
 {
   QPainter sheet(&device);
+  PaintGround(sheet, layout);
+  PaintHeading(sheet, layout, facts);
   std::vector<std::string> names;
   for (const ViewSideEntry& side : request.sides) names.emplace_back(side.name);
   std::vector<double> widths;
@@ -117,7 +119,6 @@ void PaintSheet(const PictureRequest& request, const SheetLayout& layout, const 
   for (int i = 0; i < layout.Count(); ++i) {
     PaintScaleBar(sheet, layout, i, widths[static_cast<std::size_t>(i)], facts.unitShort);
   }
-  PaintHeading(sheet, layout, facts);
   PaintTable(sheet, layout, facts);
 }
 

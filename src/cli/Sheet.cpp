@@ -195,6 +195,11 @@ double RoundLength(double most)
   return power / 2.0;
 }
 
+void PaintGround(QPainter& sheet, const SheetLayout& layout)
+{
+  sheet.fillRect(QRect(QPoint(0, 0), layout.Size()), Qt::white);
+}
+
 void PaintHeading(QPainter& sheet, const SheetLayout& layout, const SheetFacts& facts)
 {
   const QRect place = layout.Heading();
@@ -211,8 +216,6 @@ void PaintPictures(QPainter& sheet, const SheetLayout& layout,
                    const std::vector<std::string>& captions,
                    const std::function<void(std::size_t picture, QPoint corner)>& paint)
 {
-  sheet.fillRect(QRect(QPoint(0, 0), layout.Size()), Qt::white);
-  sheet.setFont(FontOf(caption / 2));
   for (int i = 0; i < layout.Count(); ++i) {
     const auto number = static_cast<std::size_t>(i);
     const QRect area = layout.Picture(i);
@@ -221,6 +224,7 @@ void PaintPictures(QPainter& sheet, const SheetLayout& layout,
     paint(number, area.topLeft());
     sheet.restore();
     sheet.setPen(Qt::black);
+    sheet.setFont(FontOf(caption / 2));
     sheet.drawText(layout.Caption(i), Qt::AlignCenter, QString::fromStdString(captions[number]));
   }
 }

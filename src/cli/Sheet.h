@@ -80,8 +80,11 @@ private:
 /// none.
 double RoundLength(double most);
 
-/// Paints a sheet white, then its pictures with their captions. `paint` paints one by its number,
-/// from 0, with its upper left corner where it is told, and can't leave its place.
+/// Paints a sheet white.
+void PaintGround(QPainter& sheet, const SheetLayout& layout);
+
+/// Paints the pictures of a sheet with their captions. `paint` paints one by its number, from 0,
+/// and its upper left corner, and can't leave its place.
 void PaintPictures(QPainter& sheet, const SheetLayout& layout,
                    const std::vector<std::string>& captions,
                    const std::function<void(std::size_t picture, QPoint corner)>& paint);

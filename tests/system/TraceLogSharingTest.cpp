@@ -81,7 +81,9 @@ TEST_F(SharedTraceLog, KeepsWhatItHoldsWhereverMemoryEnds)
     const test::FailingNew memory(++which);
     Trace(u"a record that is too long to go without memory of its own");
     failed = test::FailingNew::Stop();
-    if (failed) EXPECT_EQ(General(), before) << which;
+    if (failed) {
+      EXPECT_EQ(General(), before) << which;
+    }
   }
   EXPECT_GT(which, 5U);
   EXPECT_TRUE(General().starts_with("2\n"));
