@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "paint/PixelView.h"
+#include "paint/SegmentBand.h"
+
+namespace hullwright {
+
+/// How much of each pixel the strokes of a line cover. What several of them cover counts once, so
+/// that no join shows, be the colour ever so transparent.
+class CoverageMask {
+public:
+  /// Begins a line that is painted into an area of a picture. The area lies in the picture, which
+  /// is at least four pixels wide; the line is painted as transparent as `alpha` (0 to 1) has it.
+  void Begin(const PixelView& picture, const PixelArea& area, float alpha);
+
+  /// Adds a segment, whose ends lie within some ten thousand pixels of the area.
+  void Add(const StrokeSegment& segment);
+
+  /// Paints the line in a colour, 0xffRRGGBB, and is empty again.
+  void Paint(std::uint32_t colour);
+
+private:
+  /// Four pixels of a row that may be covered.
+  struct Block {
+    std::uint32_t bytes;   ///< where in the mask
+    std::uint32_t pixels;  ///< where in the picture
+  };
+
+  /// Pixels of one row, and where the next block is kept.
+  struct Run {
+    int row;
+    int first;
+    int last;
+    Block* next;
+  };
+
+  /// Makes room for the blocks of an area.
+  void Reserve(const PixelArea& area);
+  void NameBlocksOnce();
+  template <class Cover>
+  void AddRows(const SegmentBand& band, const PixelArea& area, Cover cover);
+  template <class Cover>
+  void AddRun(Run& run, const SegmentBand& band, Cover cover);
+
+  PixelView picture_;
+  PixelArea area_;
+  float full_ = 255.0F;              ///< coverage of what is covered whole
+  int stride_ = 0;                   ///< bytes from one row to the next
+  std::vector<std::uint8_t> bytes_;  ///< coverages of the area, zero outside a line
+  std::vector<Block> blocks_;        ///< room for more than there are
+  std::size_t count_ = 0;            ///< blocks that there are
+};
+
+}  // namespace hullwright
