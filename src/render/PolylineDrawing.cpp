@@ -4,6 +4,7 @@
 
 #include "model/ShapePolyline.h"
 #include "render/Canvas.h"
+#include "render/ScreenMapping.h"
 #include "render/ShapeDrawing.h"
 
 namespace hullwright {
@@ -32,11 +33,12 @@ void CShapePolyline::Draw(const CViewPort* viewPort)
   constexpr float highlightWidth = 4.0F;
   const CCanvas* const canvas = DrawableCanvas(viewPort);
   if (canvas == nullptr || vertices.size() < 2) return;
-  std::vector<PixelPoint> points;
+  std::vector<PixelPoint>& points = viewPort->canvas->points;
+  points.clear();
   points.reserve(vertices.size());
-  ForEachEntry(vertices, [&](const CShapeVertex& v) {
-    points.push_back(Narrowed(viewPort->WorldToScreen(v.x, v.y)));
-  });
+  const ScreenMapping mapping(*viewPort);
+  ForEachEntry(vertices,
+               [&](const CShapeVertex& v) { points.push_back(Narrowed(mapping.Map(v.x, v.y))); });
   if (selected) canvas->DrawPolyline(points, {Colours::highlight, highlightWidth});
   canvas->DrawPolyline(points, {LineColour(style.get()), style ? style->lineWidth : 1.0F});
 }
