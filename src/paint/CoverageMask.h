@@ -5,6 +5,7 @@
 
 #include "paint/PixelView.h"
 #include "paint/SegmentBand.h"
+#include "paint/ThinBand.h"
 
 namespace hullwright {
 
@@ -14,7 +15,8 @@ class CoverageMask {
 public:
   /// Begins a line that is painted into an area of a picture. The area lies in the picture, which
   /// is at least four pixels wide; the line is painted as transparent as `alpha` (0 to 1) has it.
-  void Begin(const PixelView& picture, const PixelArea& area, float alpha);
+  /// How many segments it will have makes no difference but to speed.
+  void Begin(const PixelView& picture, const PixelArea& area, float alpha, std::size_t segments);
 
   /// Adds a segment, whose ends lie within some ten thousand pixels of the area.
   void Add(const StrokeSegment& segment);
@@ -29,21 +31,17 @@ private:
     std::uint32_t pixels;  ///< where in the picture
   };
 
-  /// Pixels of one row, and where the next block is kept.
-  struct Run {
-    int row;
-    int first;
-    int last;
-    Block* next;
-  };
-
   /// Makes room for the blocks of an area.
   void Reserve(const PixelArea& area);
   void NameBlocksOnce();
+  struct Place;
+
+  /// Adds a thin segment, unless its blocks would reach out of the picture.
+  bool AddThin(const StrokeSegment& segment);
+  template <bool isFlat>
+  void AddPairs(const ThinBand& band, const PixelArea& area);
   template <class Cover>
   void AddRows(const SegmentBand& band, const PixelArea& area, Cover cover);
-  template <class Cover>
-  void AddRun(Run& run, const SegmentBand& band, Cover cover);
 
   PixelView picture_;
   PixelArea area_;
@@ -52,6 +50,7 @@ private:
   std::vector<std::uint8_t> bytes_;  ///< coverages of the area, zero outside a line
   std::vector<Block> blocks_;        ///< room for more than there are
   std::size_t count_ = 0;            ///< blocks that there are
+  bool isDense_ = false;             ///< blocks are looked for when all is added
 };
 
 }  // namespace hullwright

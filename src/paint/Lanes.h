@@ -25,6 +25,15 @@ public:
     return steps;
   }
 
+  /// The numbers of an array.
+  static PlainFour Of(const std::array<float, 4>& numbers)
+  {
+    PlainFour result(0.0F);
+    result.lanes_ = numbers;
+    return result;
+  }
+  std::array<float, 4> Numbers() const { return lanes_; }
+
   PlainFour operator+(const PlainFour& b) const
   {
     return With(b, [](float x, float y) { return x + y; });
@@ -39,15 +48,11 @@ public:
   }
   PlainFour Least(const PlainFour& b) const
   {
-    return With(b, [](float x, float y) { return std::min(x, y); });
+    return With(b, [](float x, float y) { return x < y ? x : y; });
   }
   PlainFour Most(const PlainFour& b) const
   {
-    return With(b, [](float x, float y) { return std::max(x, y); });
-  }
-  PlainFour Size() const
-  {
-    return With(*this, [](float x, float) { return std::abs(x); });
+    return With(b, [](float x, float y) { return x > y ? x : y; });
   }
   PlainFour Root() const
   {
@@ -81,12 +86,21 @@ class FastFour {
 public:
   explicit FastFour(float all) : lanes_(_mm_set1_ps(all)) {}
   static FastFour Steps() { return FastFour(_mm_setr_ps(0.0F, 1.0F, 2.0F, 3.0F)); }
+  static FastFour Of(const std::array<float, 4>& numbers)
+  {
+    return FastFour(_mm_loadu_ps(numbers.data()));
+  }
+  std::array<float, 4> Numbers() const
+  {
+    std::array<float, 4> numbers;
+    _mm_storeu_ps(numbers.data(), lanes_);
+    return numbers;
+  }
   FastFour operator+(FastFour b) const { return FastFour(_mm_add_ps(lanes_, b.lanes_)); }
   FastFour operator-(FastFour b) const { return FastFour(_mm_sub_ps(lanes_, b.lanes_)); }
   FastFour operator*(FastFour b) const { return FastFour(_mm_mul_ps(lanes_, b.lanes_)); }
   FastFour Least(FastFour b) const { return FastFour(_mm_min_ps(lanes_, b.lanes_)); }
   FastFour Most(FastFour b) const { return FastFour(_mm_max_ps(lanes_, b.lanes_)); }
-  FastFour Size() const { return FastFour(_mm_andnot_ps(_mm_set1_ps(-0.0F), lanes_)); }
   FastFour Root() const { return FastFour(_mm_sqrt_ps(lanes_)); }
   void RaiseBytes(std::uint8_t* bytes) const
   {

@@ -22,6 +22,21 @@ QColor ToQt(const Colour& colour)
   return QColor::fromRgbF(colour.red, colour.green, colour.blue, colour.alpha);
 }
 
+/// A part of a colour from 0 to 255, as the toolkit rounds it.
+std::uint32_t ByteOf(float part)
+{
+  constexpr float whole = 65535.0F;
+  constexpr float half = 0.5F;
+  const float kept = part > 0.0F ? std::min(part, 1.0F) : 0.0F;
+  return static_cast<std::uint32_t>(kept * whole + half) >> 8U;
+}
+
+/// An opaque colour as a pixel of a picture has it. Every shape asks for one, in view or not.
+std::uint32_t PixelOf(const Colour& colour)
+{
+  return 0xff000000U | ByteOf(colour.red) << 16U | ByteOf(colour.green) << 8U | ByteOf(colour.blue);
+}
+
 /// The pixels of a device that is a picture in memory, of a kind that lines can be stroked into.
 PixelView ViewOf(QPaintDevice* device)
 {
@@ -168,8 +183,9 @@ void PaintTarget::StrokeFigure(std::span<const PixelPoint> points, const QPen& p
 
 void PaintTarget::StrokeFigures(const Figures& figures, const Stroke& stroke)
 {
-  const QColor colour = ToQt(stroke.colour);
-  stroker_.Draw(figures, {colour.rgb(), colour.alphaF(), LineWidth(stroke.width)});
+  const Colour& colour = stroke.colour;
+  const float alpha = colour.alpha > 0.0F ? std::min(colour.alpha, 1.0F) : 0.0F;
+  stroker_.Draw(figures, {PixelOf(colour), alpha, LineWidth(stroke.width)});
 }
 
 void PaintTarget::DrawLine(PixelPoint from, PixelPoint to, const Stroke& stroke)

@@ -1,18 +1,9 @@
 #pragma once
 
 #include "paint/Lanes.h"
-#include "paint/PixelView.h"
+#include "paint/SegmentRuns.h"
 
 namespace hullwright {
-
-/// The stroke of one segment, with half discs around its ends unless an end is flat.
-struct StrokeSegment {
-  PixelPosition from;
-  PixelPosition to;
-  float radius = 0.5F;  ///< half the width, at least half a pixel
-  bool flatFrom = false;
-  bool flatTo = false;
-};
 
 /// What the stroke of a segment covers of pixels, from 0 to `full`: the square of a pixel slides
 /// over its edge. What a slanted square has before the edge grows slowly at its corners, fast
@@ -20,14 +11,13 @@ struct StrokeSegment {
 /// that. Distances are kept in such parts of a pixel that a ramp rises by one for one.
 class SegmentBand {
 public:
-  SegmentBand(const StrokeSegment& segment, float full);
+  SegmentBand(const StrokeSegment& segment, float full)
+      : SegmentBand(segment, SegmentWay(segment), full)
+  {
+  }
 
-  /// Where pixels can be covered.
-  const PixelArea& Reach() const { return reach_; }
-
-  /// The middle of the band in a row, and half of what it covers of that row.
-  float MiddleOf(float y) const { return from_.x + (y - from_.y) * slant_; }
-  float HalfRun() const { return halfRun_; }
+  /// Which pixels can be covered.
+  const SegmentRuns& Runs() const { return runs_; }
 
   /// Distances of four pixels from the start, along the line and across it.
   struct Distances {
@@ -47,17 +37,6 @@ public:
     distances.across = distances.across + nextAcross_;
   }
 
-  /// Whether a run of pixels lies beside the segment, not around its ends.
-  bool IsBeside(float x, float y, float pixels) const
-  {
-    const float begin = (x - from_.x) * alongX_ + (y - from_.y) * alongY_;
-    const float end = begin + pixels * alongX_;
-    return std::min(begin, end) >= besideFrom_ && std::max(begin, end) <= besideTo_;
-  }
-
-  /// For pixels beside the segment.
-  Four CoverBeside(const Distances& distances) const { return CoverAt(distances.across.Size()); }
-
   /// For any pixels, where both ends are round.
   Four CoverRound(const Distances& distances) const
   {
@@ -69,6 +48,8 @@ public:
   Four CoverFlat(const Distances& distances) const;
 
 private:
+  SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full);
+
   Four CoverAt(Four distance) const
   {
     const Four outer = (outerLimit_ - distance).Most(none_).Least(half_);
@@ -79,17 +60,12 @@ private:
   {
     return CoverAt((across * across + beyond * beyond).Root());
   }
-  void SetReach(const StrokeSegment& segment);
 
+  SegmentRuns runs_;
   PixelPosition from_;
   float pixel_;   ///< a pixel as a distance
   float alongX_;  ///< change of the distance along the line from one pixel to the next
   float alongY_;
-  float slant_;
-  float halfRun_;
-  float besideFrom_;
-  float besideTo_;
-  PixelArea reach_;
   bool flatFrom_;
   bool flatTo_;
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
+#include "paint/Lanes.h"
 #include "render/ClipPolyline.h"
 
 namespace hullwright {
@@ -18,20 +20,38 @@ constexpr float faintest = 0.5F / 255.0F;
 /// Beyond this many client pixels single precision is not good enough for the edge of a line.
 constexpr float farthestPoint = 8000.0F;
 
+/// The first two of some points.
+Four Pair(const PixelPoint* points)
+{
+  std::array<float, 4> numbers;
+  static_assert(sizeof(numbers) == 2 * sizeof(PixelPoint));
+  std::memcpy(numbers.data(), points, sizeof(numbers));
+  return Four::Of(numbers);
+}
+
 /// The bounds of points. They are wild where a coordinate is infinite or no number.
 struct PixelBounds {
   explicit PixelBounds(std::span<const PixelPoint> points)
-      : left(points.front().x), top(points.front().y), right(left), bottom(top)
   {
-    float zero = 0.0F;
-    for (const PixelPoint& p : points) {
-      left = std::min(left, p.x);
-      top = std::min(top, p.y);
-      right = std::max(right, p.x);
-      bottom = std::max(bottom, p.y);
-      zero += p.x * 0.0F + p.y * 0.0F;
+    const Four none(0.0F);
+    const PixelPoint& last = points.back();
+    Four least = Four::Of({last.x, last.y, last.x, last.y});
+    Four most = least;
+    Four zero = least * none;
+    for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
+      const Four two = Pair(points.data() + i);
+      least = least.Least(two);
+      most = most.Most(two);
+      zero = zero + two * none;
     }
-    isWild = zero != 0.0F;
+    const std::array<float, 4> low = least.Numbers();
+    const std::array<float, 4> high = most.Numbers();
+    left = std::min(low[0], low[2]);
+    top = std::min(low[1], low[3]);
+    right = std::max(high[0], high[2]);
+    bottom = std::max(high[1], high[3]);
+    const std::array<float, 4> sums = zero.Numbers();
+    isWild = !(sums[0] + sums[1] + sums[2] + sums[3] == 0.0F);
   }
 
   bool Misses(const ClipRect& area) const
@@ -125,6 +145,7 @@ void Stroker::DrawClipped(std::span<const PixelPoint> points, FigureKind kind, c
   if (kind == FigureKind::Outline) closed.push_back(points.front());
   for (const auto& run : ClipPolyline(closed, area)) {
     std::vector<PixelPoint> part;
+    part.reserve(run.size());
     for (const ScreenPoint& p : run) {
       part.push_back({static_cast<float>(p.x), static_cast<float>(p.y)});
     }
@@ -172,7 +193,7 @@ void Stroker::StrokeGathered(bool closed, const Pen& pen)
   const float alpha = pen.alpha * std::min(width, 1.0F);
   const PixelArea area = AreaOf(radius);
   if (area.IsEmpty() || alpha < faintest) return;
-  mask_.Begin(picture_, area, alpha);
+  mask_.Begin(picture_, area, alpha, line_.size());
   if (line_.size() == 1) mask_.Add({line_.front(), line_.front(), radius});
   for (std::size_t i = 1; i < line_.size(); ++i) {
     const bool isFirst = i == 1;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
 #include "model/ShapePolyline.h"
@@ -33,12 +34,13 @@ void CShapePolyline::Draw(const CViewPort* viewPort)
   constexpr float highlightWidth = 4.0F;
   const CCanvas* const canvas = DrawableCanvas(viewPort);
   if (canvas == nullptr || vertices.size() < 2) return;
-  std::vector<PixelPoint>& points = viewPort->canvas->points;
-  points.clear();
-  points.reserve(vertices.size());
+  std::vector<PixelPoint>& room = viewPort->canvas->points;
+  if (room.size() < vertices.size()) room.resize(vertices.size());
   const ScreenMapping mapping(*viewPort);
+  std::size_t count = 0;
   ForEachEntry(vertices,
-               [&](const CShapeVertex& v) { points.push_back(Narrowed(mapping.Map(v.x, v.y))); });
+               [&](const CShapeVertex& v) { room[count++] = Narrowed(mapping.Map(v.x, v.y)); });
+  const std::span<const PixelPoint> points(room.data(), count);
   if (selected) canvas->DrawPolyline(points, {Colours::highlight, highlightWidth});
   canvas->DrawPolyline(points, {LineColour(style.get()), style ? style->lineWidth : 1.0F});
 }

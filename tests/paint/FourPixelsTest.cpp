@@ -4,6 +4,7 @@
 #include <array>
 #include <random>
 
+#include "paint/Eights.h"
 #include "paint/Lanes.h"
 #include "paint/PixelBlend.h"
 
@@ -18,7 +19,7 @@ template <class Lanes>
 Bytes Reckon(float a, float b, Bytes bytes)
 {
   const Lanes x = Lanes::Steps() * Lanes(a) + Lanes(b);
-  const Lanes y = (x - Lanes(40.0F)).Size();
+  const Lanes y = x - Lanes(40.0F);
   const Lanes root = (x * x + y * y).Root();
   root.Least(Lanes(255.0F)).Most(Lanes(3.0F)).RaiseBytes(bytes.data());
   return bytes;
@@ -34,6 +35,49 @@ TEST(FourPixels, AreReckonedAlikeOnEveryMachine)
     const Bytes bytes = {0, 255, 17, 100};
     EXPECT_EQ(Reckon<Four>(a, b, bytes), Reckon<PlainFour>(a, b, bytes)) << a << ' ' << b;
   }
+}
+
+using Rows = std::array<std::uint8_t, 8>;
+
+Rows Bytes8(const auto& lanes)
+{
+  Rows bytes = {0, 255, 17, 100, 3, 0, 9, 200};
+  lanes.RaiseBytes(bytes.data(), bytes.data() + 4);
+  return bytes;
+}
+
+template <class Lanes>
+std::array<Rows, 3> ReckonRows(int a, int b, int step)
+{
+  const Lanes none(0);
+  const Lanes most(4080);
+  const Lanes x = Lanes(a, b) + Lanes::Steps(step);
+  const Lanes size = x.Most(none - x);
+  const Lanes product = size.Least(most).Product((Lanes(b, a) - x).Most(none).Least(most));
+  return {Bytes8(x.Most(none).Least(most)),
+          Bytes8((size.Part(46341) + size).Part(5000).Least(most)), Bytes8(product.Part(7000))};
+}
+
+TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
+{
+  std::mt19937 random(4);
+  for (int i = 0; i < 20000; ++i) {
+    const int shift = static_cast<int>(random() % 20U) + 12;
+    const int a = static_cast<int>(random()) >> shift;
+    const int b = static_cast<int>(random()) >> shift;
+    const int step = static_cast<int>(random() % 8000U) - 4000;
+    ASSERT_EQ(ReckonRows<Eight>(a, b, step), ReckonRows<PlainEight>(a, b, step))
+        << a << ' ' << b << ' ' << step;
+  }
+}
+
+TEST(EightPixels, SumsStopAtTheEndsOfTheirRange)
+{
+  const Eight high = Eight(1000000, 30000) + Eight(30000);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Most(Eight(0)))[0], 10);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Most(Eight(0)))[5], 10);
+  const Eight low = Eight(-1000000) - Eight(30000);
+  EXPECT_EQ(Bytes8(low + Eight(32767) + Eight(33))[0], 2);
 }
 
 TEST(FourPixels, BytesAreRaisedNeverLowered)

@@ -61,6 +61,25 @@ TEST_F(StrokerFixture, ACurveOfShortStepsIsAsWideAsOneOfLongSteps)
   }
 }
 
+TEST_F(StrokerFixture, LongSegmentsCoverWhatTheyShould)
+{
+  for (const float width : {1.0F, 2.0F, 3.0F}) {
+    ExpectExact({{-3000.0F, -1000.0F}, {3050.0F, 1064.0F}}, width, {4.5, 24.0});
+    ExpectExact({{-3000.0F, 30.2F}, {3000.0F, 33.4F}}, width, {4.5, 24.0});
+    ExpectExact({{40.3F, 32.2F}, {5000.0F, 1200.0F}}, width, {4.5, 24.0});
+    ExpectExact({{36.3F, -4000.0F}, {41.7F, 32.5F}}, width, {4.5, 24.0});
+  }
+}
+
+TEST_F(StrokerFixture, ATangleOfManySegmentsIsOneLine)
+{
+  std::mt19937 random(9);
+  std::uniform_real_distribution<float> anywhere(30.0F, 40.0F);
+  Points tangle;
+  for (int i = 0; i < 60; ++i) tangle.push_back({anywhere(random), anywhere(random)});
+  for (const float width : {2.0F, 3.0F}) ExpectExact(tangle, width, {9.0, 128.0});
+}
+
 TEST_F(StrokerFixture, ALineWithoutLengthDrawsNothingAndASmallShapeADot)
 {
   Draw({{20.5F, 20.5F}, {20.5F, 20.5F}}, 2.0F);
@@ -101,15 +120,16 @@ TEST_F(StrokerFixture, WhatLeavesThePictureIsCutAtItsEdges)
 {
   std::mt19937 random(11);
   std::uniform_real_distribution<float> anywhere(-40.0F, 120.0F);
-  for (int round = 0; round < 20; ++round) {
+  for (int round = 0; round < 30; ++round) {
+    const auto thickness = static_cast<float>(round % 3 + 1);
     Points line;
     for (int i = 0; i < 4; ++i) line.push_back({anywhere(random), anywhere(random)});
-    Draw(line, 3.0F);
+    Draw(line, thickness);
     // The same in a picture with room around it.
     StrokerFixture::Paper wide(240, 220);
     Points moved = line;
     for (PixelPoint& p : moved) p = {p.x + 80.0F, p.y + 80.0F};
-    wide.Draw(moved, FigureKind::Line, {0xff000000U, 1.0F, 3.0F});
+    wide.Draw(moved, FigureKind::Line, {0xff000000U, 1.0F, thickness});
     for (int y = 0; y < paper.height; ++y) {
       for (int x = 0; x < paper.width; ++x) {
         ASSERT_NEAR(Cover(x, y), 255 - wide.Blue(x + 80, y + 80), 1) << x << ' ' << y;
@@ -203,8 +223,10 @@ TEST_F(StrokerFixture, NothingIsWrittenBesideARowOrBehindTheLastOne)
   for (int width = 4; width < 12; ++width) {
     Paper narrow(width, 9, 1.0, 5);
     std::ranges::fill(narrow.pixels, 0xffffffffU);
-    narrow.Draw({{-5.0F, -5.0F}, {30.0F, 12.0F}, {2.0F, 8.0F}, {60.0F, 8.5F}}, FigureKind::Line,
-                {0xff000000U, 1.0F, 3.0F});
+    for (const float thickness : {1.0F, 2.0F, 3.0F}) {
+      narrow.Draw({{-5.0F, -5.0F}, {30.0F, 12.0F}, {2.0F, 8.0F}, {60.0F, 8.5F}}, FigureKind::Line,
+                  {0xff000000U, 1.0F, thickness});
+    }
     for (std::size_t i = 0; i < narrow.pixels.size(); ++i) {
       const auto column = static_cast<int>(i) % (width + 5);
       if (column < width) continue;
