@@ -110,7 +110,7 @@ TEST(FourPixels, CoverageReachesFromNothingToTheColourItself)
     PixelBlend{0xff804020U}(pixels.data(), {0, 255, 128, 0});
     EXPECT_EQ(pixels[0], pixel);
     EXPECT_EQ(pixels[1], 0xff804020U);
-    EXPECT_NEAR(pixels[2] & 255U, ((pixel & 255U) + 0x20U) / 2, 1);
+    EXPECT_NEAR(pixels[2] & 255U, ((pixel & 255U) + 0x20U) * 0.5, 1);
     EXPECT_EQ(pixels[3], pixel);
   }
 }
