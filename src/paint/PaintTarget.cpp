@@ -22,8 +22,39 @@ QColor ToQt(const Colour& colour)
   return QColor::fromRgbF(colour.red, colour.green, colour.blue, colour.alpha);
 }
 
+/// A part of a colour from 0 to 255, as the toolkit rounds it.
+std::uint32_t ByteOf(float part)
+{
+  constexpr float whole = 65535.0F;
+  constexpr float half = 0.5F;
+  const float kept = part > 0.0F ? std::min(part, 1.0F) : 0.0F;
+  return static_cast<std::uint32_t>(kept * whole + half) >> 8U;
+}
+
+/// An opaque colour as a pixel of a picture has it. Every shape asks for one, in view or not.
+std::uint32_t PixelOf(const Colour& colour)
+{
+  return 0xff000000U | ByteOf(colour.red) << 16U | ByteOf(colour.green) << 8U | ByteOf(colour.blue);
+}
+
+/// The pixels of a device that is a picture in memory, of a kind that lines can be stroked into.
+PixelView ViewOf(QPaintDevice* device)
+{
+  auto* const image = dynamic_cast<QImage*>(device);
+  if (image == nullptr || (image->format() != QImage::Format_RGB32 &&
+                           image->format() != QImage::Format_ARGB32_Premultiplied)) {
+    return {};
+  }
+  return {reinterpret_cast<std::uint32_t*>(image->bits()), image->bytesPerLine() / 4,
+          image->width(), image->height()};
+}
+
 /// Whether a stroke of this width is painted; written so that NaN is not.
 bool IsStroke(float width) { return width >= 0.0F && std::isfinite(width); }
+
+/// The width that a stroke is painted with. Drawings give a width of zero to lines that are to be
+/// seen as thin as they can be.
+float LineWidth(float width) { return width == 0.0F ? 1.0F : std::min(width, widestStroke); }
 
 /// Runs without the points that lie on their predecessor, as far as a picture can show.
 std::vector<ScreenPoint> Thinned(const std::vector<ScreenPoint>& run)
@@ -64,6 +95,7 @@ void PaintTarget::BeginFrame(const Colour& background)
 {
   QPaintDevice* const device = surface_.Device();
   if (device == nullptr || !painter_.begin(device)) return;
+  stroker_.Begin(ViewOf(device), device->devicePixelRatioF());
   painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter_.fillRect(QRectF(0.0, 0.0, surface_.Width(), surface_.Height()), ToQt(background));
 }
@@ -75,6 +107,7 @@ FrameResult PaintTarget::EndFrame()
     return {recreateTarget, "There is not enough memory for the picture."};
   }
   if (!painter_.isActive()) return {};
+  stroker_.End();
   painter_.end();
   if (surface_.onFrame) surface_.onFrame();
   return {};
@@ -100,8 +133,7 @@ QPen PaintTarget::PenOf(const Stroke& stroke) const
   // Up to one pixel of the picture the painter would switch to hairlines, which are too thin where
   // they slant and lack their corners. A stroke that is thinner is a paler one of that width.
   const double thinnest = 1.0001 / surface_.Ratio();
-  // Drawings give a width of zero to lines that are to be seen as thin as they can be.
-  const double width = stroke.width == 0.0F ? 1.0 : std::min(stroke.width, widestStroke);
+  const double width = LineWidth(stroke.width);
   QColor colour = ToQt(stroke.colour);
   const double cover = std::min(1.0, width * surface_.Ratio());
   colour.setAlphaF(static_cast<float>(colour.alphaF() * cover));
@@ -149,10 +181,23 @@ void PaintTarget::StrokeFigure(std::span<const PixelPoint> points, const QPen& p
   StrokeRuns(closing, pen, false);
 }
 
+void PaintTarget::StrokeFigures(const Figures& figures, const Stroke& stroke)
+{
+  const Colour& colour = stroke.colour;
+  const float alpha = colour.alpha > 0.0F ? std::min(colour.alpha, 1.0F) : 0.0F;
+  stroker_.Draw(figures, {PixelOf(colour), alpha, LineWidth(stroke.width)});
+}
+
 void PaintTarget::DrawLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
 {
   const std::array<PixelPoint, 2> ends = {from, to};
-  if (IsStroke(stroke.width)) StrokeRuns(ends, PenOf(stroke), false);
+  if (!IsStroke(stroke.width)) return;
+  if (stroker_.IsActive()) {
+    const std::array<std::size_t, 1> count = {ends.size()};
+    StrokeFigures({FigureKind::Line, ends, count}, stroke);
+    return;
+  }
+  StrokeRuns(ends, PenOf(stroke), false);
 }
 
 void PaintTarget::DrawRectangle(const PixelRect& rect, const Stroke& stroke)
@@ -182,6 +227,10 @@ void PaintTarget::DrawEllipse(PixelPoint centre, float radiusX, float radiusY, c
 void PaintTarget::DrawFigures(const Figures& figures, const Stroke& stroke)
 {
   if (!IsStroke(stroke.width)) return;
+  if (stroker_.IsActive()) {
+    StrokeFigures(figures, stroke);
+    return;
+  }
   const QPen pen = PenOf(stroke);
   std::size_t begin = 0;
   for (const std::size_t end : figures.pointEnds) {

@@ -7,13 +7,15 @@
 
 #include "paint/PaintSurface.h"
 #include "paint/PaintText.h"
+#include "paint/Stroker.h"
 #include "platform/Drawing.h"
 #include "render/ClipPolyline.h"
 
 namespace hullwright {
 
-/// The drawing target for windows and pictures: paints antialiased on a surface. Everything is
-/// clipped to the client area before it reaches the painter.
+/// The drawing target for windows and pictures: paints antialiased on a surface. Lines go straight
+/// into a picture in memory; all else, and everything on any other device, is clipped to the client
+/// area and left to the toolkit's painter.
 class PaintTarget : public IDrawingTarget {
 public:
   /// The surface must outlive the target.
@@ -33,6 +35,7 @@ public:
   void DrawText(const TextBlock& block) override;
 
 private:
+  void StrokeFigures(const Figures& figures, const Stroke& stroke);
   QPen PenOf(const Stroke& stroke) const;
   void StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins);
   void StrokeFigure(std::span<const PixelPoint> points, const QPen& pen, FigureKind kind);
@@ -45,6 +48,7 @@ private:
   PaintSurface& surface_;
   QPainter painter_;
   PaintFonts fonts_;
+  Stroker stroker_;                 ///< of lines, where the device is a picture in memory
   std::vector<PixelPoint> figure_;  ///< the points of one figure, kept for the memory
 };
 

@@ -66,11 +66,11 @@ void CCanvas::ReleaseResources()
   held_.reset();
 }
 
-void CCanvas::DrawPolyline(std::span<const PixelPoint> points, const Stroke& stroke) const
+void CCanvas::DrawPolyline(std::span<const PixelPoint> line, const Stroke& stroke) const
 {
-  if (target_ == nullptr || points.size() < 2) return;
-  const std::array<std::size_t, 1> end = {points.size()};
-  target_->DrawFigures({FigureKind::Line, points, end}, stroke);
+  if (target_ == nullptr || line.size() < 2) return;
+  const std::array<std::size_t, 1> end = {line.size()};
+  target_->DrawFigures({FigureKind::Line, line, end}, stroke);
 }
 
 std::optional<PixelSize> CCanvas::MeasureText(std::u16string_view text,

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Drawing.h"
 
@@ -35,7 +36,7 @@ public:
   bool Holds(TargetStep step) const { return held_[static_cast<std::size_t>(step)]; }
 
   /// Draws an open line with round joins. Fewer than two points draw nothing.
-  void DrawPolyline(std::span<const PixelPoint> points, const Stroke& stroke) const;
+  void DrawPolyline(std::span<const PixelPoint> line, const Stroke& stroke) const;
 
   /// Whether texts can be drawn in a style.
   bool CanWrite(const TextStyle& style) const { return MeasureText({}, style).has_value(); }
@@ -49,6 +50,7 @@ public:
 
   std::string errorText;             ///< the last failure; empty until one occurs
   IDrawingTarget* window = nullptr;  ///< the target of the last `Initialize`, for the next one
+  std::vector<PixelPoint> points;    ///< room for the points of the shape that is being drawn
   Resolution resolution;             ///< 96 whatever the monitor: a pixel is a pixel
 
 private:

@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
 #include "model/ShapePolyline.h"
 #include "render/Canvas.h"
+#include "render/ScreenMapping.h"
 #include "render/ShapeDrawing.h"
 
 namespace hullwright {
@@ -32,11 +34,13 @@ void CShapePolyline::Draw(const CViewPort* viewPort)
   constexpr float highlightWidth = 4.0F;
   const CCanvas* const canvas = DrawableCanvas(viewPort);
   if (canvas == nullptr || vertices.size() < 2) return;
-  std::vector<PixelPoint> points;
-  points.reserve(vertices.size());
-  ForEachEntry(vertices, [&](const CShapeVertex& v) {
-    points.push_back(Narrowed(viewPort->WorldToScreen(v.x, v.y)));
-  });
+  std::vector<PixelPoint>& room = viewPort->canvas->points;
+  if (room.size() < vertices.size()) room.resize(vertices.size());
+  const ScreenMapping mapping(*viewPort);
+  std::size_t count = 0;
+  ForEachEntry(vertices,
+               [&](const CShapeVertex& v) { room[count++] = Narrowed(mapping.Map(v.x, v.y)); });
+  const std::span<const PixelPoint> points(room.data(), count);
   if (selected) canvas->DrawPolyline(points, {Colours::highlight, highlightWidth});
   canvas->DrawPolyline(points, {LineColour(style.get()), style ? style->lineWidth : 1.0F});
 }

@@ -17,11 +17,6 @@ IDrawingTarget* TargetOf(const CViewPort* viewPort)
   return viewPort->canvas->Target();
 }
 
-PixelPoint Narrowed(const ScreenPoint& point)
-{
-  return {static_cast<float>(point.x), static_cast<float>(point.y)};
-}
-
 double HitTolerance(const CViewPort& viewPort)
 {
   constexpr double tolerancePixels = 10.0;

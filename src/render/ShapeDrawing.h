@@ -21,7 +21,10 @@ const CCanvas* DrawableCanvas(const CViewPort* viewPort);
 IDrawingTarget* TargetOf(const CViewPort* viewPort);
 
 /// Narrows a pixel position to what the canvas takes.
-PixelPoint Narrowed(const ScreenPoint& point);
+inline PixelPoint Narrowed(const ScreenPoint& point)
+{
+  return {static_cast<float>(point.x), static_cast<float>(point.y)};
+}
 
 /// Ten pixels in world units, measured along x for both axes.
 double HitTolerance(const CViewPort& viewPort);

@@ -9,6 +9,7 @@
 #include "model/Angle.h"
 #include "model/DesignState.h"
 #include "model/Extents.h"
+#include "render/ScreenMapping.h"
 
 namespace hullwright {
 namespace {
@@ -90,15 +91,6 @@ void CViewPort::KeepAspect()
   top = cy + height * 0.5;
 }
 
-WorldPoint CViewPort::Rotated(double wx, double wy) const
-{
-  const double cx = CentreX();
-  const double cy = CentreY();
-  const double dx = wx - cx;
-  const double dy = wy - cy;
-  return {cosRotation * dx + sinRotation * dy + cx, cosRotation * dy - sinRotation * dx + cy};
-}
-
 bool CViewPort::Contains(double wx, double wy) const
 {
   const ScreenPoint p = WorldToScreen(wx, wy);
@@ -107,14 +99,12 @@ bool CViewPort::Contains(double wx, double wy) const
 
 ScreenPoint CViewPort::WorldToScreen(double wx, double wy) const
 {
-  const WorldPoint r = Rotated(wx, wy);
-  return WorldToScreenFlat(r.x, r.y);
+  return ScreenMapping(*this).Map(wx, wy);
 }
 
 ScreenPoint CViewPort::WorldToScreenFlat(double wx, double wy) const
 {
-  return {(wx - left) / (width / screenWidth),
-          screenHeight - (wy - bottom) / (height / screenHeight)};
+  return ScreenMapping(*this).Flat(wx, wy);
 }
 
 WorldPoint CViewPort::ScreenToWorld(double sx, double sy) const

@@ -92,7 +92,6 @@ private:
 
   double CentreX() const { return (left + right) * 0.5; }
   double CentreY() const { return (bottom + top) * 0.5; }
-  WorldPoint Rotated(double wx, double wy) const;
   void MeasureEdges();
   void WidenBySixth();
   void MoveCentreTo(const WorldPoint& centre);

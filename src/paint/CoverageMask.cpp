@@ -1,0 +1,209 @@
+#include "paint/CoverageMask.h"
+
+#include <array>
+#include <cstring>
+#include <span>
+
+#include "paint/PixelBlend.h"
+
+namespace hullwright {
+namespace {
+
+constexpr int blockSize = 4;
+
+/// No fewer than the blocks that cover an area.
+std::size_t BlocksOf(const PixelArea& area)
+{
+  const auto perRow = static_cast<std::size_t>(area.Width()) / blockSize + 1;
+  return (static_cast<std::size_t>(area.Height()) + 1) * perRow;  // rows are added in pairs
+}
+
+/// Takes away what the lanes behind the last pixel of a run cover.
+Four CutOff(Four cover, int lastLane)
+{
+  constexpr float steep = 1e6F;
+  const Four room = Four(static_cast<float>(lastLane) + 0.5F) - Four::Steps();
+  return cover.Least((room * Four(steep)).Most(Four(0.0F)));
+}
+
+/// Blends into the last pixels of a picture, which are fewer than a block.
+void BlendLast(const PixelBlend& blend, std::span<std::uint32_t> pixels, const Covers& covers)
+{
+  std::array<std::uint32_t, blockSize> block = {};
+  std::ranges::copy(pixels, block.begin());
+  blend(block.data(), covers);
+  std::copy_n(block.begin(), pixels.size(), pixels.begin());
+}
+
+}  // namespace
+
+void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float alpha,
+                         std::size_t segments)
+{
+  constexpr std::size_t blocksOfSegment = 3;
+  // A segment names more than that, most of which its neighbours name as well.
+  isDense_ = BlocksOf(area) < blocksOfSegment * segments;
+  picture_ = picture;
+  area_ = area;
+  full_ = 255.0F * alpha;
+  // A mask as small as the line keeps to the processor's cache. The last block of a row reaches
+  // out.
+  stride_ = area.Width() + blockSize - 1;
+  const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
+  if (bytes_.size() < size) bytes_.resize(size);
+  if (isDense_) Reserve(area);
+}
+
+void CoverageMask::Reserve(const PixelArea& area)
+{
+  // A line that runs to and fro would name the same blocks over and over.
+  if (count_ > 2 * BlocksOf(area_)) NameBlocksOnce();
+  const std::size_t most = count_ + BlocksOf(area);
+  if (blocks_.size() < most) blocks_.resize(2 * most);
+}
+
+void CoverageMask::NameBlocksOnce()
+{
+  count_ = 0;
+  for (int row = 0; row < area_.Height(); ++row) {
+    for (int x = 0; x < area_.Width(); x += blockSize) {
+      const int byte = row * stride_ + x;
+      Covers covers;
+      std::memcpy(covers.data(), bytes_.data() + byte, covers.size());
+      if (covers == Covers{}) continue;
+      const std::ptrdiff_t pixel = (area_.firstRow + row) * picture_.stride + area_.firstX + x;
+      blocks_[count_++] = {static_cast<std::uint32_t>(byte), static_cast<std::uint32_t>(pixel)};
+    }
+  }
+}
+
+void CoverageMask::Add(const StrokeSegment& segment)
+{
+  if (ThinBand::Serves(segment.radius, full_) && AddThin(segment)) return;
+  const bool isFlat = segment.flatFrom || segment.flatTo;
+  const SegmentBand band(segment, full_);
+  const PixelArea area = band.Runs().reach.Within(area_);
+  if (area.IsEmpty()) return;
+  Reserve(area);
+  if (isFlat) {
+    AddRows(band, area, [](const SegmentBand& b, const auto& at) { return b.CoverFlat(at); });
+  } else {
+    AddRows(band, area, [](const SegmentBand& b, const auto& at) { return b.CoverRound(at); });
+  }
+}
+
+bool CoverageMask::AddThin(const StrokeSegment& segment)
+{
+  const ThinBand band(segment, full_);
+  const PixelArea area = band.Runs().reach.Within(area_);
+  if (area.IsEmpty()) return true;
+  if (area.firstX + band.Runs().BlocksIn(area) * blockSize > picture_.width) return false;
+  Reserve(area);
+  if (segment.flatFrom || segment.flatTo) {
+    AddPairs<true>(band, area);
+  } else {
+    AddPairs<false>(band, area);
+  }
+  return true;
+}
+
+template <class Cover>
+void CoverageMask::AddRows(const SegmentBand& theBand, const PixelArea& area, Cover cover)
+{
+  const SegmentBand band = theBand;  // which no byte written below can be part of
+  const int blocks = band.Runs().BlocksIn(area);
+  const auto firstX = static_cast<float>(area.firstX);
+  const auto lastX = std::max(static_cast<float>(area.lastX + 1 - blocks * blockSize), firstX);
+  const int lastWhole = picture_.width - blockSize;
+  const std::ptrdiff_t step = isDense_ ? 0 : 1;
+  std::uint8_t* const bytes = bytes_.data();
+  Block* next = blocks_.data() + count_;
+  for (int row = area.firstRow; row <= area.lastRow; ++row) {
+    const float y = static_cast<float>(row) + 0.5F;
+    int x = static_cast<int>(std::min(std::max(band.Runs().BeginOf(y), firstX), lastX));
+    SegmentBand::Distances distances = band.At(static_cast<float>(x) + 0.5F, y);
+    int byte = (row - area_.firstRow) * stride_ + x - area_.firstX;
+    std::ptrdiff_t pixel = row * picture_.stride + x;
+    // The picture is too large for the cache, and `Paint` comes soon.
+    __builtin_prefetch(picture_.pixels + pixel, 1);
+    for (int left = blocks; left > 0; --left) {
+      Four covered = cover(band, distances);
+      if (x > lastWhole) covered = CutOff(covered, picture_.width - 1 - x);
+      covered.RaiseBytes(bytes + byte);
+      *next = {static_cast<std::uint32_t>(byte), static_cast<std::uint32_t>(pixel)};
+      next += step;
+      band.Advance(distances);
+      x += blockSize;
+      byte += blockSize;
+      pixel += blockSize;
+    }
+  }
+  count_ = static_cast<std::size_t>(next - blocks_.data());
+}
+
+/// Where a row of blocks lies that is being added.
+struct CoverageMask::Place {
+  int x;  ///< from the left edge of the area
+  std::int32_t byte;
+  std::int32_t pixel;
+};
+
+template <bool isFlat>
+void CoverageMask::AddPairs(const ThinBand& band, const PixelArea& area)
+{
+  const int blocks = band.Runs().BlocksIn(area);
+  const std::int64_t lastX = std::max(area.Width() - blocks * blockSize, 0);
+  const auto placeOf = [&, this](const ThinBand::Row& row, int y) {
+    const auto x = static_cast<int>(std::clamp<std::int64_t>(row.begin >> 16U, 0, lastX));
+    const int column = area.firstX + x;
+    return Place{x, (y - area_.firstRow) * stride_ + column - area_.firstX,
+                 y * static_cast<int>(picture_.stride) + column};
+  };
+  std::uint8_t* const bytes = bytes_.data();
+  Block* next = blocks_.data() + count_;
+  ThinBand::Row upper = band.FirstOf(area);
+  for (int y = area.firstRow; y <= area.lastRow; y += 2) {
+    const bool isPair = y < area.lastRow;  // else the last row is added twice
+    const ThinBand::Row lower = isPair ? band.After(upper) : upper;
+    Place first = placeOf(upper, y);
+    Place second = placeOf(lower, isPair ? y + 1 : y);
+    // The picture is too large for the cache, and `Paint` comes soon.
+    __builtin_prefetch(picture_.pixels + first.pixel, 1);
+    __builtin_prefetch(picture_.pixels + second.pixel, 1);
+    for (int left = blocks; left > 0; --left) {
+      const Eight covered = band.Cover<isFlat>(upper, first.x, lower, second.x);
+      covered.RaiseBytes(bytes + first.byte, bytes + second.byte);
+      for (Place* place : {&first, &second}) {
+        *next = {static_cast<std::uint32_t>(place->byte), static_cast<std::uint32_t>(place->pixel)};
+        next += isDense_ ? 0 : 1;
+        *place = {place->x + blockSize, place->byte + blockSize, place->pixel + blockSize};
+      }
+    }
+    upper = band.After(lower);
+  }
+  count_ = static_cast<std::size_t>(next - blocks_.data());
+}
+
+void CoverageMask::Paint(std::uint32_t colour)
+{
+  if (isDense_) NameBlocksOnce();
+  const PixelBlend blend(colour);
+  const std::ptrdiff_t pixels = picture_.stride * (picture_.height - 1) + picture_.width;
+  for (std::size_t i = 0; i < count_; ++i) {
+    std::uint8_t* const bytes = bytes_.data() + blocks_[i].bytes;
+    std::uint32_t* const place = picture_.pixels + blocks_[i].pixels;
+    Covers covers;
+    std::memcpy(covers.data(), bytes, covers.size());
+    if (covers == Covers{}) continue;
+    std::memset(bytes, 0, covers.size());
+    const std::ptrdiff_t left = pixels - static_cast<std::ptrdiff_t>(blocks_[i].pixels);
+    if (left >= blockSize) {
+      blend(place, covers);
+    } else {
+      BlendLast(blend, {place, static_cast<std::size_t>(left)}, covers);
+    }
+  }
+  count_ = 0;
+}
+
+}  // namespace hullwright

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "paint/PixelView.h"
+#include "paint/SegmentBand.h"
+#include "paint/ThinBand.h"
+
+namespace hullwright {
+
+/// How much of each pixel the strokes of a line cover. What several of them cover counts once, so
+/// that no join shows, be the colour ever so transparent.
+class CoverageMask {
+public:
+  /// Begins a line that is painted into an area of a picture. The area lies in the picture, which
+  /// is at least four pixels wide; the line is painted as transparent as `alpha` (0 to 1) has it.
+  /// How many segments it will have makes no difference but to speed.
+  void Begin(const PixelView& picture, const PixelArea& area, float alpha, std::size_t segments);
+
+  /// Adds a segment, whose ends lie within some ten thousand pixels of the area.
+  void Add(const StrokeSegment& segment);
+
+  /// Paints the line in a colour, 0xffRRGGBB, and is empty again.
+  void Paint(std::uint32_t colour);
+
+private:
+  /// Four pixels of a row that may be covered.
+  struct Block {
+    std::uint32_t bytes;   ///< where in the mask
+    std::uint32_t pixels;  ///< where in the picture
+  };
+
+  /// Makes room for the blocks of an area.
+  void Reserve(const PixelArea& area);
+  void NameBlocksOnce();
+  struct Place;
+
+  /// Adds a thin segment, unless its blocks would reach out of the picture.
+  bool AddThin(const StrokeSegment& segment);
+  template <bool isFlat>
+  void AddPairs(const ThinBand& band, const PixelArea& area);
+  template <class Cover>
+  void AddRows(const SegmentBand& band, const PixelArea& area, Cover cover);
+
+  PixelView picture_;
+  PixelArea area_;
+  float full_ = 255.0F;              ///< coverage of what is covered whole
+  int stride_ = 0;                   ///< bytes from one row to the next
+  std::vector<std::uint8_t> bytes_;  ///< coverages of the area, zero outside a line
+  std::vector<Block> blocks_;        ///< room for more than there are
+  std::size_t count_ = 0;            ///< blocks that there are
+  bool isDense_ = false;             ///< blocks are looked for when all is added
+};
+
+}  // namespace hullwright

@@ -1,0 +1,150 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+/// Whole numbers of eight pixels, four in each of two rows, which stop at the ends of 16 bits. The
+/// plain kind serves every machine; the other one is the same in instructions of each 64-bit PC.
+namespace hullwright {
+
+class PlainEight {
+public:
+  explicit PlainEight(int all) { lanes_.fill(Cut(all)); }
+
+  /// The same number for each pixel of a row.
+  PlainEight(int upper, int lower)
+  {
+    for (std::size_t i = 0; i < lanes_.size(); ++i) lanes_[i] = Cut(i < half ? upper : lower);
+  }
+
+  /// 0, 1, 2, 3 times a number, in both rows.
+  static PlainEight Steps(int number)
+  {
+    PlainEight steps(0);
+    for (std::size_t i = 0; i < steps.lanes_.size(); ++i) {
+      steps.lanes_[i] = Cut(static_cast<std::int64_t>(i % half) * number);
+    }
+    return steps;
+  }
+
+  PlainEight operator+(const PlainEight& b) const
+  {
+    return With(b, [](int x, int y) { return x + y; });
+  }
+  PlainEight operator-(const PlainEight& b) const
+  {
+    return With(b, [](int x, int y) { return x - y; });
+  }
+  PlainEight Least(const PlainEight& b) const
+  {
+    return With(b, [](int x, int y) { return std::min(x, y); });
+  }
+  PlainEight Most(const PlainEight& b) const
+  {
+    return With(b, [](int x, int y) { return std::max(x, y); });
+  }
+
+  /// Numbers from 0 on, times a part of 65536.
+  PlainEight Part(int part) const
+  {
+    return With(*this, [part](int x, int) { return (x * static_cast<std::int64_t>(part)) >> 16U; });
+  }
+
+  /// Numbers from 0 to 4095, times others of the same range, by 512.
+  PlainEight Product(const PlainEight& b) const
+  {
+    return With(b, [](int x, int y) { return (x * y) >> 9U; });
+  }
+
+  /// Raises the bytes of two rows to a sixteenth of these numbers, which are from 0 to 4080.
+  void RaiseBytes(std::uint8_t* upper, std::uint8_t* lower) const
+  {
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+      std::uint8_t& byte = i < half ? upper[i] : lower[i - half];
+      byte = std::max(byte, static_cast<std::uint8_t>((lanes_[i] + 8) / 16));
+    }
+  }
+
+private:
+  static constexpr std::size_t half = 4;
+
+  static std::int16_t Cut(std::int64_t number)
+  {
+    return static_cast<std::int16_t>(std::clamp<std::int64_t>(number, -32768, 32767));
+  }
+
+  template <class Operation>
+  PlainEight With(const PlainEight& b, Operation operation) const
+  {
+    PlainEight result(0);
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+      result.lanes_[i] = Cut(operation(int{lanes_[i]}, int{b.lanes_[i]}));
+    }
+    return result;
+  }
+
+  std::array<std::int16_t, 8> lanes_ = {};
+};
+
+#ifdef __SSE2__
+class FastEight {
+public:
+  explicit FastEight(int all)
+  {
+    const __m128i cut = _mm_packs_epi32(_mm_cvtsi32_si128(all), _mm_setzero_si128());
+    lanes_ = _mm_shuffle_epi32(_mm_unpacklo_epi16(cut, cut), 0);
+  }
+  FastEight(int upper, int lower)
+  {
+    const __m128i two = _mm_unpacklo_epi32(_mm_cvtsi32_si128(upper), _mm_cvtsi32_si128(lower));
+    const __m128i cut = _mm_packs_epi32(two, two);
+    const __m128i pairs = _mm_unpacklo_epi16(cut, cut);
+    lanes_ = _mm_unpacklo_epi32(pairs, pairs);
+  }
+  static FastEight Steps(int number)
+  {
+    const __m128i steps = _mm_setr_epi32(0, number, 2 * number, 3 * number);
+    return FastEight(_mm_packs_epi32(steps, steps));
+  }
+  FastEight operator+(FastEight b) const { return FastEight(_mm_adds_epi16(lanes_, b.lanes_)); }
+  FastEight operator-(FastEight b) const { return FastEight(_mm_subs_epi16(lanes_, b.lanes_)); }
+  FastEight Least(FastEight b) const { return FastEight(_mm_min_epi16(lanes_, b.lanes_)); }
+  FastEight Most(FastEight b) const { return FastEight(_mm_max_epi16(lanes_, b.lanes_)); }
+  FastEight Part(int part) const
+  {
+    return FastEight(_mm_mulhi_epu16(lanes_, _mm_set1_epi16(static_cast<std::int16_t>(part))));
+  }
+  FastEight Product(FastEight b) const
+  {
+    return FastEight(_mm_mulhi_epu16(_mm_slli_epi16(lanes_, 4), _mm_slli_epi16(b.lanes_, 3)));
+  }
+  void RaiseBytes(std::uint8_t* upper, std::uint8_t* lower) const
+  {
+    std::int32_t first = 0;
+    std::int32_t last = 0;
+    std::memcpy(&first, upper, sizeof(first));
+    std::memcpy(&last, lower, sizeof(last));
+    const __m128i old = _mm_unpacklo_epi32(_mm_cvtsi32_si128(first), _mm_cvtsi32_si128(last));
+    const __m128i words = _mm_srli_epi16(_mm_add_epi16(lanes_, _mm_set1_epi16(8)), 4);
+    const __m128i raised = _mm_max_epu8(old, _mm_packus_epi16(words, words));
+    first = _mm_cvtsi128_si32(raised);
+    last = _mm_cvtsi128_si32(_mm_srli_epi64(raised, 32));
+    std::memcpy(upper, &first, sizeof(first));
+    std::memcpy(lower, &last, sizeof(last));
+  }
+
+private:
+  explicit FastEight(__m128i lanes) : lanes_(lanes) {}
+  __m128i lanes_;
+};
+using Eight = FastEight;
+#else
+using Eight = PlainEight;
+#endif
+
+}  // namespace hullwright

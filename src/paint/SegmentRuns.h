@@ -1,0 +1,100 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+#include "paint/PixelView.h"
+
+namespace hullwright {
+
+/// The stroke of one segment, with half discs around its ends unless an end is flat.
+struct StrokeSegment {
+  PixelPosition from;
+  PixelPosition to;
+  float radius = 0.5F;  ///< half the width, at least half a pixel
+  bool flatFrom = false;
+  bool flatTo = false;
+};
+
+/// The way from the start of a segment to its end. One of length zero leads to the right.
+struct SegmentWay {
+  explicit SegmentWay(const StrokeSegment& segment)
+      : dx(segment.to.x - segment.from.x),
+        dy(segment.to.y - segment.from.y),
+        length(std::sqrt(dx * dx + dy * dy))
+  {
+    const float perLength = length > 0.0F ? 1.0F / length : 0.0F;
+    x = length > 0.0F ? dx * perLength : 1.0F;
+    y = dy * perLength;
+    larger = std::max(std::abs(x), std::abs(y));
+    smaller = std::min(std::abs(x), std::abs(y));
+  }
+
+  /// How far from the line the coverage of a stroke ends, in pixels.
+  float LimitOf(float radius) const { return radius + 0.5F * larger + 0.25F * smaller; }
+
+  /// What a stroke covers of a pixel whose centre it runs through: not all of it where it is thin
+  /// and slants, for the corners of the pixel reach out.
+  float MostCovered(float radius) const
+  {
+    constexpr float sliver = 0.001F;
+    const float outside = (larger + smaller) * 0.5F - radius;
+    return outside < sliver ? 1.0F : 1.0F - outside * outside / (larger * smaller);
+  }
+
+  float dx;
+  float dy;
+  float length;
+  float x;  ///< part along x of a step of length 1
+  float y;
+  float larger;   ///< of the sizes of these parts
+  float smaller;  ///< the other one
+};
+
+/// The pixels that a stroke may cover: in each row as many, from a place that moves evenly.
+struct SegmentRuns {
+  SegmentRuns(const StrokeSegment& segment, const SegmentWay& way)
+  {
+    constexpr int worthwhile = 8;
+    constexpr float level = 0.001F;
+    const float limit = way.LimitOf(segment.radius);
+    // Truncated, so that one more may count; of those left of the picture, only that they are.
+    const float margin = limit - 0.5F;
+    reach = {static_cast<int>(std::min(segment.from.y, segment.to.y) - margin),
+             static_cast<int>(std::max(segment.from.y, segment.to.y) + margin),
+             static_cast<int>(std::min(segment.from.x, segment.to.x) - margin),
+             static_cast<int>(std::max(segment.from.x, segment.to.x) + margin)};
+    fromY = segment.from.y;
+    // A short line, or one that is nearly level, meets each of its rows on its whole length.
+    if (reach.Width() >= worthwhile && std::abs(way.y) > level) Narrow(segment, way, limit);
+  }
+
+  /// Where in a row the first pixel begins, or up to one further left.
+  float BeginOf(float y) const { return begin + (y - fromY) * slant; }
+
+  /// Blocks of four pixels in each row of an area.
+  int BlocksIn(const PixelArea& area) const
+  {
+    constexpr int block = 4;
+    const float most = std::min(run, static_cast<float>(area.Width()));
+    return (static_cast<int>(most) + block - 1) / block;
+  }
+
+  PixelArea reach;
+  float begin = -1.0F;  ///< in the row of the start
+  float fromY = 0.0F;
+  float slant = 0.0F;  ///< change from one row to the next
+  float run = 1e9F;    ///< pixels of a row at most
+
+private:
+  void Narrow(const StrokeSegment& segment, const SegmentWay& way, float limit)
+  {
+    const float perRow = 1.0F / way.dy;
+    const float half = limit * way.length * std::abs(perRow);
+    run = 2.0F * half + 1.0F;
+    slant = way.dx * perRow;
+    begin = segment.from.x - half + 0.5F;
+  }
+};
+
+}  // namespace hullwright
