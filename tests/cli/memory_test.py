@@ -53,9 +53,9 @@ class MemoryTest(CliTest):
         drawing = self.drawing("big.dxf", *entities)
         design = self.folder / "boat.xml"
         statuses = set()
-        memory = 16 * MIB  # less than a program without the toolkit starts in
+        memory = 4 * MIB  # less than the program starts in, however little it is built with
         while 0 not in statuses and memory < 400 * MIB:
-            memory += 3 * MIB
+            memory += 2 * MIB
             with self.subTest(memory=memory // MIB):
                 design.write_bytes(b"<vessel/>")
                 done = self.import_within(memory, drawing, design)
