@@ -10,10 +10,6 @@ void PrepareLooks();
 
 /// Gives the whole program a look: a style of the toolkit and a palette. Numbers
 /// between the looks take the blue one.
-/// Brings the style of the looks in before there is a widget, each of which would be measured
-/// again.
-void PrepareLooks();
-
 void ApplyLook(Look look);
 
 }  // namespace hullwright
