@@ -36,7 +36,8 @@ protected:
 
     int Blue(int x, int y) const
     {
-      return static_cast<int>(pixels[static_cast<std::size_t>(y * stride + x)] & 255U);
+      const int place = y * stride + x;
+      return static_cast<int>(pixels[static_cast<std::size_t>(place)] & 255U);
     }
 
     int width;

@@ -191,7 +191,7 @@ TEST_F(StrokerFixture, APictureWithAlphaStaysPremultiplied)
     covered += alpha > 0 ? 1 : 0;
     EXPECT_LE(alpha, 179U);
     EXPECT_NEAR((pixel >> 16U) & 255U, alpha, 1);
-    EXPECT_NEAR((pixel >> 8U) & 255U, alpha * 128 / 255, 1);
+    EXPECT_NEAR((pixel >> 8U) & 255U, alpha * 128.0 / 255.0, 1.5);
     EXPECT_EQ(pixel & 255U, 0U);
   }
   EXPECT_GT(covered, 300);

@@ -109,7 +109,7 @@ TEST_F(Guide, EveryLinkOpensAPageAndEveryPictureIsThere)
   for (const QString& file : pages) {
     page.setSource(QUrl::fromLocalFile(file));
     for (const QString& name : Targets(page, true)) {
-      const QImage picture =
+      const auto picture =
           page.loadResource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
       EXPECT_FALSE(picture.isNull()) << name.toStdString();
       EXPECT_LE(picture.width() / picture.devicePixelRatio(), page.viewport()->width());
