@@ -69,7 +69,13 @@ double ScaleFor(const Extents& box, double metresPerUnit)
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-QString Shortest(double value) { return Text(FormatShortest(value)); }
+/// A whole number without an exponent, however round it is.
+QString Shortest(double value)
+{
+  constexpr double exact = 1e15;  // below it every digit counts
+  const bool isWhole = value == std::floor(value) && std::abs(value) < exact;
+  return Text(isWhole ? FormatFixed(value, 0) : FormatShortest(value));
+}
 
 QString Place(double x, double y)
 {

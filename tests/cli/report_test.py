@@ -123,7 +123,7 @@ class ReportTest(CliTest):
         line = '<shapes view="04"><polyline><vertex x="0"/><vertex x="100"/></polyline></shapes>'
         for unit, scale in (("9001", "1000"), ("9002", "200"), ("9036", "1000000")):
             text = "\n".join(self.pages(self.write("a.xml", f"<vessel><units id='{unit}'/>{line}</vessel>")))
-            self.assertRegex(text, rf"right +scale 1:({scale}|1e\+06)\n")
+            self.assertRegex(text, rf"right +scale 1:{scale}\n")
 
     def test_a_pipe_and_an_odd_name(self):
         done = self.succeed("report", "-", "-o", "-", data=BOAT.read_bytes())
