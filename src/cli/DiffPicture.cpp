@@ -193,12 +193,7 @@ private:
     ForEachEntry(FindViewGroup(app.shapeGroups, side)->shapes,
                  [&](const CShape& shape) { shape.GetExtents(box); });
     if (side == ViewSide::Top && request_.symbols) {
-      for (const CShapeVertex* offset :
-           {app.offsetGps.get(), app.offsetTransducer.get(), app.offsetPivot.get()}) {
-        box.Widen(*offset);
-      }
-      ForEachEntry(app.anchors->items,
-                   [&](const CAnchor& a) { box.Widen(a.attachmentX, a.attachmentY); });
+      WidenBySymbols(app, box);
       for (const Place& place : FormerPlaces(request_.differences)) box.Widen(place.x, place.y);
     }
     if (box.IsEmpty()) return box;

@@ -10,6 +10,7 @@
 #include "cli/CommandLine.h"
 #include "cli/HeadlessEditor.h"
 #include "cli/Picture.h"
+#include "cli/PictureName.h"
 #include "exchange/CsvExport.h"
 #include "exchange/DxfExport.h"
 #include "exchange/GeoJsonExport.h"
@@ -76,10 +77,7 @@ std::optional<Format> FormatOf(std::string_view name)
 std::optional<Format> FormatOfFile(const std::string& path)
 {
   if (path == "-") return Format::Dxf;
-  std::string ending = std::filesystem::path(path).extension().string();
-  std::ranges::transform(ending, ending.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-  });
+  const std::string ending = PictureEnding(path);
   return ending.empty() ? std::nullopt : FormatOf(std::string_view(ending).substr(1));
 }
 

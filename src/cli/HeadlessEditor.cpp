@@ -83,13 +83,7 @@ Extents HeadlessEditor::SideBox() const
   if (const CShapes* const group = FindViewGroup(app.shapeGroups, app.activeView)) {
     ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
   }
-  if (app.activeView != ViewSide::Top) return box;
-  for (const CShapeVertex* offset :
-       {app.offsetGps.get(), app.offsetTransducer.get(), app.offsetPivot.get()}) {
-    if (offset != nullptr) box.Widen(*offset);
-  }
-  ForEachEntry(app.anchors->items,
-               [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
+  if (app.activeView == ViewSide::Top) WidenBySymbols(app, box);
   return box;
 }
 
@@ -135,6 +129,16 @@ void HeadlessEditor::Frame(const Extents& box, double marginPart) const
   viewPort.bottom = box.minY;
   viewPort.top = box.maxY;
   viewPort.KeepAspect();
+}
+
+void WidenBySymbols(const CHullwrightApp& app, Extents& box)
+{
+  for (const CShapeVertex* offset :
+       {app.offsetGps.get(), app.offsetTransducer.get(), app.offsetPivot.get()}) {
+    if (offset != nullptr) box.Widen(*offset);
+  }
+  ForEachEntry(app.anchors->items,
+               [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
 }
 
 }  // namespace hullwright

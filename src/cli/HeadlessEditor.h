@@ -70,4 +70,7 @@ private:
   ImportTally tally_;
 };
 
+/// Widens a box by the places of the offsets, those that there are, and of the anchors.
+void WidenBySymbols(const CHullwrightApp& app, Extents& box);
+
 }  // namespace hullwright

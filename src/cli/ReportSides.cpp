@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/RealText.h"
 
 namespace hullwright {
 namespace {
@@ -39,16 +40,6 @@ SideContent ContentOf(const CHullwrightApp& app, ViewSide side)
   return content;
 }
 
-void WidenBySymbols(const CHullwrightApp& app, Extents& box)
-{
-  for (const CShapeVertex* offset :
-       {app.offsetGps.get(), app.offsetTransducer.get(), app.offsetPivot.get()}) {
-    box.Widen(*offset);
-  }
-  ForEachEntry(app.anchors->items,
-               [&](const CAnchor& anchor) { box.Widen(anchor.attachmentX, anchor.attachmentY); });
-}
-
 bool IsFinite(const Extents& box)
 {
   return std::isfinite(box.minX) && std::isfinite(box.minY) && std::isfinite(box.maxX) &&
@@ -68,14 +59,6 @@ double ScaleFor(const Extents& box, double metresPerUnit)
 }
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
-
-/// A whole number without an exponent, however round it is.
-QString Shortest(double value)
-{
-  constexpr double exact = 1e15;  // below it every digit counts
-  const bool isWhole = value == std::floor(value) && std::abs(value) < exact;
-  return Text(isWhole ? FormatFixed(value, 0) : FormatShortest(value));
-}
 
 QString Place(double x, double y)
 {
@@ -111,7 +94,7 @@ void PaintBar(QPainter& painter, double tenthsPerUnit, const QString& unit)
       painter.drawRect(QRectF(x, 0.0, step, barHeight));
     }
     const QRectF below(x - 200.0, barHeight + 6.0, 400.0, 40.0);
-    const QString number = Shortest(length * i);
+    const QString number = Text(RoundNumberText(length * i));
     painter.drawText(i == 0 ? below.translated(200.0, 0.0) : below,
                      i == 0 ? Qt::AlignLeft : Qt::AlignHCenter, number);
   }
@@ -167,7 +150,7 @@ void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QStri
   surface_.SetDevice(&picture);
   editor_.Draw();
   surface_.SetDevice(nullptr);
-  const QString scaleText = QStringLiteral("scale 1:") + Shortest(scale);
+  const QString scaleText = QStringLiteral("scale 1:") + Text(RoundNumberText(scale));
   pages.AddBlock(blockHeight, [=, summary = Describe(content)](QPainter& painter) {
     painter.setFont(ReportPages::Font(44, true));
     painter.drawText(QRectF(0.0, 0.0, ReportPages::width, captionHeight), Qt::AlignLeft, name);

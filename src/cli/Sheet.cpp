@@ -9,6 +9,7 @@
 #include "app/HullwrightApp.h"
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "base/RealText.h"
 #include "cli/PictureFile.h"
 #include "paint/PaintText.h"
 
@@ -248,7 +249,7 @@ void PaintScaleBar(QPainter& sheet, const SheetLayout& layout, int picture, doub
   sheet.setFont(FontOf(layout.FontSize()));
   const int textLeft = static_cast<int>(end.x()) + 2 * tick;
   const QString text =
-      QStringLiteral("%1 %2").arg(QString::fromStdString(FormatShortest(length)), unit);
+      QStringLiteral("%1 %2").arg(QString::fromStdString(RoundNumberText(length)), unit);
   sheet.drawText(QRect(textLeft, place.top(), place.right() - textLeft, place.height()),
                  Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text.trimmed());
 }
