@@ -5,6 +5,7 @@
 #include "base/Code.h"
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
+#include "support/SqliteConnection.h"
 #include "support/TempFolder.h"
 #include "system/SharedLibraries.h"
 #include "system/Sqlite.h"
@@ -37,39 +38,6 @@ public:
   int freed = 0;
 };
 
-/// Runs statements on a database file with the system's library.
-class Database {
-public:
-  explicit Database(const std::filesystem::path& path)
-  {
-    const auto open = Entry<int (*)(const char*, sqlite3**)>("sqlite3_open");
-    EXPECT_EQ(open(path.c_str(), &handle_), 0);
-  }
-  Database(const Database&) = delete;
-  Database& operator=(const Database&) = delete;
-  ~Database()
-  {
-    Entry<int (*)(sqlite3*)>("sqlite3_close")(handle_);
-    libraries_.Free(library_);
-  }
-  void Run(const char* statement)
-  {
-    const auto run = Entry<int (*)(sqlite3*, const char*, void*, void*, void*)>("sqlite3_exec");
-    EXPECT_EQ(run(handle_, statement, nullptr, nullptr, nullptr), 0) << statement;
-  }
-
-private:
-  template <class Function>
-  Function Entry(const char* name)
-  {
-    return reinterpret_cast<Function>(libraries_.Resolve(library_, name));
-  }
-
-  SharedLibraries libraries_;
-  void* library_ = libraries_.Load("libsqlite3.so.0");
-  sqlite3* handle_ = nullptr;
-};
-
 class Units : public testing::Test {
 protected:
   Units()
@@ -80,7 +48,7 @@ protected:
 
   void MakeTable(const char* rows)
   {
-    Database file(database);
+    const test::SqliteConnection file(database);
     file.Run("CREATE TABLE tblUnits (NUMID, strUnit, strUnitShort, numDimension)");
     if (*rows != '\0') file.Run((std::string("INSERT INTO tblUnits VALUES ") + rows).c_str());
   }
@@ -144,7 +112,8 @@ TEST_F(Units, TextThatIsNotUtf8IsOfTheAnsiCodePage)
 
 TEST_F(Units, AMissingColumnLeavesItsValueEmpty)
 {
-  Database(database).Run("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
+  test::SqliteConnection(database).Run(
+      "CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
   EXPECT_THAT(Read(), ElementsAre("9001  "));
 }
 
