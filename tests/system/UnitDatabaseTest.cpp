@@ -55,9 +55,15 @@ protected:
 
   std::vector<std::string> Read()
   {
-    std::vector<std::string> lines;
     const auto path = GetDatabasePath(WideFromUtf8(folder.Path().string()));
-    for (const UnitRecord& unit : ReadUnits(libraries, messages, path)) {
+    return Lines(ReadUnits(libraries, messages, path));
+  }
+
+  /// Code, name and short name of each unit.
+  static std::vector<std::string> Lines(const std::vector<UnitRecord>& units)
+  {
+    std::vector<std::string> lines;
+    for (const UnitRecord& unit : units) {
       lines.push_back(std::to_string(NumberOf(unit.numId)) + " " + Utf8FromWide(unit.strUnit) +
                       " " + Utf8FromWide(unit.strUnitShort));
     }
@@ -184,11 +190,18 @@ TEST_F(Units, ErrorsOfTheDatabaseAreKeptAsText)
 
 TEST_F(Units, TheDatabaseOfTheProgramHasTheMetreAndEveryUnitWithAFactor)
 {
-  const auto units = ReadUnits(libraries, messages, WideFromUtf8(HULLWRIGHT_UNIT_DATABASE));
-  ASSERT_EQ(units.size(), 24U);
-  EXPECT_EQ(units.front().numId, UnitCode::Metre);
-  EXPECT_EQ(units.front().strUnit, u"metre");
-  EXPECT_EQ(units.back().numId, UnitCode{9098});
+  EXPECT_THAT(
+      Lines(ReadUnits(libraries, messages, WideFromUtf8(HULLWRIGHT_UNIT_DATABASE))),
+      ElementsAre("9001 metre m", "9002 foot ft", "9003 US survey foot ftUS",
+                  "9005 Clarke's foot ftCla", "9031 German legal metre GLM",
+                  "9033 US survey chain chUS", "9034 US survey link lkUS",
+                  "9035 US survey mile miUS", "9036 kilometre km", "9037 Clarke's yard ydCla",
+                  "9038 Clarke's chain chCla", "9039 Clarke's link lkCla",
+                  "9040 British yard (Sears 1922) ydSe", "9041 British foot (Sears 1922) ftSe",
+                  "9042 British chain (Sears 1922) chSe", "9043 British link (Sears 1922) lkSe",
+                  "9062 British chain (Benoit 1895 B) chBnB", "9080 Indian foot ftInd",
+                  "9084 Indian yard ydInd", "9093 Statute mile mi", "9094 Gold Coast foot ftGC",
+                  "9095 British foot (1936) ftBr(36)", "9097 chain ch", "9098 link lk"));
 }
 
 }  // namespace
