@@ -232,6 +232,25 @@ TEST_F(Life, ASaveThatFailsHalfwayGivesTheFileBackWhatItHeldAndNamesTheCopy)
   EXPECT_TRUE(Asks());
 }
 
+/// A file that can't be given its bytes back.
+class TornFile : public IFormerVersions {
+public:
+  std::u16string Keep(std::u16string_view) override { return u"/state/boat.xml"; }
+  void Release() override {}
+  Restored PutBack() override { return Restored::Damaged; }
+};
+
+TEST_F(Life, AFileThatCannotBeGivenItsBytesBackIsReportedAsDamaged)
+{
+  TornFile torn;
+  DocumentLife other{document, app, {documentDialogs, recentFiles, torn, widgets, {}}};
+  documentDialogs.toSave = folder.File("missing/boat.xml");
+  EXPECT_FALSE(other.SaveAs());
+  EXPECT_THAT(widgets.notes,
+              ElementsAre(u"Nothing was saved to \"boat.xml\": No such file or directory. Former "
+                          u"file: /state/boat.xml. The file is damaged."));
+}
+
 TEST_F(Life, TheNextSaveGoesWhereAFailedOneWasMeantToGo)
 {
   ASSERT_TRUE(OpenBoat());

@@ -27,10 +27,11 @@ TEST(ImportText, OneOfAKindIsNotMany)
   EXPECT_EQ(DescribeShapes(tally), u"2 polylines, 2 points, 2 areas, 2 texts");
   tally = {};
   tally.onHiddenLayers = tally.unknownBlocks = tally.cutInserts = 1;
-  tally.withoutMemory = tally.cutParts = 1;
+  tally.withoutMemory = tally.beyondLimit = tally.cutParts = 1;
   EXPECT_EQ(DescribePassedOver(tally),
             u"left out: 1 on a hidden layer, 1 insert of an unknown block, "
             u"1 insert for want of memory, 1 part for want of memory, "
+            u"1 record beyond the limit of 25 million vertices, "
             u"1 part behind a line that is too long");
 }
 
@@ -44,12 +45,14 @@ TEST(ImportText, ReportsWhatReadersLeftOut)
   tally.unknownBlocks = 4;
   tally.cutInserts = 5;
   tally.withoutMemory = 6;
-  tally.cutParts = 7;
+  tally.beyondLimit = 7;
+  tally.cutParts = 8;
   EXPECT_EQ(DescribeImport(tally),
             u"nothing that can be drawn; ignored: 2 SPLINE; left out: 2 on hidden layers, "
             u"3 in paper space, 4 inserts of unknown blocks, 5 inserts for want of memory, 6 parts "
             u"for want of memory, "
-            u"7 parts behind lines that are too long");
+            u"7 records beyond the limit of 25 million vertices, "
+            u"8 parts behind lines that are too long");
 }
 
 TEST(ImportText, NamesFilesThatAreNoDrawings)

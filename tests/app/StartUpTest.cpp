@@ -134,6 +134,7 @@ TEST_F(Application, BeginsWithItsDefaults)
 TEST_F(Application, BeforeTheFrameExistsASideIsOnlyStored)
 {
   app.SetViewSide(ViewSide::Left);
+  app.Repaint();
   app.NotifyDesignChanged();
   app.SetModifiedFlag(true);
   EXPECT_EQ(app.activeView, ViewSide::Left);

@@ -16,10 +16,10 @@ FOLDERS = {"XDG_STATE_HOME": "/dev/null", "XDG_DATA_HOME": "/dev/null", "XDG_DAT
 SIDES = ("top", "bottom", "right", "left", "front", "rear")
 
 
-def run(*arguments, data=None, **environment):
-    """Runs the program to its end, with bytes on its standard input and more variables of the environment."""
+def run(*arguments, data=None, folder=None, **environment):
+    """Runs the program to its end, in a folder, with bytes on standard input and more variables of the environment."""
     return subprocess.run([PROGRAM, *(a if isinstance(a, bytes) else str(a) for a in arguments)], capture_output=True,
-                          check=False, input=data or b"", env={**os.environ, **FOLDERS, **environment})
+                          check=False, input=data or b"", cwd=folder, env={**os.environ, **FOLDERS, **environment})
 
 
 def size_of(png):

@@ -36,6 +36,15 @@ class FaultsTest(CliTest):
         self.assertEqual(design.read_text(), "<vessel/>")
         self.succeed("import", drawing, "-o", design)
 
+    def test_the_log_says_that_a_drawing_was_not_read_to_its_end(self):
+        logs = self.folder / "share" / "Sondaris" / "Tracing"
+        logs.mkdir(parents=True)
+        run("import", self.drawing("a.dxf", "0", "LINE", "11", "1"), "-o", self.folder / "boat.xml",
+            LD_PRELOAD=FAULTY_READS, XDG_DATA_HOME=str(self.folder / "share"))
+        records = (logs / "Trace_General.txt").read_text("cp1252").splitlines()[1:]
+        self.assertEqual(len(records), 1)
+        self.assertRegex(records[0], r"\[DXF\] The AutoCAD DXF file could not be read to its end: \[.*/a\.dxf\]\.$")
+
     def test_half_a_design_is_no_fault_of_its_text(self):
         design = self.write("boat.xml", (SAMPLES / "workboat.xml").read_text())
         problem = "boat.xml: the design can't be read: Input/output error"

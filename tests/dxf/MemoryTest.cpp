@@ -122,6 +122,9 @@ TEST_F(Memory, IsNotTakenForSingleLines)
 TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
 {
   const std::string insert = Entity("INSERT", {{2, "B"}, {5, "C3"}});
+  const std::string recordOfOne =
+      "1 General: [DXF] Left out for want of memory: 1 parts of the drawing.";
+  bool reported = false;
   std::set<std::string> seen;
   ImportWithEachFailure(Blocks(Block("B", LineAt("1") + LineAt("2") + LineAt("3"))) +
                             Entities(insert + insert + LineAt("4")),
@@ -129,6 +132,7 @@ TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
                           seen.insert(Places());
                           // Whatever is missing is counted.
                           EXPECT_TRUE(Places() == "1231234" || Tally().withoutMemory > 0);
+                          reported = reported || std::ranges::count(Records(), recordOfOne) == 1;
                           for (std::size_t i = 0; i < ShapeCount(); ++i) {
                             // A copy is whole or not there.
                             const bool isCopy = At(i).tag == 0xC3;
@@ -143,6 +147,7 @@ TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
                                          "123123",                   // the last entity
                                          "1234",                     // an insertion
                                          ""}));                      // the block
+  EXPECT_TRUE(reported);
 }
 
 TEST_F(Memory, ThatEndsDuringACleaningLeavesTheTextWithItsCodes)

@@ -23,57 +23,127 @@ struct Example {
   const char16_t* cleaned;
 };
 
-TEST(TextCodes, BecomeWhatALabelCanShow)
+void ExpectCleaned(const std::vector<Example>& examples)
 {
-  const std::vector<Example> examples = {
+  for (const Example& example : examples) {
+    EXPECT_EQ(Cleaned(example.text), example.cleaned) << Utf8FromWide(example.text);
+  }
+}
+
+TEST(TextCodes, AFontGoesAndTakesAllUpToItsLastSemicolon)
+{
+  ExpectCleaned({
       {u"{\\fArial|b0|i0|c0|p34;Hello}", u"Hello"},
-      {u"Plain {text} stays", u"Plain {text} stays"},
-      {u"\\H2.5x;Big", u"Big"},
-      {u"\\H3;a\\H.5x;b\\H3.;c", u"ab\\H3.;c"},
-      {u"\\A1;Up", u"Up"},
-      {u"\\A;Up", u"\\A;Up"},
-      {u"Line one\\PLine two", u"Line one\nLine two"},
-      {u"\\pxi-3,l3;Text", u"xi-3,l3;Text"},
-      {u"\\pi2.5;a\\pxi.5;b\\p;c", u"ab;c"},
       {u"\\fArial;one;two", u"two"},
       {u"\\fArial;one|two;three", u"one|two;three"},
       {u"\\FArial|b1|i1|c1|p1|b1;five", u"\\FArial|b1|i1|c1|p1|b1;five"},
       {u"\\fno end", u"\\fno end"},
+  });
+}
+
+TEST(TextCodes, ATextWithoutABackslashKeepsItsBraces)
+{
+  ExpectCleaned({
+      {u"Plain {text} stays", u"Plain {text} stays"},
+  });
+}
+
+TEST(TextCodes, BracesGoWithTheCodes)
+{
+  ExpectCleaned({
+      {u"\\{brace\\}", u"\\brace\\"},
+      {u"{\\}L", u""},
+  });
+}
+
+TEST(TextCodes, HeightsAndAlignmentsGo)
+{
+  ExpectCleaned({
+      {u"\\H2.5x;Big", u"Big"},
+      {u"\\H3;a\\H.5x;b\\H3.;c", u"ab\\H3.;c"},
+      {u"\\A1;Up", u"Up"},
+      {u"\\A;Up", u"\\A;Up"},
+  });
+}
+
+TEST(TextCodes, AParagraphBecomesALineFeed)
+{
+  ExpectCleaned({
+      {u"Line one\\PLine two", u"Line one\nLine two"},
+  });
+}
+
+TEST(TextCodes, AnIndentGoesWithAPlainNumberOnly)
+{
+  ExpectCleaned({
+      {u"\\pxi-3,l3;Text", u"xi-3,l3;Text"},
+      {u"\\pi2.5;a\\pxi.5;b\\p;c", u"ab;c"},
+  });
+}
+
+TEST(TextCodes, UnderlinesGo)
+{
+  ExpectCleaned({
       {u"\\LUnder\\l line", u"Under line"},
       {u"\\\\LL", u"\\L"},
+  });
+}
+
+TEST(TextCodes, ColoursLeaveTheText)
+{
+  ExpectCleaned({
       {u"\\C1;Red", u"Red"},
       {u"\\c16711680;X", u"X"},
+  });
+}
+
+TEST(TextCodes, PercentsBecomeSignsWithOrWithoutABackslash)
+{
+  ExpectCleaned({
       {u"50%%d", u"50\u00B0"},
       {u"\\L50%%D %%p1 %%P2 %%c3 %%C4", u"50\u00B0 \u00B11 \u00B12 \u23003 \u23004"},
       {u"%%u %%o %%065 %d", u"%%u %%o %%065 %d"},
       {u"%%%d", u"%\u00B0"},
       {u"%%%%cc", u"%%\u2300c"},
       {u"%%u%%d", u"%%u\u00B0"},
+      {u"\\L%%\\U+0064", u"\u00B0"},
+  });
+}
+
+TEST(TextCodes, CaretsCountInATextWithABackslashOnly)
+{
+  ExpectCleaned({
       {u"^I", u"^I"},
       {u"\\L^Ia^Jb^Mc^d^", u"\ta\nb\rc^d^"},
       {u"\\L^^A", u"^\x01"},
+  });
+}
+
+TEST(TextCodes, CodePointsBecomeCharacters)
+{
+  ExpectCleaned({
       {u"\\U+00B0\\u+00b0\\U+00G0", u"\u00B0\u00B0\\U+00G0"},
       {u"\\U+005CU+0041", u"A"},
       {u"\\U+00\\U+0030B0", u"\v0"},
       {u"\\U+004\\U+0031", u"A"},
-      {u"\\L%%\\U+0064", u"\u00B0"},
       {u"\\U+D83D\\U+DEA2", u"\U0001F6A2"},
+  });
+}
+
+TEST(TextCodes, WhatIsNoCodeStays)
+{
+  ExpectCleaned({
       {u"\\O \\o \\K \\k \\T1; \\Q1; \\W1; \\S1/2; \\~ \\\\",
        u"\\O \\o \\K \\k \\T1; \\Q1; \\W1; \\S1/2; \\~ \\\\"},
-      {u"\\{brace\\}", u"\\brace\\"},
-      {u"{\\}L", u""},
       {u"", u""},
       {u"\\", u"\\"},
-  };
-  for (const Example& example : examples) {
-    EXPECT_EQ(Cleaned(example.text), example.cleaned) << Utf8FromWide(example.text);
-  }
+  });
 }
 
 TEST(TextCodes, GoStepByStepSoThatOneStepMayUncoverWhatALaterOneTakes)
 {
   // For each two neighbours: a text that would end otherwise if they changed places.
-  const std::vector<Example> examples = {
+  ExpectCleaned({
       {u"\\{fArial;x", u"x"},        // opening braces, fonts
       {u"\\}fArial;x", u"x"},        // closing braces, fonts
       {u"\\A\\f|b1;1;x", u"x"},      // fonts, alignments
@@ -93,10 +163,7 @@ TEST(TextCodes, GoStepByStepSoThatOneStepMayUncoverWhatALaterOneTakes)
       {u"\\\\c1;U+0041x", u"Ax"},    // a unit behind a true colour
       {u"\\U+005EIx", u"\tx"},       // units, carets
       {u"%\\L%dx", u"\u00B0x"},      // codes, percents
-  };
-  for (const Example& example : examples) {
-    EXPECT_EQ(Cleaned(example.text), example.cleaned) << Utf8FromWide(example.text);
-  }
+  });
 }
 
 TEST(TextCodes, ForColoursAreReadWhereTheirStepStands)

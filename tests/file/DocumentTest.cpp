@@ -107,7 +107,10 @@ TEST_F(Document, AFileThatCannotBeOpenedIsReportedAndChangesNothing)
   window.list.clear();
   EXPECT_FALSE(document.OnOpenDocument(folder.File("missing.xml")));
   EXPECT_FALSE(document.OnOpenDocument(folder.File("")));
-  EXPECT_EQ(messages.shown.size(), 2U);
+  EXPECT_THAT(messages.shown, ElementsAre(u"The file \"" + folder.File("missing.xml") +
+                                              u"\" cannot be opened.\nNo such file or directory.",
+                                          u"The file \"" + folder.File("") +
+                                              u"\" cannot be opened.\nIt is not a file."));
   EXPECT_EQ(design.shapeGroups.size(), 1U);
   EXPECT_TRUE(document.IsModified());
   EXPECT_TRUE(window.list.empty());

@@ -13,6 +13,7 @@
 #include <set>
 
 #include "resources/CommandIds.h"
+#include "support/PaintCounter.h"
 #include "support/ViewFixture.h"
 
 namespace hullwright {
@@ -138,19 +139,19 @@ TEST_F(DesignPane, TheBandMovesWithTheMouseAndLeavesNoTrace)
 TEST_F(DesignPane, TheMouseMovingTheBandAsksForAPaint)
 {
   BeginLineAt({200, 250});
-  QApplication::processEvents();
-  struct Paints : QObject {
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-      count += event->type() == QEvent::Paint ? 1 : 0;
-      return false;
-    }
-    int count = 0;
-  } paints;
-  widget.installEventFilter(&paints);
+  test::PaintCounter paints(widget);
   Move({600, 250});
-  QApplication::processEvents();
+  paints.Settle();
   EXPECT_GT(paints.count, 0);
+}
+
+TEST_F(DesignPane, ANewFrameIsPaintedWithoutBeingAskedFor)
+{
+  test::PaintCounter paints(widget);
+  view.Repaint();
+  paints.Settle();
+  EXPECT_GT(paints.count, 0);
+  EXPECT_EQ(paints.painted.boundingRect(), widget.rect());
 }
 
 TEST_F(DesignPane, TheContextMenuOpensAtThePressWithItsSeparator)

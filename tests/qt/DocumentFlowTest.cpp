@@ -218,7 +218,8 @@ TEST_F(DocumentFlow, SavingAnUntitledDesignAsksForANameAndAddsTheSuffix)
   ASSERT_TRUE(Start());
   Modify();
   WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.nameFilters().constFirst(), QStringLiteral("Hullwright Files(*.xml)"));
+    EXPECT_EQ(dialog.nameFilters(), (QStringList{QStringLiteral("Hullwright Files(*.xml)"),
+                                                 QStringLiteral("All Files(*)")}));
     dialog.selectFile(Path("new boat"));
     static_cast<QDialog&>(dialog).accept();
   });

@@ -79,6 +79,14 @@ TEST_F(Desk, PanesShowPositionAndUnit)
   EXPECT_EQ(PaneText(1), QStringLiteral("Units: metre"));
 }
 
+TEST_F(Desk, TheUnitsPaneFollowsTheDesignThatIsOpened)
+{
+  ASSERT_TRUE(QTest::qWaitFor([&] { return PaneText(1) == QStringLiteral("Units: metre"); }));
+  const auto file = folder.Write("feet.xml", "<vessel><units id='9002'/></vessel>");
+  ASSERT_TRUE(Window().Document().Open(file));
+  EXPECT_EQ(PaneText(1), QStringLiteral("Units: foot"));
+}
+
 TEST_F(Desk, TheWindowIsSeenBeforeTheUnitsAreRead)
 {
   shell = std::make_unique<Shell>(QStringLiteral(HULLWRIGHT_SAMPLES "/workboat.xml"));
@@ -135,6 +143,16 @@ TEST_F(Desk, TheWheelGathersFractionsOfANotchAndTakesOneStepAMessage)
   EXPECT_DOUBLE_EQ(viewPort.width, 200.0);
   Wheel(480);
   EXPECT_DOUBLE_EQ(viewPort.width, 150.0);
+}
+
+TEST_F(Desk, TheWheelBringsThePlaceUnderTheMouseToTheMiddle)
+{
+  const CViewPort& viewPort = *shell->App().viewPort;
+  ASSERT_NE(View().mapToGlobal(QPoint(0, 0)), QPoint(0, 0));
+  const WorldPoint under = viewPort.ScreenToWorld(200.0, 200.0);
+  Wheel(120);
+  EXPECT_DOUBLE_EQ((viewPort.left + viewPort.right) / 2.0, under.x);
+  EXPECT_DOUBLE_EQ((viewPort.bottom + viewPort.top) / 2.0, under.y);
 }
 
 TEST_F(Desk, TheMouseIsAHandOverAnItemAndACrossElsewhere)

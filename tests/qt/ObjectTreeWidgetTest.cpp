@@ -7,6 +7,7 @@
 
 #include "qt/Icons.h"
 #include "support/DeskFixture.h"
+#include "support/PaintCounter.h"
 
 namespace hullwright {
 namespace {
@@ -122,6 +123,15 @@ TEST_F(ObjectPane, ALeftClickOnASideChoosesWhosePicturesFollow)
   EXPECT_EQ(Icon({0, 0, 0}), Picture("tree-polyline-plain"));
   EXPECT_EQ(Icon({0, 0, 1}), Picture("tree-polyline-marked"));
   EXPECT_EQ(Icon({0, 0, 2}), Picture("tree-polyline-marked"));
+}
+
+TEST_F(ObjectPane, NewPicturesArePaintedInAllRows)
+{
+  test::PaintCounter paints(*Tree().viewport());
+  Tree().ImagesChanged();
+  paints.Settle();
+  EXPECT_GT(paints.count, 0);
+  EXPECT_EQ(paints.painted.boundingRect(), Tree().viewport()->rect());
 }
 
 TEST_F(ObjectPane, EachImageNumberHasItsPicture)

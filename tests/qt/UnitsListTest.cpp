@@ -97,6 +97,7 @@ TEST_F(UnitsDesk, ADoubleClickOnAnEntryTakesItsUnit)
   Action("Units...")->trigger();
   EXPECT_EQ(shell->App().unitCode, UnitCode{9002});
   EXPECT_EQ(dialogs, 2);
+  EXPECT_EQ(PaneText(1), QStringLiteral("Units: foot"));
 }
 
 }  // namespace

@@ -98,6 +98,35 @@ TEST_F(WindowTexts, TheMenuOfBarsEndsWithCustomize)
   EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Customize Toolbars"));
 }
 
+TEST_F(WindowTexts, TheDialogOfTheToolBarsHasItsLabels)
+{
+  BarsMenu().actions().constLast()->trigger();
+  const auto& dialog = *Window().findChild<CustomizeDialog*>();
+  QStringList labels;
+  for (const QLabel* label : dialog.findChildren<QLabel*>()) labels.append(label->text());
+  EXPECT_EQ(labels, (QStringList{QStringLiteral("&Toolbar:"), QStringLiteral("&Commands:"),
+                                 QStringLiteral("&Buttons:")}));
+  QStringList buttons;
+  for (const QPushButton* button :
+       dialog.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+    buttons.append(button->text());
+  }
+  EXPECT_EQ(buttons, (QStringList{QStringLiteral("&New..."), QStringLiteral("&Delete"),
+                                  QStringLiteral("&Add"), QStringLiteral("&Remove"),
+                                  QStringLiteral("Move &Up"), QStringLiteral("Move Do&wn"),
+                                  QStringLiteral("R&eset")}));
+}
+
+TEST_F(WindowTexts, AssistiveTechnologyHearsWhatViewAndTreeAre)
+{
+  EXPECT_EQ(View().accessibleName(), QStringLiteral("Design view"));
+  EXPECT_EQ(View().accessibleDescription(),
+            QStringLiteral("Outline of the vessel, seen from the selected side"));
+  EXPECT_EQ(Tree().accessibleName(), QStringLiteral("Object tree"));
+  EXPECT_EQ(Tree().accessibleDescription(),
+            QStringLiteral("The design by side, with its polylines, points and anchors"));
+}
+
 TEST_F(WindowTexts, ButtonsOfTheToolBarHaveTheirTooltips)
 {
   QStringList tips;

@@ -69,12 +69,23 @@ TEST_F(ViewPortBits, APixelLeadsToItsWorldPointToTheLastBit)
   ExpectWorld(1.0, 479.0, -12.450668883203454, -14.62662896186487);
 }
 
+TEST_F(ViewPortBits, AWorldPointLeadsToItsRowOfPixelsToTheLastBit)
+{
+  Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});
+  viewPort.ZoomOut(400.0, 300.0);
+  EXPECT_EQ(viewPort.WorldToScreenFlat(0.0, -13.7).y, 341.09999999999997);
+}
+
 TEST_F(ViewPortBits, ZoomInMovesTheEdgesToTheLastBit)
 {
   Show({{-5.5, -39.3, 9.1, 39.0}, 811.0, 701.0});
   viewPort.ZoomIn(38.0, 246.0);
   Expect({-10.290906288532677, -17.84010342368046, 0.6590937114673239, 40.88489657631954},
          10.950000000000001, 58.725);
+  Show({{-48.0, -34.3, 29.7, 4.3}, 797.0, 613.0});
+  viewPort.ZoomIn(133.0, 375.0);
+  Expect({-64.17125156838142, -33.788376835236534, -5.896251568381425, -4.8383768352365415}, 58.275,
+         28.949999999999992);
 }
 
 TEST_F(ViewPortBits, ZoomOutMovesTheEdgesToTheLastBit)
@@ -128,6 +139,10 @@ TEST_F(ViewPortBits, ATallBoxIsFramedWithTheHeightAsItStood)
   Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});
   viewPort.ZoomToExtents({1.3, 4.7, 7.0, 10.7});
   EXPECT_EQ(viewPort.bottom, 2.36666666666667);
+  Show({{-100.0, -75.0, 100.0, 75.0}, 1013.0, 599.0});
+  viewPort.ZoomToExtents({-28.1, 3.0, -5.8, 37.0});
+  Expect({-73.4305241056932, -13.397664303366454, 39.53052410569319, 53.397664303366454},
+         112.96104821138638, 66.79532860673291);
 }
 
 TEST_F(ViewPortBits, AWideBoxIsFramedWithItsWidthForTheHeight)
@@ -135,6 +150,18 @@ TEST_F(ViewPortBits, AWideBoxIsFramedWithItsWidthForTheHeight)
   Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});
   viewPort.ZoomToExtents({1.3, 4.7, 9.0, 10.7});
   EXPECT_EQ(viewPort.bottom, 0.8555555555555556);
+  Show({{-100.0, -75.0, 100.0, 75.0}, 797.0, 613.0});
+  viewPort.ZoomToExtents({-28.4, -28.2, -6.2, -11.5});
+  Expect({-42.95655247417075, -39.58333333333334, 8.356552474170744, -0.11666666666666625},
+         51.31310494834149, 39.466666666666676);
+}
+
+TEST_F(ViewPortBits, ABoxIsFittedWithItsMarginsToTheLastBit)
+{
+  Show({{-100.0, -75.0, 100.0, 75.0}, 797.0, 613.0});
+  viewPort.FitExtents({-25.7, 0.4, 2.7, 37.8});
+  Expect({-30.43333333333333, 4.537724801338356, 7.433333333333333, 33.662275198661646},
+         37.86666666666666, 29.12455039732329);
 }
 
 }  // namespace

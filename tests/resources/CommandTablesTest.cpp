@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <ostream>
 #include <span>
@@ -239,7 +240,26 @@ INSTANTIATE_TEST_SUITE_P(
         Prompt{32787, u"Cursor moves vessel\nMove\rDesign"},
         Prompt{32772, u"Import shape(s) from an AutoCAD DXF file\nImport\rDXF"},
         Prompt{32786, u"Show all shapes\nShow\rAll"}, Prompt{32788, u"Draw new shape\nDraw\rShape"},
-        Prompt{32808, u"Select the current view mode\nView\rMode"}));
+        Prompt{32808, u"Select the current view mode\nView\rMode"},
+        Prompt{126, u"Choose the buttons of the toolbars\nCustomize..."},
+        Prompt{57600, u"Begin a new, empty design\nNew\rDesign"},
+        Prompt{57601, u"Open a design file\nOpen\rDesign"},
+        Prompt{57603, u"Save the design\nSave\rDesign"},
+        Prompt{57604, u"Save the design under another name\nSave As"},
+        Prompt{57607, u"Print the design\nPrint"}, Prompt{57616, u"Open this design"},
+        Prompt{57665, u"Quit the program; asks to save a modified design\nExit"},
+        Prompt{57643, u"Undo the last action\nUndo"},
+        Prompt{57644, u"Redo the last action undone\nRedo"},
+        Prompt{57635, u"Cut the selection\nCut"}, Prompt{57634, u"Copy the selection\nCopy"},
+        Prompt{57637, u"Paste from the clipboard\nPaste"},
+        Prompt{57664, u"Show the version and licence of the program\nAbout"},
+        Prompt{59393, u"Show or hide the status bar\nStatus Bar"}));
+
+TEST(Commands, NoMoreThanThese32HaveAPrompt)
+{
+  EXPECT_EQ(std::ranges::count_if(Commands(), [](const auto& row) { return !row.prompt.empty(); }),
+            32);
+}
 
 TEST(Commands, EveryButtonOfTheToolBarHasAnIconAndALabel)
 {

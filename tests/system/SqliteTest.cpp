@@ -270,6 +270,22 @@ TEST_F(SqliteBinding, AStepWithoutARowEndsTheQueryAndLeavesTheLastError)
   }
 }
 
+TEST_F(SqliteBinding, AStepWithoutARowSaysWhyInWords)
+{
+  const std::map<int, std::u16string> problems = {{101, u"it holds no unit of length"},
+                                                  {5, u"another program has locked it"},
+                                                  {11, u"it is damaged"},
+                                                  {10, u"SQLite ERROR #10"}};
+  for (const auto& [result, problem] : problems) {
+    library.stepResult = result;
+    CSQLite database(library, messages);
+    ASSERT_EQ(database.Load(), 0);
+    ASSERT_EQ(database.Open(u"geo.db"), 0);
+    EXPECT_EQ(database.SelectUnits(), -1);
+    EXPECT_EQ(database.Problem(), problem) << result;
+  }
+}
+
 TEST_F(SqliteBinding, AMissingEntryPointKeepsTheLibraryUntilTheEnd)
 {
   library.missing = "sqlite3_column_type";

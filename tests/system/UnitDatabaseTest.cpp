@@ -5,6 +5,7 @@
 #include "base/Code.h"
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
+#include "support/SqliteConnection.h"
 #include "support/TempFolder.h"
 #include "system/SharedLibraries.h"
 #include "system/Sqlite.h"
@@ -37,39 +38,6 @@ public:
   int freed = 0;
 };
 
-/// Runs statements on a database file with the system's library.
-class Database {
-public:
-  explicit Database(const std::filesystem::path& path)
-  {
-    const auto open = Entry<int (*)(const char*, sqlite3**)>("sqlite3_open");
-    EXPECT_EQ(open(path.c_str(), &handle_), 0);
-  }
-  Database(const Database&) = delete;
-  Database& operator=(const Database&) = delete;
-  ~Database()
-  {
-    Entry<int (*)(sqlite3*)>("sqlite3_close")(handle_);
-    libraries_.Free(library_);
-  }
-  void Run(const char* statement)
-  {
-    const auto run = Entry<int (*)(sqlite3*, const char*, void*, void*, void*)>("sqlite3_exec");
-    EXPECT_EQ(run(handle_, statement, nullptr, nullptr, nullptr), 0) << statement;
-  }
-
-private:
-  template <class Function>
-  Function Entry(const char* name)
-  {
-    return reinterpret_cast<Function>(libraries_.Resolve(library_, name));
-  }
-
-  SharedLibraries libraries_;
-  void* library_ = libraries_.Load("libsqlite3.so.0");
-  sqlite3* handle_ = nullptr;
-};
-
 class Units : public testing::Test {
 protected:
   Units()
@@ -80,16 +48,22 @@ protected:
 
   void MakeTable(const char* rows)
   {
-    Database file(database);
+    const test::SqliteConnection file(database);
     file.Run("CREATE TABLE tblUnits (NUMID, strUnit, strUnitShort, numDimension)");
     if (*rows != '\0') file.Run((std::string("INSERT INTO tblUnits VALUES ") + rows).c_str());
   }
 
   std::vector<std::string> Read()
   {
-    std::vector<std::string> lines;
     const auto path = GetDatabasePath(WideFromUtf8(folder.Path().string()));
-    for (const UnitRecord& unit : ReadUnits(libraries, messages, path)) {
+    return Lines(ReadUnits(libraries, messages, path));
+  }
+
+  /// Code, name and short name of each unit.
+  static std::vector<std::string> Lines(const std::vector<UnitRecord>& units)
+  {
+    std::vector<std::string> lines;
+    for (const UnitRecord& unit : units) {
       lines.push_back(std::to_string(NumberOf(unit.numId)) + " " + Utf8FromWide(unit.strUnit) +
                       " " + Utf8FromWide(unit.strUnitShort));
     }
@@ -117,6 +91,19 @@ TEST_F(Units, LengthsAreReadInTheOrderOfTheirCodes)
   EXPECT_EQ(libraries.freed, 1);
 }
 
+TEST_F(Units, ADatabaseIsFoundInAFolderOfAnyName)
+{
+  MakeTable("(9001, 'metre', 'm', 1)");
+  for (const char16_t* const name : {u"Ordner \u00E4", u"\u6D4B \U0001F6A2"}) {
+    const std::u16string path = folder.File(Utf8FromWide(name));
+    std::filesystem::create_directories(Utf8FromWide(path));
+    std::filesystem::copy(database, Utf8FromWide(path + u"/geo.db"));
+    const auto units = ReadUnits(libraries, messages, path + u"/geo.db");
+    ASSERT_EQ(units.size(), 1U) << Utf8FromWide(name);
+    EXPECT_EQ(units.front().strUnit, u"metre");
+  }
+}
+
 TEST_F(Units, AColumnThatIsNullKeepsTheValueOfTheRowBefore)
 {
   MakeTable("(9001, NULL, 'm', 1), (9002, 'foot', 'ft', 1), (9003, NULL, NULL, 1)");
@@ -131,7 +118,8 @@ TEST_F(Units, TextThatIsNotUtf8IsOfTheAnsiCodePage)
 
 TEST_F(Units, AMissingColumnLeavesItsValueEmpty)
 {
-  Database(database).Run("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
+  test::SqliteConnection(database).Run(
+      "CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
   EXPECT_THAT(Read(), ElementsAre("9001  "));
 }
 
@@ -202,11 +190,18 @@ TEST_F(Units, ErrorsOfTheDatabaseAreKeptAsText)
 
 TEST_F(Units, TheDatabaseOfTheProgramHasTheMetreAndEveryUnitWithAFactor)
 {
-  const auto units = ReadUnits(libraries, messages, WideFromUtf8(HULLWRIGHT_UNIT_DATABASE));
-  ASSERT_EQ(units.size(), 24U);
-  EXPECT_EQ(units.front().numId, UnitCode::Metre);
-  EXPECT_EQ(units.front().strUnit, u"metre");
-  EXPECT_EQ(units.back().numId, UnitCode{9098});
+  EXPECT_THAT(
+      Lines(ReadUnits(libraries, messages, WideFromUtf8(HULLWRIGHT_UNIT_DATABASE))),
+      ElementsAre("9001 metre m", "9002 foot ft", "9003 US survey foot ftUS",
+                  "9005 Clarke's foot ftCla", "9031 German legal metre GLM",
+                  "9033 US survey chain chUS", "9034 US survey link lkUS",
+                  "9035 US survey mile miUS", "9036 kilometre km", "9037 Clarke's yard ydCla",
+                  "9038 Clarke's chain chCla", "9039 Clarke's link lkCla",
+                  "9040 British yard (Sears 1922) ydSe", "9041 British foot (Sears 1922) ftSe",
+                  "9042 British chain (Sears 1922) chSe", "9043 British link (Sears 1922) lkSe",
+                  "9062 British chain (Benoit 1895 B) chBnB", "9080 Indian foot ftInd",
+                  "9084 Indian yard ydInd", "9093 Statute mile mi", "9094 Gold Coast foot ftGC",
+                  "9095 British foot (1936) ftBr(36)", "9097 chain ch", "9098 link lk"));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
+#include "support/SqliteConnection.h"
 #include "support/TempFolder.h"
 #include "system/SharedLibraries.h"
 #include "system/UnitDatabase.h"
@@ -13,6 +14,7 @@ namespace hullwright {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -27,24 +29,10 @@ protected:
     };
   }
 
+  std::filesystem::path Path() const { return folder.Path() / "Sondaris" / "Database" / "geo.db"; }
+
   /// Makes the database by statements of its language.
-  void Make(const char* statements) const
-  {
-    SharedLibraries libraries;
-    void* const library = libraries.Load("libsqlite3.so.0");
-    const auto open =
-        reinterpret_cast<int (*)(const char*, void**)>(libraries.Resolve(library, "sqlite3_open"));
-    const auto run = reinterpret_cast<int (*)(void*, const char*, void*, void*, void*)>(
-        libraries.Resolve(library, "sqlite3_exec"));
-    const auto close =
-        reinterpret_cast<int (*)(void*)>(libraries.Resolve(library, "sqlite3_close"));
-    void* handle = nullptr;
-    const auto path = folder.Path() / "Sondaris" / "Database" / "geo.db";
-    ASSERT_EQ(open(path.c_str(), &handle), 0);
-    ASSERT_EQ(run(handle, statements, nullptr, nullptr, nullptr), 0);
-    ASSERT_EQ(close(handle), 0);
-    libraries.Free(library);
-  }
+  void Make(const char* statements) const { test::SqliteConnection(Path()).Run(statements); }
 
   test::TempFolder folder;
   KeptMessages messages;
@@ -77,6 +65,27 @@ TEST_F(UnitProblems, ATableWithoutLengthsIsOne)
   Make("CREATE TABLE tblUnits (numId, strUnit, strUnitShort, numDimension)");
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, ElementsAre(HasSubstr(": it holds no unit of length")));
+}
+
+TEST_F(UnitProblems, AnotherProgramThatHasLockedTheDatabaseIsOne)
+{
+  Make("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
+  const test::SqliteConnection other(Path());
+  other.Run("BEGIN EXCLUSIVE");
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, ElementsAre(EndsWith(": SQLite ERROR #5 (database is locked)")));
+}
+
+TEST_F(UnitProblems, ADamagedDatabaseIsOne)
+{
+  Make("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 'metre' AS strUnit, 1 AS numDimension");
+  std::string bytes = folder.Read("Sondaris/Database/geo.db");
+  constexpr std::size_t page = 4096;  // the first one has the tables, the second one the units
+  ASSERT_EQ(bytes.size(), 2 * page);
+  bytes.replace(page, page, page, '\xFF');
+  folder.Write("Sondaris/Database/geo.db", bytes);
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, ElementsAre(EndsWith(": it is damaged")));
 }
 
 TEST_F(UnitProblems, ADatabaseThatGoesOnForEverIsLeftAndNotAskedAgain)
