@@ -98,6 +98,25 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option)
   painter.restore();
 }
 
+void DrawFieldEdge(QPainter& painter, const QStyleOption& option)
+{
+  constexpr double roundness = 2.0;
+  const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+  const QColor window = option.palette.color(QPalette::Window);
+  const QColor wanted = hasFocus
+                            ? option.palette.color(QPalette::Highlight)
+                            : Between(window, option.palette.color(QPalette::WindowText), 0.35);
+  const double width = hasFocus ? 2.0 : 1.0;
+  const double inset = width / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ShapeColour(option, wanted, window), width));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), roundness,
+                          roundness);
+  painter.restore();
+}
+
 void DrawBranch(QPainter& painter, const QStyleOption& option)
 {
   constexpr int boxSide = 9;

@@ -14,6 +14,9 @@ void DrawDownButton(QPainter& painter, const QStyleOption& option);
 void DrawRadioButton(QPainter& painter, const QStyleOption& option);
 void DrawCheckBox(QPainter& painter, const QStyleOption& option);
 
+/// The edge around an edit field, in the colour of what is chosen while the field has the keyboard.
+void DrawFieldEdge(QPainter& painter, const QStyleOption& option);
+
 /// The lines of a tree that lead to a row, and the box that opens and closes it.
 void DrawBranch(QPainter& painter, const QStyleOption& option);
 

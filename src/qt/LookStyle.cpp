@@ -76,6 +76,8 @@ bool IsDown(const QStyleOption& option)
 
 LookStyle::LookStyle(const QString& base) : QProxyStyle(base), base_(base) {}
 
+bool LookStyle::HasSunkenFields() const { return base_ == QLatin1String("Windows"); }
+
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
@@ -83,6 +85,9 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorRadioButton: return DrawRadioButton(*painter, *option);
     case PE_IndicatorCheckBox: return DrawCheckBox(*painter, *option);
     case PE_IndicatorBranch: return DrawBranch(*painter, *option);
+    case PE_FrameLineEdit:
+      if (!HasSunkenFields()) return DrawFieldEdge(*painter, *option);
+      break;
     case PE_PanelButtonTool:
       if (IsDown(*option)) return DrawDownButton(*painter, *option);
       break;

@@ -5,8 +5,8 @@
 namespace hullwright {
 
 /// A style of the toolkit's with marks that can be seen in every look: buttons that are down, check
-/// boxes and radio buttons, lines and boxes of trees, the buttons of panes, images of chosen menu
-/// entries.
+/// boxes and radio buttons, edges of edit fields, lines and boxes of trees, the buttons of panes,
+/// images of chosen menu entries.
 class LookStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -28,6 +28,9 @@ public:
                          const QWidget* widget) const override;
 
 private:
+  /// Whether the style draws edges of its own that are dark enough.
+  bool HasSunkenFields() const;
+
   QString base_;
 };
 

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPainter>
@@ -105,6 +108,30 @@ TEST_F(LooksSeen, RadioButtonsAndCheckBoxesAndTheirMarksAreSeen)
     ExpectIndicatorSeen(radio, QStyle::SE_RadioButtonIndicator, look);
     QCheckBox check(QStringLiteral("Show Grid"));
     ExpectIndicatorSeen(check, QStyle::SE_CheckBoxIndicator, look);
+  });
+}
+
+TEST_F(LooksSeen, TheEdgesOfAnEditFieldAreSeenWithAndWithoutTheKeyboard)
+{
+  ForEachLook([](int look) {
+    QDialog dialog;
+    QLineEdit field(&dialog);
+    QLineEdit other(&dialog);
+    other.move(0, 40);
+    dialog.show();
+    dialog.activateWindow();
+    QApplication::processEvents();
+    for (QLineEdit* const focused : {&other, &field}) {
+      focused->setFocus();
+      ASSERT_EQ(field.hasFocus(), focused == &field);
+      const QImage image = Picture(field);
+      const int width = image.width();
+      const int height = image.height();
+      // Two pixels, for a sunken field's edge is dark on the inside.
+      const QColor window = Colour(QPalette::Window);
+      EXPECT_GE(PixelsSeen(image, QRect(0, 0, 2, height), window), height - 6) << look;
+      EXPECT_GE(PixelsSeen(image, QRect(0, 0, width, 2), window), width - 6) << look;
+    }
   });
 }
 
@@ -267,6 +294,29 @@ TEST_F(LooksSeen, MessageBoxesBearTheProgramsOwnImages)
   EXPECT_FALSE(Window().Document().MayLeave());
   shell->App().SetModifiedFlag(false);
   EXPECT_EQ(dialogs, 3);
+}
+
+TEST_F(LooksSeen, TheQuestionForANameOfAToolBarBearsTheProgramsOwnImages)
+{
+  Window().RunCommand(CommandId::Customize);
+  auto& customize = *Window().findChild<CustomizeDialog*>();
+  QIcon ok;
+  QIcon cancel;
+  WhenAsked<QInputDialog>([&](QInputDialog& input) {
+    const auto* const buttons = input.findChild<QDialogButtonBox*>();
+    ok = buttons->button(QDialogButtonBox::Ok)->icon();
+    cancel = buttons->button(QDialogButtonBox::Cancel)->icon();
+    input.reject();
+  });
+  for (auto* const button : customize.findChildren<QPushButton*>()) {
+    if (button->text() == QStringLiteral("&New...")) button->click();
+  }
+  EXPECT_EQ(dialogs, 1);
+  const auto image = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
+  const QPalette palette = QApplication::palette();
+  EXPECT_EQ(image(ok), image(ThemedIcon("dialog-ok", palette)));
+  EXPECT_EQ(image(cancel), image(ThemedIcon("dialog-cancel", palette)));
+  EXPECT_EQ(customize.findChild<QComboBox*>()->count(), 1);  // given up, there is no new one
 }
 
 TEST(Contrasts, AreThoseOfTheLuminances)
