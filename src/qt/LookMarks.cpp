@@ -117,6 +117,23 @@ void DrawFieldEdge(QPainter& painter, const QStyleOption& option)
   painter.restore();
 }
 
+void DrawSlider(QPainter& painter, const QStyleOption& option, const QRect& place)
+{
+  constexpr double inset = 2.5;
+  constexpr double roundness = 4.0;
+  // The groove is nearer to it than the window.
+  constexpr double contrast = shapeContrast * 1.2;
+  const QColor window = option.palette.color(QPalette::Window);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(
+      Seen(Between(window, option.palette.color(QPalette::WindowText), 0.45), window, contrast));
+  painter.drawRoundedRect(QRectF(place).adjusted(inset, inset, -inset, -inset), roundness,
+                          roundness);
+  painter.restore();
+}
+
 void DrawBranch(QPainter& painter, const QStyleOption& option)
 {
   constexpr int boxSide = 9;

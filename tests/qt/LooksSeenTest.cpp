@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -131,6 +132,31 @@ TEST_F(LooksSeen, TheEdgesOfAnEditFieldAreSeenWithAndWithoutTheKeyboard)
       const QColor window = Colour(QPalette::Window);
       EXPECT_GE(PixelsSeen(image, QRect(0, 0, 2, height), window), height - 6) << look;
       EXPECT_GE(PixelsSeen(image, QRect(0, 0, width, 2), window), width - 6) << look;
+    }
+  });
+}
+
+TEST_F(LooksSeen, TheSliderOfAScrollBarIsSeenInItsGroove)
+{
+  ForEachLook([](int look) {
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+      QScrollBar bar(orientation);
+      bar.setRange(0, 100);
+      bar.setPageStep(50);
+      bar.resize(orientation == Qt::Horizontal ? QSize(200, 16) : QSize(16, 200));
+      QStyleOptionSlider option;
+      option.initFrom(&bar);
+      option.subControls = QStyle::SC_All;
+      option.orientation = orientation;
+      option.maximum = 100;
+      option.pageStep = 50;
+      if (orientation == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+      const QRect slider = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                       QStyle::SC_ScrollBarSlider, &bar);
+      const QImage image = Picture(bar);
+      const QColor groove = image.pixelColor(
+          slider.bottomRight() + (orientation == Qt::Horizontal ? QPoint(20, -8) : QPoint(-8, 20)));
+      EXPECT_GE(PixelsSeen(image, slider, groove), qMax(slider.width(), slider.height())) << look;
     }
   });
 }
