@@ -63,8 +63,10 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   auto* const shownLabel = new QLabel(tr("&Buttons:"), this);
   shownLabel->setBuddy(shown_);
   shown_->setAccessibleName(tr("Buttons"));
-  grid->addWidget(barLabel, 0, 0);
-  grid->addWidget(bars_, 0, 0, 1, 1, Qt::AlignRight);
+  auto* const bar = new QHBoxLayout;
+  bar->addWidget(barLabel);
+  bar->addWidget(bars_, 1);
+  grid->addLayout(bar, 0, 0);
   grid->addWidget(newBar_, 0, 1);
   grid->addWidget(deleteBar_, 0, 2, Qt::AlignLeft);
   grid->addWidget(availableLabel, 1, 0);
