@@ -1,10 +1,12 @@
 #include "app/FiniteNumbers.h"
 
+#include <algorithm>
 #include <variant>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignNumbers.h"
+#include "model/OffsetPoints.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -21,8 +23,8 @@ std::string SideName(ViewSide viewCode)
 std::string OffsetName(const DesignElement& element)
 {
   const auto place = std::get<OffsetMember>(element.member).inDesign;
-  if (place == &DesignState::offsetGps) return "GNSS antenna offset";
-  return place == &DesignState::offsetTransducer ? "transducer offset" : "pivot point offset";
+  const auto* const point = std::ranges::find(offsetPoints, place, &OffsetPoint::place);
+  return std::string(point->name) + " offset";
 }
 
 std::string Place(const DesignNumber& number)

@@ -7,22 +7,10 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "cli/DesignFindings.h"
+#include "model/OffsetPoints.h"
 
 namespace hullwright {
 namespace {
-
-struct Offset {
-  const char* name;
-  const char* title;
-  const CShapeVertex& place;
-};
-
-std::vector<Offset> OffsetsOf(const CHullwrightApp& app)
-{
-  return {{"gps", "GNSS antenna", *app.offsetGps},
-          {"txd", "echo sounder", *app.offsetTransducer},
-          {"piv", "pivot", *app.offsetPivot}};
-}
 
 /// What stands in one group.
 struct GroupSummary {
@@ -94,9 +82,10 @@ void PrintDesign(HeadlessEditor& editor, const std::string& name)
   const CHullwrightApp& app = editor.App();
   std::printf("%s: design\n  unit          %s (EPSG %" PRId32 ")\n", name.c_str(),
               UnitOf(editor).c_str(), NumberOf(app.unitCode));
-  for (const Offset& offset : OffsetsOf(app)) {
-    std::printf("  %-12s  %s, %s\n", offset.title, Place(offset.place.x, offset.place.y).c_str(),
-                FormatFixed(offset.place.z, 3).c_str());
+  for (const OffsetPoint& offset : offsetPoints) {
+    const CShapeVertex& place = *(app.*offset.place);
+    std::printf("  %-12s  %s, %s\n", std::string(offset.name).c_str(),
+                Place(place.x, place.y).c_str(), FormatFixed(place.z, 3).c_str());
   }
   ForEachEntry(app.anchors->items, [](const CAnchor& anchor) {
     std::printf("  anchor %-6" PRIu32 " %s  %s\n", anchor.id,
@@ -132,9 +121,10 @@ void WriteDesignJson(JsonWriter& json, HeadlessEditor& editor, const std::string
   json.EndObject();
   json.Key("offsets");
   json.BeginObject();
-  for (const Offset& offset : OffsetsOf(app)) {
-    json.Key(offset.name);
-    json.Doubles({offset.place.x, offset.place.y, offset.place.z});
+  for (const OffsetPoint& offset : offsetPoints) {
+    const CShapeVertex& place = *(app.*offset.place);
+    json.Key(offset.element);
+    json.Doubles({place.x, place.y, place.z});
   }
   json.EndObject();
   json.Key("anchors");

@@ -17,6 +17,7 @@
 #include "cli/PictureFile.h"
 #include "cli/ReportPages.h"
 #include "cli/ReportSides.h"
+#include "model/OffsetPoints.h"
 #include "system/BaseFolders.h"
 #include "system/InputFile.h"
 
@@ -62,16 +63,11 @@ QString HashOf(const std::string& path)
 
 void AddOffsets(ReportPages& pages, const CHullwrightApp& app)
 {
-  struct Row {
-    const char* name;
-    const CShapeVertex& place;
-  };
   std::vector<ReportRow> rows;
-  for (const Row& row : std::initializer_list<Row>{{"GNSS antenna", *app.offsetGps},
-                                                   {"echo sounder", *app.offsetTransducer},
-                                                   {"pivot", *app.offsetPivot}}) {
-    rows.push_back({QString::fromLatin1(row.name), Number(row.place.x), Number(row.place.y),
-                    Number(row.place.z)});
+  for (const OffsetPoint& point : offsetPoints) {
+    const CShapeVertex& place = *(app.*point.place);
+    rows.push_back({QLatin1String(point.name.data(), static_cast<qsizetype>(point.name.size())),
+                    Number(place.x), Number(place.y), Number(place.z)});
   }
   pages.AddHeading(QStringLiteral("Offsets"));
   pages.AddTable({{QStringLiteral("offset"), 500.0},

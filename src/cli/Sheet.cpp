@@ -11,6 +11,7 @@
 #include "base/Numbers.h"
 #include "base/RealText.h"
 #include "cli/PictureFile.h"
+#include "model/OffsetPoints.h"
 #include "paint/PaintText.h"
 
 namespace hullwright {
@@ -28,9 +29,11 @@ QString ToText(std::u16string_view text)
 
 QString Coordinate(double value) { return QString::fromStdString(FormatFixed(value, 3)); }
 
-SheetRow RowOf(const char* name, const CShapeVertex& place)
+SheetRow RowOf(std::string_view offset, const CShapeVertex& place)
 {
-  return {QString::fromLatin1(name), Coordinate(place.x), Coordinate(place.y), Coordinate(place.z)};
+  QString name = QString::fromLatin1(offset.data(), static_cast<qsizetype>(offset.size()));
+  name[0] = name[0].toUpper();
+  return {name, Coordinate(place.x), Coordinate(place.y), Coordinate(place.z)};
 }
 
 SheetRow RowOf(const CAnchor& anchor)
@@ -80,12 +83,10 @@ SheetFacts FactsOf(CHullwrightApp& design, const QString& file)
   std::u16string unitShort;
   design.GetUnitLabel(unitShort);
   facts.unitShort = ToText(unitShort);
-  const auto add = [&facts](const char* name, const std::unique_ptr<CShapeVertex>& place) {
-    if (place != nullptr) facts.rows.append(RowOf(name, *place));
-  };
-  add("GNSS antenna", design.offsetGps);
-  add("Echo sounder transducer", design.offsetTransducer);
-  add("Pivot point", design.offsetPivot);
+  for (const OffsetPoint& point : offsetPoints) {
+    const CShapeVertex* const place = (design.*point.place).get();
+    if (place != nullptr) facts.rows.append(RowOf(point.name, *place));
+  }
   if (design.anchors == nullptr) return facts;
   ForEachEntry(design.anchors->items,
                [&facts](const CAnchor& anchor) { facts.rows.append(RowOf(anchor)); });

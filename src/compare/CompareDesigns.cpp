@@ -1,7 +1,6 @@
 #include "compare/CompareDesigns.h"
 
 #include <algorithm>
-#include <array>
 #include <tuple>
 #include <utility>
 
@@ -9,33 +8,25 @@
 #include "compare/AnchorChanges.h"
 #include "compare/ShapeMatching.h"
 #include "compare/VertexChanges.h"
+#include "model/OffsetPoints.h"
 
 namespace hullwright {
 namespace {
-
-struct OffsetRow {
-  OffsetKind kind;
-  std::unique_ptr<CShapeVertex> DesignState::*member;
-};
-
-constexpr std::array<OffsetRow, 3> offsetRows = {{
-    {OffsetKind::Antenna, &DesignState::offsetGps},
-    {OffsetKind::EchoSounder, &DesignState::offsetTransducer},
-    {OffsetKind::Pivot, &DesignState::offsetPivot},
-}};
 
 std::vector<OffsetDifference> CompareOffsets(const DesignState& former, UnitCode formerUnit,
                                              const DesignState& current, const Tolerance& tolerance)
 {
   std::vector<OffsetDifference> differences;
-  for (const OffsetRow& row : offsetRows) {
-    const CShapeVertex* const before = (former.*row.member).get();
-    const CShapeVertex* const now = (current.*row.member).get();
+  int kind = -1;
+  for (const OffsetPoint& point : offsetPoints) {
+    ++kind;
+    const CShapeVertex* const before = (former.*point.place).get();
+    const CShapeVertex* const now = (current.*point.place).get();
     if (before == nullptr || now == nullptr) continue;
     const Place formerPlace = PlaceOf(*before, formerUnit, current.unitCode);
     const Place place = PlaceOf(*now, current.unitCode, current.unitCode);
     if (!tolerance.Same(formerPlace, place))
-      differences.push_back({row.kind, {formerPlace, place}});
+      differences.push_back({OffsetKind{kind}, {formerPlace, place}});
   }
   return differences;
 }

@@ -8,6 +8,7 @@
 #include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/VisibleText.h"
+#include "model/OffsetPoints.h"
 
 namespace hullwright {
 namespace {
@@ -291,12 +292,7 @@ std::string FormatWithin(double value, double tolerance)
 
 std::string_view NameOf(OffsetKind kind)
 {
-  switch (kind) {
-    case OffsetKind::Antenna: return "GNSS antenna";
-    case OffsetKind::EchoSounder: return "echo sounder";
-    case OffsetKind::Pivot: break;
-  }
-  return "pivot";
+  return offsetPoints.at(static_cast<std::size_t>(NumberOf(kind))).name;
 }
 
 std::string_view NameOf(ShapeType type)

@@ -29,6 +29,7 @@ struct UnitDifference {
   bool sameNumbers = false;  ///< without the conversion there is no other difference
 };
 
+/// An offset point, in the order of `offsetPoints`.
 enum class OffsetKind { Antenna, EchoSounder, Pivot };
 
 /// An offset stands somewhere else.

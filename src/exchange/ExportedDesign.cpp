@@ -1,11 +1,12 @@
 #include "exchange/ExportedDesign.h"
 
-#include <array>
 #include <bit>
 #include <utility>
 
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
+#include "model/OffsetPoints.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -27,24 +28,13 @@ void GatherPolylines(const CShapes& group, ExportedDesign& exported)
   });
 }
 
-struct OffsetName {
-  std::u16string_view name;
-  std::unique_ptr<CShapeVertex> DesignState::*member;
-};
-
-constexpr auto offsetNames = std::to_array<OffsetName>({
-    {u"GNSS antenna", &DesignState::offsetGps},
-    {u"echo sounder", &DesignState::offsetTransducer},
-    {u"pivot", &DesignState::offsetPivot},
-});
-
 void GatherPlaces(const DesignState& design, ExportedDesign& exported)
 {
-  for (const OffsetName& row : offsetNames) {
-    const CShapeVertex* const place = (design.*row.member).get();
+  for (const OffsetPoint& point : offsetPoints) {
+    const CShapeVertex* const place = (design.*point.place).get();
     if (place == nullptr) continue;
     exported.places.push_back(
-        {offsetKind, std::u16string(row.name), std::nullopt, place->x, place->y, place->z});
+        {offsetKind, WideFromAscii(point.name), std::nullopt, place->x, place->y, place->z});
   }
   ForEachEntry(design.anchors->items, [&](const CAnchor& anchor) {
     exported.places.push_back(

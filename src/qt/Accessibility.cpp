@@ -1,8 +1,10 @@
 #include "qt/Accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QTimer>
 
 #include "qt/DesignWidget.h"
+#include "qt/GuideWindow.h"
 #include "qt/StatusPane.h"
 
 namespace hullwright {
@@ -25,7 +27,8 @@ public:
 
   void doAction(const QString& name) override
   {
-    if (name == pressAction() && pane_.onPress) pane_.onPress();
+    // Later, as buttons do: who presses must not wait for the end of the dialog that opens.
+    if (name == pressAction() && pane_.onPress) QTimer::singleShot(0, &pane_, pane_.onPress);
   }
 
 private:
@@ -36,6 +39,9 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object)
 {
   if (auto* const design = qobject_cast<DesignWidget*>(object)) {
     return new QAccessibleWidget(design, QAccessible::Canvas, design->accessibleName());
+  }
+  if (auto* const guide = qobject_cast<GuideWindow*>(object)) {
+    return new QAccessibleWidget(guide, QAccessible::Window);
   }
   auto* const pane = qobject_cast<StatusPane*>(object);
   return pane == nullptr ? nullptr : new AccessiblePane(*pane);

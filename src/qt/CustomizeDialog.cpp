@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <optional>
 
 #include "base/Code.h"
 #include "qt/DialogButtons.h"
@@ -22,6 +23,21 @@ QIcon NoImage()
   QPixmap nothing(32, 32);
   nothing.fill(Qt::transparent);
   return nothing;
+}
+
+/// The name that the user types for a toolbar, the proposed one for an empty one; nothing if given
+/// up.
+std::optional<QString> AskForName(QWidget* parent, const QString& proposed)
+{
+  QInputDialog input(parent);
+  input.setWindowTitle(CustomizeDialog::tr("New Toolbar"));
+  input.setLabelText(CustomizeDialog::tr("Name:"));
+  input.setTextValue(proposed);
+  input.adjustSize();  // makes the buttons
+  SetButtonImages(input);
+  if (input.exec() != QDialog::Accepted) return std::nullopt;
+  const QString typed = input.textValue().trimmed();
+  return typed.isEmpty() ? proposed : typed;
 }
 
 }  // namespace
@@ -43,10 +59,14 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   barLabel->setBuddy(bars_);
   auto* const availableLabel = new QLabel(tr("&Commands:"), this);
   availableLabel->setBuddy(available_);
+  available_->setAccessibleName(tr("Commands"));
   auto* const shownLabel = new QLabel(tr("&Buttons:"), this);
   shownLabel->setBuddy(shown_);
-  grid->addWidget(barLabel, 0, 0);
-  grid->addWidget(bars_, 0, 0, 1, 1, Qt::AlignRight);
+  shown_->setAccessibleName(tr("Buttons"));
+  auto* const bar = new QHBoxLayout;
+  bar->addWidget(barLabel);
+  bar->addWidget(bars_, 1);
+  grid->addLayout(bar, 0, 0);
   grid->addWidget(newBar_, 0, 1);
   grid->addWidget(deleteBar_, 0, 2, Qt::AlignLeft);
   grid->addWidget(availableLabel, 1, 0);
@@ -168,14 +188,10 @@ void CustomizeDialog::Reset()
 
 void CustomizeDialog::NewToolBar()
 {
-  bool accepted = false;
-  const QString proposed = tr("Toolbar %1").arg(specs_.size());
-  const QString typed = QInputDialog::getText(this, tr("New Toolbar"), tr("Name:"),
-                                              QLineEdit::Normal, proposed, &accepted);
-  if (!accepted) return;
-  const QString title = typed.trimmed().isEmpty() ? proposed : typed.trimmed();
-  specs_.append({title, {}});
-  bars_->addItem(title);
+  const std::optional<QString> title = AskForName(this, tr("Toolbar %1").arg(specs_.size()));
+  if (!title) return;
+  specs_.append({*title, {}});
+  bars_->addItem(*title);
   bars_->setCurrentIndex(bars_->count() - 1);
 }
 

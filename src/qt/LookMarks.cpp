@@ -98,6 +98,42 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option)
   painter.restore();
 }
 
+void DrawFieldEdge(QPainter& painter, const QStyleOption& option)
+{
+  constexpr double roundness = 2.0;
+  const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+  const QColor window = option.palette.color(QPalette::Window);
+  const QColor wanted = hasFocus
+                            ? option.palette.color(QPalette::Highlight)
+                            : Between(window, option.palette.color(QPalette::WindowText), 0.35);
+  const double width = hasFocus ? 2.0 : 1.0;
+  const double inset = width / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ShapeColour(option, wanted, window), width));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), roundness,
+                          roundness);
+  painter.restore();
+}
+
+void DrawSlider(QPainter& painter, const QStyleOption& option, const QRect& place)
+{
+  constexpr double inset = 2.5;
+  constexpr double roundness = 4.0;
+  // The groove is nearer to it than the window.
+  constexpr double contrast = shapeContrast * 1.2;
+  const QColor window = option.palette.color(QPalette::Window);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(
+      Seen(Between(window, option.palette.color(QPalette::WindowText), 0.45), window, contrast));
+  painter.drawRoundedRect(QRectF(place).adjusted(inset, inset, -inset, -inset), roundness,
+                          roundness);
+  painter.restore();
+}
+
 void DrawBranch(QPainter& painter, const QStyleOption& option)
 {
   constexpr int boxSide = 9;

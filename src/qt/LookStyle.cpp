@@ -76,6 +76,8 @@ bool IsDown(const QStyleOption& option)
 
 LookStyle::LookStyle(const QString& base) : QProxyStyle(base), base_(base) {}
 
+bool LookStyle::Is3d() const { return base_ == QLatin1String("Windows"); }
+
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
@@ -83,6 +85,9 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorRadioButton: return DrawRadioButton(*painter, *option);
     case PE_IndicatorCheckBox: return DrawCheckBox(*painter, *option);
     case PE_IndicatorBranch: return DrawBranch(*painter, *option);
+    case PE_FrameLineEdit:
+      if (!Is3d()) return DrawFieldEdge(*painter, *option);
+      break;
     case PE_PanelButtonTool:
       if (IsDown(*option)) return DrawDownButton(*painter, *option);
       break;
@@ -107,6 +112,20 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
   const double ratio = widget != nullptr ? widget->devicePixelRatioF() : 1.0;
   changed.icon = QIcon(entry->icon.pixmap(QSize(side, side), ratio, QIcon::Selected));
   QProxyStyle::drawControl(element, &changed, painter, widget);
+}
+
+void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+  const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control != CC_ScrollBar || bar == nullptr || Is3d() || bar->minimum == bar->maximum) {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    return;
+  }
+  QStyleOptionSlider rest = *bar;
+  rest.subControls &= ~SC_ScrollBarSlider;
+  QProxyStyle::drawComplexControl(control, &rest, painter, widget);
+  DrawSlider(*painter, *bar, proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget));
 }
 
 QIcon LookStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,

@@ -5,8 +5,8 @@
 namespace hullwright {
 
 /// A style of the toolkit's with marks that can be seen in every look: buttons that are down, check
-/// boxes and radio buttons, lines and boxes of trees, the buttons of panes, images of chosen menu
-/// entries.
+/// boxes and radio buttons, edges of edit fields, sliders of scroll bars, lines and boxes of trees,
+/// the buttons of panes, images of chosen menu entries.
 class LookStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -20,6 +20,8 @@ public:
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
   QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                      const QWidget* widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -28,6 +30,9 @@ public:
                          const QWidget* widget) const override;
 
 private:
+  /// Whether the style draws fields and sliders with dark edges of its own.
+  bool Is3d() const;
+
   QString base_;
 };
 

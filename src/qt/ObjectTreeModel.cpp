@@ -86,7 +86,7 @@ QVariant ObjectTreeModel::data(const QModelIndex& index, int role) const
 {
   const TreeItem item = ItemAt(index);
   if (role == Qt::DisplayRole) return ToQString(tree_.Text(item));
-  if (role == Qt::ToolTipRole) return ToolTip(item);
+  if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) return ToolTip(item);
   if (role != Qt::DecorationRole) return {};
   const auto icon = icons_.find(tree_.Image(item));
   return icon == icons_.end() ? QVariant() : QVariant(icon->second);

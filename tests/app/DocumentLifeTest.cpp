@@ -298,8 +298,8 @@ TEST_F(Life, EveryNumberThatASaveWritesIsLookedThrough)
   app.shapeGroups[1]->viewCode = ViewSide{5};
   EXPECT_EQ(place(app.shapeGroups[1]->shapes[0]->vertices[0]->y), u"polyline 1 (view 05), point 1");
   EXPECT_EQ(place(app.offsetGps->y), u"GNSS antenna offset");
-  EXPECT_EQ(place(app.offsetTransducer->z), u"transducer offset");
-  EXPECT_EQ(place(app.offsetPivot->x), u"pivot point offset");
+  EXPECT_EQ(place(app.offsetTransducer->z), u"echo sounder offset");
+  EXPECT_EQ(place(app.offsetPivot->x), u"pivot offset");
   EXPECT_EQ(place(app.anchors->items[0]->attachmentY), u"anchor #1");
   app.shapeGroups[0]->shapes[0]->type = ShapeType::Point;
   FirstVertex().x = infinity;

@@ -150,7 +150,7 @@ class RenderTest(CliTest):
         head = texts.index("Offsets and anchors")
         self.assertEqual(texts[head + 1:head + 4], ["X (m)", "Y (m)", "Z (m)"])
         rows = texts[head + 1:]
-        for name, tag in (("GNSS antenna", "gpsOffset"), ("Echo sounder transducer", "transducerOffset"), ("Pivot point", "pivotOffset")):
+        for name, tag in (("GNSS antenna", "gpsOffset"), ("Echo sounder", "transducerOffset"), ("Pivot", "pivotOffset")):
             self.assertIn(name, rows)
             at = rows.index(name)
             for shown in rows[at + 1:at + 4]:

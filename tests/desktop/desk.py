@@ -29,8 +29,9 @@ FONTS = """<?xml version="1.0"?>
 
 class Desk:
     """A display under Xvfb for one program at a time, which runs in a real window. Settings, caches and home
-    lie in a folder of its own. There is no session bus: without an address the toolkit would try to launch one
-    at each start, and whatever bus the person at the machine has is none of the tests' business."""
+    lie in a folder of its own. There is no session bus but one that a test serves: without an address the toolkit
+    would try to launch one at each start, and whatever bus the person at the machine has is none of the tests'
+    business."""
 
     def __init__(self, size="1400x1000", own_fonts=False):
         self._own_fonts = own_fonts
@@ -137,6 +138,12 @@ class Desk:
         """Runs a tool on this display; what it printed."""
         return self._run(*words)
 
+    def serve(self, *command):
+        """Starts a server that is there as long as the desk; the line that it prints when it is ready."""
+        server = self._spawn(command, stdout=subprocess.PIPE)
+        self._display.append(server)
+        return self._line(server.stdout, command[0])
+
     # The program.
 
     def launch(self, program, *arguments, **environment):
@@ -163,7 +170,7 @@ class Desk:
         return self.program.wait(PATIENCE)
 
     def processes(self):
-        """What runs on this desk: display, window manager and program."""
+        """What runs on this desk: display, window manager, servers and program."""
         return [process for process in [*self._display, self.program] if process is not None]
 
     # Waiting.

@@ -1,13 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -105,6 +109,55 @@ TEST_F(LooksSeen, RadioButtonsAndCheckBoxesAndTheirMarksAreSeen)
     ExpectIndicatorSeen(radio, QStyle::SE_RadioButtonIndicator, look);
     QCheckBox check(QStringLiteral("Show Grid"));
     ExpectIndicatorSeen(check, QStyle::SE_CheckBoxIndicator, look);
+  });
+}
+
+TEST_F(LooksSeen, TheEdgesOfAnEditFieldAreSeenWithAndWithoutTheKeyboard)
+{
+  ForEachLook([](int look) {
+    QDialog dialog;
+    QLineEdit field(&dialog);
+    QLineEdit other(&dialog);
+    other.move(0, 40);
+    dialog.show();
+    dialog.activateWindow();
+    QApplication::processEvents();
+    for (QLineEdit* const focused : {&other, &field}) {
+      focused->setFocus();
+      ASSERT_EQ(field.hasFocus(), focused == &field);
+      const QImage image = Picture(field);
+      const int width = image.width();
+      const int height = image.height();
+      // Two pixels, for a sunken field's edge is dark on the inside.
+      const QColor window = Colour(QPalette::Window);
+      EXPECT_GE(PixelsSeen(image, QRect(0, 0, 2, height), window), height - 6) << look;
+      EXPECT_GE(PixelsSeen(image, QRect(0, 0, width, 2), window), width - 6) << look;
+    }
+  });
+}
+
+TEST_F(LooksSeen, TheSliderOfAScrollBarIsSeenInItsGroove)
+{
+  ForEachLook([](int look) {
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+      QScrollBar bar(orientation);
+      bar.setRange(0, 100);
+      bar.setPageStep(50);
+      bar.resize(orientation == Qt::Horizontal ? QSize(200, 16) : QSize(16, 200));
+      QStyleOptionSlider option;
+      option.initFrom(&bar);
+      option.subControls = QStyle::SC_All;
+      option.orientation = orientation;
+      option.maximum = 100;
+      option.pageStep = 50;
+      if (orientation == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+      const QRect slider = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                       QStyle::SC_ScrollBarSlider, &bar);
+      const QImage image = Picture(bar);
+      const QColor groove = image.pixelColor(
+          slider.bottomRight() + (orientation == Qt::Horizontal ? QPoint(20, -8) : QPoint(-8, 20)));
+      EXPECT_GE(PixelsSeen(image, slider, groove), qMax(slider.width(), slider.height())) << look;
+    }
   });
 }
 
@@ -267,6 +320,29 @@ TEST_F(LooksSeen, MessageBoxesBearTheProgramsOwnImages)
   EXPECT_FALSE(Window().Document().MayLeave());
   shell->App().SetModifiedFlag(false);
   EXPECT_EQ(dialogs, 3);
+}
+
+TEST_F(LooksSeen, TheQuestionForANameOfAToolBarBearsTheProgramsOwnImages)
+{
+  Window().RunCommand(CommandId::Customize);
+  auto& customize = *Window().findChild<CustomizeDialog*>();
+  QIcon ok;
+  QIcon cancel;
+  WhenAsked<QInputDialog>([&](QInputDialog& input) {
+    const auto* const buttons = input.findChild<QDialogButtonBox*>();
+    ok = buttons->button(QDialogButtonBox::Ok)->icon();
+    cancel = buttons->button(QDialogButtonBox::Cancel)->icon();
+    input.reject();
+  });
+  for (auto* const button : customize.findChildren<QPushButton*>()) {
+    if (button->text() == QStringLiteral("&New...")) button->click();
+  }
+  EXPECT_EQ(dialogs, 1);
+  const auto image = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
+  const QPalette palette = QApplication::palette();
+  EXPECT_EQ(image(ok), image(ThemedIcon("dialog-ok", palette)));
+  EXPECT_EQ(image(cancel), image(ThemedIcon("dialog-cancel", palette)));
+  EXPECT_EQ(customize.findChild<QComboBox*>()->count(), 1);  // given up, there is no new one
 }
 
 TEST(Contrasts, AreThoseOfTheLuminances)
