@@ -8,7 +8,7 @@
 
 namespace hullwright {
 
-CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const ViewPorts& ports)
+CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const Ports& ports)
     : design_(design), host_(host), ports_(ports)
 {
 }
