@@ -104,10 +104,8 @@ TreeMenuKind CObjectView::MenuOf(const TreeItem& item) const
   const TreeItem parent = tree_.Parent(item);
   if (parent == tree_.Root()) return TreeMenuKind::Side;
   if (item == tree_.Anchors()) return TreeMenuKind::Anchors;
-  // The parent of no item is asked for here, not that of the item, so that no polyline gets this
-  // menu.
-  if (tree_.Parent(TreeItem{}) == tree_.Root()) return TreeMenuKind::Polyline;
   if (parent && parent == tree_.Anchors()) return TreeMenuKind::Anchor;
+  // A polyline has the menu of a point: nothing offers its own.
   return TreeMenuKind::Point;
 }
 
