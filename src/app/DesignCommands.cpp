@@ -1,4 +1,3 @@
-
 #include "app/DesignCommandTable.h"
 #include "app/Dialogs.h"
 #include "app/ImportText.h"

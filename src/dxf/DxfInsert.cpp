@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "dxf/DxfReaders.h"
 #include "dxf/DxfShapes.h"
