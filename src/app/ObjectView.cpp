@@ -168,7 +168,7 @@ void CObjectView::ZoomPolyline()
   if (shape == nullptr || app_.viewPort == nullptr) return;
   Extents box = emptyZoomExtents;
   shape->GetExtents(box);
-  app_.viewPort->ZoomOrCenter(box);
+  app_.viewPort->ZoomOrCentre(box);
   app_.Repaint();
 }
 

@@ -62,7 +62,7 @@ public:
 private:
   void Open(DialogId templateId);
   void Click(IDialog& dialog, ControlId id, bool checked);
-  void Type(const DialogTemplate& rows, ControlId id, std::u16string_view text);
+  void Type(const DialogTemplate& form, ControlId id, std::u16string_view text);
 
   std::map<ControlId, std::u16string> texts_;
   std::map<ControlId, bool> checks_;

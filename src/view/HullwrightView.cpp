@@ -152,7 +152,7 @@ void CHullwrightView::ShowAllShapes()
   }
   Extents box;
   group->GetExtents(box);
-  viewPort->FitOrCenter(box);
+  viewPort->FitOrCentre(box);
   Repaint();
 }
 
