@@ -2,8 +2,8 @@
 #include "file/AnchorListReader.h"
 #include "headless/KeptMessages.h"
 
-// Any bytes are a list of anchors: reading them must end, and a list that reads leaves no anchor
-// out that has ended.
+// Any bytes are a list of anchors: reading them must end, a list that does not read must have a
+// reason, nothing may be shown, and what came in must be anchors.
 using namespace hullwright;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -50,7 +50,8 @@ private:
 
 void Fill(DesignState& design, Input& input)
 {
-  static constexpr std::array<ViewSide, 3> sides = {ViewSide::Top, ViewSide::Left, ViewSide::All};
+  static constexpr std::array<ViewSide, 4> sides = {ViewSide::Top, ViewSide::Left, ViewSide::All,
+                                                    ViewSide{3}};  // the last is no side
   const unsigned shapes = input.Byte() % 40;
   for (unsigned i = 0; i < shapes && !input.AtEnd(); ++i) {
     const unsigned kind = input.Byte();
@@ -58,7 +59,7 @@ void Fill(DesignState& design, Input& input)
     for (unsigned k = 0; k < kind >> 3U; ++k) {
       line->AddVertex(input.Coordinate(), input.Coordinate(), (kind & 4U) != 0 ? 1.0 : 0.0);
     }
-    GetShapes(design.shapeGroups, sides.at(kind & 1U))->shapes.push_back(std::move(line));
+    GetShapes(design.shapeGroups, sides.at(kind & 3U))->shapes.push_back(std::move(line));
   }
   const unsigned anchors = input.Byte() % 8;
   for (unsigned i = 0; i < anchors; ++i) {

@@ -1,4 +1,3 @@
-
 #include "app/DesignCommandTable.h"
 #include "app/Dialogs.h"
 #include "app/ImportText.h"
@@ -64,12 +63,12 @@ void CHullwrightApp::ScaleDesign()
 
 void CHullwrightApp::MoveDesign()
 {
-  CShapeVertex way;
-  CDialogMove dialog(*this, way);
+  CShapeVertex by;
+  CDialogMove dialog(*this, by);
   if (ports_.dialogs.Run(dialog) == DialogEnd::Cancel) return;
   CShapes* const group = FindViewGroup(shapeGroups, activeView);
   if (group == nullptr) return;
-  Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Translate(way.x, way.y, way.z); });
+  Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Translate(by.x, by.y, by.z); });
   NotifyModified();
 }
 
@@ -170,7 +169,7 @@ int CHullwrightApp::ImportDrawing(std::u16string_view path, ImportTally& tally)
     if (result != 0) return -1;
   }
   CShapes* group = FindViewGroup(shapeGroups, activeView);
-  if (group == nullptr) {
+  if (group == nullptr) {  // `GetShapes` makes none for the code 0
     group = shapeGroups.emplace_back(std::make_unique<CShapes>(activeView)).get();
   }
   group->TakeShapes(*layer.shapes);

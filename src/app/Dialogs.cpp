@@ -248,7 +248,7 @@ bool CDialogGrid::OnOk(IDialogControls& controls)
   return true;
 }
 
-std::vector<BoundNumber> CDialogMove::Numbers() { return Bind(moveFields, way_); }
+std::vector<BoundNumber> CDialogMove::Numbers() { return Bind(moveFields, displacement_); }
 
 bool CDialogOffsets::HasOffsets() const
 {

@@ -49,16 +49,19 @@ private:
   GridSettings grid_;
 };
 
-/// A way along x and y, in the x and y of a vertex.
+/// A displacement along x and y, in the x and y of a vertex.
 class CDialogMove : public CDialogNumbers {
 public:
-  CDialogMove(CHullwrightApp& app, CShapeVertex& way) : CDialogNumbers(app), way_(way) {}
+  CDialogMove(CHullwrightApp& app, CShapeVertex& displacement)
+      : CDialogNumbers(app), displacement_(displacement)
+  {
+  }
   DialogId Template() const override { return DialogId::Move; }
 
 private:
   std::vector<BoundNumber> Numbers() override;
 
-  CShapeVertex& way_;
+  CShapeVertex& displacement_;
 };
 
 /// The three offsets. OK sets the z of antenna and transducer to 0.0: there are no fields for them.

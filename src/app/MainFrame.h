@@ -29,7 +29,8 @@ public:
   void ShowProgress(int percent) override;
   void EndProgress() override;
 
-  /// Carries out a command of application or view; false for an id without a handler.
+  /// Carries out a command of the view, one of the looks, or one of the application; false for an
+  /// id without a handler.
   bool OnCommand(CommandId id);
 
   /// How a command looks at the moment; one without a handler is disabled.

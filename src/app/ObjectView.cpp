@@ -104,10 +104,8 @@ TreeMenuKind CObjectView::MenuOf(const TreeItem& item) const
   const TreeItem parent = tree_.Parent(item);
   if (parent == tree_.Root()) return TreeMenuKind::Side;
   if (item == tree_.Anchors()) return TreeMenuKind::Anchors;
-  // The parent of no item is asked for here, not that of the item, so that no polyline gets this
-  // menu.
-  if (tree_.Parent(TreeItem{}) == tree_.Root()) return TreeMenuKind::Polyline;
   if (parent && parent == tree_.Anchors()) return TreeMenuKind::Anchor;
+  // A polyline has the menu of a point: nothing offers its own.
   return TreeMenuKind::Point;
 }
 
@@ -170,7 +168,7 @@ void CObjectView::ZoomPolyline()
   if (shape == nullptr || app_.viewPort == nullptr) return;
   Extents box = emptyZoomExtents;
   shape->GetExtents(box);
-  app_.viewPort->ZoomOrCenter(box);
+  app_.viewPort->ZoomOrCentre(box);
   app_.Repaint();
 }
 

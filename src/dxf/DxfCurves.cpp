@@ -84,6 +84,7 @@ void AppendArc(CShapePolyline& line, const DxfPoint& centre, const Extrusion& to
   if (!clockwise && b - nearlyEqual < a) b += twoPi;
   if (clockwise && a < b + nearlyEqual) b -= twoPi;
   const double step = clockwise ? (a - b) / steps : (b - a) / steps;
+  // Clockwise the rounding of the steps decides whether one more vertex stands behind the end.
   for (double t = a; clockwise ? t >= b - step : t <= b;) {
     emit(t);
     const double next = clockwise ? t - step : t + step;
@@ -111,7 +112,7 @@ std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrus
   auto ellipse = std::make_unique<CShapePolyline>();
   const double c = std::cos(rotationDegrees * radiansPerDegree);
   const double s = std::sin(rotationDegrees * radiansPerDegree);
-  const double step = (start * radiansPerDegree - end * radiansPerDegree) / 60.0;
+  const double step = (start * radiansPerDegree - end * radiansPerDegree) / lastVertex;
   for (int i = 0; i <= lastVertex; ++i) {
     const double t = i * step + start;  // the start in degrees, among steps in radians
     const double major = majorLength * std::cos(t);

@@ -20,7 +20,7 @@ inline void AddWorldVertex(CShapePolyline& line, const DxfPoint& point, const Ex
 }
 
 /// Appends an arc of about 182 vertices, whatever its size. The last two nearly or exactly
-/// coincide.
+/// coincide, but where a clockwise arc goes one step past its end before it comes back to it.
 void AppendArc(CShapePolyline& line, const DxfPoint& centre, const Extrusion& toWorld,
                double radius, double startDegrees, double endDegrees, bool clockwise);
 

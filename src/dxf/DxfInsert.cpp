@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "dxf/DxfReaders.h"
 #include "dxf/DxfShapes.h"
@@ -17,8 +16,8 @@ constexpr std::u16string_view tooManyCopies =
     u"[DXF] The inserted blocks of this drawing take too much memory; the rest of their copies is "
     u"left out.";
 
-/// The way from an insertion in the drawing down to the block whose shapes are copied. Blocks
-/// insert one another to any depth, so the way is kept here and not on the stack.
+/// The path from an insertion in the drawing down to the block whose shapes are copied. Blocks
+/// insert one another to any depth, so the path is kept here and not on the stack.
 class CopyingWalk {
 public:
   CopyingWalk(const DxfInsertion& insertion, DxfContext& context, CShapes& target)
@@ -30,14 +29,14 @@ public:
   /// Copies everything that the insertion stands for, or as much as the budget allows.
   void Run()
   {
-    while (!way_.empty()) {
-      Level& level = way_.back();
+    while (!path_.empty()) {
+      Level& level = path_.back();
       const CFileDxfBlock& block = *level.insertion->block;
       if (level.inner < block.inserted.size() &&
           block.inserted[level.inner].before == level.shape) {
         Enter(block.inserted[level.inner++].insertion);
       } else if (level.shape == block.shapes.size()) {
-        way_.pop_back();
+        path_.pop_back();
       } else if (!Copy(*block.shapes[level.shape++])) {
         ++context_.tally.cutInserts;
         return;
@@ -46,28 +45,28 @@ public:
   }
 
 private:
-  /// A block on the way, and what of it comes next.
+  /// A block of the path, and what of it comes next.
   struct Level {
     const DxfInsertion* insertion;
     std::size_t shape = 0;
     std::size_t inner = 0;
   };
 
-  void Enter(const DxfInsertion& insertion) { way_.push_back({&insertion}); }
+  void Enter(const DxfInsertion& insertion) { path_.push_back({&insertion}); }
 
   /// Adds a copy; false when the budget does not allow for it. The one that exceeds the budget is
   /// reported in the log.
   bool Copy(const CShape& shape)
   {
     const bool reportedBefore = context_.copyBudget.IsUsedUp();
-    if (!context_.copyBudget.Take(shape, way_.size())) {
+    if (!context_.copyBudget.Take(shape, path_.size())) {
       if (!reportedBefore)
         LogRecord(context_.log, TraceLevel::Failure, generalLog, {tooManyCopies});
       return false;
     }
     try {
       auto copy = shape.Clone();
-      for (std::size_t i = way_.size(); i-- > 0;) Place(*copy, *way_[i].insertion);
+      for (std::size_t i = path_.size(); i-- > 0;) Place(*copy, *path_[i].insertion);
       target_.shapes.push_back(std::move(copy));
     } catch (const std::bad_alloc&) {
       // There is no memory for this copy; the next one may be smaller.
@@ -86,7 +85,7 @@ private:
 
   DxfContext& context_;
   CShapes& target_;
-  std::vector<Level> way_;
+  std::vector<Level> path_;
 };
 
 DxfInsertion InsertionOf(const DxfEntity& insert, const CFileDxfBlock& block)

@@ -32,7 +32,6 @@ public:
   ColourIndex ColourOf(std::string_view name) const;
 
   const Map& All() const { return layers_; }
-  bool LayerTableSeen() const { return layerTableSeen_; }
 
 private:
   const CFileDxfLayer* Find(std::string_view name) const;

@@ -91,7 +91,6 @@ std::string_view Trimmed(std::string_view line);
 /// Whether the line contains the word.
 bool Contains(std::string_view line, std::string_view word);
 
-// ---------------------------------------------------------------------------------------------------
 // Every pair of a drawing passes through these, so they are made part of each reader.
 
 /// Reads the line of a code. False for the code of a keyword, and for one that is cut short.

@@ -77,10 +77,10 @@ void ReadPolyline(DxfLines& lines, DxfContext& context, CShapes&)
     if (code == DxfCode::CurveType) polyline.SetCurveType(ParseInt32(value, 10));
   });
   polyline.SetExtrusion(ExtrusionAlong(entity.Normal(), context));
-  if (IsOnHiddenLayer(entity, context)) return;
+  if (CountIfHidden(entity, context)) return;
   Mark(*shape, u"FEATURE", u"POLYLINE");
   Identify(*shape, entity);
-  Colour(*shape, entity, context);
+  ApplyColour(*shape, entity, context);
   shape->style->lineWidth = width;
   polyline.Wait(std::move(shape));
 }
@@ -121,7 +121,7 @@ void ReadLwPolyline(DxfLines& lines, DxfContext& context, CShapes& target)
     if (code == DxfCode::Bulge) vertices.TakeBulge(entity.Number(code));
   };
   ReadGroups(lines, entity, gather, DxfLines::shortLine);
-  if (IsOnHiddenLayer(entity, context)) return;
+  if (CountIfHidden(entity, context)) return;
   auto shape = std::make_unique<CShapePolyline>();
   vertices.Finish(entity.HasFlag(closed));
   if (!FlattensWithin(context.limit.Left(), context.vertices)) {

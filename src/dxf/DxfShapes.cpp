@@ -8,14 +8,14 @@
 
 namespace hullwright {
 
-bool IsLeftOut(const DxfEntity& entity, DxfContext& context)
+bool CountIfLeftOut(const DxfEntity& entity, DxfContext& context)
 {
-  if (!entity.IsInPaperSpace()) return IsOnHiddenLayer(entity, context);
+  if (!entity.IsInPaperSpace()) return CountIfHidden(entity, context);
   ++context.tally.inPaperSpace;
   return true;
 }
 
-bool IsOnHiddenLayer(const DxfEntity& entity, DxfContext& context)
+bool CountIfHidden(const DxfEntity& entity, DxfContext& context)
 {
   if (!context.layers.IsLayerHidden(entity.LayerName())) return false;
   ++context.tally.onHiddenLayers;
@@ -25,7 +25,7 @@ bool IsOnHiddenLayer(const DxfEntity& entity, DxfContext& context)
 bool ReadEntity(DxfLines& lines, DxfContext& context, DxfEntity& entity)
 {
   ReadGroups(lines, entity);
-  return !IsLeftOut(entity, context);
+  return !CountIfLeftOut(entity, context);
 }
 
 Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context)
@@ -70,7 +70,7 @@ void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view laye
   shape.style->fillColour = shape.style->lineColour;
 }
 
-void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context)
+void ApplyColour(CShape& shape, const DxfEntity& entity, DxfContext& context)
 {
   ResolveColour(shape, context.layers, entity.LayerName(), entity.Colour());
   context.layers.AddImplicitLayer(entity.LayerName(), entity.Colour());
@@ -80,7 +80,7 @@ void AddShape(std::unique_ptr<CShape> shape, const DxfEntity& entity, DxfContext
               CShapes& target)
 {
   Identify(*shape, entity);
-  Colour(*shape, entity, context);
+  ApplyColour(*shape, entity, context);
   AppendShape(std::move(shape), context, target);
 }
 

@@ -13,14 +13,19 @@
 /// What all readers of entities do between the groups and the shape.
 namespace hullwright {
 
-/// Whether an entity is in paper space or on a hidden layer, which is counted.
-bool IsLeftOut(const DxfEntity& entity, DxfContext& context);
-bool IsOnHiddenLayer(const DxfEntity& entity, DxfContext& context);
+/// Counts an entity that is in paper space or on a hidden layer; true for such a one, which is left
+/// out.
+bool CountIfLeftOut(const DxfEntity& entity, DxfContext& context);
+
+/// Counts an entity that is on a hidden layer; true for such a one. Polylines ask this alone: they
+/// come in from paper space, too.
+bool CountIfHidden(const DxfEntity& entity, DxfContext& context);
 
 /// Reads the groups of an entity; false for one that is left out.
 bool ReadEntity(DxfLines& lines, DxfContext& context, DxfEntity& entity);
 
-/// The way into the world along an extrusion direction.
+/// Takes points of an entity with this normal to world coordinates; the options may have normals
+/// ignored.
 Extrusion ExtrusionAlong(const DxfPoint& normal, const DxfContext& context);
 
 /// Appends an attribute.
@@ -38,7 +43,7 @@ void ResolveColour(CShape& shape, const DxfLayers& layers, std::string_view laye
                    ColourIndex colour);
 
 /// Gives a shape the colour of its entity, and the entity a layer.
-void Colour(CShape& shape, const DxfEntity& entity, DxfContext& context);
+void ApplyColour(CShape& shape, const DxfEntity& entity, DxfContext& context);
 
 /// Appends a finished shape to `target`.
 void AppendShape(std::unique_ptr<CShape> shape, DxfContext& context, CShapes& target);

@@ -58,39 +58,38 @@ void AddLabel(std::unique_ptr<CShapeText> label, const DxfEntity& entity, DxfCon
 {
   PlaceLabel(*label, entity, ExtrusionAlong(entity.Normal(), context));
   Identify(*label, entity);
-  Colour(*label, entity, context);
+  ApplyColour(*label, entity, context);
   CleanTextCodes(*label, context.layers);
   AppendShape(std::move(label), context, target);
+}
+
+/// Reads an entity and adds its label, unless it is left out or has one of the flags that hide it.
+void ReadLabelled(DxfLines& lines, DxfContext& context, CShapes& target, bool hasChunks,
+                  std::int32_t hidingFlags)
+{
+  DxfEntity entity;
+  auto label = std::make_unique<CShapeText>();
+  ReadLabel(lines, entity, hasChunks, *label);
+  if (CountIfLeftOut(entity, context) || entity.HasFlag(hidingFlags)) return;
+  AddLabel(std::move(label), entity, context, target);
 }
 
 }  // namespace
 
 void ReadText(DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  DxfEntity entity;
-  auto label = std::make_unique<CShapeText>();
-  ReadLabel(lines, entity, false, *label);
-  if (IsLeftOut(entity, context)) return;
-  AddLabel(std::move(label), entity, context, target);
+  ReadLabelled(lines, context, target, false, 0);
 }
 
 void ReadMText(DxfLines& lines, DxfContext& context, CShapes& target)
 {
-  DxfEntity entity;
-  auto label = std::make_unique<CShapeText>();
-  ReadLabel(lines, entity, true, *label);
-  if (IsLeftOut(entity, context)) return;
-  AddLabel(std::move(label), entity, context, target);
+  ReadLabelled(lines, context, target, true, 0);
 }
 
 void ReadAttribute(DxfLines& lines, DxfContext& context, CShapes& target)
 {
   constexpr std::int32_t invisible = 1;
-  DxfEntity entity;
-  auto label = std::make_unique<CShapeText>();
-  ReadLabel(lines, entity, false, *label);
-  if (IsLeftOut(entity, context) || entity.HasFlag(invisible)) return;
-  AddLabel(std::move(label), entity, context, target);
+  ReadLabelled(lines, context, target, false, invisible);
 }
 
 }  // namespace hullwright

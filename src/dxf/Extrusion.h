@@ -4,9 +4,9 @@
 
 namespace hullwright {
 
-/// The arbitrary axis algorithm of the DXF reference: takes a point from the coordinate system that
-/// belongs to an extrusion direction into the world's. The direction is taken as it is given, not
-/// normalised, and the matrix is rounded to single precision.
+/// The arbitrary axis algorithm of the DXF reference: takes a point from the object coordinate
+/// system (OCS) of an extrusion direction to world coordinates (WCS). The direction is taken as it
+/// is given, not normalised, and the matrix is rounded to single precision.
 class Extrusion {
 public:
   /// Leaves every point where it is, as the direction straight up does.

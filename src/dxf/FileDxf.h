@@ -18,7 +18,7 @@ namespace hullwright {
 /// object lives for one import.
 class CFileDxf : public CFileBase {
 public:
-  /// `frame` is notified of the progress and may be null, which `ProcessFile` refuses.
+  /// `frame` is notified of the progress and may be null, for which an import fails.
   CFileDxf(IMainWindow* frame, const ITrace& log, const DxfOptions& options = {});
 
   /// Reads a drawing into a layer. 0 on success; -1, with a record in the log, for a file that is

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <new>
 #include <utility>
 
 #include "base/Numbers.h"

@@ -14,8 +14,8 @@ DialogEnd ScriptedDialogs::Run(IDialog& dialog)
   startSelected = selected;
   for (const auto& [id, text] : script.fields) SetText(id, text);
   for (const auto& [id, checked] : script.clicks) Click(dialog, id, checked);
-  if (const DialogTemplate* const rows = FindDialogTemplate(dialog.Template())) {
-    for (const auto& [id, text] : script.typed) Type(*rows, id, text);
+  if (const DialogTemplate* const form = FindDialogTemplate(dialog.Template())) {
+    for (const auto& [id, text] : script.typed) Type(*form, id, text);
   }
   if (script.select) selected = script.select;
   if (script.selectNothing) selected.reset();
@@ -34,9 +34,9 @@ void ScriptedDialogs::Open(DialogId templateId)
   list.clear();
   focus.reset();
   selected.reset();
-  const DialogTemplate* const rows = FindDialogTemplate(templateId);
-  if (rows == nullptr) return;
-  for (const DialogRow& row : rows->rows) {
+  const DialogTemplate* const form = FindDialogTemplate(templateId);
+  if (form == nullptr) return;
+  for (const DialogRow& row : form->rows) {
     switch (row.kind) {
       case DialogRowKind::Group: radioGroups_.emplace_back(); break;
       case DialogRowKind::Field:
@@ -57,13 +57,13 @@ void ScriptedDialogs::Click(IDialog& dialog, ControlId id, bool checked)
   dialog.OnClick(*this, id);
 }
 
-void ScriptedDialogs::Type(const DialogTemplate& rows, ControlId id, std::u16string_view text)
+void ScriptedDialogs::Type(const DialogTemplate& form, ControlId id, std::u16string_view text)
 {
   // Nobody can type into a label or into a field that is greyed.
-  if (FindField(rows, id) == nullptr) return;
+  if (FindField(form, id) == nullptr) return;
   if (const auto found = enabled.find(id); found != enabled.end() && !found->second) return;
   SetText(id, AsTyped(text));
-  SetChecked(ChosenByTyping(rows, id), true);
+  SetChecked(ChosenByTyping(form, id), true);
 }
 
 std::u16string ScriptedDialogs::GetText(ControlId id) const

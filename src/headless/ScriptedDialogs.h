@@ -14,13 +14,16 @@ namespace hullwright {
 /// chosen, then the end.
 struct DialogScript {
   bool ok = false;
-  std::map<ControlId, std::u16string> fields =
-      {};  ///< stand in their fields without further effect
+
+  /// Texts that stand in their fields without further effect.
+  std::map<ControlId, std::u16string> fields = {};
   std::vector<std::pair<ControlId, bool>> clicks = {};
-  std::map<ControlId, std::u16string> typed =
-      {};  ///< typed over, with all that a person's typing does
-  std::optional<std::size_t> select =
-      std::nullopt;  ///< list entry; what was selected at opening stays
+
+  /// Texts typed over what is there, with all that a person's typing does.
+  std::map<ControlId, std::u16string> typed = {};
+
+  /// The list entry that is chosen; without one, what was selected at the start stays.
+  std::optional<std::size_t> select = std::nullopt;
   bool selectNothing = false;
 };
 
@@ -59,7 +62,7 @@ public:
 private:
   void Open(DialogId templateId);
   void Click(IDialog& dialog, ControlId id, bool checked);
-  void Type(const DialogTemplate& rows, ControlId id, std::u16string_view text);
+  void Type(const DialogTemplate& form, ControlId id, std::u16string_view text);
 
   std::map<ControlId, std::u16string> texts_;
   std::map<ControlId, bool> checks_;

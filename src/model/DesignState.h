@@ -15,6 +15,7 @@ class CViewPortDesigner;
 
 /// The design and what is in view of it: the state that files, scene, view and commands share. The
 /// application object derives from it and lives for the run; new and open replace parts of it.
+/// Members of its parts that are marked as carried are kept with their object and used by nothing.
 struct DesignState {
   OwnedArray<CShapes> shapeGroups;  ///< in creation order, which is also the file's order
 

@@ -9,7 +9,7 @@
 
 namespace hullwright {
 
-/// Holder that an import fills before its shapes are copied into the design; never saved.
+/// Holder that an import fills before its shapes move into the design; never saved.
 class CLayer {
 public:
   /// Brings `extents` up to date. A box whose four bounds are all non-zero counts as computed; one

@@ -2,6 +2,13 @@
 
 namespace hullwright {
 
+void COutlineShape::GetExtents(Extents& box) const
+{
+  Extents widened = box;  // a copy that no vertex can be part of stays in registers
+  ForEachEntry(vertices, [&](const CShapeVertex& v) { widened.Widen(v); });
+  box = widened;
+}
+
 void COutlineShape::GetVertices(std::vector<CShapeVertex*>& list)
 {
   for (const auto& vertex : vertices) list.push_back(vertex.get());

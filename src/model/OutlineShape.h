@@ -8,6 +8,7 @@ namespace hullwright {
 class COutlineShape : public CShape {
 public:
   void Accept(IShapeVisitor& visitor) const override { visitor.Visit(*this); }
+  void GetExtents(Extents& box) const override;
   void GetVertices(std::vector<CShapeVertex*>& list) override;
   void Translate(double dx, double dy, double dz) override;
   void Scale(double sx, double sy, double sz) override;

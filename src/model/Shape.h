@@ -57,12 +57,16 @@ public:
   /// Appends pointers to the shape's vertices.
   virtual void GetVertices(std::vector<CShapeVertex*>& list);
 
+  /// Moves by a displacement in the design's unit.
   virtual void Translate(double dx, double dy, double dz);
+
+  /// Multiplies each coordinate by its factor: scales about the world origin.
   virtual void Scale(double sx, double sy, double sz);
 
   /// Turns about the world origin; positive is counter-clockwise.
   virtual void Rotate(double angleDegrees);
 
+  /// Whether the shape counts as in view: some kinds ask for a vertex there, the others always do.
   virtual bool IsVisible(const CViewPort& viewPort) const;
 
   /// Calls the visitor's function for this kind of shape.

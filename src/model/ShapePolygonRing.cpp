@@ -17,13 +17,6 @@ std::unique_ptr<CShapePolygonRing> CShapePolygonRing::CopyRing() const
   return copy;
 }
 
-void CShapePolygonRing::GetExtents(Extents& box) const
-{
-  Extents widened = box;  // a copy that no vertex can be part of stays in registers
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { widened.Widen(v); });
-  box = widened;
-}
-
 bool CShapePolygonRing::ContainsPoint(double x, double y) const
 {
   constexpr std::size_t fewest = 3;

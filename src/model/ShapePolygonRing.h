@@ -14,7 +14,6 @@ public:
   std::unique_ptr<CShapePolygonRing> CopyRing() const;
 
   std::unique_ptr<CShape> Clone() const override { return CopyRing(); }
-  void GetExtents(Extents& box) const override;
 
   /// 0.0 inside and for a ring without vertices, else the distance to the nearest edge that has
   /// one; 1e24 where none has.

@@ -26,13 +26,6 @@ std::unique_ptr<CShape> CShapePolyline::Clone() const
   return copy;
 }
 
-void CShapePolyline::GetExtents(Extents& box) const
-{
-  Extents widened = box;  // a copy that no vertex can be part of stays in registers
-  ForEachEntry(vertices, [&](const CShapeVertex& v) { widened.Widen(v); });
-  box = widened;
-}
-
 void CShapePolyline::RemoveVertex(const CShapeVertex* vertex)
 {
   const auto found = std::ranges::find(vertices, vertex, &std::unique_ptr<CShapeVertex>::get);
@@ -52,7 +45,7 @@ void CShapePolyline::AddArc(double cx, double cy, double radius, double startDeg
 {
   constexpr int arcVertices = 61;
   vertices.reserve(vertices.size() + arcVertices);
-  const double step = sweepDegrees / 60.0;
+  const double step = sweepDegrees / (arcVertices - 1);
   double degrees = startDegrees;
   for (int i = 0; i < arcVertices; ++i) {
     const double a = degrees * radiansPerDegree;

@@ -22,7 +22,6 @@ public:
   std::unique_ptr<CShape> Clone() const override;
   void Draw(const CViewPort* viewPort) override;
   bool HitTest(const CViewPort* viewPort, double x, double y) const override;
-  void GetExtents(Extents& box) const override;
   void RemoveVertex(const CShapeVertex* vertex) override;
   bool IsVisible(const CViewPort& viewPort) const override;
 

@@ -33,8 +33,11 @@ public:
 
   std::u16string text;                ///< drawing it trims it of white space, in place
   std::array<Corner, 4> screenBox{};  ///< outline of the text at the last repaint
-  double angle = 0.0;                 ///< degrees, clockwise on the screen; turning leaves it alone
-  double height = 0.0;                ///< in world units; scaling leaves it alone
+
+  /// Degrees, clockwise on the screen. Turning the shape leaves it alone; drawing may change its
+  /// last bits.
+  double angle = 0.0;
+  double height = 0.0;  ///< in world units; scaling leaves it alone
 };
 
 }  // namespace hullwright

@@ -61,6 +61,16 @@ bool CShapeVertex::operator==(const CShapeVertex& v) const
   return x == v.x && y == v.y && z == v.z;
 }
 
+bool CShapeVertex::ConvertUnits(UnitCode from, UnitCode to)
+{
+  if (x == 0.0 && y == 0.0 && z == 0.0) return false;
+  if (from == to) return false;
+  for (double* const coordinate : {&x, &y, &z}) {
+    *coordinate = FromMetres(to, ToMetres(from, *coordinate));
+  }
+  return true;
+}
+
 bool DistanceToSegment(const CShapeVertex& a, const CShapeVertex& b, const CShapeVertex& p,
                        double& distance)
 {

@@ -43,7 +43,7 @@ public:
   /// origin and when the units are the same.
   bool ConvertUnits(UnitCode from, UnitCode to);
 
-  // Carried state: copied where an operation says so, otherwise written as 0 and read by nothing.
+  // Carried: kept with the vertex and used by nothing; copied where an operation says so, else 0.
   std::uint8_t flag = 0;
   std::int32_t tagA = 0;
   std::int32_t tagB = 0;

@@ -23,7 +23,7 @@ Four CutOff(Four cover, int lastLane)
 {
   constexpr float steep = 1e6F;
   const Four room = Four(static_cast<float>(lastLane) + 0.5F) - Four::Steps();
-  return cover.Least((room * Four(steep)).Most(Four(0.0F)));
+  return cover.Min((room * Four(steep)).Max(Four(0.0F)));
 }
 
 /// Blends into the last pixels of a picture, which are fewer than a block.

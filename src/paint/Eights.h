@@ -8,10 +8,9 @@
 #include <emmintrin.h>
 #endif
 
-/// Whole numbers of eight pixels, four in each of two rows, which stop at the ends of 16 bits. The
-/// plain kind serves every machine; the other one is the same in instructions of each 64-bit PC.
 namespace hullwright {
 
+/// Whole numbers of eight pixels, four in each of two rows, which stop at the ends of 16 bits.
 class PlainEight {
 public:
   explicit PlainEight(int all) { lanes_.fill(Cut(all)); }
@@ -40,11 +39,11 @@ public:
   {
     return With(b, [](int x, int y) { return x - y; });
   }
-  PlainEight Least(const PlainEight& b) const
+  PlainEight Min(const PlainEight& b) const
   {
     return With(b, [](int x, int y) { return std::min(x, y); });
   }
-  PlainEight Most(const PlainEight& b) const
+  PlainEight Max(const PlainEight& b) const
   {
     return With(b, [](int x, int y) { return std::max(x, y); });
   }
@@ -92,6 +91,7 @@ private:
 };
 
 #ifdef __SSE2__
+/// The same with the instructions that each 64-bit PC has.
 class FastEight {
 public:
   explicit FastEight(int all)
@@ -113,8 +113,8 @@ public:
   }
   FastEight operator+(FastEight b) const { return FastEight(_mm_adds_epi16(lanes_, b.lanes_)); }
   FastEight operator-(FastEight b) const { return FastEight(_mm_subs_epi16(lanes_, b.lanes_)); }
-  FastEight Least(FastEight b) const { return FastEight(_mm_min_epi16(lanes_, b.lanes_)); }
-  FastEight Most(FastEight b) const { return FastEight(_mm_max_epi16(lanes_, b.lanes_)); }
+  FastEight Min(FastEight b) const { return FastEight(_mm_min_epi16(lanes_, b.lanes_)); }
+  FastEight Max(FastEight b) const { return FastEight(_mm_max_epi16(lanes_, b.lanes_)); }
   FastEight Part(int part) const
   {
     return FastEight(_mm_mulhi_epu16(lanes_, _mm_set1_epi16(static_cast<std::int16_t>(part))));

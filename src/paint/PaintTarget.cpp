@@ -140,7 +140,7 @@ QPen PaintTarget::PenOf(const Stroke& stroke) const
   return {colour, std::max(width, thinnest), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
-void PaintTarget::StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins)
+void PaintTarget::PaintRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins)
 {
   if (!painter_.isActive()) return;
   for (const auto& run : ClipPolyline(points, ClipArea(static_cast<float>(pen.widthF())))) {
@@ -169,19 +169,19 @@ void PaintTarget::FillJoins(const std::vector<ScreenPoint>& points, const QPen& 
   }
 }
 
-void PaintTarget::StrokeFigure(std::span<const PixelPoint> points, const QPen& pen, FigureKind kind)
+void PaintTarget::PaintFigure(std::span<const PixelPoint> points, const QPen& pen, FigureKind kind)
 {
   // Begun with a segment of length zero, so that a start from which none leads on in the picture is
   // still an order to the painter.
   figure_.assign(1, points.front());
   figure_.insert(figure_.end(), points.begin(), points.end());
-  StrokeRuns(figure_, pen, kind == FigureKind::Line);
+  PaintRuns(figure_, pen, kind == FigureKind::Line);
   if (kind != FigureKind::Outline) return;
   const std::array<PixelPoint, 2> closing = {points.back(), points.front()};
-  StrokeRuns(closing, pen, false);
+  PaintRuns(closing, pen, false);
 }
 
-void PaintTarget::StrokeFigures(const Figures& figures, const Stroke& stroke)
+void PaintTarget::StrokeInMemory(const Figures& figures, const Stroke& stroke)
 {
   const Colour& colour = stroke.colour;
   const float alpha = colour.alpha > 0.0F ? std::min(colour.alpha, 1.0F) : 0.0F;
@@ -194,10 +194,10 @@ void PaintTarget::DrawLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
   if (!IsStroke(stroke.width)) return;
   if (stroker_.IsActive()) {
     const std::array<std::size_t, 1> count = {ends.size()};
-    StrokeFigures({FigureKind::Line, ends, count}, stroke);
+    StrokeInMemory({FigureKind::Line, ends, count}, stroke);
     return;
   }
-  StrokeRuns(ends, PenOf(stroke), false);
+  PaintRuns(ends, PenOf(stroke), false);
 }
 
 void PaintTarget::DrawRectangle(const PixelRect& rect, const Stroke& stroke)
@@ -228,13 +228,13 @@ void PaintTarget::DrawFigures(const Figures& figures, const Stroke& stroke)
 {
   if (!IsStroke(stroke.width)) return;
   if (stroker_.IsActive()) {
-    StrokeFigures(figures, stroke);
+    StrokeInMemory(figures, stroke);
     return;
   }
   const QPen pen = PenOf(stroke);
   std::size_t begin = 0;
   for (const std::size_t end : figures.pointEnds) {
-    StrokeFigure(figures.points.subspan(begin, end - begin), pen, figures.kind);
+    PaintFigure(figures.points.subspan(begin, end - begin), pen, figures.kind);
     begin = end;
   }
 }

@@ -35,10 +35,10 @@ public:
   void DrawText(const TextBlock& block) override;
 
 private:
-  void StrokeFigures(const Figures& figures, const Stroke& stroke);
+  void StrokeInMemory(const Figures& figures, const Stroke& stroke);
   QPen PenOf(const Stroke& stroke) const;
-  void StrokeRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins);
-  void StrokeFigure(std::span<const PixelPoint> points, const QPen& pen, FigureKind kind);
+  void PaintRuns(std::span<const PixelPoint> points, const QPen& pen, bool roundJoins);
+  void PaintFigure(std::span<const PixelPoint> points, const QPen& pen, FigureKind kind);
   void FillJoins(const std::vector<ScreenPoint>& points, const QPen& pen);
   void PaintText(const TextBlock& block);
   void SetTurn(const Turn& turn);

@@ -8,12 +8,13 @@
 #include <emmintrin.h>
 #endif
 
-/// Blends an opaque colour (0xffRRGGBB) into four neighbouring pixels. What of each is covered,
-/// from 0 to 255, stands in four bytes; 0 leaves a pixel as it is, 255 makes it the colour.
 namespace hullwright {
 
+/// What of each of four neighbouring pixels is covered, from 0 to 255.
 using Covers = std::array<std::uint8_t, 4>;
 
+/// Blends an opaque colour (0xffRRGGBB) into four neighbouring pixels. A cover of 0 leaves a pixel
+/// as it is, 255 makes it the colour.
 class PlainBlend {
 public:
   explicit PlainBlend(std::uint32_t colour) : colour_(colour) {}

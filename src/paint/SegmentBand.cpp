@@ -44,15 +44,15 @@ Four SegmentBand::CoverFlat(const Distances& distances) const
 {
   const Four before = none_ - distances.along - Four(flatFrom_ ? endless : 0.0F);
   const Four behind = distances.along - length_ - Four(flatTo_ ? endless : 0.0F);
-  const Four cover = CoverWithin(distances.across, before.Most(behind).Most(none_));
+  const Four cover = CoverWithin(distances.across, before.Max(behind).Max(none_));
   // The part of a pixel's breadth that lies between the flat ends.
   const Four half(0.5F * pixel_);
   const Four end = flatTo_ ? length_ : Four(endless);
   const Four begin(flatFrom_ ? 0.0F : -endless);
-  const Four inside = (distances.along + half).Least(end) - (distances.along - half).Most(begin);
+  const Four inside = (distances.along + half).Min(end) - (distances.along - half).Max(begin);
   // A shade more, so that rounding takes nothing from a pixel that is inside whole.
   const Four part = inside * Four(1.0001F / pixel_);
-  return cover * part.Most(none_).Least(Four(1.0F));
+  return cover * part.Max(none_).Min(Four(1.0F));
 }
 
 }  // namespace hullwright

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "paint/Lanes.h"
+#include "paint/Fours.h"
 #include "paint/SegmentRuns.h"
 
 namespace hullwright {
@@ -40,7 +40,7 @@ public:
   /// For any pixels, where both ends are round.
   Four CoverRound(const Distances& distances) const
   {
-    const Four beyond = (none_ - distances.along).Most(distances.along - length_).Most(none_);
+    const Four beyond = (none_ - distances.along).Max(distances.along - length_).Max(none_);
     return CoverWithin(distances.across, beyond);
   }
 
@@ -52,13 +52,13 @@ private:
 
   Four CoverAt(Four distance) const
   {
-    const Four outer = (outerLimit_ - distance).Most(none_).Least(half_);
-    const Four inner = (innerLimit_ - distance).Most(none_).Least(half_);
-    return (outer + inner).Least(most_);
+    const Four outer = (outerLimit_ - distance).Max(none_).Min(half_);
+    const Four inner = (innerLimit_ - distance).Max(none_).Min(half_);
+    return (outer + inner).Min(most_);
   }
   Four CoverWithin(Four across, Four beyond) const
   {
-    return CoverAt((across * across + beyond * beyond).Root());
+    return CoverAt((across * across + beyond * beyond).Sqrt());
   }
 
   SegmentRuns runs_;

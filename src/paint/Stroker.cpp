@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "paint/Lanes.h"
+#include "paint/Fours.h"
 #include "render/ClipPolyline.h"
 
 namespace hullwright {
@@ -17,7 +17,9 @@ constexpr float nearestPoints = 0.5F;
 /// What is paler than this changes no pixel.
 constexpr float faintest = 0.5F / 255.0F;
 
-/// Beyond this many client pixels single precision is not good enough for the edge of a line.
+/// Beyond this many client pixels to the left of the picture's corner or above it, and twice as
+/// many to the right or below, where the picture lies, single precision is not good enough for the
+/// edge of a line.
 constexpr float farthestPoint = 8000.0F;
 
 /// The first two of some points.
@@ -40,8 +42,8 @@ struct PixelBounds {
     Four zero = least * none;
     for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
       const Four two = Pair(points.data() + i);
-      least = least.Least(two);
-      most = most.Most(two);
+      least = least.Min(two);
+      most = most.Max(two);
       zero = zero + two * none;
     }
     const std::array<float, 4> low = least.Numbers();
@@ -50,6 +52,7 @@ struct PixelBounds {
     top = std::min(low[1], low[3]);
     right = std::max(high[0], high[2]);
     bottom = std::max(high[1], high[3]);
+    // A product with zero is zero but of what is infinite or no number; then it is no number.
     const std::array<float, 4> sums = zero.Numbers();
     isWild = !(sums[0] + sums[1] + sums[2] + sums[3] == 0.0F);
   }

@@ -32,6 +32,7 @@ public:
   /// Whether there is a picture to stroke into.
   bool IsActive() const { return picture_.pixels != nullptr; }
 
+  /// Strokes figures in client pixels into the picture, each blended by itself.
   void Draw(const Figures& figures, const Pen& pen);
 
 private:

@@ -23,7 +23,7 @@ ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, float fu
   pixel_ = static_cast<int>(pixel);
   if (flatFrom_ || flatTo_) {
     perPixel_ =
-        static_cast<int>(static_cast<float>(part) * product / static_cast<float>(pixel_)) + 1;
+        static_cast<int>(static_cast<float>(one) * product / static_cast<float>(pixel_)) + 1;
   }
   perPixelX_ = way.x * pixel;
   perPixelY_ = way.y * pixel;

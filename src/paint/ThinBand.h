@@ -54,11 +54,11 @@ public:
     const Eight along = Eight(Whole(upperAlong), Whole(lowerAlong)) + stepAlong_;
     const Eight left = Eight(Whole(length_ - upperAlong), Whole(length_ - lowerAlong)) - stepAlong_;
     const Eight none(0);
-    Eight inside = along.Least(left);
+    Eight inside = along.Min(left);
     if constexpr (isFlat) {
-      inside = (flatFrom_ ? far_ : along).Least(flatTo_ ? far_ : left);
+      inside = (flatFrom_ ? far_ : along).Min(flatTo_ ? far_ : left);
     }
-    const Eight cover = CoverAt(Hypotenuse(across.Most(none - across), (none - inside).Most(none)));
+    const Eight cover = CoverAt(Hypotenuse(across.Max(none - across), (none - inside).Max(none)));
     if constexpr (!isFlat) return cover;
     return CutOff(cover, flatFrom_ ? along : far_, flatTo_ ? left : far_);
   }
@@ -66,38 +66,37 @@ public:
 private:
   ThinBand(const StrokeSegment& segment, const SegmentWay& way, float full);
 
-  static constexpr unsigned fraction = 16;
-  static constexpr int part = 65536;
+  static constexpr unsigned fractionBits = 16;
+  static constexpr int one = 1 << fractionBits;
 
   static std::int64_t Fixed(float number)
   {
-    constexpr float scale = 65536.0F;
-    return static_cast<std::int64_t>(number * scale);
+    return static_cast<std::int64_t>(number * static_cast<float>(one));
   }
   static int Whole(std::int64_t fixed)
   {
     constexpr std::int64_t most = std::int64_t{1} << 46U;
-    return static_cast<int>(std::clamp(fixed, -most, most) >> fraction);
+    return static_cast<int>(std::clamp(fixed, -most, most) >> fractionBits);
   }
 
   /// Length of the longest side of a triangle, up to 2 % less: the largest of three planes.
   static Eight Hypotenuse(Eight a, Eight b)
   {
-    constexpr int cosine = 60547;  // of an eighth of half a turn, as a part
+    constexpr int cosine = 60547;  // of an eighth of half a turn, in parts of `one`
     constexpr int sine = 25080;
     constexpr int diagonal = 46341;
-    const Eight longer = a.Most(b);
-    const Eight shorter = a.Least(b);
+    const Eight longer = a.Max(b);
+    const Eight shorter = a.Min(b);
     const Eight between = longer.Part(cosine) + shorter.Part(sine);
-    return longer.Most(between).Most(longer.Part(diagonal) + shorter.Part(diagonal));
+    return longer.Max(between).Max(longer.Part(diagonal) + shorter.Part(diagonal));
   }
 
   Eight CoverAt(Eight distance) const
   {
     const Eight none(0);
-    const Eight outer = (outerLimit_ - distance).Most(none).Least(half_);
-    const Eight inner = (innerLimit_ - distance).Most(none).Least(half_);
-    return (outer + inner).Least(most_);
+    const Eight outer = (outerLimit_ - distance).Max(none).Min(half_);
+    const Eight inner = (innerLimit_ - distance).Max(none).Min(half_);
+    return (outer + inner).Min(most_);
   }
 
   /// Takes away what of a pixel's breadth lies beyond flat ends.
@@ -105,16 +104,16 @@ private:
   {
     const Eight breadth(pixel_);
     const Eight halfBreadth(pixel_ / 2);
-    const Eight before = (along + halfBreadth).Least(breadth);
-    const Eight behind = (left + halfBreadth).Least(breadth);
-    const Eight inside = (before + behind - breadth).Most(Eight(0));
-    return cover.Product(inside).Part(perPixel_).Least(cover);
+    const Eight before = (along + halfBreadth).Min(breadth);
+    const Eight behind = (left + halfBreadth).Min(breadth);
+    const Eight inside = (before + behind - breadth).Max(Eight(0));
+    return cover.Product(inside).Part(perPixel_).Min(cover);
   }
 
   SegmentRuns runs_;
   PixelPosition from_;
   int pixel_;         ///< a pixel as a distance
-  int perPixel_ = 0;  ///< a pixel's distance is the whole, as a part of 512 times it
+  int perPixel_ = 0;  ///< a pixel's distance is the whole, in parts of `one` of 512 times it
   float perPixelX_;   ///< change of the distance along the line from one pixel to the next
   float perPixelY_;
   std::int64_t alongX_;  ///< the same in small parts

@@ -56,7 +56,7 @@ void DrawGridPoints(const CViewPort& viewPort, const GridSettings& grid, IDrawin
   });
 }
 
-/// One of the three device symbols.
+/// One of the three offset symbols.
 struct OffsetSymbol {
   const CShapeVertex* vertex;
   const CShapeVertex* required;  ///< nothing is drawn when this one is null
@@ -82,7 +82,7 @@ void DrawOffsetSymbol(const CViewPort& viewPort, const OffsetSymbol& symbol)
   target.DrawText({.text = symbol.label, .style = style, .rect = above, .colour = symbol.colour});
 }
 
-void DrawDevices(const DesignState& design, const CViewPort& viewPort)
+void DrawOffsetsAndAnchors(const DesignState& design, const CViewPort& viewPort)
 {
   const CShapeVertex* const gps = design.offsetGps.get();
   const CShapeVertex* const transducer = design.offsetTransducer.get();
@@ -111,7 +111,7 @@ void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyl
   if (newShape != nullptr) newShape->Draw(viewPort);
   DrawGrid(*viewPort, grid);
   if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
-    DrawDevices(design, *viewPort);
+    DrawOffsetsAndAnchors(design, *viewPort);
   }
   if (canvas.Target() != nullptr) canvas.EndFrame(canvas.Target()->EndFrame());
 }

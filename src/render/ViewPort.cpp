@@ -166,11 +166,11 @@ void CViewPort::ZoomToExtents(const Extents& box)
   WidenBySixth();
 }
 
-void CViewPort::FitOrCenter(const Extents& box) { FrameOrCenter(&CViewPort::FitExtents, box); }
+void CViewPort::FitOrCentre(const Extents& box) { FrameOrCentre(&CViewPort::FitExtents, box); }
 
-void CViewPort::ZoomOrCenter(const Extents& box) { FrameOrCenter(&CViewPort::ZoomToExtents, box); }
+void CViewPort::ZoomOrCentre(const Extents& box) { FrameOrCentre(&CViewPort::ZoomToExtents, box); }
 
-void CViewPort::FrameOrCenter(Frame frame, const Extents& box)
+void CViewPort::FrameOrCentre(Frame frame, const Extents& box)
 {
   Recover();
   const auto before = std::make_tuple(left, bottom, right, top, width, height);

@@ -5,11 +5,13 @@ namespace hullwright {
 class CCanvas;
 struct Extents;
 
+/// A position in the unit of the design, y up.
 struct WorldPoint {
   double x = 0.0;
   double y = 0.0;
 };
 
+/// A position in client pixels, y down; fractions of pixels count.
 struct ScreenPoint {
   double x = 0.0;
   double y = 0.0;
@@ -43,11 +45,13 @@ public:
   /// Whether the world point falls inside the client area, edges included.
   bool Contains(double wx, double wy) const;
 
+  /// Where a world point lies on the screen, with the rotation of the view.
   ScreenPoint WorldToScreen(double wx, double wy) const;
 
   /// The forward mapping without the rotation.
   ScreenPoint WorldToScreenFlat(double wx, double wy) const;
 
+  /// The world point at a pixel, with the rotation of the view.
   WorldPoint ScreenToWorld(double sx, double sy) const;
 
   /// View rectangle around a box with a margin of one sixth of it on each side. The width rules: a
@@ -60,10 +64,10 @@ public:
   /// `FitExtents`, but a box that leaves no usable view around it (a point, a vertical line, bounds
   /// that are not finite) is brought to the centre at the scale of before. One without a finite
   /// centre changes nothing.
-  void FitOrCenter(const Extents& box);
+  void FitOrCentre(const Extents& box);
 
   /// `ZoomToExtents`, with the same way out.
-  void ZoomOrCenter(const Extents& box);
+  void ZoomOrCentre(const Extents& box);
 
   /// Whether zooming leads on from here: edges and extents are finite, and neither extent is zero.
   bool IsUsable() const;
@@ -97,7 +101,7 @@ private:
   void MoveCentreTo(const WorldPoint& centre);
 
   using Frame = void (CViewPort::*)(const Extents& box);
-  void FrameOrCenter(Frame frame, const Extents& box);
+  void FrameOrCentre(Frame frame, const Extents& box);
 };
 
 /// The viewport of the design view.

@@ -62,9 +62,9 @@ std::u16string AsTyped(std::u16string_view text)
   return taken;
 }
 
-ControlId ChosenByTyping(const DialogTemplate& rows, ControlId field)
+ControlId ChosenByTyping(const DialogTemplate& dialog, ControlId field)
 {
-  const DialogRow* const row = FindField(rows, field);
+  const DialogRow* const row = FindField(dialog, field);
   return row != nullptr ? ButtonOf(*row) : ControlId::None;
 }
 

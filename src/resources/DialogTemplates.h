@@ -114,6 +114,6 @@ constexpr bool HasUniqueControls(const DialogTemplate& dialog)
 std::u16string AsTyped(std::u16string_view text);
 
 /// The radio button that typing into an edit field chooses; None where there is none.
-ControlId ChosenByTyping(const DialogTemplate& rows, ControlId field);
+ControlId ChosenByTyping(const DialogTemplate& dialog, ControlId field);
 
 }  // namespace hullwright

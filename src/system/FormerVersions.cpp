@@ -1,6 +1,7 @@
 #include "system/FormerVersions.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <ctime>
@@ -99,10 +100,10 @@ std::string TimeStamp(std::chrono::system_clock::time_point now)
   constexpr int thousand = 1000;
   std::tm utc{};
   gmtime_r(&seconds, &utc);
-  char text[32];
-  const std::size_t length = std::strftime(text, sizeof text, "%Y-%m-%dT%H-%M-%S.", &utc);
+  std::array<char, 32> text{};
+  const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H-%M-%S.", &utc);
   const std::string milliseconds = std::to_string(thousand + part.count() % thousand);
-  return std::string(text, length) + milliseconds.substr(1) + 'Z';
+  return std::string(text.data(), length) + milliseconds.substr(1) + 'Z';
 }
 
 /// The copies with a prefix, the oldest first.

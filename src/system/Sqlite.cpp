@@ -20,13 +20,12 @@ constexpr int typeNull = 5;
 constexpr int stepsOfAPiece = 10'000;
 constexpr int mostPieces = 2'000;
 
-/// Why a step gave no row.
+/// Why a step gave no row before the end of the rows.
 std::u16string StepProblem(int result)
 {
   constexpr int resultBusy = 5;
   constexpr int resultCorrupt = 11;
   switch (result) {
-    case resultDone: return u"it holds no unit of length";
     case resultBusy: return u"another program has locked it";
     case resultCorrupt: return u"it is damaged";
     default: return u"SQLite ERROR #" + WideFromAscii(std::to_string(result));
@@ -124,14 +123,18 @@ int CSQLite::SelectUnits()
     KeepError();
     return -1;
   }
-  return StepToRow() ? 1 : -1;
+  return StepToRow(u"it holds no unit of length") ? 1 : -1;
 }
 
-bool CSQLite::StepToRow()
+bool CSQLite::StepToRow(std::u16string_view atEnd)
 {
   const int result = call_.step(statement_);
   if (result == resultRow) return true;
-  problem_ = tookTooLong_ ? u"it gives no end of rows" : StepProblem(result);
+  if (tookTooLong_) {
+    problem_ = u"it gives no end of rows";
+  } else {
+    problem_ = result == resultDone ? std::u16string(atEnd) : StepProblem(result);
+  }
   FinishQuery();
   return false;
 }
@@ -170,10 +173,8 @@ void CSQLite::GetText(std::string_view column, std::u16string& value) const
 
 bool CSQLite::Next()
 {
-  if (statement_ == nullptr) return false;
-  const bool hasRow = StepToRow();
-  if (problem_ == StepProblem(resultDone)) problem_.clear();  // the end, behind a row
-  return hasRow;
+  // The end of the rows behind one of them is no problem.
+  return statement_ != nullptr && StepToRow({});
 }
 
 void CSQLite::FinishQuery()

@@ -79,7 +79,10 @@ private:
   static int IsTooMuchWork(void* self);
 
   bool Bind();
-  bool StepToRow();
+
+  /// Goes on to the next row. False without one: the query is finished, and the reason is the
+  /// problem, which at the end of the rows is `atEnd`.
+  bool StepToRow(std::u16string_view atEnd);
   void KeepError();
   void FinishQuery();
   std::optional<int> FindColumn(std::string_view column) const;

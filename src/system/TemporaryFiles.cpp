@@ -2,13 +2,12 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
-#include <climits>
-#include <csignal>
-#include <cstdio>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 

@@ -50,10 +50,10 @@ void CHullwrightView::ZoomByMenu(void (CViewPort::*zoom)(double, double))
   Repaint();
 }
 
-void CHullwrightView::EditItem(ClientPoint point)
+void CHullwrightView::EditItem()
 {
   if (dragging) return;
-  const Pick pick = FindItemAt(design_, point.x, point.y);
+  const Pick pick = FindItemAt(design_, menuPoint.x, menuPoint.y);
   bool accepted = false;
   if (pick.kind == HitKind::None) {
     ClearPick();
@@ -85,10 +85,10 @@ CShape* CHullwrightView::FindMarkedPolyline()
   return marked != nullptr && marked->type == ShapeType::Polyline ? marked : nullptr;
 }
 
-void CHullwrightView::AddVertex(ClientPoint point)
+void CHullwrightView::AddVertex()
 {
   if (FindMarkedPolyline() == nullptr) return;
-  const WorldPoint world = SnappedWorld(point, host_.LoadGridSettings());
+  const WorldPoint world = SnappedWorld(menuPoint, host_.LoadGridSettings());
   auto vertex = std::make_unique<CShapeVertex>(world.x, world.y, 0.0);
   if (!host_.EditVertex(*vertex)) return;
   // Looked up once more, for the dialog may have outlived the polyline.
@@ -99,12 +99,12 @@ void CHullwrightView::AddVertex(ClientPoint point)
   Repaint();  // with the grid that is stored now
 }
 
-void CHullwrightView::AddAnchor(ClientPoint point)
+void CHullwrightView::AddAnchor()
 {
   if (!design_.anchors) return;
   auto anchor = design_.anchors->NewAnchor();
   const GridSettings grid = host_.LoadGridSettings();
-  const WorldPoint world = SnappedWorld(point, grid);
+  const WorldPoint world = SnappedWorld(menuPoint, grid);
   anchor->attachmentX = world.x;
   anchor->attachmentY = world.y;
   design_.anchors->items.push_back(std::move(anchor));

@@ -8,7 +8,7 @@
 
 namespace hullwright {
 
-CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const ViewPorts& ports)
+CHullwrightView::CHullwrightView(DesignState& design, IViewHost& host, const Ports& ports)
     : design_(design), host_(host), ports_(ports)
 {
 }
@@ -152,7 +152,7 @@ void CHullwrightView::ShowAllShapes()
   }
   Extents box;
   group->GetExtents(box);
-  viewPort->FitOrCenter(box);
+  viewPort->FitOrCentre(box);
   Repaint();
 }
 

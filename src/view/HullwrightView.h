@@ -18,21 +18,21 @@
 
 namespace hullwright {
 
-/// What the design view asks of the platform.
-struct ViewPorts {
-  IMessageBoxes& messages;
-  ICursor& cursor;
-  IRubberBand& rubberBand;
-  IPopupMenu& popupMenu;
-};
-
 /// The view of the design: mouse and wheel come in, the picture goes out on the canvas. It is idle,
 /// dragging (`dragging`) or drawing a polyline (`drawing`). `OnCreate` must run before any event;
 /// it takes over the design's viewport, which goes with the view. Every handler that changes the
 /// picture repaints it whole before it returns.
 class CHullwrightView {
 public:
-  CHullwrightView(DesignState& design, IViewHost& host, const ViewPorts& ports);
+  /// What the view asks of the platform.
+  struct Ports {
+    IMessageBoxes& messages;
+    ICursor& cursor;
+    IRubberBand& rubberBand;
+    IPopupMenu& popupMenu;
+  };
+
+  CHullwrightView(DesignState& design, IViewHost& host, const Ports& ports);
   CHullwrightView(const CHullwrightView&) = delete;
   CHullwrightView& operator=(const CHullwrightView&) = delete;
   ~CHullwrightView();
@@ -103,13 +103,13 @@ private:
   // Context menu (ContextMenu.cpp)
   void OfferMenu(ClientPoint point, bool hit);
   void ZoomByMenu(void (CViewPort::*zoom)(double, double));
-  void EditItem(ClientPoint point);
+  void EditItem();
 
   /// The polyline marked in the tree, which takes new vertices whatever is under the mouse. Null if
-  /// the first marked shape is none.
+  /// the first marked shape is none. The side gets its group where it has none.
   CShape* FindMarkedPolyline();
-  void AddVertex(ClientPoint point);
-  void AddAnchor(ClientPoint point);
+  void AddVertex();
+  void AddAnchor();
   void RemoveHit();
 
   // Polyline tool (PolylineTool.cpp)
@@ -126,7 +126,7 @@ private:
 
   DesignState& design_;
   IViewHost& host_;
-  ViewPorts ports_;
+  Ports ports_;
   std::unique_ptr<CCanvas> canvas_;
 };
 

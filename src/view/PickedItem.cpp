@@ -32,7 +32,7 @@ private:
   std::int64_t top_;
 };
 
-Pick FindDevice(const DesignState& design, const PickBox& box)
+Pick FindOffsetOrAnchor(const DesignState& design, const PickBox& box)
 {
   const std::array<Pick, 3> offsets = {{{HitKind::Gps, design.offsetGps.get()},
                                         {HitKind::Transducer, design.offsetTransducer.get()},
@@ -100,7 +100,8 @@ Pick FindItemAt(const DesignState& design, std::int32_t x, std::int32_t y)
   if (design.viewPort == nullptr) return {};
   const PickBox box(*design.viewPort, x, y);
   if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
-    if (const Pick device = FindDevice(design, box); device.kind != HitKind::None) return device;
+    const Pick pick = FindOffsetOrAnchor(design, box);
+    if (pick.kind != HitKind::None) return pick;
   }
   const CShapes* const group = FindViewGroup(design.shapeGroups, design.activeView);
   return group == nullptr ? Pick{} : FindVertex(*group, box);

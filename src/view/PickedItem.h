@@ -32,13 +32,15 @@ bool IsInDesign(const DesignState& design, const PickedItem& item);
 /// nothing.
 void MoveItem(const PickedItem& item, double x, double y);
 
-/// First item of the side in view whose pixel lies in the box of 10 by 10 pixels around the point,
-/// right and bottom edges excluded, and its kind. Offsets go before anchors, both on the top side
-/// only, and those before the vertices of the group's polylines.
+/// An item and its kind; nothing of the kind None.
 struct Pick {
   HitKind kind = HitKind::None;
   PickedItem item;
 };
+
+/// First item of the side in view whose pixel lies in the box of 10 by 10 pixels around the point,
+/// right and bottom edges excluded. Offsets go before anchors, both on the top side and with all
+/// sides in view only, and those before the vertices of the group's polylines.
 Pick FindItemAt(const DesignState& design, std::int32_t x, std::int32_t y);
 
 }  // namespace hullwright

@@ -23,10 +23,10 @@ struct ViewCommandTable {
       {CommandId::MenuZoomIn, [](View& view) { view.ZoomByMenu(&CViewPort::ZoomIn); }},
       {CommandId::MenuZoomOut, [](View& view) { view.ZoomByMenu(&CViewPort::ZoomOut); }},
       {CommandId::MenuCenter, [](View& view) { view.ZoomByMenu(&CViewPort::CenterOn); }},
-      {CommandId::EditVertex, [](View& view) { view.EditItem(view.menuPoint); }},
-      {CommandId::AddVertex, [](View& view) { view.AddVertex(view.menuPoint); }},
+      {CommandId::EditVertex, [](View& view) { view.EditItem(); }},
+      {CommandId::AddVertex, [](View& view) { view.AddVertex(); }},
       {CommandId::RemoveVertex, [](View& view) { view.RemoveHit(); }},
-      {CommandId::AddAnchor, [](View& view) { view.AddAnchor(view.menuPoint); }},
+      {CommandId::AddAnchor, [](View& view) { view.AddAnchor(); }},
       {CommandId::RemoveAnchor, [](View& view) { view.RemoveHit(); }},
   });
 };

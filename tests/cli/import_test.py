@@ -117,7 +117,7 @@ class ImportTest(CliTest):
         self.assertEqual(sum(self.polylines(boat).values()),
                          sum(self.polylines(SAMPLES / "catamaran.xml").values()) + 1)
 
-    def test_standard_input_and_output(self):
+    def test_a_drawing_may_come_from_standard_input_and_a_design_go_to_standard_output(self):
         data = self.drawing("a.dxf", "0", "LINE", "11", "7").read_bytes()
         self.assertIn(b'<vertex x="7.000"', self.succeed("import", "-", "-o", "-", data=data))
         self.assertEqual(json.loads(self.succeed("import", "-", "--json", data=data))["shapes"][0]["type"], 2)
@@ -165,7 +165,7 @@ class ImportTest(CliTest):
         self.fail_with(1, ("missing.dxf",), "import", self.folder / "missing.dxf", "-o", out)
         self.assertEqual(out.read_text(), "precious")
 
-    def test_a_document_and_a_design_at_once(self):
+    def test_a_document_and_a_design_come_of_one_import(self):
         out = self.folder / "out.xml"
         text = self.succeed("import", self.drawing("a.dxf", "0", "LINE"), "--json", "-o", out).decode()
         self.assertEqual(json.loads(text)["result"], 0)
@@ -238,7 +238,7 @@ class ImportTest(CliTest):
             self.assertEqual(sum(self.polylines(out).values()),
                              sum(self.polylines(SAMPLES / "catamaran.xml").values()) + 1)
 
-    def test_a_name_that_is_not_unicode(self):
+    def test_names_that_are_not_unicode_serve(self):
         inside = os.fsencode(self.folder) + b"/pl\xe4n.dxf"
         outside = os.fsencode(self.folder) + b"/b\xf6t.xml"
         shutil.copyfile(self.drawing("a.dxf", "0", "LINE", "0", "SPLINE"), inside)
@@ -248,12 +248,15 @@ class ImportTest(CliTest):
 
     def test_the_drawing_is_not_overwritten(self):
         path = self.drawing("a.dxf", "0", "LINE")
-        self.assert_usage_errors(("import", path, "-o", path), ("import", "-", "-", "-o", "x.xml"),
-                                 ("import", "-", "-i", "-", "-o", "x.xml"),
+        self.assert_usage_errors(("import", path, "-o", path))
+
+    def test_standard_input_is_read_once_and_standard_output_written_once(self):
+        path = self.drawing("a.dxf", "0", "LINE")
+        self.assert_usage_errors(("import", "-", "-", "-o", "x.xml"), ("import", "-", "-i", "-", "-o", "x.xml"),
                                  ("import", path, "--json", "-o", "-"),
                                  ("import", "-", "--json", "-o", "x.xml"))
 
-    def test_wrong_usage(self):
+    def test_wrong_usage_is_refused(self):
         path = self.drawing("a.dxf")
         self.assert_usage_errors(("import",), ("import", path), ("import", path, "--xml"),
                                  ("import", path, "-s", "all", "-o", "x.xml"), ("import", path, "-o"))

@@ -178,7 +178,7 @@ class RenderTest(CliTest):
             pictures.add(out.read_bytes())
         self.assertEqual(len(pictures), 3)  # everything, the stretch, everything without the grid
 
-    def test_standard_input_and_output(self):
+    def test_designs_and_drawings_may_come_from_standard_input_and_pictures_go_to_standard_output(self):
         for path in (BOAT, PLAN):
             data = self.succeed("render", "-", "-z", "64x40", "-o", "-", data=path.read_bytes())
             self.assertEqual(size_of(data), (64, 40))
@@ -213,7 +213,7 @@ class RenderTest(CliTest):
         (self.folder / "a-rear.png").mkdir()
         self.fail_with(1, ("a-rear.png", "directory"), "render", BOAT, "-s", "all", "-o", self.folder / "a.png")
 
-    def test_a_name_that_is_not_unicode(self):
+    def test_names_that_are_not_unicode_serve(self):
         inside = os.fsencode(self.folder) + b"/b\xf6t.xml"
         shutil.copyfile(BOAT, inside)
         outside = os.fsencode(self.folder) + b"/b\xf6t.svg"
@@ -250,7 +250,7 @@ class RenderTest(CliTest):
             self.assertEqual(done.returncode, 1)
             self.assertIn(b"standard output", done.stderr)
 
-    def test_without_a_folder_for_temporary_files(self):
+    def test_a_picture_needs_no_folder_for_temporary_files(self):
         environment = dict(os.environ, TMPDIR="/nonexistent")
         done = subprocess.run([PROGRAM, "render", BOAT, "-z", "64x40", "-o", "-"], capture_output=True,
                               env=environment, check=True)
@@ -261,7 +261,7 @@ class RenderTest(CliTest):
         os.mkfifo(pipe)
         self.fail_with(1, ("pipe.xml", "not a file"), "render", pipe, "-o", self.folder / "out.png")
 
-    def test_wrong_usage(self):
+    def test_wrong_usage_is_refused(self):
         out = self.folder / "out.png"
         self.assert_usage_errors(
             ("render",), ("render", BOAT), ("render", BOAT, BOAT, "-o", out), ("render", BOAT, "-o", "out.gif"),
@@ -273,7 +273,7 @@ class RenderTest(CliTest):
             ("render", BOAT, "--grid", "maybe", "-o", out), ("render", BOAT, "-s", "all", "-o", "-"), ("render", BOAT, "-o"),
             ("render", BOAT, "--symbols", "maybe", "-o", out), ("render", BOAT, "--symbols", "-o", out))
 
-    def test_help_and_version(self):
+    def test_help_names_verbs_and_options_as_the_man_page_does(self):
         for verb in VERBS:
             self.assertIn(verb.encode(), self.succeed("--help"))
             self.assertIn(f"Usage: hullwright-cli {verb}".encode(), self.succeed(verb, "--help"))

@@ -71,7 +71,6 @@ TEST_F(Tables, NamesDifferByCaseAndByABlank)
 TEST_F(Tables, TheHeaderOfTheTableIsNoLayerButShowsThatThereIsATable)
 {
   Import(LayerTable("") + Entities(LineOn("A", 3) + LineOn("A")));
-  EXPECT_TRUE(file->Drawing().layers.LayerTableSeen());
   EXPECT_TRUE(Layers().empty());
   EXPECT_EQ(ColourOf(1), 0U);
 }

@@ -2,9 +2,10 @@
 """Checks that includes run one way: a room may include itself and the rooms that its row names, and
 only the rooms at the desk and the pictures may include the toolkit."""
 
-import pathlib
 import re
 import sys
+
+import checking
 
 # room: the rooms that it may include beside itself
 ROOMS = {
@@ -58,7 +59,7 @@ def problems(source):
                 yield f"{name}:{number}: only the start of a program includes \"{target}\""
 
 
-def self_test(folder):
+def self_test(_):
     """The check must find a wrong include, or it checks nothing."""
     wrong = {
         "model/Up.h": '#include "render/Canvas.h"\n',
@@ -66,23 +67,9 @@ def self_test(folder):
         "qt/Window.cpp": '#include "system/SessionBus.h"\n',
         "attic/Old.h": "",
     }
-    for name, text in wrong.items():
-        file = folder / name
-        file.parent.mkdir(parents=True)
-        file.write_text(text, encoding="utf-8")
-    return len(list(problems(folder))) == len(wrong)
-
-
-def main():
-    import tempfile
-
-    with tempfile.TemporaryDirectory() as folder:
-        if not self_test(pathlib.Path(folder)):
-            sys.exit("the include check does not find wrong includes")
-    found = list(problems(pathlib.Path(sys.argv[1])))
-    print("\n".join(found) or "Includes run one way.")
-    sys.exit(1 if found else 0)
+    if len(checking.found_with(problems, wrong)) != len(wrong):
+        sys.exit("the include check does not find wrong includes")
 
 
 if __name__ == "__main__":
-    main()
+    checking.run(problems, self_test, "Includes run one way.")

@@ -6,12 +6,11 @@ the table of rooms in check_includes.py.
     check_rooms.py PROJECT      checks the project in that folder
 """
 
-import pathlib
 import re
 import sys
-import tempfile
 
 import check_includes
+import checking
 from check_includes import ROOMS, START, TOOLKIT
 
 # The drawing of a shape is declared in the model and implemented in the render room, so that the two libraries
@@ -141,23 +140,14 @@ WRONG = (
 )
 
 
-def problem_count(files):
-    with tempfile.TemporaryDirectory() as folder:
-        for name, text in files.items():
-            file = pathlib.Path(folder, name)
-            file.parent.mkdir(parents=True, exist_ok=True)
-            file.write_text(text, encoding="utf-8")
-        return len(list(problems(pathlib.Path(folder))))
-
-
-def self_test():
+def self_test(_):
     """The check must pass what follows the table and find what does not, or it checks nothing."""
     sound = sound_files()
-    if problem_count(sound) != 0:
+    if checking.found_with(problems, sound):
         sys.exit("the check of the rooms finds fault with what follows the table")
     for name, old, new in WRONG:
         changed = sound[name].replace(old, new, 1)
-        if changed == sound[name] or problem_count({**sound, name: changed}) != 1:
+        if changed == sound[name] or len(checking.found_with(problems, sound, name, changed)) != 1:
             sys.exit(f"the check of the rooms does not find a wrong {name}: {old!r} as {new!r}")
     # The table alone changes.
     for room, below in ROOMS.items():
@@ -168,11 +158,8 @@ def self_test():
 def main():
     if sys.argv[1:] == ["--print"]:
         print(drawing(ROOMS), end="")
-        return
-    self_test()
-    found = list(problems(pathlib.Path(sys.argv[1])))
-    print("\n".join(found) or "Drawing, table and link lines follow the rooms.")
-    sys.exit(1 if found else 0)
+    else:
+        checking.run(problems, self_test, "Drawing, table and link lines follow the rooms.")
 
 
 if __name__ == "__main__":

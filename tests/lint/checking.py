@@ -5,8 +5,8 @@ import sys
 import tempfile
 
 
-def found_with(problems, texts, changed, text):
-    """What `problems` finds in copies of the files `texts` of which one has another text."""
+def found_with(problems, texts, changed=None, text=""):
+    """What `problems` finds in copies of the files `texts`, of which one may have another text."""
     with tempfile.TemporaryDirectory() as folder:
         for name, original in texts.items():
             file = pathlib.Path(folder, name)

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "paint/Eights.h"
-#include "paint/Lanes.h"
+#include "paint/Fours.h"
 #include "paint/PixelBlend.h"
 
 // What is done to four pixels at once, with the machine's own instructions and without them.
@@ -20,8 +20,8 @@ Bytes Reckon(float a, float b, Bytes bytes)
 {
   const Lanes x = Lanes::Steps() * Lanes(a) + Lanes(b);
   const Lanes y = x - Lanes(40.0F);
-  const Lanes root = (x * x + y * y).Root();
-  root.Least(Lanes(255.0F)).Most(Lanes(3.0F)).RaiseBytes(bytes.data());
+  const Lanes root = (x * x + y * y).Sqrt();
+  root.Min(Lanes(255.0F)).Max(Lanes(3.0F)).RaiseBytes(bytes.data());
   return bytes;
 }
 
@@ -52,10 +52,10 @@ std::array<Rows, 3> ReckonRows(int a, int b, int step)
   const Lanes none(0);
   const Lanes most(4080);
   const Lanes x = Lanes(a, b) + Lanes::Steps(step);
-  const Lanes size = x.Most(none - x);
-  const Lanes product = size.Least(most).Product((Lanes(b, a) - x).Most(none).Least(most));
-  return {Bytes8(x.Most(none).Least(most)),
-          Bytes8((size.Part(46341) + size).Part(5000).Least(most)), Bytes8(product.Part(7000))};
+  const Lanes size = x.Max(none - x);
+  const Lanes product = size.Min(most).Product((Lanes(b, a) - x).Max(none).Min(most));
+  return {Bytes8(x.Max(none).Min(most)), Bytes8((size.Part(46341) + size).Part(5000).Min(most)),
+          Bytes8(product.Part(7000))};
 }
 
 TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
@@ -74,8 +74,8 @@ TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
 TEST(EightPixels, SumsStopAtTheEndsOfTheirRange)
 {
   const Eight high = Eight(1000000, 30000) + Eight(30000);
-  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Most(Eight(0)))[0], 10);
-  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Most(Eight(0)))[5], 10);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Max(Eight(0)))[0], 10);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Max(Eight(0)))[5], 10);
   const Eight low = Eight(-1000000) - Eight(30000);
   EXPECT_EQ(Bytes8(low + Eight(32767) + Eight(33))[0], 2);
 }

@@ -292,13 +292,13 @@ TEST_F(ViewPortTest, WhatCanBeFittedIsFittedToTheBit)
     }
   };
   plain.FitExtents({0.1, 7.7, 60.3, 7.7});  // a horizontal line
-  viewPort.FitOrCenter({0.1, 7.7, 60.3, 7.7});
+  viewPort.FitOrCentre({0.1, 7.7, 60.3, 7.7});
   expectSame();
   plain.FitExtents({-1e-15, 3.1, 1e-15, 40.7});
-  viewPort.FitOrCenter({-1e-15, 3.1, 1e-15, 40.7});
+  viewPort.FitOrCentre({-1e-15, 3.1, 1e-15, 40.7});
   expectSame();
   plain.ZoomToExtents({0.3, 3.1, 0.3, 40.7});  // a vertical one
-  viewPort.ZoomOrCenter({0.3, 3.1, 0.3, 40.7});
+  viewPort.ZoomOrCentre({0.3, 3.1, 0.3, 40.7});
   expectSame();
 }
 
@@ -307,7 +307,7 @@ TEST_F(ViewPortTest, APlaceWhoseSumWithItselfIsTooLargeIsCentredOnAllTheSame)
   viewPort.left = -4e307;
   viewPort.right = 4e307;
   viewPort.KeepAspect();
-  viewPort.FitOrCenter({1.2e308, 0.0, 1.2e308, 0.0});
+  viewPort.FitOrCentre({1.2e308, 0.0, 1.2e308, 0.0});
   EXPECT_EQ(viewPort.left, 1.2e308 - 4e307);
   EXPECT_EQ(viewPort.right, (1.2e308 - 4e307) + 8e307);
   EXPECT_TRUE(viewPort.IsUsable());

@@ -9,10 +9,9 @@
 #include <emmintrin.h>
 #endif
 
-/// Numbers of four neighbouring pixels, reckoned with at once. The plain kind serves every machine;
-/// the other one gives the same results with the instructions that each 64-bit PC has.
 namespace hullwright {
 
+/// Numbers of four neighbouring pixels, reckoned with at once, on any machine.
 class PlainFour {
 public:
   explicit PlainFour(float all) { lanes_.fill(all); }
@@ -46,15 +45,15 @@ public:
   {
     return With(b, [](float x, float y) { return x * y; });
   }
-  PlainFour Least(const PlainFour& b) const
+  PlainFour Min(const PlainFour& b) const
   {
     return With(b, [](float x, float y) { return x < y ? x : y; });
   }
-  PlainFour Most(const PlainFour& b) const
+  PlainFour Max(const PlainFour& b) const
   {
     return With(b, [](float x, float y) { return x > y ? x : y; });
   }
-  PlainFour Root() const
+  PlainFour Sqrt() const
   {
     return With(*this, [](float x, float) { return std::sqrt(x); });
   }
@@ -82,6 +81,7 @@ private:
 };
 
 #ifdef __SSE2__
+/// The same, to the last bit, with the instructions that each 64-bit PC has.
 class FastFour {
 public:
   explicit FastFour(float all) : lanes_(_mm_set1_ps(all)) {}
@@ -99,9 +99,9 @@ public:
   FastFour operator+(FastFour b) const { return FastFour(_mm_add_ps(lanes_, b.lanes_)); }
   FastFour operator-(FastFour b) const { return FastFour(_mm_sub_ps(lanes_, b.lanes_)); }
   FastFour operator*(FastFour b) const { return FastFour(_mm_mul_ps(lanes_, b.lanes_)); }
-  FastFour Least(FastFour b) const { return FastFour(_mm_min_ps(lanes_, b.lanes_)); }
-  FastFour Most(FastFour b) const { return FastFour(_mm_max_ps(lanes_, b.lanes_)); }
-  FastFour Root() const { return FastFour(_mm_sqrt_ps(lanes_)); }
+  FastFour Min(FastFour b) const { return FastFour(_mm_min_ps(lanes_, b.lanes_)); }
+  FastFour Max(FastFour b) const { return FastFour(_mm_max_ps(lanes_, b.lanes_)); }
+  FastFour Sqrt() const { return FastFour(_mm_sqrt_ps(lanes_)); }
   void RaiseBytes(std::uint8_t* bytes) const
   {
     std::int32_t four = 0;
