@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <filesystem>
 #include <iterator>
 #include <optional>
 
@@ -130,20 +129,25 @@ void Report(const Options& options, const Differences& differences, const DiffSu
 int Compare(const Options& options)
 {
   const ViewSide side = options.side ? options.side->code : ViewSide::Top;
+  ShowStep("reading the former file");
   ComparedFile former(options.input.former);
   if (const std::string problem = former.Open(side); !problem.empty()) return Trouble(problem);
+  ShowStep("reading the new file");
   ComparedFile current(options.input.current);
   if (const std::string problem = current.Open(side); !problem.empty()) return Trouble(problem);
   former.ReportPassedOver();
   current.ReportPassedOver();
+  ShowStep("comparing");
   const Comparison comparison = Prepare(options, former, current);
   const Differences differences = FindDifferences(former, current, comparison.options);
   if (!options.output.empty()) {
+    ShowStep("drawing what differs");
     const std::string problem =
         WriteDiffPicture({former.Design(), current.Design(), differences, comparison.sides,
                           comparison.options.symbols, options.output});
     if (!problem.empty()) return Trouble(problem);
   }
+  ClearTerminalLine();
   if (options.output != "-") {
     Report(options, differences,
            {{former.Name(), current.Name()},
@@ -184,16 +188,6 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
   return {};
 }
 
-/// Whether the picture would replace what is compared.
-bool WouldOverwrite(const Options& options)
-{
-  return std::ranges::any_of(std::array{options.input.former, options.input.current},
-                             [&](const std::string& input) {
-                               std::error_code ignored;
-                               return std::filesystem::equivalent(input, options.output, ignored);
-                             });
-}
-
 int Run(int argc, char** argv)
 {
   static constexpr auto longOptions = std::to_array<option>({
@@ -213,15 +207,16 @@ int Run(int argc, char** argv)
     return UsageError(argv[0], "diff takes two designs or drawings");
   }
   if (ReadsInputTwice(argv[0], arguments.words)) return exitUsage;
+  if (WouldOverwrite(argv[0], arguments.words, options.output,
+                     "the picture would overwrite what is compared")) {
+    return exitUsage;
+  }
   options.input = {arguments.words[0], arguments.words[1]};
   if (!options.output.empty() && !IsPictureName(options.output)) {
     return UsageError(argv[0], "diff draws a .png, .svg or .pdf");
   }
   if (options.json && options.output == "-") {
     return UsageError(argv[0], "--json and -o can't share standard output");
-  }
-  if (WouldOverwrite(options)) {
-    return UsageError(argv[0], "the picture would overwrite what is compared");
   }
   return Compare(options);
 }
