@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 
 #include "base/Text.h"
+#include "cli/TerminalProgress.h"
 
 namespace hullwright {
 namespace {
@@ -18,12 +20,14 @@ void PointToHelp(const char* verb)
 
 int Fail(const std::string& problem)
 {
+  ClearTerminalLine();
   std::fprintf(stderr, "hullwright-cli: %s\n", problem.c_str());
   return exitFailed;
 }
 
 void Remark(const std::string& file, std::u16string_view text)
 {
+  ClearTerminalLine();
   std::fprintf(stderr, "hullwright-cli: %s: %s\n", file.c_str(), Utf8FromWide(text).c_str());
 }
 
@@ -41,6 +45,17 @@ bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs)
   if (std::ranges::count(inputs, "-") < 2) return false;
   UsageError(verb, "standard input can be read only once");
   return true;
+}
+
+bool WouldOverwrite(const char* verb, const std::vector<std::string>& inputs,
+                    const std::string& output, const char* words)
+{
+  const bool isInput = std::ranges::any_of(inputs, [&output](const std::string& input) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(input, output, ignored);
+  });
+  if (isInput) UsageError(verb, words);
+  return isInput;
 }
 
 Arguments ReadArguments(int argc, char** argv, const char* letters, std::span<const option> options,

@@ -50,6 +50,11 @@ std::string UnknownSide(const std::string& name);
 /// Whether standard input is named more than once, which is reported.
 bool ReadsInputTwice(const char* verb, const std::vector<std::string>& inputs);
 
+/// Whether a verb would write over one of its inputs, which is reported in these words. Asked
+/// before the ending of the output, so that each verb says it first.
+bool WouldOverwrite(const char* verb, const std::vector<std::string>& inputs,
+                    const std::string& output, const char* words);
+
 /// The arguments of a verb that are no options.
 struct Arguments {
   std::vector<std::string> words;

@@ -1,14 +1,27 @@
 #include "cli/DiffJson.h"
 
 #include <array>
+#include <cmath>
 
 #include "base/Code.h"
-#include "cli/DesignFindings.h"
+#include "base/Numbers.h"
 
 namespace hullwright {
 namespace {
 
 void WritePlace(JsonWriter& json, const Place& place) { json.Doubles({place.x, place.y, place.z}); }
+
+/// What was reckoned from coordinates, without the bits that only reckoning brings.
+double Rounded(double value, const DiffSubject& subject)
+{
+  return std::isfinite(value) ? ParseDouble(FormatWithin(value, subject.tolerance)) + 0.0 : value;
+}
+
+void WriteDistance(JsonWriter& json, const Place& way, const DiffSubject& subject)
+{
+  json.Key("distance");
+  json.Double(Rounded(LengthOf(way), subject));
+}
 
 /// Writes a number that counts from 1; null for 0.
 void WriteNumber(JsonWriter& json, std::size_t number)
@@ -36,7 +49,11 @@ void WriteUnit(JsonWriter& json, const UnitDifference& unit, const DiffSubject& 
     json.Key(key);
     json.BeginObject();
     json.Key("code");
-    json.Integer(NumberOf(code));
+    if (code == UnitCode{}) {
+      json.Null();
+    } else {
+      json.Integer(NumberOf(code));
+    }
     json.Key("name");
     json.Text(WideFromUtf8(name));
     json.EndObject();
@@ -46,10 +63,12 @@ void WriteUnit(JsonWriter& json, const UnitDifference& unit, const DiffSubject& 
   write("current", unit.unit.current, subject.unit.current);
   json.Key("sameNumbers");
   json.Boolean(unit.sameNumbers);
+  json.Key("converted");
+  json.Boolean(unit.converted);
   json.EndObject();
 }
 
-void WriteOffset(JsonWriter& json, const OffsetDifference& offset)
+void WriteOffset(JsonWriter& json, const OffsetDifference& offset, const DiffSubject& subject)
 {
   json.BeginObject();
   json.Key("name");
@@ -58,12 +77,11 @@ void WriteOffset(JsonWriter& json, const OffsetDifference& offset)
   WritePlace(json, offset.place.former);
   json.Key("current");
   WritePlace(json, offset.place.current);
-  json.Key("distance");
-  json.Double(LengthOf(Way(offset.place.former, offset.place.current)));
+  WriteDistance(json, Way(offset.place.former, offset.place.current), subject);
   json.EndObject();
 }
 
-void WriteAnchor(JsonWriter& json, const AnchorDifference& difference)
+void WriteAnchor(JsonWriter& json, const AnchorDifference& difference, const DiffSubject& subject)
 {
   const auto write = [&json](const std::optional<AnchorRecord>& anchor) {
     if (!anchor) return json.Null();
@@ -85,13 +103,12 @@ void WriteAnchor(JsonWriter& json, const AnchorDifference& difference)
   json.Key("current");
   write(current);
   if (former && current) {
-    json.Key("distance");
-    json.Double(LengthOf(Way(former->place, current->place)));
+    WriteDistance(json, Way(former->place, current->place), subject);
   }
   json.EndObject();
 }
 
-void WriteVertex(JsonWriter& json, const VertexDifference& vertex)
+void WriteVertex(JsonWriter& json, const VertexDifference& vertex, const DiffSubject& subject)
 {
   const auto write = [&json](std::string_view key, std::size_t number, const Place& place) {
     json.Key(key);
@@ -107,18 +124,17 @@ void WriteVertex(JsonWriter& json, const VertexDifference& vertex)
   write("former", vertex.number.former, vertex.place.former);
   write("current", vertex.number.current, vertex.place.current);
   if (vertex.number.former != 0 && vertex.number.current != 0) {
-    json.Key("distance");
-    json.Double(LengthOf(Way(vertex.place.former, vertex.place.current)));
+    WriteDistance(json, Way(vertex.place.former, vertex.place.current), subject);
   }
   json.EndObject();
 }
 
-void WriteShape(JsonWriter& json, const ShapeDifference& shape)
+void WriteShape(JsonWriter& json, const ShapeDifference& shape, const DiffSubject& subject)
 {
   static constexpr std::array<const char*, 4> changes = {"added", "removed", "moved", "changed"};
   json.BeginObject();
   json.Key("side");
-  json.Ascii(GroupName(shape.side));
+  json.Ascii(subject.nameOfSide(shape.side));
   json.Key("type");
   json.Ascii(NameOf(shape.type));
   json.Key("change");
@@ -128,15 +144,15 @@ void WriteShape(JsonWriter& json, const ShapeDifference& shape)
             [&](std::size_t count) { json.Integer(static_cast<std::int64_t>(count)); });
   if (shape.change == ShapeChange::Moved) {
     json.Key("by");
-    WritePlace(json, shape.by);
-    json.Key("distance");
-    json.Double(LengthOf(shape.by));
+    WritePlace(json, {Rounded(shape.by.x, subject), Rounded(shape.by.y, subject),
+                      Rounded(shape.by.z, subject)});
+    WriteDistance(json, shape.by, subject);
   }
   json.Key("reversed");
   json.Boolean(shape.reversed);
   json.Key("changedVertices");
   json.BeginArray();
-  for (const VertexDifference& vertex : shape.vertices) WriteVertex(json, vertex);
+  for (const VertexDifference& vertex : shape.vertices) WriteVertex(json, vertex, subject);
   json.EndArray();
   if (shape.look) {
     WritePair(json, "look", *shape.look, [&](const LineLook& look) {
@@ -155,11 +171,12 @@ void WriteShape(JsonWriter& json, const ShapeDifference& shape)
 }
 
 template <class T, class Write>
-void WriteList(JsonWriter& json, std::string_view key, const std::vector<T>& list, Write write)
+void WriteList(JsonWriter& json, std::string_view key, const std::vector<T>& list,
+               const DiffSubject& subject, Write write)
 {
   json.Key(key);
   json.BeginArray();
-  for (const T& entry : list) write(json, entry);
+  for (const T& entry : list) write(json, entry, subject);
   json.EndArray();
 }
 
@@ -182,9 +199,9 @@ void WriteDiffJson(JsonWriter& json, const Differences& differences, const DiffS
   } else {
     json.Null();
   }
-  WriteList(json, "offsets", differences.offsets, WriteOffset);
-  WriteList(json, "anchors", differences.anchors, WriteAnchor);
-  WriteList(json, "shapes", differences.shapes, WriteShape);
+  WriteList(json, "offsets", differences.offsets, subject, WriteOffset);
+  WriteList(json, "anchors", differences.anchors, subject, WriteAnchor);
+  WriteList(json, "shapes", differences.shapes, subject, WriteShape);
   json.EndObject();
   json.EndLine();
 }

@@ -68,6 +68,9 @@ std::vector<Place> FormerPlaces(const Differences& differences)
   return places;
 }
 
+/// Side, type and number of a shape, by which differences know it.
+using ShapeName = std::tuple<ViewSide, ShapeType, std::size_t>;
+
 /// Both designs upon each other, drawn side by side.
 class Overlay {
 public:
@@ -78,9 +81,8 @@ public:
         rings_(RingsOf(request.differences))
   {
     for (const ShapeDifference& shape : request.differences.shapes) {
-      if (shape.number.current != 0) {
-        changed_.insert({shape.side, shape.type, shape.number.current});
-      }
+      changed_.former.insert({shape.side, shape.type, shape.number.former});
+      changed_.current.insert({shape.side, shape.type, shape.number.current});
     }
     GridSettings grid = editor_.App().LoadGridSettings();
     grid.show = 0;
@@ -140,37 +142,40 @@ private:
     ClearGroups(app.shapeGroups);
     if (!request_.symbols) editor_.RemoveSymbols();
     CShapes& shapes = *GetShapes(app.shapeGroups, side);
-    AddFormer(FindViewGroup(request_.former.shapeGroups, side), shapes);
-    AddCurrent(FindViewGroup(request_.current.shapeGroups, side), side, shapes);
+    const auto addFormer = [&](const CShape& shape, bool isChanged) {
+      std::unique_ptr<CShape> copy = shape.Clone();
+      Convert(*copy);
+      Add(std::move(copy), formerColour, isChanged, shapes);
+    };
+    const auto addCurrent = [&](const CShape& shape, bool isChanged) {
+      Add(shape.Clone(), isChanged ? otherColour : sameColour, isChanged, shapes);
+    };
+    ForEachShape(request_.former, side, changed_.former, addFormer);
+    ForEachShape(request_.current, side, changed_.current, addCurrent);
   }
 
-  static void Add(std::unique_ptr<CShape> shape, std::uint32_t colour, float width, CShapes& shapes)
+  /// What did not change is as wide in both designs, so that the new one covers the former.
+  static void Add(std::unique_ptr<CShape> shape, std::uint32_t colour, bool isChanged,
+                  CShapes& shapes)
   {
     shape->style = std::make_unique<ShapeStyle>();
     shape->style->lineColour = colour;
-    shape->style->lineWidth = width;
+    shape->style->lineWidth = isChanged ? 2.0F : 1.0F;
     shapes.shapes.push_back(std::move(shape));
   }
 
-  void AddFormer(const CShapes* group, CShapes& shapes) const
+  /// Calls `visit` with each shape that is seen from a side, and whether it changed.
+  template <class Visit>
+  static void ForEachShape(const DesignState& design, ViewSide side,
+                           const std::set<ShapeName>& changed, Visit visit)
   {
-    if (group == nullptr) return;
-    ForEachEntry(group->shapes, [&](const CShape& shape) {
-      std::unique_ptr<CShape> copy = shape.Clone();
-      Convert(*copy);
-      Add(std::move(copy), formerColour, 4.0F, shapes);
-    });
-  }
-
-  void AddCurrent(const CShapes* group, ViewSide side, CShapes& shapes) const
-  {
+    const CShapes* const group = FindViewGroup(design.shapeGroups, side);
     if (group == nullptr) return;
     std::map<ShapeType, std::size_t> counts;
     ForEachEntry(group->shapes, [&](const CShape& shape) {
       const std::size_t number = ++counts[shape.type];
-      const bool isChanged = changed_.contains({side, shape.type, number}) ||
-                             changed_.contains({group->viewCode, shape.type, number});
-      Add(shape.Clone(), isChanged ? otherColour : sameColour, isChanged ? 2.0F : 1.0F, shapes);
+      visit(shape, changed.contains({side, shape.type, number}) ||
+                       changed.contains({group->viewCode, shape.type, number}));
     });
   }
 
@@ -250,7 +255,7 @@ private:
   PaintSurface surface_;
   PaintTarget target_{surface_};
   HeadlessEditor editor_;
-  std::set<std::tuple<ViewSide, ShapeType, std::size_t>> changed_;  ///< of the current design
+  BeforeAndAfter<std::set<ShapeName>> changed_;
   std::vector<Ring> rings_;  ///< of vertices, then of offsets and anchors
 };
 

@@ -3,22 +3,17 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <filesystem>
+#include <iterator>
 #include <optional>
 
-#include "app/ImportText.h"
-#include "base/Text.h"
-#include "base/VisibleText.h"
 #include "cli/CommandLine.h"
+#include "cli/ComparedFile.h"
 #include "cli/DesignFindings.h"
-#include "cli/DesignInfo.h"
 #include "cli/DiffJson.h"
 #include "cli/DiffPicture.h"
 #include "cli/PictureName.h"
-#include "cli/TerminalProgress.h"
 #include "compare/CompareDesigns.h"
 #include "resources/ViewSides.h"
-#include "system/InputFile.h"
 
 namespace hullwright {
 namespace {
@@ -28,14 +23,17 @@ constexpr const char* help =
     "Reports what differs between two designs, between two drawings, or between a drawing and\n"
     "a design: the unit, offsets and anchors with their old and new numbers, and on each side\n"
     "the polylines that were moved, changed, added or removed. '-' stands for standard input.\n"
-    "Where the units differ, the former numbers are converted. A drawing has no unit, and\n"
-    "beside a design only its polylines count, as one side, without colours.\n"
+    "Where the units of designs differ, the former numbers are converted. The unit of a drawing\n"
+    "is what $INSUNITS states: another one is a difference, but numbers are compared as they\n"
+    "stand. A drawing without it has no unit. Beside a design only the polylines of a drawing\n"
+    "count, without colours. They lie on the sides that their layers name, as an export has\n"
+    "them; a drawing with other layers is one side.\n"
     "\n"
     "  -t, --tolerance=LENGTH  the largest difference of a coordinate that doesn't count, in\n"
     "                          the unit of NEW (0.001)\n"
     "  -s, --side=SIDE         compare only top, bottom, right, left, front or rear; offsets\n"
-    "                          and anchors belong to the top. A drawing beside a design is\n"
-    "                          this side of it (top)\n"
+    "                          and anchors belong to the top. A drawing without layers of\n"
+    "                          sides is this side of a design (top)\n"
     "  -j, --json              as JSON, one document\n"
     "  -o, --output=OUT        draw the sides that differ as well, to a .png, .svg or .pdf: the\n"
     "                          former in grey, the new in black and blue, changed points\n"
@@ -61,62 +59,59 @@ int Trouble(const std::string& problem)
   return exitTrouble;
 }
 
-/// A design, or a drawing on one side of a new design.
-class ComparedFile {
-public:
-  explicit ComparedFile(const std::string& name) : input_(name) {}
-
-  /// Empty on success, else what is wrong with the file.
-  std::string Open(ViewSide side)
-  {
-    if (std::string problem = input_.Problem(); !problem.empty()) return problem;
-    isDesign_ = input_.IsDesign();
-    const std::u16string path = WideFromUtf8(input_.Path());
-    editor_.App().activeView = side;
-    if (isDesign_ ? editor_.Open(path) : editor_.Import(path)) return {};
-    return input_.Name() + ": " + Utf8FromWide(editor_.Problem());
-  }
-
-  bool IsDesign() const { return isDesign_; }
-
-  /// What the report calls the file, on one line whatever its name.
-  std::string Name() const { return VisibleText(WideFromUtf8(input_.Name())); }
-  CHullwrightApp& Design() { return editor_.App(); }
-  std::string UnitName() { return UnitOf(editor_); }
-
-  /// Reports what the import of a drawing passed over.
-  void ReportPassedOver() const
-  {
-    const std::u16string passedOver = DescribePassedOver(editor_.Tally());
-    if (!isDesign_ && !passedOver.empty()) Remark(input_.Name(), passedOver);
-  }
-
-private:
-  InputFile input_;
-  TerminalProgress progress_;
-  HeadlessEditor editor_{&progress_};
-  bool isDesign_ = false;
+/// What two files are compared by, and how the sides are called.
+struct Comparison {
+  CompareOptions options;
+  std::vector<ViewSideEntry> sides;  ///< to draw
+  std::string (*nameOfSide)(ViewSide) = GroupName;
 };
 
-/// Lets a drawing beside a design be in the design's unit, since it has none itself.
-void AdaptUnits(ComparedFile& former, ComparedFile& current)
-{
-  if (!former.IsDesign()) former.Design().unitCode = current.Design().unitCode;
-  if (!current.IsDesign()) current.Design().unitCode = former.Design().unitCode;
-}
+/// What stands for the side of a drawing that tells none.
+std::string NoSideName(ViewSide) { return "drawing"; }
 
-CompareOptions OptionsFor(const Options& options, bool areDesigns, bool areOfOneKind)
+/// Settles how two files are compared, and puts drawings on the sides that they tell.
+Comparison Prepare(const Options& options, ComparedFile& former, ComparedFile& current)
 {
-  CompareOptions compared;
+  const bool haveSides = former.HasSides() && current.HasSides();
+  const bool areDesigns = former.IsDesign() && current.IsDesign();
+  const bool areDrawings = !former.IsDesign() && !current.IsDesign();
+  if (haveSides) {
+    former.TakeSides();
+    current.TakeSides();
+  }
+  Comparison comparison;
+  CompareOptions& compared = comparison.options;
   compared.tolerance = options.tolerance;
   compared.symbols = areDesigns && (!options.side || options.side->code == ViewSide::Top);
-  compared.shapes.onlySaved = !areOfOneKind;
-  if (options.side) compared.shapes.side = options.side->code;
-  if (!areOfOneKind && !options.side) compared.shapes.side = ViewSide::Top;
-  return compared;
+  compared.shapes.onlyLines = !areDesigns && !areDrawings;
+  if (options.side || !haveSides) {
+    compared.shapes.side = options.side ? options.side->code : ViewSide::Top;
+  }
+  std::ranges::copy_if(viewSides, std::back_inserter(comparison.sides), [&](const auto& side) {
+    return !compared.shapes.side || side.code == *compared.shapes.side;
+  });
+  if (areDrawings && !haveSides) {
+    comparison.nameOfSide = NoSideName;
+    comparison.sides[0].name = "drawing";
+  }
+  return comparison;
 }
 
-void Report(const Options& options, const Differences& differences, const DiffSubject& subject)
+Differences FindDifferences(ComparedFile& former, ComparedFile& current,
+                            const CompareOptions& options)
+{
+  former.AdaptUnitTo(current);
+  current.AdaptUnitTo(former);
+  Differences differences = CompareDesigns(former.Design(), current.Design(), options);
+  if (former.IsDesign() && current.IsDesign()) return differences;
+  const bool sameNumbers = differences.None();
+  differences.unit = ComparedFile::UnitsApart(former, current);
+  if (differences.unit) differences.unit->sameNumbers = sameNumbers;
+  return differences;
+}
+
+void Report(const Options& options, const Differences& differences, const DiffSubject& subject,
+            const DifferenceNames& names)
 {
   if (options.json) {
     JsonWriter json(stdout);
@@ -125,8 +120,7 @@ void Report(const Options& options, const Differences& differences, const DiffSu
     std::printf("%s -> %s: no difference above %s\n", subject.name.former.c_str(),
                 subject.name.current.c_str(), FormatWithin(options.tolerance, 0.0).c_str());
   } else {
-    const std::string text =
-        DescribeDifferences(differences, {subject.unit, GroupName}, options.tolerance);
+    const std::string text = DescribeDifferences(differences, names, options.tolerance);
     std::printf("%s -> %s\n%s", subject.name.former.c_str(), subject.name.current.c_str(),
                 text.c_str());
   }
@@ -135,32 +129,32 @@ void Report(const Options& options, const Differences& differences, const DiffSu
 int Compare(const Options& options)
 {
   const ViewSide side = options.side ? options.side->code : ViewSide::Top;
+  ShowStep("reading the former file");
   ComparedFile former(options.input.former);
   if (const std::string problem = former.Open(side); !problem.empty()) return Trouble(problem);
+  ShowStep("reading the new file");
   ComparedFile current(options.input.current);
   if (const std::string problem = current.Open(side); !problem.empty()) return Trouble(problem);
   former.ReportPassedOver();
   current.ReportPassedOver();
-  AdaptUnits(former, current);
-  const bool areDesigns = former.IsDesign() && current.IsDesign();
-  const CompareOptions compared =
-      OptionsFor(options, areDesigns, former.IsDesign() == current.IsDesign());
-  const Differences differences = CompareDesigns(former.Design(), current.Design(), compared);
+  ShowStep("comparing");
+  const Comparison comparison = Prepare(options, former, current);
+  const Differences differences = FindDifferences(former, current, comparison.options);
   if (!options.output.empty()) {
-    std::vector<ViewSideEntry> sides(viewSides.begin(), viewSides.end());
-    if (compared.shapes.side) {
-      std::erase_if(sides, [&](const auto& s) { return s.code != *compared.shapes.side; });
-    }
+    ShowStep("drawing what differs");
     const std::string problem =
-        WriteDiffPicture({former.Design(), current.Design(), differences, std::move(sides),
-                          compared.symbols, options.output});
+        WriteDiffPicture({former.Design(), current.Design(), differences, comparison.sides,
+                          comparison.options.symbols, options.output});
     if (!problem.empty()) return Trouble(problem);
   }
+  ClearTerminalLine();
   if (options.output != "-") {
     Report(options, differences,
            {{former.Name(), current.Name()},
             {former.UnitName(), current.UnitName()},
-            options.tolerance});
+            options.tolerance,
+            comparison.nameOfSide},
+           {{former.UnitWithCode(), current.UnitWithCode()}, comparison.nameOfSide});
   }
   return differences.None() ? 0 : exitDifferent;
 }
@@ -194,16 +188,6 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
   return {};
 }
 
-/// Whether the picture would replace what is compared.
-bool WouldOverwrite(const Options& options)
-{
-  return std::ranges::any_of(std::array{options.input.former, options.input.current},
-                             [&](const std::string& input) {
-                               std::error_code ignored;
-                               return std::filesystem::equivalent(input, options.output, ignored);
-                             });
-}
-
 int Run(int argc, char** argv)
 {
   static constexpr auto longOptions = std::to_array<option>({
@@ -223,15 +207,16 @@ int Run(int argc, char** argv)
     return UsageError(argv[0], "diff takes two designs or drawings");
   }
   if (ReadsInputTwice(argv[0], arguments.words)) return exitUsage;
+  if (WouldOverwrite(argv[0], arguments.words, options.output,
+                     "the picture would overwrite what is compared")) {
+    return exitUsage;
+  }
   options.input = {arguments.words[0], arguments.words[1]};
   if (!options.output.empty() && !IsPictureName(options.output)) {
     return UsageError(argv[0], "diff draws a .png, .svg or .pdf");
   }
   if (options.json && options.output == "-") {
     return UsageError(argv[0], "--json and -o can't share standard output");
-  }
-  if (WouldOverwrite(options)) {
-    return UsageError(argv[0], "the picture would overwrite what is compared");
   }
   return Compare(options);
 }

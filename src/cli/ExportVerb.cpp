@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
@@ -11,6 +10,7 @@
 #include "cli/HeadlessEditor.h"
 #include "cli/Picture.h"
 #include "cli/PictureName.h"
+#include "cli/TerminalProgress.h"
 #include "exchange/CsvExport.h"
 #include "exchange/DxfExport.h"
 #include "exchange/GeoJsonExport.h"
@@ -134,10 +134,6 @@ std::string Settle(Options& options)
   if (options.hasForm && *options.format != Format::Dxf) {
     return "--dxf-version and --layer-by are for a drawing";
   }
-  std::error_code ignored;
-  if (std::filesystem::equivalent(options.input, options.output, ignored)) {
-    return "the export would overwrite the design";
-  }
   return {};
 }
 
@@ -172,6 +168,7 @@ std::string MakeBytes(const Options& options, const std::string& name, const Exp
 
 std::string WriteBytes(const Options& options, const std::string& bytes)
 {
+  ClearTerminalLine();
   OutputFile output(options.output);
   return output.Write(bytes) && output.Commit() ? std::string() : output.Problem();
 }
@@ -188,7 +185,9 @@ std::string WritePicture(const Options& options, const std::string& design)
       viewSides, std::back_inserter(request.sides),
       [&](const ViewSideEntry& side) { return request.sheet || side.code == options.side; });
   bool isIncomplete = false;  // only a drawing can be
-  return WritePictures(request, isIncomplete);
+  std::string problem = WritePictures(request, isIncomplete);
+  ClearTerminalLine();
+  return problem;
 }
 
 /// What went wrong; empty for nothing.
@@ -197,10 +196,12 @@ std::string Export(const Options& options)
   const InputFile input(options.input);
   if (std::string problem = input.Problem(); !problem.empty()) return problem;
   if (!input.IsDesign()) return input.Name() + ": " + notADesign;
+  ShowStep("reading the design");
   HeadlessEditor editor;
   if (!editor.Open(WideFromUtf8(input.Path()))) {
     return input.Name() + ": " + Utf8FromWide(editor.Problem());
   }
+  ShowStep("making the export");
   const std::u16string notFinite = Describe(FindNonFiniteNumbers(editor.App()));
   if (!notFinite.empty()) return input.Name() + ": " + Utf8FromWide(notFinite);
   if (*options.format == Format::Svg) return WritePicture(options, input.Path());
@@ -225,6 +226,10 @@ int Run(int argc, char** argv)
       });
   if (arguments.wrong) return exitUsage;
   if (arguments.words.size() != 1) return UsageError(argv[0], "export takes one design");
+  if (WouldOverwrite(argv[0], arguments.words, options.output,
+                     "the export would overwrite the design")) {
+    return exitUsage;
+  }
   options.input = arguments.words[0];
   if (const std::string problem = Settle(options); !problem.empty()) {
     return UsageError(argv[0], problem);

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <filesystem>
 
 #include "app/FiniteNumbers.h"
 #include "app/ImportText.h"
@@ -135,14 +134,6 @@ int ImportAll(const Options& options)
   return output.Commit() ? status : Fail(output.Problem());
 }
 
-bool WouldOverwrite(const Options& options)
-{
-  return std::ranges::any_of(options.drawings, [&](const std::string& drawing) {
-    std::error_code ignored;
-    return std::filesystem::equivalent(drawing, options.output, ignored);
-  });
-}
-
 std::string TakeOption(int letter, const std::string& value, Options& options)
 {
   if (letter != 'j' && value.empty())
@@ -176,6 +167,10 @@ int Run(int argc, char** argv)
   if (arguments.wrong) return exitUsage;
   options.drawings = arguments.words;
   if (options.drawings.empty()) return UsageError(argv[0], "import takes a drawing or several");
+  if (WouldOverwrite(argv[0], options.drawings, options.output,
+                     "the design would overwrite the drawing")) {
+    return exitUsage;
+  }
   std::vector<std::string> inputs = options.drawings;
   inputs.push_back(options.into);
   if (ReadsInputTwice(argv[0], inputs)) return exitUsage;
@@ -186,7 +181,6 @@ int Run(int argc, char** argv)
   if (options.json && !options.output.empty() && (options.output == "-" || readsInput)) {
     return UsageError(argv[0], "--json and -o can't share standard input or output");
   }
-  if (WouldOverwrite(options)) return UsageError(argv[0], "the design would overwrite the drawing");
   const int printed = options.json ? PrintJson(options) : 0;
   return options.output.empty() ? printed : ImportAll(options);
 }

@@ -133,6 +133,11 @@ int Run(int argc, char** argv)
       });
   if (arguments.wrong) return exitUsage;
   if (arguments.words.size() != 1) return UsageError(argv[0], "render takes one design or drawing");
+  const bool writesOutput = request.sheet || !request.oneEach;  // else one beside it for each side
+  if (writesOutput && WouldOverwrite(argv[0], arguments.words, request.output,
+                                     "the picture would overwrite what is drawn")) {
+    return exitUsage;
+  }
   if (!IsPictureName(request.output))
     return UsageError(argv[0], "render needs -o with a .png, .svg or .pdf");
   if (request.sheet) {

@@ -17,6 +17,7 @@
 #include "cli/PictureFile.h"
 #include "cli/ReportPages.h"
 #include "cli/ReportSides.h"
+#include "cli/TerminalProgress.h"
 #include "model/OffsetPoints.h"
 #include "system/BaseFolders.h"
 #include "system/InputFile.h"
@@ -125,6 +126,7 @@ std::string WriteReport(const std::string& design, const std::string& output)
   const InputFile input(design);
   if (std::string problem = input.Problem(); !problem.empty()) return problem;
   if (!input.IsDesign()) return input.Name() + ": " + notADesign;
+  ShowStep("reading the design");
   ReportSides sides;
   HeadlessEditor& editor = sides.Editor();
   if (!editor.Open(WideFromUtf8(input.Path()))) {
@@ -137,10 +139,15 @@ std::string WriteReport(const std::string& design, const std::string& output)
   AddOffsets(pages, editor.App());
   AddAnchors(pages, editor.App());
   pages.StartPage();
-  for (const ViewSideEntry& side : viewSides) sides.Add(pages, side, Text(UnitOf(editor)));
+  for (const ViewSideEntry& side : viewSides) {
+    ShowStep(("drawing the side " + std::string(side.name)).c_str());
+    sides.Add(pages, side, Text(UnitOf(editor)));
+  }
   const QString name = Shown(WideFromUtf8(std::filesystem::path(input.Name()).filename().string()));
   PictureFiles files;
+  ShowStep("writing the report");
   std::string problem = files.Add(output, pages.Write(name, name, made));
+  ClearTerminalLine();
   return problem.empty() ? files.Commit() : problem;
 }
 

@@ -1,5 +1,4 @@
 #include <array>
-#include <filesystem>
 
 #include "cli/CommandLine.h"
 #include "cli/PictureName.h"
@@ -34,12 +33,11 @@ int Run(int argc, char** argv)
       });
   if (arguments.wrong) return exitUsage;
   if (arguments.words.size() != 1) return UsageError(argv[0], "report takes one design");
+  if (WouldOverwrite(argv[0], arguments.words, output, "the report would overwrite the design")) {
+    return exitUsage;
+  }
   if (output != "-" && PictureEnding(output) != ".pdf") {
     return UsageError(argv[0], "report needs -o with a .pdf");
-  }
-  std::error_code ignored;
-  if (std::filesystem::equivalent(arguments.words[0], output, ignored)) {
-    return UsageError(argv[0], "the report would overwrite the design");
   }
   const std::string problem = WriteReport(arguments.words[0], output);
   return problem.empty() ? 0 : Fail(problem);

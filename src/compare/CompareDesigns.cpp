@@ -66,7 +66,7 @@ std::optional<ShapeDifference> CompareShapes(const ShapeRecord& former, const Sh
     difference.by = Way(former.vertices[0], current.vertices[0]);
     return difference;
   }
-  if (rule == MatchRule::Common) {
+  if (rule == MatchRule::Changed) {
     difference.vertices = CompareVertices(former.vertices, current.vertices, tolerance);
     difference.reversed =
         !difference.vertices.empty() && IsReversed(former.vertices, current.vertices, tolerance);

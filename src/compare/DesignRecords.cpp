@@ -70,10 +70,11 @@ LineLook LookOf(const CShape& shape)
   return {style.lineColour, style.lineWidth};
 }
 
-bool IsChosen(const CShapes& group, const CShape& shape, const ShapeChoice& choice)
+/// Whether a design file and a drawing can both hold a shape.
+bool IsLine(const CShape& shape)
 {
-  if (choice.side && !group.AnswersFor(*choice.side)) return false;
-  return !choice.onlySaved || shape.type == ShapeType::Polyline;
+  constexpr std::size_t fewest = 2;  // vertices
+  return shape.type == ShapeType::Polyline && shape.vertices.size() >= fewest;
 }
 
 }  // namespace
@@ -90,13 +91,16 @@ DesignRecords::DesignRecords(const DesignState& design, UnitCode from, UnitCode 
   std::map<std::pair<ViewSide, ShapeType>, std::size_t> counts;
   std::vector<std::size_t> ends;
   ForEachEntry(design.shapeGroups, [&](const CShapes& group) {
+    if (choice.side && !group.AnswersFor(*choice.side)) return;
+    const ViewSide side = choice.side.value_or(group.viewCode);
     ForEachEntry(group.shapes, [&](const CShape& shape) {
-      if (!IsChosen(group, shape, choice)) return;
+      const std::size_t number = ++counts[{side, shape.type}];
+      if (choice.onlyLines && !IsLine(shape)) return;
       ShapeRecord& record = shapes_.emplace_back();
-      record.side = choice.side.value_or(group.viewCode);
+      record.side = side;
       record.type = shape.type;
-      record.number = ++counts[{record.side, shape.type}];
-      if (!choice.onlySaved) record.look = LookOf(shape);
+      record.number = number;
+      if (!choice.onlyLines) record.look = LookOf(shape);
       RecordFiller filler(record, places_, from, to);
       shape.Accept(filler);
       ends.push_back(places_.size());

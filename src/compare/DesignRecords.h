@@ -35,7 +35,9 @@ struct ShapeRecord {
 /// Which shapes are compared.
 struct ShapeChoice {
   std::optional<ViewSide> side;  ///< only those of groups that answer for this side, as its own
-  bool onlySaved = false;        ///< only what a design file keeps: polylines, without a look
+  /// Only what both a design file and a drawing keep: polylines of two vertices or more, without a
+  /// look.
+  bool onlyLines = false;
 };
 
 /// The shapes of a design with their vertices in one list: zeros without a sign, and anything that

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <map>
 
-#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/VisibleText.h"
 #include "model/OffsetPoints.h"
@@ -90,14 +89,11 @@ private:
 
   void WriteUnit(const UnitDifference& unit)
   {
-    const auto text = [](const std::string& name, UnitCode code) {
-      return name + " (EPSG " + std::to_string(NumberOf(code)) + ")";
-    };
     const char* const note = unit.sameNumbers
                                  ? "; all numbers are the same, so that every length changed"
-                                 : "; the former numbers are shown converted";
-    AddLine("unit", text(names_.unit.former, unit.unit.former) + " -> " +
-                        text(names_.unit.current, unit.unit.current) + note);
+                             : unit.converted ? "; the former numbers are shown converted"
+                                              : "; the numbers are compared as they stand";
+    AddLine("unit", names_.unit.former + " -> " + names_.unit.current + note);
   }
 
   void WriteOffset(const OffsetDifference& offset)
@@ -153,9 +149,18 @@ private:
     }
   }
 
+  /// A number with its sign, but for one that is shown as zero.
+  std::string Signed(double value) const
+  {
+    const std::string text = Number(value);
+    if (text.find_first_of("123456789") == std::string::npos) return Number(0.0);
+    return value > 0.0 ? "+" + text : text;
+  }
+
   std::string MovedBy(const Place& way) const
   {
-    return "moved by " + PlaceText(way) + ", " + Number(LengthOf(way)) + " in all";
+    return "moved by " + Number(LengthOf(way)) + " (dX " + Signed(way.x) + ", dY " + Signed(way.y) +
+           ", dZ " + Signed(way.z) + ")";
   }
 
   void WriteTogether(const ShapeDifference& first, const std::vector<std::size_t>& numbers)
@@ -191,6 +196,7 @@ private:
 
   std::string Extent(const ShapeDifference& shape, std::size_t count) const
   {
+    if (count == 0) return ", without vertices";
     std::string text = ": " + Counted(count, "vertex", "vertices");
     if (!shape.box.IsEmpty()) {
       text += ", from " + FlatPlace({shape.box.minX, shape.box.minY, 0.0}) + " to " +

@@ -23,10 +23,11 @@ struct BeforeAndAfter {
 };
 
 /// The unit of the design is another one. All numbers of the former design are then given as
-/// converted to the current one's unit.
+/// converted to the current one's unit, unless they are compared as they stand.
 struct UnitDifference {
-  BeforeAndAfter<UnitCode> unit;
-  bool sameNumbers = false;  ///< without the conversion there is no other difference
+  BeforeAndAfter<UnitCode> unit;  ///< 0 for one that no design has
+  bool sameNumbers = false;       ///< without the conversion there is no other difference
+  bool converted = true;
 };
 
 /// An offset point, in the order of `offsetPoints`.

@@ -11,6 +11,7 @@
 
 #include "base/Code.h"
 #include "compare/NearPairs.h"
+#include "compare/OutlineDistance.h"
 
 namespace hullwright {
 namespace {
@@ -164,7 +165,9 @@ public:
     TakeIdentical(false);
     TakeBest(WithinTolerance(), MatchRule::Equal);
     TakeBest(MovedAlike(), MatchRule::Moved);
-    TakeBest(WithCommonVertices(), MatchRule::Common);
+    TakeBest(WithCommonVertices(HasMostInCommon), MatchRule::Changed);
+    TakeBest(MeasuredAnew(), MatchRule::Changed);
+    TakeBest(WithCommonVertices(HasManyInCommon), MatchRule::Changed);
     return std::move(matches_);
   }
 
@@ -262,7 +265,19 @@ private:
     return candidates;
   }
 
-  std::vector<Candidate> WithCommonVertices() const
+  static bool HasMostInCommon(std::size_t common, std::size_t, std::size_t longer)
+  {
+    return 2 * common > longer;
+  }
+
+  static bool HasManyInCommon(std::size_t common, std::size_t shorter, std::size_t longer)
+  {
+    return 2 * common >= shorter && 4 * common >= longer;
+  }
+
+  /// `suffices` gets the number of common vertices, then those of the shorter and the longer shape.
+  std::vector<Candidate> WithCommonVertices(bool (*suffices)(std::size_t, std::size_t,
+                                                             std::size_t)) const
   {
     const VertexList formers(former_, left_.former);
     const VertexList currents(current_, left_.current);
@@ -275,10 +290,34 @@ private:
       const std::size_t common = std::min(count, back->second);
       const auto [shorter, longer] =
           std::minmax({former_[pair.first].vertices.size(), current_[pair.second].vertices.size()});
-      if (2 * common >= shorter && 4 * common >= longer) {
+      if (suffices(common, shorter, longer)) {
         candidates.push_back({pair.first, pair.second, common});
       }
     }
+    return candidates;
+  }
+
+  std::vector<Candidate> MeasuredAnew() const
+  {
+    const auto itemsOf = [](const Shapes& shapes, const std::vector<std::size_t>& left) {
+      SizedItems items;
+      for (const std::size_t index : ByPlace(shapes, left)) {
+        items.Add(shapes[index], index, KeyOfForm(shapes[index]));
+      }
+      return items;
+    };
+    const SizedItems formers = itemsOf(former_, left_.former);
+    const SizedItems currents = itemsOf(current_, left_.current);
+    std::vector<Candidate> candidates;
+    constexpr double cell = 1.0;
+    ForEachNearPair(formers.Items(), currents.Items(), cell, [&](std::size_t i, std::size_t k) {
+      const ShapeRecord& former = former_[formers.Owner(i)];
+      const ShapeRecord& current = current_[currents.Owner(k)];
+      const auto most = SizedItems::MostBetween(formers, i, currents, k);
+      if (!most || !IsOfOneForm(former, current)) return;
+      const auto distance = OutlineDistance(former, current, *most);
+      if (distance) candidates.push_back({formers.Owner(i), currents.Owner(k), 0, *distance});
+    });
     return candidates;
   }
 

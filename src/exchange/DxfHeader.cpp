@@ -1,30 +1,15 @@
 #include "exchange/DxfHeader.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "exchange/DrawingUnits.h"
 #include "exchange/DxfRecords.h"
 
 namespace hullwright {
 namespace {
-
-struct DrawingUnit {
-  UnitCode code;
-  int number;
-};
-
-/// Units of length that drawings know as well, to the last digit of the factor.
-constexpr auto drawingUnits = std::to_array<DrawingUnit>({
-    {UnitCode{9001}, 6},   // metre
-    {UnitCode{9002}, 2},   // foot
-    {UnitCode{9003}, 21},  // US survey foot
-    {UnitCode{9035}, 24},  // US survey mile
-    {UnitCode{9036}, 7},   // kilometre
-    {UnitCode{9093}, 3},   // statute mile
-});
 
 void Variable(DxfText& text, std::string_view name, int code, std::string_view value)
 {
@@ -79,12 +64,6 @@ DxfBox BoxOf(const ExportedDesign& design)
     box.Widen(CShapeVertex(place.x, place.y, place.z.value_or(0.0)));
   }
   return box;
-}
-
-int DrawingUnitOf(UnitCode unit)
-{
-  const auto* const found = std::ranges::find(drawingUnits, unit, &DrawingUnit::code);
-  return found == drawingUnits.end() ? 0 : found->number;
 }
 
 void WriteDxfHeader(DxfText& text, UnitCode unit, const DxfBox& box, std::uint32_t nextHandle)

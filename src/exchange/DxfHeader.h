@@ -25,9 +25,6 @@ struct DxfBox {
 /// The box of all vertices, offsets and anchors.
 DxfBox BoxOf(const ExportedDesign& design);
 
-/// The number of a unit of length among those of drawings; 0, no unit, for one that they lack.
-int DrawingUnitOf(UnitCode unit);
-
 /// Writes a remark and the section of header variables. `nextHandle` is above all handles of the
 /// drawing; 0 makes the header of R12, which knows fewer variables.
 void WriteDxfHeader(DxfText& text, UnitCode unit, const DxfBox& box, std::uint32_t nextHandle);

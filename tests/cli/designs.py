@@ -58,6 +58,7 @@ class Design:
 
     def __init__(self, text):
         root = ET.fromstring(text)
+        self.unit = int(root.find("units").get("id"))
         self.lines = []  # (side, number in its group, places)
         for group in root.iter("shapes"):
             for i, line in enumerate(group.iter("polyline"), 1):
@@ -66,6 +67,11 @@ class Design:
         self.offsets = [tuple(float(root.find(name).get(axis)) for axis in "xyz") for name in ("gps", "txd", "piv")]
         self.anchors = [(int(a.findtext("id")), a.findtext("name") or "", float(a.findtext("attachmentX")),
                          float(a.findtext("attachmentY"))) for a in root.iter("anchor")]
+
+    def box(self):
+        """The lowest and the highest coordinates of all that is exported."""
+        every = [*self.places(), *(place for _, _, places in self.lines for place in places)]
+        return tuple(map(min, zip(*every))), tuple(map(max, zip(*every)))
 
     def places(self):
         """All points of a drawing, offsets first."""

@@ -76,6 +76,29 @@ class DiffTest(CliTest):
         equal = json.loads(self.succeed("diff", "-j", files[0], files[0]))
         self.assertEqual((equal["equal"], equal["shapes"]), (True, []))
 
+    def test_distances_in_json_have_the_decimals_of_the_text_and_places_all_digits(self):
+        files = self.pair(design(SQUARE, gps="0.1"), design(tuple((x + 0.1, y + 0.2) for x, y in SQUARE), gps="0.40000001",
+                                                            anchors=((1, "Bow", 1, 2),)))
+        found = json.loads(run("diff", "-j", *files).stdout)
+        self.assertEqual(found["offsets"], [{"name": "GNSS antenna", "former": [0.1, 0.0, 0.0],
+                                             "current": [0.40000001, 0.0, 0.0], "distance": 0.3}])
+        self.assertEqual((found["shapes"][0]["by"], found["shapes"][0]["distance"]), ([0.1, 0.2, 0.0], 0.224))
+        found = json.loads(run("diff", "-j", "-t", "0.000001", *files).stdout)
+        self.assertEqual((found["offsets"][0]["distance"], found["shapes"][0]["distance"]), (0.3, 0.223607))
+        found = json.loads(run("diff", "-j", "-t", "0", *files).stdout)
+        self.assertEqual(found["offsets"][0]["distance"], 0.40000001 - 0.1)
+
+    def test_an_outline_that_was_measured_anew_is_changed(self):
+        anew = ((0.02, 0.01), (3.97, -0.03), (4.01, 3.04), (-0.02, 2.96))
+        lines = self.differ(*self.pair(design(((50, 50), (60, 60)), SQUARE), design(anew)))
+        self.assertEqual(lines[:2], ["  top           polyline 1 (was 2) changed: 4 vertices moved of 4",
+                                     "                  vertex 1: 0.000, 0.000, 0.000 -> 0.020, 0.010, 0.000, moved by 0.022"])
+        self.assertEqual(lines[5:], ["  top           polyline 1 removed: 2 vertices, from 50.000, 50.000 to 60.000, 60.000"])
+
+    def test_a_polyline_without_vertices_is_said_to_have_none(self):
+        self.assertEqual(self.differ(*self.pair(design(), design(()))),
+                         ["  top           polyline 1 added, without vertices"])
+
     def test_the_tolerance_decides_what_counts(self):
         files = self.pair(design(SQUARE), design(((0, 0), (4, 0.001), (4, 3), (0, 3))))
         self.succeed("diff", *files)
@@ -94,7 +117,7 @@ class DiffTest(CliTest):
         self.assertIn("all numbers are the same, so that every length changed", lines[0])
         same = json.loads(run("diff", *self.pair(design(SQUARE), design(SQUARE, unit=4711)), "-j").stdout)
         self.assertEqual(same["unit"], {"former": {"code": 9001, "name": "metre"},
-                                        "current": {"code": 4711, "name": "unknown"}, "sameNumbers": True})
+                                        "current": {"code": 4711, "name": "unknown"}, "sameNumbers": True, "converted": True})
         self.assertFalse(same["equal"])
 
     def test_a_drawing_is_compared_with_the_design_that_it_became(self):
@@ -114,8 +137,8 @@ class DiffTest(CliTest):
                                 "0", "TEXT", "62", "1", "10", "1", "20", "1", "40", "2", "1", word)
         files = drawing("a.dxf", "1", "Winch"), drawing("b.dxf", "5", "Crane")
         self.assertEqual(self.differ(*files), [
-            "  top           polyline 1 changed, colour #FF0000 -> #0000FF",
-            '  top           text 1 "Crane" changed, was "Winch"'])
+            "  drawing       polyline 1 changed, colour #FF0000 -> #0000FF",
+            '  drawing       text 1 "Crane" changed, was "Winch"'])
 
     def test_one_side_alone(self):
         text = BOAT.read_text()
@@ -132,7 +155,8 @@ class DiffTest(CliTest):
             return tuple((f"{begin + i * 0.25:.3f}", f"{shift + i % 7:.3f}") for i in range(100))
         former = design(*(line(number * 1000, 0) for number in range(500)))
         current = design(*(line(number * 1000, 0.5 if number % 5 == 0 else 0) for number in range(499, -1, -1)))
-        self.assertEqual(len([x for x in self.differ(*self.pair(former, current)) if "moved by 0.000, 0.500" in x]), 100)
+        moved = [x for x in self.differ(*self.pair(former, current)) if "moved by 0.500 (dX 0.000, dY +0.500, dZ 0.000)" in x]
+        self.assertEqual(len(moved), 100)
 
     def test_a_name_can_not_turn_the_report_around(self):
         odd = "a&#x202E;b&#13;&#10;  anchor 9 &quot;x\\"

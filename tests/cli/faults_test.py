@@ -14,6 +14,7 @@ import time
 import unittest
 
 FAULTY_READS = sys.argv.pop(3)
+SIGNALLED_WRITES = sys.argv.pop(3)
 
 from cli import FOLDERS, PROGRAM, SAMPLES, CliTest, run  # noqa: E402  pylint: disable=wrong-import-position
 
@@ -75,6 +76,20 @@ class FaultsTest(CliTest):
                     reader.send_signal(number)
                     self.assertEqual(reader.wait(), -number)
                 self.assertEqual(list(pathlib.Path(temporary).iterdir()), [])
+
+    def test_a_signal_in_the_middle_of_an_output_leaves_what_was_there(self):
+        boat = SAMPLES / "workboat.xml"
+        other = self.write("other.xml", boat.read_text().replace('<gps x="', '<gps x="9'))
+        commands = [("export", boat, "-o", "out.dxf"), ("export", boat, "-o", "out.geojson"), ("export", boat, "-o", "out.csv")]
+        if b"without pictures" not in run("render", "--help").stdout:
+            commands += [("export", boat, "-o", "out.svg"), ("report", boat, "-o", "out.pdf"),
+                         ("diff", boat, other, "-o", "out.png")]
+        for *arguments, name in commands:
+            out = self.write(name, "precious")
+            before = sorted(self.folder.iterdir())
+            done = run(*arguments, out, LD_PRELOAD=SIGNALLED_WRITES)
+            self.assertEqual((done.returncode, done.stderr), (-signal.SIGTERM, b""))
+            self.assertEqual((out.read_text(), sorted(self.folder.iterdir())), ("precious", before))
 
     def test_programs_at_once_lose_no_record_of_the_log(self):
         logs = self.folder / "share" / "Sondaris" / "Tracing"

@@ -159,6 +159,12 @@ class RenderTest(CliTest):
         bars = [shown for shown in texts if re.fullmatch(r"[125]0* m", shown)]
         self.assertEqual(len(bars), len(SIDES))
 
+    def test_a_scale_bar_of_a_huge_design_is_labelled_without_an_exponent(self):
+        huge = self.write("huge.xml", '<vessel><units id="9001"/><shapes view="04"><polyline><vertex x="0"/>'
+                                      '<vertex x="9e9"/></polyline></shapes></vessel>')
+        texts = self.sheet_texts(huge, "-z", "300x200")
+        self.assertIn("2000000000 m", texts)
+
     def test_a_sheet_without_symbols_has_no_table(self):
         for arguments in ((PLAN,), (BOAT, "--symbols=off")):
             self.assertNotIn("Offsets and anchors", self.sheet_texts(*arguments, "-z", "300x200"))

@@ -169,8 +169,17 @@ TEST_F(ComparedDesigns, OfADrawingHaveOtherWordings)
   EXPECT_EQ(changed.type, ShapeType::Text);
   EXPECT_TRUE(changed.otherForm);
   EXPECT_EQ(changed.text.former, u"Winch");
-  options.shapes.onlySaved = true;
+  options.shapes.onlyLines = true;
   EXPECT_TRUE(Compare().None());
+}
+
+TEST_F(ComparedDesigns, WithADrawingHaveLinesOfTwoVerticesOrMore)
+{
+  AddNow(ViewSide::Top, {{1.0, 0.0, 0.0}});
+  AddNow(ViewSide::Top, {{1.0, 0.0, 0.0}, {2.0, 0.0, 0.0}});
+  EXPECT_EQ(Compare().shapes.size(), 2U);
+  options.shapes.onlyLines = true;
+  EXPECT_EQ(OnlyShape().number.current, 2U);
 }
 
 TEST_F(ComparedDesigns, AreComparedWithoutOffsetsAndAnchors)

@@ -11,7 +11,7 @@ class DifferenceText : public DesignPair {
 protected:
   std::string Text() const
   {
-    const DifferenceNames names = {{"metre", "foot"}, SideName};
+    const DifferenceNames names = {{"metre (EPSG 9001)", "foot (EPSG 9002)"}, SideName};
     return DescribeDifferences(Compare(), names, options.tolerance);
   }
 };
@@ -82,8 +82,25 @@ TEST_F(DifferenceText, PutsWhatMovedTogetherOnOneLine)
            {{x + 3.0, i == 2 ? 9.0 : 4.0, 0}, {x + i + 4.0, i == 2 ? 11.0 : 6.0, 0}});
   }
   EXPECT_EQ(Text(),
-            "  top           polylines 1, 2, 4-6 moved by 3.000, 4.000, 0.000, 5.000 in all\n"
-            "  top           polyline 3 moved by 3.000, 9.000, 0.000, 9.487 in all\n");
+            "  top           polylines 1, 2, 4-6 moved by 5.000 (dX +3.000, dY +4.000, dZ 0.000)\n"
+            "  top           polyline 3 moved by 9.487 (dX +3.000, dY +9.000, dZ 0.000)\n");
+}
+
+TEST_F(DifferenceText, GivesWaysTheirSignAndNoneToWhatIsShownAsZero)
+{
+  AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 2, 0}});
+  AddNow(ViewSide::Top, {{-0.0004, -0.25, 0.0004}, {0.9996, 1.75, 0.0004}});
+  EXPECT_EQ(Text(), "  top           polyline 1 moved by 0.250 (dX 0.000, dY -0.250, dZ 0.000)\n");
+}
+
+TEST_F(DifferenceText, OfNumbersAsTheyStandSaysSo)
+{
+  Differences differences;
+  differences.unit = {{}, false, false};
+  const DifferenceNames names = {{"foot ($INSUNITS 2)", "metre (EPSG 9001)"}, SideName};
+  EXPECT_EQ(DescribeDifferences(differences, names, 0.001),
+            "  unit          foot ($INSUNITS 2) -> metre (EPSG 9001); the numbers are compared as "
+            "they stand\n");
 }
 
 TEST_F(DifferenceText, SaysWhatWasAddedRemovedTurnedAndColoured)
@@ -99,7 +116,7 @@ TEST_F(DifferenceText, SaysWhatWasAddedRemovedTurnedAndColoured)
   EXPECT_EQ(
       Text(),
       "  top           polyline 1 changed, the same vertices from the last to the first\n"
-      "  top           polyline 2 added: 0 vertices\n"
+      "  top           polyline 2 added, without vertices\n"
       "  top           polyline 3 changed, colour #000000 -> #FF0000, line width 1 -> 2.5\n"
       "  top           polyline 2 removed: 2 vertices, from 20.000, 0.000 to 21.000, 0.000\n");
 }
