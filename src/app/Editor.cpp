@@ -25,4 +25,17 @@ Editor::~Editor()
   frame.document = nullptr;
 }
 
+void Editor::Recover()
+{
+  view.dragging = false;  // the button may be up by now
+  view.DropReleasedItems();
+  try {
+    objects.BuildTree();
+    view.Repaint();
+  } catch (const std::bad_alloc&) {
+    // The tree lists less than there is, or the picture shows less, until the next change.
+    return;
+  }
+}
+
 }  // namespace hullwright

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
 #include "app/ObjectView.h"
@@ -34,11 +36,29 @@ public:
   Editor& operator=(const Editor&) = delete;
   ~Editor();
 
+  /// Carries out what an event asks for. Where memory ends the rest of it is left out: whole shapes
+  /// are changed or none, and what refers to the design is made anew. Whether all was done.
+  template <class Step>
+  bool Run(Step step)
+  {
+    try {
+      step();
+      return true;
+    } catch (const std::bad_alloc&) {
+      Recover();
+      return false;
+    }
+  }
+
   CHullwrightApp app;
   CMainFrame frame;
   CHullwrightDoc document;
   CHullwrightView view;
   CObjectView objects;
+
+private:
+  /// Lets go of what may have left the design, and shows what is in it.
+  void Recover();
 };
 
 }  // namespace hullwright
