@@ -1,5 +1,7 @@
 #include "app/Editor.h"
 
+#include <new>
+
 namespace hullwright {
 
 Editor::Editor(const Ports& ports)

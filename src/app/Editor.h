@@ -1,7 +1,5 @@
 #pragma once
 
-#include <new>
-
 #include "app/HullwrightApp.h"
 #include "app/MainFrame.h"
 #include "app/ObjectView.h"
@@ -36,29 +34,15 @@ public:
   Editor& operator=(const Editor&) = delete;
   ~Editor();
 
-  /// Carries out what an event asks for. Where memory ends the rest of it is left out: whole shapes
-  /// are changed or none, and what refers to the design is made anew. Whether all was done.
-  template <class Step>
-  bool Run(Step step)
-  {
-    try {
-      step();
-      return true;
-    } catch (const std::bad_alloc&) {
-      Recover();
-      return false;
-    }
-  }
+  /// Called behind an event that was left because memory had ended, which changes what it changes
+  /// of the design whole or not at all: lets go of what may be gone, and shows what is there.
+  void Recover();
 
   CHullwrightApp app;
   CMainFrame frame;
   CHullwrightDoc document;
   CHullwrightView view;
   CObjectView objects;
-
-private:
-  /// Lets go of what may have left the design, and shows what is in it.
-  void Recover();
 };
 
 }  // namespace hullwright
