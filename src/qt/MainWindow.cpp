@@ -206,7 +206,7 @@ void MainWindow::RunCommand(CommandId command)
 void MainWindow::OnMemoryEnded()
 {
   editor_.Recover();
-  ShowNote(u"There is not enough memory for that");
+  ShowNote(ToWide(tr("There is not enough memory for that")));
   UpdateAll();
 }
 
