@@ -110,14 +110,13 @@ void CHullwrightApp::ConvertDesign(UnitCode from, UnitCode to)
   const CShapes* const group = GetShapes(shapeGroups, activeView);
   if (group == nullptr || group->shapes.empty() || from == to) return;
   if (!ports_.messages.AskYesNo(Strings::convertUnits)) return;
+  // All are gathered before the first is converted: half a design in another unit would be the
+  // worst that memory can do by running out.
   std::vector<CShapeVertex*> vertices;
-  Walk(group->cursor, group->shapes, [&](CShape& shape) {
-    shape.GetVertices(vertices);
-    for (CShapeVertex* const vertex : vertices) {
-      if (vertex != nullptr) vertex->ConvertUnits(from, to);
-    }
-    vertices.clear();
-  });
+  Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.GetVertices(vertices); });
+  for (CShapeVertex* const vertex : vertices) {
+    if (vertex != nullptr) vertex->ConvertUnits(from, to);
+  }
   // The pivot, the anchors and the other sides keep their numbers.
   offsetGps->ConvertUnits(from, to);
   offsetTransducer->ConvertUnits(from, to);

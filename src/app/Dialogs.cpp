@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <new>
 
 #include "app/GridSettingsStore.h"
 #include "base/Code.h"
@@ -212,7 +213,12 @@ void CDialogNumbers::OnStart(IDialogControls& controls)
 
 bool CDialogNumbers::OnOk(IDialogControls& controls)
 {
-  for (const BoundNumber& number : Numbers()) number.value = ReadNumber(controls, number.field);
+  // All are read before the first is taken, so that where memory ends none is.
+  const std::vector<BoundNumber> numbers = Numbers();
+  std::vector<double> read;
+  read.reserve(numbers.size());
+  for (const BoundNumber& number : numbers) read.push_back(ReadNumber(controls, number.field));
+  for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i].value = read[i];
   return true;
 }
 
@@ -272,9 +278,10 @@ void CDialogOffsets::OnStart(IDialogControls& controls)
 bool CDialogOffsets::OnOk(IDialogControls& controls)
 {
   if (!HasOffsets()) return true;
+  const bool done = CDialogNumbers::OnOk(controls);
   app_.offsetGps->z = 0.0;
   app_.offsetTransducer->z = 0.0;
-  return CDialogNumbers::OnOk(controls);
+  return done;
 }
 
 void CDialogRotate::OnStart(IDialogControls& controls)
@@ -327,8 +334,14 @@ bool CDialogUnits::OnOk(IDialogControls& controls)
     app_.ShowMessage(Strings::selectUnit);
     return false;
   }
+  // The question is asked with the new unit in force; where memory ends, the old one comes back.
   app_.unitCode = UnitCode{*chosen};
-  app_.ConvertDesign(oldUnit_, app_.unitCode);
+  try {
+    app_.ConvertDesign(oldUnit_, app_.unitCode);
+  } catch (const std::bad_alloc&) {
+    app_.unitCode = oldUnit_;
+    throw;
+  }
   return true;
 }
 

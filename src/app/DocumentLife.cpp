@@ -69,8 +69,10 @@ bool DocumentLife::Open(std::u16string path)
   emptied_ = false;
   if (document_.OnOpenDocument(path)) {
     Remember(path);
-    SetPath(path);
+    // A save must not take out of the file what the open has left out.
+    if (document_.LeftOutParts() == 0) SetPath(path);
     Settle();
+    NoteLeftOut(path);
     return true;
   }
   // What a file that is not well-formed has left in the design stands in that file.
@@ -78,6 +80,15 @@ bool DocumentLife::Open(std::u16string path)
   Forget(path);
   ports_.widgets.ShowNote(Quoted(NameOf(path)) + u" was not opened: " + document_.OpenProblem());
   return false;
+}
+
+void DocumentLife::NoteLeftOut(const std::u16string& path) const
+{
+  const std::size_t parts = document_.LeftOutParts();
+  if (parts == 0) return;
+  ports_.widgets.ShowNote(
+      Quoted(NameOf(path)) + u" was opened without " + WideFromAscii(std::to_string(parts)) +
+      (parts == 1 ? u" part" : u" parts") + u", for want of memory. It has no file name now.");
 }
 
 bool DocumentLife::Save() { return path_.empty() ? SaveAs() : SaveTo(path_); }

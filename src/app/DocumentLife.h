@@ -61,6 +61,7 @@ public:
 
 private:
   bool SaveTo(const std::u16string& path);
+  void NoteLeftOut(const std::u16string& path) const;
   void NoteSaved(const std::u16string& path) const;
   void NoteNotSaved(const std::u16string& path, const std::u16string& formerVersion) const;
   bool HasChanges() const;

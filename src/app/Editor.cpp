@@ -1,5 +1,7 @@
 #include "app/Editor.h"
 
+#include <new>
+
 namespace hullwright {
 
 Editor::Editor(const Ports& ports)
@@ -23,6 +25,19 @@ Editor::~Editor()
   frame.objectView = nullptr;
   frame.view = nullptr;
   frame.document = nullptr;
+}
+
+void Editor::Recover()
+{
+  view.dragging = false;  // the button may be up by now
+  view.DropReleasedItems();
+  try {
+    objects.BuildTree();
+    view.Repaint();
+  } catch (const std::bad_alloc&) {
+    // The tree lists less than there is, or the picture shows less, until the next change.
+    return;
+  }
 }
 
 }  // namespace hullwright

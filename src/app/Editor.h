@@ -34,6 +34,10 @@ public:
   Editor& operator=(const Editor&) = delete;
   ~Editor();
 
+  /// Called behind an event that was left because memory had ended, which changes what it changes
+  /// of the design whole or not at all: lets go of what may be gone, and shows what is there.
+  void Recover();
+
   CHullwrightApp app;
   CMainFrame frame;
   CHullwrightDoc document;

@@ -31,8 +31,10 @@ void CObjectTree::Rebuild()
 {
   ++build_;
   design_.shownInTree.clear();
+  // All of it first: where memory ends on the way, nothing is left that may be gone.
+  for (auto& side : sides_) side.clear();
+  anchors_.clear();
   for (std::size_t side = 0; side < sideCount; ++side) {
-    sides_[side].clear();
     const CShapes* const group = FindViewGroup(design_.shapeGroups, sideNodes[side].code);
     if (group == nullptr) continue;
     ForEachEntry(group->shapes, [&](CShape& shape) {
@@ -40,7 +42,6 @@ void CObjectTree::Rebuild()
       sides_[side].push_back({&shape, shape.vertices.size(), TreeImage::Polyline});
     });
   }
-  anchors_.clear();
   hasAnchors_ = design_.anchors != nullptr;
   if (!hasAnchors_) return;
   Walk(design_.anchors->cursor, design_.anchors->items,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <utility>
 
 #include "base/Code.h"
@@ -44,7 +45,12 @@ void CObjectView::BuildTree()
 {
   selectedItem = {};
   control_.BeforeRebuild();
-  tree_.Rebuild();
+  try {
+    tree_.Rebuild();
+  } catch (const std::bad_alloc&) {
+    control_.Rebuilt();  // a control waits for it
+    throw;
+  }
   control_.Rebuilt();
 }
 

@@ -36,7 +36,12 @@ HeadlessEditor::HeadlessEditor(IDrawingTarget* target, IFrameWidgets* widgets)
 bool HeadlessEditor::Open(std::u16string_view path)
 {
   messages_.shown.clear();
-  if (editor_.document.OnOpenDocument(path)) return true;
+  if (editor_.document.OnOpenDocument(path)) {
+    // Half a design is worse than none where nobody sees it.
+    if (editor_.document.LeftOutParts() == 0) return true;
+    problem_ = u"the design can't be read: out of memory";
+    return false;
+  }
   const ReadError& error = editor_.document.OpenError();
   if (!messages_.shown.empty()) {
     problem_ = messages_.shown.back();

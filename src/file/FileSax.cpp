@@ -46,8 +46,11 @@ void CFileSax::PassOver(std::string_view) {}
 
 void CFileSax::Error(std::u16string_view, int, int, int) {}
 
+bool CFileSax::GoOnWithout(std::string_view) noexcept { return false; }
+
 int CFileSax::Read(std::u16string_view path)
 {
+  readError_ = {};
   CFileSaxContentHandler content(this);
   CFileSaxErrorHandler errors(this);
   const bool whole = ParseXmlFile(path, content, errors);

@@ -20,6 +20,7 @@ struct ReadError {
   std::u16string message;  ///< empty while no file has failed
   int line = 0;            ///< from 1; 0 where the disk or the memory is to blame, not the document
   int column = 0;          ///< from 1; 0 where the place is not known
+  bool outOfMemory = false;
 };
 
 /// The place and the reason as "line 3, column 7: mismatched tag".
@@ -47,6 +48,11 @@ public:
   /// What no other callback gets to see: a comment or a processing instruction with its marks, or a
   /// chunk of text that the handler drops.
   virtual void PassOver(std::string_view markup);
+
+  /// Called where memory has ended in a callback, which was left. Whether to read on without what
+  /// it was about: the start of the element that is named, or, without a name, anything else. The
+  /// base form ends the reading as a failure.
+  virtual bool GoOnWithout(std::string_view startedElement) noexcept;
 
   /// Parses a file; every callback runs inside. 0, or -1 for a file that can't be read or is not
   /// well-formed XML. A document type declaration counts as not well-formed: no entity expands and

@@ -35,6 +35,13 @@ void ReadCoordinates(CShapeVertex& vertex, SaxAttributes attributes)
   }
 }
 
+/// Hands an object over to its owner; it goes where the owner has no memory for it.
+template <class Object, class Base>
+void HandOver(std::unique_ptr<Object> object, OwnedArray<Base>& owner)
+{
+  owner.push_back(std::move(object));
+}
+
 /// The attribute that holds the value of an element.
 template <class Object>
 AttributeMap ValueAttribute(const DesignElement& element, const Object& object)
@@ -131,6 +138,7 @@ const DesignElement* CFileVessel::ElementOfTag(std::string_view name)
 {
   // Most tags bear the name of the one before.
   if (name != tagName_) {
+    tagName_.clear();  // of a name that there is no memory for, nothing stays
     tagName_ = name;
     tagElement_ = FindElement(name);
   }
@@ -192,19 +200,33 @@ void CFileVessel::EndElement(std::string_view name)
 {
   const DesignElement* const element = ElementOfTag(name);
   if (element == nullptr) return;
+  // The state first: what memory ends for is left out, and the element has ended all the same.
   if (element->kind == ElementKind::Polyline && state_ == State::InPolyline) {
-    if (currentGroup_ && currentPolyline_) {
-      currentPolyline_->vertices.shrink_to_fit();  // growing left room for up to twice as many
-      currentGroup_->shapes.push_back(std::move(currentPolyline_));
-    }
     state_ = State::InGroup;
+    if (!currentGroup_ || !currentPolyline_) return;
+    currentPolyline_->vertices.shrink_to_fit();  // growing left room for up to twice as many
+    HandOver(std::move(currentPolyline_), currentGroup_->shapes);
   } else if (element->kind == ElementKind::Anchor && state_ == State::InAnchor) {
-    if (anchors && currentAnchor_) anchors->items.push_back(std::move(currentAnchor_));
     state_ = State::Between;
+    if (anchors && currentAnchor_) HandOver(std::move(currentAnchor_), anchors->items);
   } else if (element->kind == ElementKind::Group && state_ == State::InGroup) {
-    if (currentGroup_ && groups != nullptr) groups->push_back(std::move(currentGroup_));
     state_ = State::Between;
+    if (currentGroup_ && groups != nullptr) HandOver(std::move(currentGroup_), *groups);
   }
+}
+
+bool CFileVessel::GoOnWithout(std::string_view startedElement) noexcept
+{
+  tagName_.clear();
+  const DesignElement* const element = FindElement(startedElement);
+  const ElementKind kind = element == nullptr ? ElementKind::AnchorField : element->kind;
+  // Without its unit or an offset a design is not a smaller one but another one.
+  if (kind == ElementKind::Unit || kind == ElementKind::Offset) return false;
+  ++leftOutParts_;
+  if (kind == ElementKind::Group) currentGroup_.reset();
+  if (kind == ElementKind::Polyline) currentPolyline_.reset();
+  if (kind == ElementKind::Anchor || kind == ElementKind::AnchorField) currentAnchor_.reset();
+  return true;
 }
 
 }  // namespace hullwright

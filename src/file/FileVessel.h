@@ -36,6 +36,13 @@ public:
   void EndElement(std::string_view name) override;
   void Characters(std::string_view text) override;
 
+  /// Counts the part, and the reading goes on: a group or polyline without its start has no content
+  /// either, and an anchor is read whole or not at all. Without unit or offset it does not.
+  bool GoOnWithout(std::string_view startedElement) noexcept override;
+
+  /// Parts of the file for which memory had ended when they were read.
+  std::size_t LeftOutParts() const { return leftOutParts_; }
+
   UnitCode unitCode = UnitCode::Metre;
   std::unique_ptr<CShapeVertex> gps = std::make_unique<CShapeVertex>();
   std::unique_ptr<CShapeVertex> txd = std::make_unique<CShapeVertex>();
@@ -66,6 +73,7 @@ private:
   std::string tagName_;                        ///< of the start or end tag that came last
   const DesignElement* tagElement_ = nullptr;  ///< what it stands for; null where it is unknown
   State state_ = State::Start;
+  std::size_t leftOutParts_ = 0;
   std::unique_ptr<CAnchor> currentAnchor_;
   std::unique_ptr<CShapePolyline> currentPolyline_;
   std::unique_ptr<CShapes> currentGroup_;

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <new>
+#include <utility>
 
 #include "base/ErrorText.h"
 #include "base/OpenFile.h"
@@ -75,6 +76,48 @@ private:
   std::size_t hash_ = 0;
 };
 
+/// The groups and anchors of a design, kept aside while it is empty. They go back into it unless
+/// they are let go.
+class FormerContents {
+public:
+  explicit FormerContents(DesignState& design)
+      : design_(design),
+        groups_(std::move(design.shapeGroups)),
+        anchors_(std::move(design.anchors->items))
+  {
+    design.shapeGroups.clear();
+    design.anchors->items.clear();
+  }
+  FormerContents(const FormerContents&) = delete;
+  FormerContents& operator=(const FormerContents&) = delete;
+  ~FormerContents()
+  {
+    if (isLetGo_) return;
+    design_.shapeGroups.swap(groups_);
+    design_.anchors->items.swap(anchors_);
+  }
+
+  void LetGo() { isLetGo_ = true; }
+
+private:
+  DesignState& design_;
+  OwnedArray<CShapes> groups_;
+  OwnedArray<CAnchor> anchors_;
+  bool isLetGo_ = false;
+};
+
+/// The `errno` of opening a file, 0 where there is none for it; nothing for one that opens.
+std::optional<int> OpeningError(std::u16string_view path)
+{
+  errno = 0;
+  try {
+    if (OpenToRead(path)) return std::nullopt;
+  } catch (const std::bad_alloc&) {
+    return ENOMEM;
+  }
+  return errno;
+}
+
 std::u16string CannotOpen(std::u16string_view path, const std::u16string& reason)
 {
   return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + reason + u".";
@@ -91,6 +134,7 @@ CHullwrightDoc::CHullwrightDoc(DesignState& design, IMainWindow& mainWindow,
 bool CHullwrightDoc::OnNewDocument()
 {
   DeleteContents();
+  if (onEmptied) onEmptied();
   return true;
 }
 
@@ -101,38 +145,58 @@ void CHullwrightDoc::DeleteContents()
   RecoverView(design_);
   if (mainWindow_.HasWindow()) mainWindow_.NotifyDesignChanged();
   SetModifiedFlag(false);
-  if (onEmptied) onEmptied();
 }
 
 bool CHullwrightDoc::OnOpenDocument(std::u16string_view path)
 {
   openError_ = {};
-  errno = 0;
-  if (!OpenToRead(path)) {
-    openProblem_ = Reason(errno, notAFile);
+  leftOutParts_ = 0;
+  if (const auto error = OpeningError(path)) {
+    openProblem_ = Reason(*error, notAFile);
     messages_.ShowMessage(CannotOpen(path, openProblem_));
     return false;
   }
   openProblem_.clear();
-  DeleteContents();
-
-  CFileVessel file(messages_);
-  ClearGroups(design_.shapeGroups);
-  file.anchors->Clear();
-  file.groups = &design_.shapeGroups;
-  if (file.Read(path) != 0) {
-    openError_ = file.LastReadError();
-    if (openError_.message.empty()) openError_.message = Reason(0, "It can't be read");
-    openProblem_ = Describe(openError_);
-    return false;
+  const bool wasModified = modified_;
+  const Reading reading = ReadInto(path);
+  if (reading == Reading::OutOfMemory) {
+    openError_ = {.message = u"out of memory", .outOfMemory = true};
+    SetModifiedFlag(wasModified);
+  } else if (onEmptied) {
+    onEmptied();
   }
+  if (reading != Reading::Whole) openProblem_ = Describe(openError_);
+  if (reading != Reading::Broken) mainWindow_.NotifyDesignChanged();
+  return reading == Reading::Whole;
+}
+
+CHullwrightDoc::Reading CHullwrightDoc::ReadInto(std::u16string_view path)
+{
+  try {
+    CFileVessel file(messages_);
+    FormerContents former(design_);
+    DeleteContents();
+    file.groups = &design_.shapeGroups;
+    const bool whole = file.Read(path) == 0;
+    openError_ = file.LastReadError();
+    if (openError_.outOfMemory) return Reading::OutOfMemory;
+    if (!whole && openError_.message.empty()) openError_.message = Reason(0, "It can't be read");
+    leftOutParts_ = file.LeftOutParts();
+    if (whole) TakeOver(file);
+    former.LetGo();
+    return whole ? Reading::Whole : Reading::Broken;
+  } catch (const std::bad_alloc&) {
+    return Reading::OutOfMemory;
+  }
+}
+
+void CHullwrightDoc::TakeOver(CFileVessel& file)
+{
   ForEachOffset(file, design_, [](const CShapeVertex& inFile, CShapeVertex& inDesign) {
     CopyCoordinates(inFile, inDesign);
   });
-  design_.anchors->AppendClones(*file.anchors);
+  design_.anchors->items.swap(file.anchors->items);
   design_.unitCode = file.unitCode;
-  mainWindow_.NotifyDesignChanged();
-  return true;
 }
 
 void CHullwrightDoc::FillFile(CFileVessel& file) const

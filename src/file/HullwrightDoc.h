@@ -27,7 +27,8 @@ public:
   /// Replaces the design by that of a file; true only on full success. A file that can't be opened
   /// is reported in a message and changes nothing. One that is not well-formed fails silently:
   /// the groups that ended before the error are in the design, which otherwise is empty, and
-  /// offsets and unit stay as they were.
+  /// offsets and unit stay as they were. Parts that memory ends for are left out; where there is
+  /// none to read on, the open fails and the design is what it was.
   bool OnOpenDocument(std::u16string_view path);
 
   /// Writes the design to a file. Always true, and the design then counts as saved, also when the
@@ -49,13 +50,16 @@ public:
   /// otherwise.
   const ReadError& OpenError() const { return openError_; }
 
+  /// Parts of the file that the last open left out, because memory had ended.
+  std::size_t LeftOutParts() const { return leftOutParts_; }
+
   /// Stands for the bytes that a save would write now, but for groups without polylines, which come
   /// to be when a side is merely looked at: equal texts have equal fingerprints. Nothing where
   /// there is no memory to compose them.
   std::optional<std::size_t> Fingerprint() const;
 
-  /// Called when the design has been emptied, by new or by open: what is there then is no longer
-  /// what the file of before holds, also if the open fails later.
+  /// Called when the design has been emptied for good, by new or by open: what is there then is no
+  /// longer what the file of before holds, also if the open has failed.
   std::function<void()> onEmptied;
 
   /// Called when a save has failed, before it is reported to the user: the target may be torn.
@@ -65,7 +69,12 @@ public:
   bool IsModified() const { return modified_; }
 
 private:
+  /// What came of reading a file into the design.
+  enum class Reading { Whole, Broken, OutOfMemory };
+
   void DeleteContents();
+  Reading ReadInto(std::u16string_view path);
+  void TakeOver(CFileVessel& file);
   void FillFile(CFileVessel& file) const;
 
   /// Saves the design; why that failed, empty when it did not.
@@ -78,6 +87,7 @@ private:
   std::u16string saveProblem_;
   std::u16string openProblem_;
   ReadError openError_;
+  std::size_t leftOutParts_ = 0;
 };
 
 }  // namespace hullwright

@@ -66,6 +66,9 @@ public:
   void Characters(std::string_view text) override;
   void PassOver(std::string_view markup) override;
 
+  /// Ends the reading: losses are told whole or not at all.
+  bool GoOnWithout(std::string_view) noexcept override { return false; }
+
   /// What is lost or changed; call it after the reading.
   const std::map<LossKind, Loss>& Found() const { return found_; }
 

@@ -34,6 +34,11 @@ void CFileSaxContentHandler::Characters(std::string_view chunk)
   }
 }
 
+bool CFileSaxContentHandler::GoOnWithout(std::string_view startedElement) noexcept
+{
+  return owner_ == nullptr || owner_->GoOnWithout(startedElement);
+}
+
 void CFileSaxContentHandler::PassOver(std::string_view markup)
 {
   if (owner_ != nullptr) owner_->PassOver(markup);
@@ -41,7 +46,8 @@ void CFileSaxContentHandler::PassOver(std::string_view markup)
 
 void CFileSaxErrorHandler::Error(std::u16string_view message, int line, int column, int code)
 {
-  last_ = {std::u16string(message), line, column};
+  constexpr int noMemory = 1;  // as the parser counts its errors
+  last_ = {std::u16string(message), line, column, code == noMemory};
   if (owner_ != nullptr) owner_->Error(message, line, column, code);
 }
 

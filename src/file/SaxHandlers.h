@@ -19,6 +19,9 @@ public:
   /// follows there. Any other chunk is one call, nothing is gathered.
   void Characters(std::string_view chunk);
 
+  /// As the owner's.
+  bool GoOnWithout(std::string_view startedElement) noexcept;
+
   /// A comment or a processing instruction, with its marks.
   void PassOver(std::string_view markup);
 

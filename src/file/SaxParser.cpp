@@ -46,24 +46,18 @@ public:
     XML_SetElementHandler(
         parser,
         [](void* self, const XML_Char* name, const XML_Char** attributes) {
-          static_cast<Driver*>(self)->Run([&](Driver& d) { d.StartElement(name, attributes); });
+          static_cast<Driver*>(self)->StartElement(name, attributes);
         },
-        [](void* self, const XML_Char* name) {
-          static_cast<Driver*>(self)->Run([&](Driver& d) { d.EndElement(name); });
-        });
+        [](void* self, const XML_Char* name) { static_cast<Driver*>(self)->EndElement(name); });
     XML_SetCharacterDataHandler(parser, [](void* self, const XML_Char* text, int length) {
-      static_cast<Driver*>(self)->Run([&](Driver& d) {
-        d.Text({text, static_cast<std::size_t>(length)});
-      });
+      static_cast<Driver*>(self)->Text({text, static_cast<std::size_t>(length)});
     });
     XML_SetCommentHandler(parser, [](void* self, const XML_Char* text) {
-      static_cast<Driver*>(self)->Run([&](Driver& d) { d.PassOver({"<!--", text, "-->"}); });
+      static_cast<Driver*>(self)->PassOver({"<!--", text, "-->"});
     });
     XML_SetProcessingInstructionHandler(
         parser, [](void* self, const XML_Char* target, const XML_Char* data) {
-          static_cast<Driver*>(self)->Run([&](Driver& d) {
-            d.PassOver({"<?", target, " ", data, "?>"});
-          });
+          static_cast<Driver*>(self)->PassOver({"<?", target, " ", data, "?>"});
         });
     XML_SetStartDoctypeDeclHandler(
         parser, [](void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
@@ -75,7 +69,7 @@ public:
   /// Why the parse was stopped from here; null when it was not.
   const char* StopReason() const { return stopReason_; }
 
-  /// Whether memory ended in a callback, which stopped the parse.
+  /// Whether memory ended in a callback, and the parse with it.
   bool IsOutOfMemory() const { return isOutOfMemory_; }
 
 private:
@@ -85,58 +79,71 @@ private:
     XML_StopParser(parser_, XML_FALSE);
   }
 
-  /// Runs a callback's work. The parser is C and no exception may cross it, so that memory running
-  /// out ends the parse as an error.
+  /// Runs a part of a callback's work. The parser is C and no exception may cross it: where memory
+  /// ends, the file is read on without that part, or the parse ends as an error. Whether the part
+  /// was done; `started` is the element that starts with it.
   template <class Work>
-  void Run(Work work) noexcept
+  bool Run(Work work, std::string_view started = {}) noexcept
   {
     try {
-      work(*this);
+      work();
+      return true;
     } catch (const std::bad_alloc&) {
+      if (content_.GoOnWithout(started)) return false;
       isOutOfMemory_ = true;
       Stop(nullptr);
+      return false;
     }
   }
 
-  void StartElement(const XML_Char* name, const XML_Char** attributes)
+  void StartElement(const XML_Char* name, const XML_Char** attributes) noexcept
   {
     FlushText();
-    attributes_.clear();
-    for (; *attributes != nullptr; attributes += 2) {
-      attributes_.push_back({LocalName(attributes[0]), attributes[1]});
-    }
-    content_.StartElement(LocalName(name), attributes_);
+    const std::string_view local = LocalName(name);
+    const auto deliver = [&] {
+      attributes_.clear();
+      for (; *attributes != nullptr; attributes += 2) {
+        attributes_.push_back({LocalName(attributes[0]), attributes[1]});
+      }
+      content_.StartElement(local, attributes_);
+    };
+    Run(deliver, local);
   }
 
-  void EndElement(const XML_Char* name)
+  void EndElement(const XML_Char* name) noexcept
   {
     FlushText();
-    content_.EndElement(LocalName(name));
+    Run([&] { content_.EndElement(LocalName(name)); });
   }
 
-  void Text(std::string_view text)
+  void Text(std::string_view text) noexcept
   {
     // The parser hands over each line break on its own. One that stands in the file has at most
     // four bytes there; a longer one is a reference, which belongs to the text around it.
     constexpr int longestLineBreak = 4;
     const bool lineBreak = text.starts_with('\n') || text.starts_with('\r');
     if (lineBreak && XML_GetCurrentByteCount(parser_) <= longestLineBreak) FlushText();
-    chunk_ += text;
+    // Half a text would be another one.
+    if (!isChunkLost_) isChunkLost_ = !Run([&] { chunk_ += text; });
   }
 
-  void PassOver(std::initializer_list<std::string_view> parts)
+  void PassOver(std::initializer_list<std::string_view> parts) noexcept
   {
     FlushText();
-    std::string markup;
-    for (const std::string_view part : parts) markup += part;
-    content_.PassOver(markup);
+    Run([&] {
+      std::string markup;
+      for (const std::string_view part : parts) markup += part;
+      content_.PassOver(markup);
+    });
   }
 
-  void FlushText()
+  void FlushText() noexcept
   {
-    if (chunk_.empty()) return;
-    content_.Characters(chunk_);
+    if (!chunk_.empty() && !isChunkLost_) {
+      Run([&] { content_.Characters(chunk_); });
+    }
     chunk_.clear();
+    isChunkLost_ = false;
   }
 
   /// The ANSI code page is the one encoding beyond the parser's own that files come in.
@@ -158,6 +165,7 @@ private:
   XML_Parser parser_;
   CFileSaxContentHandler& content_;
   std::string chunk_;
+  bool isChunkLost_ = false;              ///< memory has ended in the chunk
   std::vector<SaxAttribute> attributes_;  ///< of the element that starts
   const char* stopReason_ = nullptr;
   bool isOutOfMemory_ = false;

@@ -17,7 +17,8 @@ std::string XmlLibraryVersion();
 /// chunk is the text of one line between two tags, whole: it never breaks at a character reference,
 /// and the line break belongs to the chunk that follows it. False for a file that can't be read, is
 /// not well-formed, declares a document type or needs more memory than there is; what stood before
-/// the error has been delivered. What ended the parse has been reported, with its place where that
+/// the error has been delivered. What memory ends for in a callback is left out if the handler can
+/// go on without it. What ended the parse has been reported, with its place where that
 /// is the document; a file that won't open has not.
 bool ParseXmlFile(std::u16string_view path, CFileSaxContentHandler& content,
                   CFileSaxErrorHandler& errors);

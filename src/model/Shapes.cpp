@@ -18,6 +18,7 @@ void CShapes::AppendClones(const CShapes* source)
 
 void CShapes::TakeShapes(CShapes& source)
 {
+  shapes.reserve(shapes.size() + source.shapes.size());  // none is taken where memory ends
   std::ranges::move(source.shapes, std::back_inserter(shapes));
   source.shapes.clear();
 }

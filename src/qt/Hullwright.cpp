@@ -1,8 +1,8 @@
-#include <QApplication>
 #include <QCommandLineParser>
 #include <chrono>
 
 #include "qt/Accessibility.h"
+#include "qt/Application.h"
 #include "qt/Looks.h"
 #include "qt/QtText.h"
 #include "qt/Shell.h"
@@ -40,14 +40,16 @@ int main(int argc, char** argv)
   Describe(commandLine);
   AnswerWithoutDisplay(commandLine, argc, argv);
   hullwright::LeaveSilentSessionBus(std::chrono::seconds(3));
-  const QApplication toolkit(argc, argv);
+  hullwright::Application toolkit(argc, argv);
   commandLine.process(toolkit);
   hullwright::PrepareLooks();
   hullwright::InstallAccessibility();
 
   hullwright::Shell shell(commandLine.positionalArguments().value(0));
+  toolkit.onMemoryEnded = [&shell] { shell.Window()->OnMemoryEnded(); };
   if (!shell.App().InitInstance(shell)) return 1;
   const int status = QApplication::exec();
+  toolkit.onMemoryEnded = nullptr;
   const int exitCode = shell.App().ExitInstance(shell);
   return status != 0 ? status : exitCode;
 }

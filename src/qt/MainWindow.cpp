@@ -203,6 +203,13 @@ void MainWindow::RunCommand(CommandId command)
   UpdateAll();
 }
 
+void MainWindow::OnMemoryEnded()
+{
+  editor_.Recover();
+  ShowNote(ToWide(tr("There is not enough memory for that")));
+  UpdateAll();
+}
+
 CommandState MainWindow::Query(CommandId command) const
 {
   const bool isOwn = HasHandler(ShellCommandTable::rows, command);

@@ -58,6 +58,9 @@ public:
   /// Carries out a command of menu, toolbar or key, if it is enabled.
   void RunCommand(CommandId command);
 
+  /// Makes good what an event has left open that memory ended in, and says so.
+  void OnMemoryEnded();
+
   QString guideFolder;  ///< where the guide lies; empty for beside the program
 
   /// Shows the window where and as it was closed last.

@@ -1,6 +1,10 @@
 #include "qt/QtSettingsStore.h"
 
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QStandardPaths>
+#include <QStringList>
+#include <algorithm>
 
 #include "qt/QtText.h"
 
@@ -19,24 +23,49 @@ bool IsFileOrNothing(const QString& path)
   return !place.exists() || place.isFile();
 }
 
-/// Whether the user's settings can be read. The toolkit reads them as soon as a store is made, so
-/// their place is that of a maker who has none.
-bool CanBeRead(const QString& maker, const QString& program)
+/// The files in a folder that the toolkit reads the settings of a program from.
+QStringList FilesIn(const QString& folder, const QString& maker, const QString& program)
+{
+  const QString ending = QStringLiteral(".ini");
+  const QString makers = folder + QLatin1Char('/') + maker;
+  return {makers + QLatin1Char('/') + program + ending, makers + ending};
+}
+
+/// The folder of the user's settings. The toolkit reads settings as soon as a store is made, so it
+/// is that of a maker who has none.
+QString UserFolder()
 {
   const QSettings nobodys(QSettings::IniFormat, QSettings::UserScope,
                           QStringLiteral("hullwright-nobody"));
-  const QString folder = QFileInfo(nobodys.fileName()).path() + QLatin1Char('/') + maker;
-  const QString ending = QStringLiteral(".ini");
-  return IsFileOrNothing(folder + ending) &&
-         IsFileOrNothing(folder + QLatin1Char('/') + program + ending);
+  return QFileInfo(nobodys.fileName()).path();
+}
+
+bool CanBeRead(const QStringList& files)
+{
+  return std::all_of(files.begin(), files.end(), IsFileOrNothing);
+}
+
+/// Whether all files can be read in which the system may have defaults for all users.
+bool CanReadDefaults(const QString& maker, const QString& program)
+{
+  const QStringList folders =
+      QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation)
+      << QLibraryInfo::path(QLibraryInfo::SettingsPath);
+  return std::all_of(folders.begin(), folders.end(), [&](const QString& folder) {
+    return CanBeRead(FilesIn(folder, maker, program));
+  });
 }
 
 }  // namespace
 
 void QtSettingsStore::Open(const QString& maker, const QString& program)
 {
-  if (!CanBeRead(maker, program)) return;
-  file_ = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, maker, program);
+  const QStringList users = FilesIn(UserFolder(), maker, program);
+  if (!CanBeRead(users)) return;
+  file_ =
+      CanReadDefaults(maker, program)
+          ? std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, maker, program)
+          : std::make_unique<QSettings>(users.front(), QSettings::IniFormat);
 }
 
 std::int32_t QtSettingsStore::ReadInteger(std::string_view section, std::string_view key,

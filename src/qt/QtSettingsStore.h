@@ -14,7 +14,7 @@ namespace hullwright {
 class QtSettingsStore : public ISettingsStore {
 public:
   /// Until the store is opened, reads give the defaults and writes are lost. Settings that are a
-  /// pipe or a device are not opened.
+  /// pipe or a device are not opened; where those of the system are, the user's are opened alone.
   void Open(const QString& maker, const QString& program);
 
   void Refresh() const override;

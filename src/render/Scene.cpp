@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <new>
 #include <string>
 
 #include "base/Text.h"
@@ -97,6 +98,19 @@ void DrawOffsetsAndAnchors(const DesignState& design, const CViewPort& viewPort)
        [&](const CAnchor& anchor) { DrawAnchor(anchor, viewPort); });
 }
 
+void DrawContent(const DesignState& design, const CViewPort& viewPort, CShapePolyline* newShape,
+                 const GridSettings& grid)
+{
+  if (CShapes* const group = FindViewGroup(design.shapeGroups, design.activeView)) {
+    Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Draw(&viewPort); });
+  }
+  if (newShape != nullptr) newShape->Draw(&viewPort);
+  DrawGrid(viewPort, grid);
+  if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
+    DrawOffsetsAndAnchors(design, viewPort);
+  }
+}
+
 }  // namespace
 
 void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyline* newShape,
@@ -104,14 +118,13 @@ void DrawScene(const DesignState& design, const CViewPort* viewPort, CShapePolyl
 {
   if (viewPort == nullptr || viewPort->canvas == nullptr || !design.anchors) return;
   CCanvas& canvas = *viewPort->canvas;
-  if (canvas.Target() != nullptr) canvas.Target()->BeginFrame(background);
-  if (CShapes* const group = FindViewGroup(design.shapeGroups, design.activeView)) {
-    Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Draw(viewPort); });
-  }
-  if (newShape != nullptr) newShape->Draw(viewPort);
-  DrawGrid(*viewPort, grid);
-  if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
-    DrawOffsetsAndAnchors(design, *viewPort);
+  try {
+    if (canvas.Target() != nullptr) canvas.Target()->BeginFrame(background);
+    DrawContent(design, *viewPort, newShape, grid);
+  } catch (const std::bad_alloc&) {
+    // No target stays in the middle of a frame: its picture may go before the next one.
+    if (canvas.Target() != nullptr) canvas.Target()->EndFrame();
+    throw;
   }
   if (canvas.Target() != nullptr) canvas.EndFrame(canvas.Target()->EndFrame());
 }

@@ -11,14 +11,25 @@ constexpr std::string_view query = "SELECT * FROM tblUnits WHERE numDimension = 
 
 // Codes of the library's interface.
 constexpr int resultOk = 0;
+constexpr int resultNoMemory = 7;
+constexpr int resultTooLong = 18;
 constexpr int resultRow = 100;
 constexpr int resultDone = 101;
 constexpr int typeNull = 5;
 
 // A query of the units takes some ten steps of the library's machine a row. This many take it about
-// a second.
-constexpr int stepsOfAPiece = 10'000;
-constexpr int mostPieces = 2'000;
+// a second, or longer where functions work on long values.
+constexpr int stepsOfAPiece = 1'000;
+constexpr int mostPieces = 20'000;
+constexpr std::clock_t longestWork = std::clock_t{2} * CLOCKS_PER_SEC;
+
+// What a query may take of memory: all of it, one value, and the program that it becomes.
+constexpr std::int64_t largestHeap = std::int64_t{64} << 20;
+constexpr int longestValue = 10'000;
+constexpr int longestProgram = 100'000;
+
+// Whichever bound is met first.
+constexpr const char16_t* noEnd = u"it gives no end of rows";
 
 /// Why a step gave no row before the end of the rows.
 std::u16string StepProblem(int result)
@@ -28,6 +39,8 @@ std::u16string StepProblem(int result)
   switch (result) {
     case resultBusy: return u"another program has locked it";
     case resultCorrupt: return u"it is damaged";
+    case resultNoMemory: return noEnd;
+    case resultTooLong: return u"it holds a value that is too long";
     default: return u"SQLite ERROR #" + WideFromAscii(std::to_string(result));
   }
 }
@@ -56,6 +69,7 @@ int CSQLite::Load()
   }
   bound_ = Bind();
   if (!bound_) return -1;
+  BindLimits();
   return call_.initialize() == resultOk ? 0 : -1;
 }
 
@@ -78,7 +92,18 @@ bool CSQLite::Bind()
          bind(call_.columnText, "sqlite3_column_text") &&
          bind(call_.columnInt, "sqlite3_column_int") && bind(unused, "sqlite3_column_double") &&
          bind(call_.errorMessage, "sqlite3_errmsg") && bind(call_.errorCode, "sqlite3_errcode") &&
-         bind(unused, "sqlite3_exec") && bind(unused, "sqlite3_last_insert_rowid");
+         bind(call_.execute, "sqlite3_exec") && bind(unused, "sqlite3_last_insert_rowid");
+}
+
+void CSQLite::BindLimits()
+{
+  const auto bind = [this](auto& entryPoint, const char* name) {
+    entryPoint = reinterpret_cast<std::remove_reference_t<decltype(entryPoint)>>(
+        loader_.Resolve(library_, name));
+  };
+  bind(call_.progressHandler, "sqlite3_progress_handler");
+  bind(call_.limit, "sqlite3_limit");
+  bind(call_.hardHeapLimit, "sqlite3_hard_heap_limit64");
 }
 
 int CSQLite::Open(std::u16string_view path)
@@ -87,6 +112,7 @@ int CSQLite::Open(std::u16string_view path)
   if (!bound_) return -1;
   if (call_.open(Utf8FromWide(path).c_str(), &database_) == resultOk && database_ != nullptr) {
     LimitWork();
+    LimitMemory();
     return 0;
   }
   if (database_ != nullptr) KeepError();
@@ -97,19 +123,46 @@ int CSQLite::Open(std::u16string_view path)
 void CSQLite::LimitWork()
 {
   pieces_ = 0;
-  tookTooLong_ = false;
-  using Ask = int (*)(void*);
-  if (auto* const limit = reinterpret_cast<void (*)(sqlite3*, int, Ask, void*)>(
-          loader_.Resolve(library_, "sqlite3_progress_handler"))) {
-    limit(database_, stepsOfAPiece, IsTooMuchWork, this);
+  begin_ = std::clock();
+  askedTooMuch_ = false;
+  if (call_.progressHandler != nullptr) {
+    call_.progressHandler(database_, stepsOfAPiece, IsTooMuchWork, this);
   }
+}
+
+void CSQLite::LimitMemory()
+{
+  constexpr int limitOfProgram = 5;
+  // What is sorted stays within the bounds of the memory, instead of filling the disk.
+  call_.execute(database_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
+  if (call_.limit != nullptr) call_.limit(database_, limitOfProgram, longestProgram);
+  if (call_.hardHeapLimit != nullptr) formerHeapLimit_ = call_.hardHeapLimit(largestHeap);
+}
+
+void CSQLite::LimitValues()
+{
+  constexpr int limitOfLength = 0;
+  if (call_.limit != nullptr) call_.limit(database_, limitOfLength, longestValue);
+}
+
+void CSQLite::EndMemoryLimit()
+{
+  // Others of the process may use the library.
+  if (formerHeapLimit_) call_.hardHeapLimit(*formerHeapLimit_);
+  formerHeapLimit_.reset();
+}
+
+void CSQLite::NoteExcess(int result)
+{
+  if (result == resultNoMemory || result == resultTooLong) askedTooMuch_ = true;
 }
 
 int CSQLite::IsTooMuchWork(void* self)
 {
   auto& sqlite = *static_cast<CSQLite*>(self);
-  sqlite.tookTooLong_ = ++sqlite.pieces_ > mostPieces;
-  return sqlite.tookTooLong_ ? 1 : 0;
+  sqlite.askedTooMuch_ =
+      ++sqlite.pieces_ > mostPieces || std::clock() - sqlite.begin_ > longestWork;
+  return sqlite.askedTooMuch_ ? 1 : 0;
 }
 
 int CSQLite::SelectUnits()
@@ -121,8 +174,10 @@ int CSQLite::SelectUnits()
       call_.prepare(database_, query.data(), static_cast<int>(query.size()), &statement_, nullptr);
   if (prepared != resultOk || statement_ == nullptr) {
     KeepError();
+    NoteExcess(prepared);
     return -1;
   }
+  LimitValues();  // the text of a table or view may be longer
   return StepToRow(u"it holds no unit of length") ? 1 : -1;
 }
 
@@ -130,11 +185,12 @@ bool CSQLite::StepToRow(std::u16string_view atEnd)
 {
   const int result = call_.step(statement_);
   if (result == resultRow) return true;
-  if (tookTooLong_) {
-    problem_ = u"it gives no end of rows";
+  if (askedTooMuch_) {
+    problem_ = noEnd;
   } else {
     problem_ = result == resultDone ? std::u16string(atEnd) : StepProblem(result);
   }
+  NoteExcess(result);
   FinishQuery();
   return false;
 }
@@ -188,6 +244,7 @@ void CSQLite::Close()
   FinishQuery();
   if (database_ != nullptr) call_.close(database_);
   database_ = nullptr;
+  EndMemoryLimit();
 }
 
 void CSQLite::Unload()

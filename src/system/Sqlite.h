@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -51,8 +52,9 @@ public:
   /// Why the last reading ended before the last row, or without one; empty where it did not.
   const std::u16string& Problem() const { return problem_; }
 
-  /// Whether it ended because the database gave no end of work: a view can go on for ever.
-  bool TookTooLong() const { return tookTooLong_; }
+  /// Whether it ended because the database asked for too much, as a view can: work without an end,
+  /// or more memory than any units take.
+  bool AskedTooMuch() const { return askedTooMuch_; }
 
   std::u16string lastError;  ///< text of the last failed call
 
@@ -72,11 +74,24 @@ private:
     int (*columnInt)(sqlite3_stmt*, int);
     const char* (*errorMessage)(sqlite3*);
     int (*errorCode)(sqlite3*);
+    int (*execute)(sqlite3*, const char*, int (*)(void*, int, char**, char**), void*, char**);
+
+    // What limits a query; a library may be without.
+    void (*progressHandler)(sqlite3*, int, int (*)(void*), void*);
+    int (*limit)(sqlite3*, int, int);
+    std::int64_t (*hardHeapLimit)(std::int64_t);
   };
 
   /// Lets the library ask now and then whether to go on; one that can't is never interrupted.
   void LimitWork();
   static int IsTooMuchWork(void* self);
+
+  // Bounds for the memory of a query, as far as the library has them.
+  void BindLimits();
+  void LimitMemory();
+  void LimitValues();
+  void EndMemoryLimit();
+  void NoteExcess(int result);
 
   bool Bind();
 
@@ -93,9 +108,11 @@ private:
   sqlite3* database_ = nullptr;
   sqlite3_stmt* statement_ = nullptr;
   EntryPoints call_{};
-  bool bound_ = false;  ///< all entry points are there
-  int pieces_ = 0;      ///< of work since the database was opened
-  bool tookTooLong_ = false;
+  bool bound_ = false;                           ///< all entry points are there
+  int pieces_ = 0;                               ///< of work since the database was opened
+  std::clock_t begin_ = 0;                       ///< processor time when it was opened
+  std::optional<std::int64_t> formerHeapLimit_;  ///< while the library has ours
+  bool askedTooMuch_ = false;
   std::u16string problem_;
 };
 

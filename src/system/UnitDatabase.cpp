@@ -30,7 +30,7 @@ std::vector<UnitRecord> ReadWith(CSQLite& database, std::u16string_view database
     database.GetText("strUnitShort", row.strUnitShort);
     units.push_back(row);
   } while (database.Next());
-  if (database.TookTooLong()) units.clear();
+  if (database.AskedTooMuch()) units.clear();
   return units;
 }
 
@@ -45,11 +45,11 @@ std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& message
 
 std::vector<UnitRecord> UnitDatabase::ReadUnits()
 {
-  if (tookTooLong_) return {};
+  if (askedTooMuch_) return {};
   const std::u16string path = GetDatabasePath(folder_());
   CSQLite database(loader_, messages_);
   std::vector<UnitRecord> units = ReadWith(database, path);
-  tookTooLong_ = database.TookTooLong();
+  askedTooMuch_ = database.AskedTooMuch();
   Report(path, database.Problem());
   return units;
 }

@@ -21,8 +21,8 @@ std::u16string GetDatabasePath(std::u16string_view commonDataFolder);
 std::vector<UnitRecord> ReadUnits(ILibraryLoader& loader, IMessageBoxes& messages,
                                   std::u16string_view databasePath);
 
-/// The unit database in the common data folder. One that gives no end of rows has no units, and is
-/// not asked again.
+/// The unit database in the common data folder. One that asks for too much has no units, and is not
+/// asked again.
 class UnitDatabase : public IUnitDatabase {
 public:
   /// `commonDataFolder` returns the folder at each reading, since it may come to be during the run.
@@ -44,7 +44,7 @@ private:
   IMessageBoxes& messages_;
   std::function<std::u16string()> folder_;
   bool isReported_ = false;
-  bool tookTooLong_ = false;
+  bool askedTooMuch_ = false;
 };
 
 }  // namespace hullwright

@@ -5,10 +5,12 @@
 
 #include <csignal>
 #include <limits>
+#include <new>
 
 #include "app/FiniteNumbers.h"
 #include "model/ShapePoint.h"
 #include "support/AppFixture.h"
+#include "support/FailingNew.h"
 #include "system/FormerVersions.h"
 
 namespace hullwright {
@@ -98,6 +100,31 @@ protected:
                                       return isDrawing;
                                     }}};
 };
+
+TEST_F(Life, ADesignThatMemoryEndedForHasNoFileNameAndIsReported)
+{
+  const std::u16string path = folder.Write("boat.xml", boat);
+  bool failed = true;
+  bool leftOut = false;
+  for (std::size_t which = 1; failed && !leftOut; ++which) {
+    const test::FailingNew memory(which);
+    try {
+      life.Open(path);
+    } catch (const std::bad_alloc&) {
+      // Of what is around the reading.
+    }
+    failed = test::FailingNew::Stop();
+    leftOut = document.LeftOutParts() != 0;
+  }
+  ASSERT_TRUE(leftOut);
+  EXPECT_EQ(life.Name(), u"Untitled");
+  EXPECT_EQ(
+      widgets.notes.back(),
+      u"\"boat.xml\" was opened without 1 part, for want of memory. It has no file name now.");
+  documentDialogs.toSave = folder.File("other.xml");
+  EXPECT_TRUE(life.Save());
+  EXPECT_EQ(folder.Read("boat.xml"), boat);
+}
 
 TEST_F(Life, AnUntouchedDesignNeverAsks)
 {

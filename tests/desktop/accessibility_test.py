@@ -3,6 +3,7 @@
 what it can press. Needs that bus and the modules of Debian's Python."""
 
 import importlib.util
+import os
 import pathlib
 import shutil
 import sys
@@ -14,7 +15,7 @@ MISSING = [package for package, is_there in (
     ("dbus-daemon", shutil.which("dbus-daemon"))) if not is_there]
 if MISSING:
     print(f"left out, for this is not installed: {', '.join(MISSING)}")
-    sys.exit(77)
+    sys.exit(1 if "HULLWRIGHT_ALL_TESTS" in os.environ else 77)
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 from accessible import Bus  # noqa: E402

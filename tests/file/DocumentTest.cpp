@@ -250,6 +250,15 @@ TEST_F(Document, ReportsThatItWasEmptiedAlsoWhenTheOpenFailsLater)
   EXPECT_EQ(emptied, 2);
 }
 
+TEST_F(Document, AReadErrorIsNoFaultOfTheText)
+{
+  // A regular file that opens and whose first byte can't be read: nothing is mapped there.
+  EXPECT_FALSE(document.OnOpenDocument(u"/proc/self/mem"));
+  EXPECT_EQ(document.OpenProblem(), u"Input/output error");
+  EXPECT_EQ(document.OpenError().line, 0);
+  EXPECT_FALSE(document.OpenError().outOfMemory);
+}
+
 TEST_F(Document, ANameWithReferencesComesBack)
 {
   auto anchor = design.anchors->NewAnchor();

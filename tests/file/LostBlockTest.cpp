@@ -30,6 +30,32 @@ protected:
   }
 };
 
+/// A design file whose text, when its block is full for the first time, is nearly as long as a text
+/// can be. The system has no memory for the most of the block, as nobody writes there.
+class NearlyFull : public CFileVessel {
+public:
+  using CFileVessel::CFileVessel;
+  bool wasRefused = false;
+
+protected:
+  void* Reallocate(void* block, std::size_t size) override
+  {
+    constexpr std::size_t longestText = std::size_t{1} << 32U;
+    if (size > longestText) {
+      wasRefused = true;
+      return CFileVessel::Reallocate(block, size);
+    }
+    return block == nullptr ? std::malloc(longestText) : block;
+  }
+  void OnFullBlock() override
+  {
+    if (outLength < almostAll) outLength = almostAll;
+  }
+
+private:
+  static constexpr std::uint32_t almostAll = 0xFFFF0000;
+};
+
 class LostBlock : public testing::Test {
 protected:
   LostBlock()
@@ -88,6 +114,19 @@ TEST_F(LostBlock, ReachesNoFile)
   EXPECT_TRUE(messages.shown.empty());
   EXPECT_EQ(file.Save(path, groups), 0);
   EXPECT_TRUE(folder.Read("boat.xml").ends_with("</vessel>\n"));
+}
+
+TEST_F(LostBlock, OfATextThatPassesFourGibibytesReachesNoFile)
+{
+#ifdef HULLWRIGHT_SANITIZE
+  GTEST_SKIP() << "the address sanitizer takes memory for what nobody writes to";
+#endif
+  const std::u16string path = folder.Write("boat.xml", "before");
+  NearlyFull large(messages);
+  EXPECT_EQ(large.Save(path, groups), -1);
+  EXPECT_TRUE(large.wasRefused);
+  EXPECT_TRUE(large.LostBlock());
+  EXPECT_EQ(folder.Read("boat.xml"), "before");
 }
 
 TEST_F(LostBlock, IsNotAllThatASaveNeedsMemoryFor)

@@ -6,7 +6,9 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <new>
 
+#include "qt/Application.h"
 #include "qt/TemplateDialog.h"
 #include "support/DeskFixture.h"
 
@@ -294,6 +296,25 @@ TEST_F(Desk, ShowsTheProgressOfAnImportInPlaceOfThePrompt)
   Window().StartProgress("Again");
   EXPECT_EQ(pane->findChild<QProgressBar*>()->value(), 0);
   Window().EndProgress();
+}
+
+TEST_F(Desk, AnEventThatMemoryEndsInIsLeftAndThatIsSaid)
+{
+  const auto deliver = [this](bool fails) {
+    return Application::Deliver(
+        [fails] {
+          if (fails) throw std::bad_alloc();
+          return false;
+        },
+        [this] { Window().OnMemoryEnded(); });
+  };
+  const auto& prompt = *Window().findChild<PromptPane*>();
+  EXPECT_FALSE(deliver(false));
+  EXPECT_EQ(prompt.Text(), QStringLiteral("Ready"));
+  EXPECT_TRUE(deliver(true));
+  EXPECT_EQ(prompt.Text(), QStringLiteral("There is not enough memory for that"));
+  EXPECT_TRUE(Application::Deliver([]() -> bool { throw std::bad_alloc(); },
+                                   [] { throw std::bad_alloc(); }));
 }
 
 }  // namespace

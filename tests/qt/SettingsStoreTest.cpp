@@ -80,5 +80,55 @@ TEST_F(SettingsStore, APipeIsLeftAloneAndGivesTheDefaults)
   EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
 }
 
+/// Folders of the system's settings, while it lives.
+class SystemFolders {
+public:
+  explicit SystemFolders(const std::filesystem::path& folder) { qputenv(name, folder.c_str()); }
+  SystemFolders(const SystemFolders&) = delete;
+  SystemFolders& operator=(const SystemFolders&) = delete;
+  ~SystemFolders()
+  {
+    if (before_.isNull()) {
+      qunsetenv(name);
+    } else {
+      qputenv(name, before_);
+    }
+  }
+
+private:
+  static constexpr const char* name = "XDG_CONFIG_DIRS";
+  QByteArray before_ = qgetenv(name);
+};
+
+TEST_F(SettingsStore, DefaultsOfTheSystemHoldWhereTheUserHasNone)
+{
+  const SystemFolders system(folder.Path() / "system");
+  std::filesystem::create_directories(folder.Path() / "system/Quillmere");
+  folder.Write("system/Quillmere/Hullwright.ini", "[Grid]\nShow=7\nSnap=7\n");
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere");
+  folder.Write("config/Quillmere/Hullwright.ini", "[Grid]\nSnap=3\n");
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 7);
+  EXPECT_EQ(store.ReadInteger("Grid", "Snap", 1), 3);
+}
+
+TEST_F(SettingsStore, APipeAmongTheDefaultsOfTheSystemIsLeftAlone)
+{
+  for (const char* const name : {"Quillmere.ini", "Quillmere/Hullwright.ini"}) {
+    const SystemFolders system(folder.Path() / "system");
+    std::filesystem::create_directories(folder.Path() / "system/Quillmere");
+    ASSERT_EQ(mkfifo((folder.Path() / "system" / name).c_str(), 0600), 0);
+    QtSettingsStore store;
+    // Would wait for ever.
+    store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+    store.WriteInteger("Grid", "Show", 5);
+    store.File()->sync();
+    EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 5);
+    EXPECT_EQ(folder.Read("config/Quillmere/Hullwright.ini"), "[Grid]\nShow=5\n") << name;
+    std::filesystem::remove_all(folder.Path() / "system");
+  }
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -53,6 +53,7 @@ public:
   int stepResult = 101;  ///< behind the rows
   std::vector<Row> rows;
   std::vector<std::string> calls;
+  std::vector<std::int64_t> heapLimits;
   std::string query;  ///< the last one, as long as it was stated to be
 
 private:
@@ -103,6 +104,17 @@ private:
   }
   static int ColumnInt(sqlite3_stmt*, int) { return Current().code.value_or(0); }
   static void LimitWork(sqlite3*, int, int (*)(void*), void*) {}
+  static int Limit(sqlite3*, int, int former) { return former; }
+  static std::int64_t LimitHeap(std::int64_t bytes)
+  {
+    one_->heapLimits.push_back(bytes);
+    constexpr std::int64_t former = 5000;
+    return former;
+  }
+  static int Execute(sqlite3*, const char*, int (*)(void*, int, char**, char**), void*, char**)
+  {
+    return 0;
+  }
   static const char* ErrorMessage(sqlite3*) { return "it failed"; }
   static int ErrorCode(sqlite3*) { return 14; }
 
@@ -129,6 +141,9 @@ private:
         {"sqlite3_errmsg", Address(ErrorMessage)},
         {"sqlite3_errcode", Address(ErrorCode)},
         {"sqlite3_progress_handler", Address(LimitWork)},
+        {"sqlite3_limit", Address(Limit)},
+        {"sqlite3_hard_heap_limit64", Address(LimitHeap)},
+        {"sqlite3_exec", Address(Execute)},
     };
     return functions;
   }
@@ -161,6 +176,28 @@ TEST_F(SqliteBinding, UnloadingShutsTheLibraryDownOnceAndFreesIt)
     EXPECT_THAT(library.calls, ElementsAre("load", "initialize", "shutdown", "free"));
   }
   EXPECT_THAT(library.calls, ElementsAre("load", "initialize", "shutdown", "free"));
+}
+
+TEST_F(SqliteBinding, TheMemoryOfTheLibraryIsBoundedWhileADatabaseIsOpen)
+{
+  CSQLite sqlite(library, messages);
+  ASSERT_EQ(sqlite.Load(), 0);
+  ASSERT_EQ(sqlite.Open(u"geo.db"), 0);
+  EXPECT_THAT(library.heapLimits, ElementsAre(64 << 20));
+  sqlite.Close();
+  EXPECT_THAT(library.heapLimits, ElementsAre(64 << 20, 5000));
+  sqlite.Unload();
+  EXPECT_THAT(library.heapLimits, ElementsAre(64 << 20, 5000));
+}
+
+TEST_F(SqliteBinding, ALibraryWithoutBoundsGivesItsUnits)
+{
+  for (const char* const missing :
+       {"sqlite3_limit", "sqlite3_hard_heap_limit64", "sqlite3_progress_handler"}) {
+    library.missing = missing;
+    library.rows = {{9001, "metre", "m"}};
+    EXPECT_THAT(ReadUnits(library, messages, u"geo.db"), testing::SizeIs(1)) << missing;
+  }
 }
 
 TEST_F(SqliteBinding, AFailedOpenClosesTheHandleAndForgetsIt)

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include <filesystem>
 
@@ -18,6 +19,14 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
+
+/// The most memory that the process has held so far, in KiB.
+long MostMemory()
+{
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
 
 class UnitProblems : public testing::Test {
 protected:
@@ -100,6 +109,57 @@ TEST_F(UnitProblems, ADatabaseThatGoesOnForEverIsLeftAndNotAskedAgain)
   Make("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, SizeIs(1));
+  // Whoever has not asked the one before gets the units of this one.
+  EXPECT_THAT(ReadUnits(loader, messages, GetDatabasePath(WideFromUtf8(folder.Path().string()))),
+              SizeIs(1));
+}
+
+TEST_F(UnitProblems, ValuesThatGrowAreCutOffByTheirLength)
+{
+  for (const char* const value :
+       {"hex(randomblob(900000000))", "zeroblob(900000000)",
+        "replace(hex(zeroblob(4000)), '0', 'metre')",
+        "(WITH RECURSIVE g(t) AS (SELECT 'metre' UNION ALL SELECT t || t FROM g) "
+        "SELECT count(*) FROM g)"}) {
+    const std::string view = std::string("CREATE VIEW tblUnits AS SELECT 9001 AS numId, ") + value +
+                             " AS strUnit, 1 AS numDimension";
+    reported.clear();
+    UnitDatabase fresh(loader, messages, [this] { return WideFromUtf8(folder.Path().string()); });
+    fresh.onProblem = units.onProblem;
+    Make(view.c_str());
+    EXPECT_THAT(fresh.ReadUnits(), IsEmpty());
+    EXPECT_THAT(reported, ElementsAre(HasSubstr(": it holds a value that is too long"))) << value;
+    std::filesystem::remove(folder.Path() / "Sondaris" / "Database" / "geo.db");
+  }
+}
+
+TEST_F(UnitProblems, RowsThatFillTheMemoryEndAtItsBound)
+{
+  Make(
+      "CREATE VIEW tblUnits AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+      "SELECT i AS numId, hex(randomblob(4900)) AS strUnit, 1 AS numDimension FROM n");
+  const long before = MostMemory();
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, ElementsAre(HasSubstr(": it gives no end of rows")));
+  EXPECT_LT(MostMemory() - before, 200 << 10);
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, SizeIs(1));
+}
+
+TEST_F(UnitProblems, ViewsThatMultiplyEndAtTheBoundOfTheMemory)
+{
+  std::string views = "CREATE VIEW v0 AS SELECT 9001 AS numId;";
+  for (int level = 1; level <= 40; ++level) {
+    const std::string below = "(SELECT max(numId) FROM v" + std::to_string(level - 1) + ")";
+    views += "CREATE VIEW v" + std::to_string(level) + " AS SELECT " + below + " + " + below +
+             " AS numId;";
+  }
+  views += "CREATE VIEW tblUnits AS SELECT numId, 'metre' AS strUnit, 1 AS numDimension FROM v40;";
+  Make(views.c_str());
+  const long before = MostMemory();
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, ElementsAre(HasSubstr(": SQLite ERROR #7 (out of memory)")));
+  EXPECT_LT(MostMemory() - before, 200 << 10);
 }
 
 }  // namespace
