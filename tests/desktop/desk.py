@@ -32,11 +32,13 @@ class Desk:
     lie in a folder of its own. There is no session bus: without an address the toolkit would try to launch one
     at each start, and whatever bus the person at the machine has is none of the tests' business."""
 
-    def __init__(self, size="1400x1000", own_fonts=False):
+    def __init__(self, size="1400x1000", own_fonts=False, managed=True):
         self._own_fonts = own_fonts
+        self._managed = managed
         self._top = tempfile.TemporaryDirectory(prefix="desk-")
         self._homes = 0
         self._display = []  # the processes that are there as long as the desk is
+        self.display = None
         self.folder = None
         self.window = None
         self.program = None
@@ -62,9 +64,14 @@ class Desk:
         self._display.append(server)
         os.close(write)
         with os.fdopen(read) as answer:
-            self._environment["DISPLAY"] = ":" + self._line(answer, "the display")
+            self.display = ":" + self._line(answer, "the display")
+            self._environment["DISPLAY"] = self.display
         # A keyboard with umlauts: a key that has to be bound first reaches a busy program too late.
         self._run("setxkbmap", "de")
+        if self._managed:
+            self._open_manager()
+
+    def _open_manager(self):
         # The window manager drops what windows ask of it until it listens, and then runs this command.
         # A program that shows its window before that may stay without one for ever.
         manager = self._spawn(["openbox", "--sm-disable", "--startup", "echo ready"], stdout=subprocess.PIPE)
