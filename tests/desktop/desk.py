@@ -40,6 +40,7 @@ class Desk:
         self._display = []  # the processes that are there as long as the desk is
         self.display = None
         self.folder = None
+        self.work = None  # the folder that programs start in; the tests' own if there is none
         self.window = None
         self.program = None
         self._last_click = (0.0, None)
@@ -150,7 +151,7 @@ class Desk:
         """Starts the program and waits for nothing."""
         with open(self.folder / "output", "wb") as output:
             self.program = self._spawn([program, *map(str, arguments)], environment, stdout=output,
-                                       stderr=output)
+                                       stderr=output, cwd=self.work)
 
     def start(self, program, *arguments, **environment):
         """Starts the program and waits until its window shows the design view and has the keys."""
@@ -201,7 +202,7 @@ class Desk:
                 runs[status] = re.findall(r"ctxt_switches:\t(\d+)", text)
         return runs
 
-    def _rest(self, length=REST):
+    def rest(self, length=REST):
         """Waits until what was sent has been dealt with: the display, the window manager and the program
         all sleep, and none has run since an earlier look. Unlike a pause this holds on a machine under load
         as well. That two looks are enough for it lets it end between two blinks of a text cursor."""
@@ -218,10 +219,10 @@ class Desk:
 
     def settle(self):
         """Waits until the screen stays as it is, but for a blinking text cursor."""
-        self._rest()
+        self.rest()
         last, last_but_one, deadline = self.screen(), None, time.monotonic() + PATIENCE
         while time.monotonic() < deadline:
-            self._rest(2 * REST)
+            self.rest(2 * REST)
             now = self.screen()
             if now in (last, last_but_one):
                 return
@@ -286,7 +287,7 @@ class Desk:
 
     def _send(self, *words):
         self._run("xdotool", *words)
-        self._rest()
+        self.rest()
 
     def keys(self, *names):
         """Presses keys one after the other."""

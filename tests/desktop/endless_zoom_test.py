@@ -6,9 +6,8 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
-from case import PROGRAM, SAMPLES  # noqa: E402
+from case import PROGRAM, SAMPLES, QuickDeskTest  # noqa: E402
 from hands import WHEEL_DOWN, WHEEL_UP  # noqa: E402
-from quick import QuickDeskTest  # noqa: E402
 
 ASIDE = (1099, 799)
 NOTCHES = 500    # each way: a view of 200 units gets to 10^-60 and, the other way, to 10^64

@@ -67,10 +67,9 @@ class Hands:
             self._keys[name] = self._x.find_key(name, LEVELS)
         return self._keys[name]
 
-    def type(self, text):
-        """Types a text."""
-        for character in text:
-            self.key(character)
+    def flush(self):
+        """Sends what was done so far, and waits for nothing."""
+        self._x.pending()
 
     # Answers.
 
@@ -128,6 +127,11 @@ class Hands:
     def resize(self, window, width, height):
         """Gives a window a size."""
         self._x.resize(window, width, height)
+
+    def ask_to_close(self, window):
+        """Asks a window to close, as a button of its frame would."""
+        kind = self._atoms["WM_PROTOCOLS"]
+        self._x.send(window, x11.ClientMessage(window, kind, (self._atoms["WM_DELETE_WINDOW"], 0)))
 
     def windows(self):
         """The windows that are shown; the last one has the keys."""

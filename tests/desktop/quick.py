@@ -2,7 +2,6 @@
 
 import time
 
-from case import DeskTest, PROGRAM
 from desk import Desk
 from hands import Hands
 
@@ -37,23 +36,3 @@ class QuickDesk(Desk):
     def processor_time(self):
         """Seconds that the program has run on any processor so far."""
         return time.clock_gettime((~self.program.pid << 3) | PROCESSOR_CLOCK)
-
-
-class QuickDeskTest(DeskTest):
-    """The tests of a class share a quick desk."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.desk = QuickDesk()
-        cls.addClassCleanup(cls.desk.close)
-
-    def start(self, *arguments, **environment):
-        """Starts the program."""
-        self.desk.start(PROGRAM, *arguments, **environment)
-
-    def do(self, act, *arguments):
-        """Has the hands do something and waits for the program; the processor time that it took."""
-        before = self.desk.processor_time()
-        act(*arguments)
-        self.desk.answered()
-        return self.desk.processor_time() - before
