@@ -25,7 +25,8 @@ class Hands:
         self._x = x11.Library(display)
         self._atoms = x11.Atoms(self._x)
         self._keys = {}
-        self._windows = []  # those that are shown, the oldest first
+        self._windows = []  # those that are shown; the last one was given the keys
+        self._new = []      # those since a window was last waited for
         self.lives = lambda: True  # whether the program that answers are waited for still runs
 
     def close(self):
@@ -83,7 +84,7 @@ class Hands:
 
     def _ping(self, window):
         kind, ping, number = self._atoms["WM_PROTOCOLS"], self._atoms["_NET_WM_PING"], self._x.next_number()
-        self._x.send(window, x11.ClientMessage(window, kind, (ping, number, window)))
+        self._x.send(window, x11.client_message(window, kind, (ping, number, window)))
         self.wait(lambda event: event.is_message(kind, self._x.root) and event.data(1) == number)
 
     def wait(self, wanted, patience=PATIENCE):
@@ -108,14 +109,14 @@ class Hands:
         window = event.about.window
         if event.type == x11.MAP_REQUEST:
             self._x.map(window)
+            self._new.append(window)
             self._windows.append(window)
             self.focus(window)
         elif event.type == x11.CONFIGURE_REQUEST:
             self._x.grant(event.wish)
         elif event.type in (x11.UNMAPPED, x11.DESTROYED) and window in self._windows:
-            had_keys = window == self._windows[-1]
             self._windows.remove(window)
-            if had_keys and self._windows:
+            if self._windows:
                 self.focus(self._windows[-1])
 
     def focus(self, window):
@@ -131,11 +132,15 @@ class Hands:
     def ask_to_close(self, window):
         """Asks a window to close, as a button of its frame would."""
         kind = self._atoms["WM_PROTOCOLS"]
-        self._x.send(window, x11.ClientMessage(window, kind, (self._atoms["WM_DELETE_WINDOW"], 0)))
+        self._x.send(window, x11.client_message(window, kind, (self._atoms["WM_DELETE_WINDOW"], 0)))
 
-    def windows(self):
-        """The windows that are shown; the last one has the keys."""
-        return tuple(self._windows)
+    def active(self):
+        """The window that has the keys; a program may have given them to another one of its windows."""
+        window = self._x.focused()
+        if window in self._windows:
+            self._windows.remove(window)
+            self._windows.append(window)
+        return self._windows[-1] if self._windows else 0
 
     def title(self, window):
         """A window's title; empty where it has gone."""
@@ -143,10 +148,11 @@ class Hands:
 
     def wait_for_window(self, title, patience=PATIENCE):
         """Waits for a new window whose title ends so; the window."""
+        self._new.clear()  # by number, a new window may be one that has gone
         found = []
 
         def shown(_):
-            found[:] = [window for window in self._windows if self.title(window).endswith(title)]
+            found[:] = [window for window in self._new if self.title(window).endswith(title)]
             return found
 
         self.wait(shown, patience)

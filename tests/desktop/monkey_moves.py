@@ -64,8 +64,9 @@ class Monkey:
 
     def _in_window(self):
         moves = ((12, self._wander), (14, self._click), (8, self._drag), (8, self._wheel), (5, self._offer),
-                 (10, self._press_key), (10, self._open_menu), (8, self._run_entry), (1, self._double), (1, self._resize),
-                 (4, self._click_bar), (5, self._click_tree), (1, self._drag_anywhere), (2, self._begin_again))
+                 (10, self._press_key), (10, self._open_menu), (8, self._run_entry), (1, self._double),
+                 (1, self._resize), (4, self._click_bar), (5, self._click_tree), (1, self._drag_anywhere),
+                 (2, self._begin_again))
         weights, makers = zip(*moves)
         return self._random.choices(makers, weights)[0]()
 

@@ -28,6 +28,7 @@ class Player:
     def __init__(self, program, samples, log):
         self._program, self._log = program.resolve(), log
         self.events = 0
+        self.designs = 0  # that were saved
         self.slowest = (0.0, None)  # seconds of processor time, and the step that took them
         self._sanitizers = {}
         self._seen = None
@@ -98,7 +99,7 @@ class Player:
 
     def _look(self):
         hands = self.desk.hands
-        window = hands.windows()[-1]
+        window = hands.active()
         title, place = hands.title(window), hands.place(window)
         title = "main" if title.endswith(TITLE) else title
         return [title, title != "main" and place is not None and place[3] <= LONGEST_BOX, bool(hands.menus())]
@@ -160,7 +161,7 @@ class Player:
     def do_close(self):
         """Asks the window with the keys to close."""
         self.events += 1
-        self.desk.hands.ask_to_close(self.desk.hands.windows()[-1])
+        self.desk.hands.ask_to_close(self.desk.hands.active())
 
     def do_focus(self):
         """Gives the main window the keys."""
@@ -185,9 +186,11 @@ class Player:
         """Keeps the sum of the design that was just saved in the log; fails where it is not as expected."""
         path = self.folder / CHECKPOINT
         found = hashlib.sha256(path.read_bytes()).hexdigest() if path.exists() else "nothing"
+        self.designs += path.exists()
         print(json.dumps(["saved", found]), file=self._log)
         if expected and expected != (found,):
-            shutil.copy(path, f"{self._log.name}.{CHECKPOINT}")
+            if path.exists():
+                shutil.copy(path, f"{self._log.name}.{CHECKPOINT}")
             raise Finding(f"after {self.events} events, the design is another one")
         return found
 

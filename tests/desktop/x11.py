@@ -66,16 +66,18 @@ class Attributes(ctypes.Structure):
 
 
 # What the calls return and take, where that is no int.
-RETURNED = {"XOpenDisplay": c_void_p, "XDefaultRootWindow": c_ulong, "XInternAtom": c_ulong, "XStringToKeysym": c_ulong, "XkbKeycodeToKeysym": c_ulong}
+RETURNED = {"XOpenDisplay": c_void_p, "XDefaultRootWindow": c_ulong, "XInternAtom": c_ulong,
+            "XStringToKeysym": c_ulong, "XkbKeycodeToKeysym": c_ulong}
 ERROR_HANDLER = ctypes.CFUNCTYPE(c_int, c_void_p, c_void_p)
 
 
-def ClientMessage(window, kind, data):
+def client_message(window, kind, data):
     """A message about a window."""
     event = Event()
-    event.message.type, event.message.window, event.message.kind, event.message.format = CLIENT_MESSAGE, window, kind, 32
+    message = event.message
+    message.type, message.window, message.kind, message.format = CLIENT_MESSAGE, window, kind, NUMBERS
     for i, value in enumerate(data):
-        event.message.data[i] = value
+        message.data[i] = value
     return event
 
 
@@ -171,6 +173,12 @@ class Library:
         """Gives a window the keys, above all others."""
         self._x.XRaiseWindow(self._display, c_ulong(window))
         self._x.XSetInputFocus(self._display, c_ulong(window), FALL_BACK_TO_ROOT, c_ulong(0))
+
+    def focused(self):
+        """The window that has the keys; the root, or a number that is none, without one."""
+        window, fall_back = c_ulong(), c_int()
+        self._x.XGetInputFocus(self._display, byref(window), byref(fall_back))
+        return window.value
 
     def grant(self, wish):
         """Gives a window the place and size that it asks for."""
