@@ -8,6 +8,7 @@ import unittest
 
 import evidence
 from desk import Desk
+from quick import QuickDesk
 
 PROGRAM = pathlib.Path(sys.argv.pop(1))
 SAMPLES = pathlib.Path(sys.argv.pop(1))
@@ -58,3 +59,23 @@ class DeskTest(unittest.TestCase):
         left, top, width, height = self.paper
         scale = width / VIEW_WIDTH
         return round(left + width / 2 + x * scale), round(top + height / 2 - y * scale)
+
+
+class QuickDeskTest(DeskTest):
+    """The tests of a class share a quick desk."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = QuickDesk()
+        cls.addClassCleanup(cls.desk.close)
+
+    def start(self, *arguments, **environment):
+        """Starts the program."""
+        self.desk.start(PROGRAM, *arguments, **environment)
+
+    def do(self, act, *arguments):
+        """Has the hands do something and waits for the program; the processor time that it took."""
+        before = self.desk.processor_time()
+        act(*arguments)
+        self.desk.answered()
+        return self.desk.processor_time() - before

@@ -33,12 +33,15 @@ class Desk:
     would try to launch one at each start, and whatever bus the person at the machine has is none of the tests'
     business."""
 
-    def __init__(self, size="1400x1000", own_fonts=False):
+    def __init__(self, size="1400x1000", own_fonts=False, managed=True):
         self._own_fonts = own_fonts
+        self._managed = managed
         self._top = tempfile.TemporaryDirectory(prefix="desk-")
         self._homes = 0
         self._display = []  # the processes that are there as long as the desk is
+        self.display = None
         self.folder = None
+        self.work = None  # the folder that programs start in; the tests' own if there is none
         self.window = None
         self.program = None
         self._last_click = (0.0, None)
@@ -63,9 +66,14 @@ class Desk:
         self._display.append(server)
         os.close(write)
         with os.fdopen(read) as answer:
-            self._environment["DISPLAY"] = ":" + self._line(answer, "the display")
+            self.display = ":" + self._line(answer, "the display")
+            self._environment["DISPLAY"] = self.display
         # A keyboard with umlauts: a key that has to be bound first reaches a busy program too late.
         self._run("setxkbmap", "de")
+        if self._managed:
+            self._open_manager()
+
+    def _open_manager(self):
         # The window manager drops what windows ask of it until it listens, and then runs this command.
         # A program that shows its window before that may stay without one for ever.
         manager = self._spawn(["openbox", "--sm-disable", "--startup", "echo ready"], stdout=subprocess.PIPE)
@@ -150,7 +158,7 @@ class Desk:
         """Starts the program and waits for nothing."""
         with open(self.folder / "output", "wb") as output:
             self.program = self._spawn([program, *map(str, arguments)], environment, stdout=output,
-                                       stderr=output)
+                                       stderr=output, cwd=self.work)
 
     def start(self, program, *arguments, **environment):
         """Starts the program and waits until its window shows the design view and has the keys."""
@@ -201,7 +209,7 @@ class Desk:
                 runs[status] = re.findall(r"ctxt_switches:\t(\d+)", text)
         return runs
 
-    def _rest(self, length=REST):
+    def rest(self, length=REST):
         """Waits until what was sent has been dealt with: the display, the window manager and the program
         all sleep, and none has run since an earlier look. Unlike a pause this holds on a machine under load
         as well. That two looks are enough for it lets it end between two blinks of a text cursor."""
@@ -218,10 +226,10 @@ class Desk:
 
     def settle(self):
         """Waits until the screen stays as it is, but for a blinking text cursor."""
-        self._rest()
+        self.rest()
         last, last_but_one, deadline = self.screen(), None, time.monotonic() + PATIENCE
         while time.monotonic() < deadline:
-            self._rest(2 * REST)
+            self.rest(2 * REST)
             now = self.screen()
             if now in (last, last_but_one):
                 return
@@ -286,7 +294,7 @@ class Desk:
 
     def _send(self, *words):
         self._run("xdotool", *words)
-        self._rest()
+        self.rest()
 
     def keys(self, *names):
         """Presses keys one after the other."""

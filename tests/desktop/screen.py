@@ -40,11 +40,15 @@ class Screen:
             last = row.rfind(ink, 0, last + len(ink) - 1)
         return first // self._depth, last // self._depth
 
-    def near(self, area, colour, reach=96):
-        """Number of pixels in an area whose red, green and blue are all near a colour's."""
+    def pixels(self, area):
+        """The bytes of an area, row by row."""
         left, top, width, height = area
         begin, end = left * self._depth, (left + width) * self._depth
-        pixels = b"".join(row[begin:end] for row in self._rows[top:top + height])
+        return b"".join(row[begin:end] for row in self._rows[top:top + height])
+
+    def near(self, area, colour, reach=96):
+        """Number of pixels in an area whose red, green and blue are all near a colour's."""
+        pixels = self.pixels(area)
         both = -1
         for value, offset in zip(colour, (2, 1, 0)):
             near = bytes(abs(i - value) <= reach for i in range(256))  # 1 where a channel is near
