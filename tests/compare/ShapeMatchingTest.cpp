@@ -1,7 +1,7 @@
 #include "compare/ShapeMatching.h"
 
-#include <chrono>
 #include <cmath>
+#include <ctime>
 
 #include "support/DesignPair.h"
 
@@ -101,9 +101,10 @@ TEST_F(MatchedShapes, AreFoundByTheThousandInAShortTime)
     AddSquare(former, x, 0.0);
     AddSquare(now, x, 0.5);
   }
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   const Differences differences = Compare();
-  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+  const double taken =
+      static_cast<double>(std::clock() - start) / static_cast<double>(CLOCKS_PER_SEC);
   EXPECT_EQ(differences.shapes.size(), 2U * count);
   std::size_t changed = 0;
   std::size_t moved = 0;
@@ -113,8 +114,7 @@ TEST_F(MatchedShapes, AreFoundByTheThousandInAShortTime)
   }
   EXPECT_EQ(changed, count * 1U);
   EXPECT_EQ(moved, count * 1U);
-  EXPECT_LT(taken.count(),
-            60.0);  // a fraction of a second where the machine has nothing else to do
+  EXPECT_LT(taken, 20.0);  // seconds of the processor, of which it takes a fraction of one
 }
 
 }  // namespace
