@@ -73,7 +73,11 @@ class Player:
         self.look_for_findings()
 
     def _time(self):
-        return 0.0 if self.ended else self.desk.processor_time()
+        """Processor time of the program so far; none where it has just gone, which the next answer shows."""
+        try:
+            return 0.0 if self.ended else self.desk.processor_time()
+        except OSError:
+            return 0.0
 
     def _explain(self, problem):
         """The program may end, but only with success."""
