@@ -69,7 +69,7 @@ class Player:
         except NoAnswer as problem:
             self._explain(problem)
         if not self.ended and name != "start":
-            self.slowest = max(self.slowest, (self._time() - before, step))
+            self.slowest = max(self.slowest, (self._time() - before, step), key=lambda taken: taken[0])
         self.look_for_findings()
 
     def _time(self):
