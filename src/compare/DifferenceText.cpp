@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 
+#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/VisibleText.h"
 #include "model/OffsetPoints.h"

@@ -69,11 +69,15 @@ class Player:
         except NoAnswer as problem:
             self._explain(problem)
         if not self.ended and name != "start":
-            self.slowest = max(self.slowest, (self._time() - before, step))
+            self.slowest = max(self.slowest, (self._time() - before, step), key=lambda taken: taken[0])
         self.look_for_findings()
 
     def _time(self):
-        return 0.0 if self.ended else self.desk.processor_time()
+        """Processor time of the program so far; none where it has just gone, which the next answer shows."""
+        try:
+            return 0.0 if self.ended else self.desk.processor_time()
+        except OSError:
+            return 0.0
 
     def _explain(self, problem):
         """The program may end, but only with success."""
