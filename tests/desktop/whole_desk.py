@@ -17,9 +17,10 @@ class WholeDeskTest(QuickDeskTest):
     usual_bytes = None
 
     def keys(self, *names):
-        """Presses keys one after the other."""
+        """Presses keys one after the other. Menus and dialogs take a while to open and to give the keys back."""
         for name in names:
             self.do(self.desk.hands.key, name)
+            self.desk.rest()
 
     def type(self, text):
         """Types a text over what a field holds."""
