@@ -30,7 +30,7 @@ protected:
   }
 
   /// Compares a line of size 10 with one whose ends went by these ways along it and across.
-  Differences CompareEnds(CShapeVertex first, CShapeVertex second)
+  Differences CompareEnds(const CShapeVertex& first, const CShapeVertex& second)
   {
     ClearGroups(former.shapeGroups);
     ClearGroups(now.shapeGroups);

@@ -119,7 +119,7 @@ auto Tree(CommandId id)
   return [id](ReplayEditor& editor) { editor.pane.OnCommand(id); };
 }
 
-auto Select(std::vector<std::size_t> path)
+auto Select(const std::vector<std::size_t>& path)
 {
   return [path](ReplayEditor& editor) {
     editor.Answer({true, true});
