@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <string>
+#include <string_view>
 #include <utility>
 
 namespace hullwright {
@@ -12,18 +12,22 @@ namespace {
 
 bool lineStands = false;
 
-/// Writes the line anew.
-void ShowLine(const std::string& text)
+/// Begins the line anew; false in a pipe. No line takes memory: an import may be short of it.
+bool BeginLine()
 {
   static const bool isTerminal = isatty(STDERR_FILENO) != 0;
-  if (!isTerminal) return;
-  std::fprintf(stderr, "\r\033[K%s", text.c_str());
+  if (!isTerminal) return false;
+  std::fputs("\r\033[K", stderr);
   lineStands = true;
+  return true;
 }
 
 }  // namespace
 
-void ShowStep(const char* step) { ShowLine(std::string(step) + " ..."); }
+void ShowStep(const char* step)
+{
+  if (BeginLine()) std::fprintf(stderr, "%s ...", step);
+}
 
 void ClearTerminalLine()
 {
@@ -32,12 +36,13 @@ void ClearTerminalLine()
 
 void TerminalProgress::Show(int percent)
 {
-  constexpr int width = 40;
-  const int done = std::clamp(percent, 0, 100) * width / 100;
-  const std::string number = std::to_string(percent);
-  ShowLine("importing [" + std::string(static_cast<std::size_t>(done), '#') +
-           std::string(static_cast<std::size_t>(width - done), '.') + "] " +
-           std::string(3 - std::min<std::size_t>(number.size(), 3), ' ') + number + " %");
+  constexpr std::string_view done = "########################################";
+  constexpr std::string_view open = "........................................";
+  constexpr int width = done.size();
+  const int part = std::clamp(percent, 0, 100) * width / 100;
+  if (!BeginLine()) return;
+  std::fprintf(stderr, "importing [%.*s%.*s] %3d %%", part, done.data(), width - part, open.data(),
+               percent);
 }
 
 }  // namespace hullwright

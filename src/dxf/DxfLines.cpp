@@ -1,6 +1,7 @@
 #include "dxf/DxfLines.h"
 
 #include <algorithm>
+#include <new>
 
 #include "base/Numbers.h"
 
@@ -62,7 +63,11 @@ void DxfLines::ReportProgress(IProgress& progress)
   const std::int32_t percent = TruncateToInt32(part * 100.0F);
   if (percent == lastPercent_) return;
   lastPercent_ = percent;
-  progress.ShowProgress(percent);
+  try {
+    progress.ShowProgress(percent);
+  } catch (const std::bad_alloc&) {
+    // The drawing is read on: it may need less memory than to show how far it is.
+  }
 }
 
 std::string_view Trimmed(std::string_view line)

@@ -54,7 +54,8 @@ public:
 
   bool IsAtEnd() const { return at_ == text_.data() + text_.size(); }
 
-  /// Reports how far the reading is, once for each percent.
+  /// Reports how far the reading is, once for each percent. A report that fails for want of memory
+  /// is not made.
   void ReportProgress(IProgress& progress);
 
 private:

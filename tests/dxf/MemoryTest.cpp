@@ -119,6 +119,31 @@ TEST_F(Memory, IsNotTakenForSingleLines)
   EXPECT_EQ(AllocationsOf(withLines(1000)), AllocationsOf(withLines(10)));
 }
 
+/// A window that has no memory to show how far an import is.
+class WindowWithoutMemory : public RecordedNotifications {
+public:
+  void ShowProgress(int) override
+  {
+    ++failures;
+    throw std::bad_alloc();
+  }
+  int failures = 0;
+};
+
+TEST_F(Memory, ThatDoesNotSufficeToShowTheProgressCostsNothingOfTheDrawing)
+{
+  WindowWithoutMemory busy;
+  CLayer target;
+  CFileDxf reader(&busy, log);
+  const std::string text =
+      Section("HEADER", "") + LayerTable("") + Entities(LineAt("1") + LineAt("2") + LineAt("3"));
+  EXPECT_EQ(reader.Import(folder.Write("drawing.dxf", text), &target), 0);
+  EXPECT_EQ(target.shapes->shapes.size(), 3U);
+  EXPECT_EQ(reader.Tally().withoutMemory, 0U);
+  EXPECT_GT(busy.failures, 3);
+  EXPECT_EQ(busy.list.back(), "end");
+}
+
 TEST_F(Memory, ThatEndsDuringOneCopyOfAnInsertionLeavesOutThatCopyAlone)
 {
   const std::string insert = Entity("INSERT", {{2, "B"}, {5, "C3"}});
