@@ -200,32 +200,42 @@ std::string Shortest(Number value)
   return {text.data(), end};
 }
 
-/// The numbers 000 to 999, three digits each. One that is copied from behind its leading zeros
-/// reads up to two characters past its own.
-constexpr auto threeDigits = [] {
-  std::array<char, 3 * 1000 + 2> text{};
+/// The texts of the numbers 0 to 999, copied whole with what follows them: what is written next is
+/// written over it.
+struct DigitTexts {
+  using Text = std::array<char, 4>;
+  std::array<Text, 1000> padded;  ///< with leading zeros
+  std::array<Text, 1000> plain;   ///< without, and in the last place how many digits there are
+};
+
+constexpr DigitTexts digitTexts = [] {
+  DigitTexts texts{};
   for (std::size_t i = 0; i < 1000; ++i) {
-    text[3 * i] = static_cast<char>('0' + i / 100);
-    text[3 * i + 1] = static_cast<char>('0' + i / 10 % 10);
-    text[3 * i + 2] = static_cast<char>('0' + i % 10);
+    const DigitTexts::Text all = {static_cast<char>('0' + i / 100),
+                                  static_cast<char>('0' + i / 10 % 10),
+                                  static_cast<char>('0' + i % 10), '\0'};
+    const std::size_t zeros = i >= 100 ? 0 : i >= 10 ? 1 : 2;
+    texts.padded[i] = texts.plain[i] = all;
+    for (std::size_t digit = zeros; digit < 3; ++digit) texts.plain[i][digit - zeros] = all[digit];
+    texts.plain[i][3] = static_cast<char>(3 - zeros);
   }
-  return text;
+  return texts;
 }();
 
-/// Writes a number below 1000 with its leading zeros; the end of it.
+/// Writes a number below 1000 with its leading zeros, and one character more; the end of it.
 char* WriteThreeDigits(char* at, std::uint64_t number)
 {
-  std::memcpy(at, threeDigits.data() + 3 * number, 3);
+  std::memcpy(at, digitTexts.padded[number].data(), sizeof(DigitTexts::Text));
   return at + 3;
 }
 
-/// Writes an integer in three digits at a time; the end of it.
+/// Writes an integer in three digits at a time, and up to three characters more; the end of it.
 char* WriteInteger(char* at, std::uint64_t number)
 {
   if (number >= 1000) return WriteThreeDigits(WriteInteger(at, number / 1000), number % 1000);
-  const int zeros = number >= 100 ? 0 : number >= 10 ? 1 : 2;
-  std::memcpy(at, threeDigits.data() + 3 * number + zeros, 3);
-  return at + 3 - zeros;
+  const DigitTexts::Text& text = digitTexts.plain[number];
+  std::memcpy(at, text.data(), text.size());
+  return at + text.back();
 }
 
 }  // namespace

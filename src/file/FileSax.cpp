@@ -132,6 +132,19 @@ void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attr
             Joined({"<", name, " ", text, ">", content, "</", name, ">\n"}));
 }
 
+char* CFileSax::BeginEmptyElementLine(std::size_t longest)
+{
+  const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
+  if (!outBuffer_ || outLength + elementMargin + blanks + longest >= outCapacity) return nullptr;
+  // Few blanks take less time if they are not counted; what is written next covers the rest.
+  constexpr std::string_view usual = "                ";
+  static_assert(usual.size() < elementMargin);
+  char* const line = outBuffer_.get() + outLength;
+  std::memcpy(line, usual.data(), usual.size());
+  if (blanks > usual.size()) std::fill_n(line + usual.size(), blanks - usual.size(), ' ');
+  return line + blanks;
+}
+
 void CFileSax::WriteEmptyElementLine(std::string_view line, std::size_t attributeLength)
 {
   WriteLine(elementMargin + attributeLength, line);

@@ -105,6 +105,16 @@ protected:
   /// `outLength` to 0.
   virtual void OnFullBlock() {}
 
+  /// Where an empty element of at most so many characters is written straight into the block, its
+  /// line indented already; null where the block may have to grow for it.
+  char* BeginEmptyElementLine(std::size_t longest);
+
+  /// Takes the line that was begun, up to its end.
+  void EndEmptyElementLine(const char* end)
+  {
+    outLength = static_cast<std::uint32_t>(end - outBuffer_.get());
+  }
+
   /// Writes an empty element from its "<" to its line break; `attributeLength` of it are the
   /// attributes with the blanks behind them.
   void WriteEmptyElementLine(std::string_view line, std::size_t attributeLength);

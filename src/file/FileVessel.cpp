@@ -117,6 +117,10 @@ void CFileVessel::WritePolyline(const CShape& polyline)
 
 void CFileVessel::WriteCoordinates(const CoordinateLine& line, const CShapeVertex& place)
 {
+  if (char* const at = BeginEmptyElementLine(CoordinateLine::longest)) {
+    EndEmptyElementLine(line.Write(at, place));
+    return;
+  }
   std::array<char, CoordinateLine::longest> text;
   const std::string_view whole(text.data(), line.Write(text.data(), place));
   WriteEmptyElementLine(whole, whole.size() - line.TagLength());

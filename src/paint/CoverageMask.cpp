@@ -51,7 +51,7 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
   stride_ = area.Width() + blockSize - 1;
   const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
   if (bytes_.size() < size) bytes_.resize(size);
-  if (isDense_) Reserve(area);
+  if (isDense_ && blocks_.size() < BlocksOf(area)) blocks_.resize(2 * BlocksOf(area));
 }
 
 void CoverageMask::Reserve(const PixelArea& area)
@@ -84,7 +84,7 @@ void CoverageMask::Add(const StrokeSegment& segment)
   const SegmentBand band(segment, full_);
   const PixelArea area = band.Runs().reach.Within(area_);
   if (area.IsEmpty()) return;
-  Reserve(area);
+  if (!isDense_) Reserve(area);
   if (isFlat) {
     AddRows(band, area, [](const SegmentBand& b, const auto& at) { return b.CoverFlat(at); });
   } else {
@@ -98,7 +98,7 @@ bool CoverageMask::AddThin(const StrokeSegment& segment)
   const PixelArea area = band.Runs().reach.Within(area_);
   if (area.IsEmpty()) return true;
   if (area.firstX + band.Runs().BlocksIn(area) * blockSize > picture_.width) return false;
-  Reserve(area);
+  if (!isDense_) Reserve(area);
   if (segment.flatFrom || segment.flatTo) {
     AddPairs<true>(band, area);
   } else {
@@ -146,6 +146,15 @@ struct CoverageMask::Place {
   int x;  ///< from the left edge of the area
   std::int32_t byte;
   std::int32_t pixel;
+
+  Place Right(int pixels) const { return {x + pixels, byte + pixels, pixel + pixels}; }
+
+  void Move(const Place& step) { *this = {x + step.x, byte + step.byte, pixel + step.pixel}; }
+
+  Block ToBlock() const
+  {
+    return {static_cast<std::uint32_t>(byte), static_cast<std::uint32_t>(pixel)};
+  }
 };
 
 template <bool isFlat>
@@ -153,31 +162,37 @@ void CoverageMask::AddPairs(const ThinBand& band, const PixelArea& area)
 {
   const int blocks = band.Runs().BlocksIn(area);
   const std::int64_t lastX = std::max(area.Width() - blocks * blockSize, 0);
-  const auto placeOf = [&, this](const ThinBand::Row& row, int y) {
-    const auto x = static_cast<int>(std::clamp<std::int64_t>(row.begin >> 16U, 0, lastX));
-    const int column = area.firstX + x;
-    return Place{x, (y - area_.firstRow) * stride_ + column - area_.firstX,
-                 y * static_cast<int>(picture_.stride) + column};
+  const auto pictureStride = static_cast<int>(picture_.stride);
+  Place edge{0, (area.firstRow - area_.firstRow) * stride_ + area.firstX - area_.firstX,
+             area.firstRow * pictureStride + area.firstX};
+  const auto rightOfEdge = [&edge, lastX](const ThinBand::Row& row) {
+    return edge.Right(static_cast<int>(std::clamp<std::int64_t>(row.begin >> 16U, 0, lastX)));
   };
+  const Place down{0, stride_, pictureStride};
+  constexpr Place block{blockSize, blockSize, blockSize};
+  const bool isDense = isDense_;
   std::uint8_t* const bytes = bytes_.data();
   Block* next = blocks_.data() + count_;
   ThinBand::Row upper = band.FirstOf(area);
   for (int y = area.firstRow; y <= area.lastRow; y += 2) {
     const bool isPair = y < area.lastRow;  // else the last row is added twice
     const ThinBand::Row lower = isPair ? band.After(upper) : upper;
-    Place first = placeOf(upper, y);
-    Place second = placeOf(lower, isPair ? y + 1 : y);
+    Place first = rightOfEdge(upper);
+    if (isPair) edge.Move(down);
+    Place second = rightOfEdge(lower);
+    edge.Move(down);
     // The picture is too large for the cache, and `Paint` comes soon.
     __builtin_prefetch(picture_.pixels + first.pixel, 1);
     __builtin_prefetch(picture_.pixels + second.pixel, 1);
     for (int left = blocks; left > 0; --left) {
       const Eight covered = band.Cover<isFlat>(upper, first.x, lower, second.x);
       covered.RaiseBytes(bytes + first.byte, bytes + second.byte);
-      for (Place* place : {&first, &second}) {
-        *next = {static_cast<std::uint32_t>(place->byte), static_cast<std::uint32_t>(place->pixel)};
-        next += isDense_ ? 0 : 1;
-        *place = {place->x + blockSize, place->byte + blockSize, place->pixel + blockSize};
+      if (!isDense) {
+        *next++ = first.ToBlock();
+        *next++ = second.ToBlock();
       }
+      first.Move(block);
+      second.Move(block);
     }
     upper = band.After(lower);
   }
@@ -189,14 +204,16 @@ void CoverageMask::Paint(std::uint32_t colour)
   if (isDense_) NameBlocksOnce();
   const PixelBlend blend(colour);
   const std::ptrdiff_t pixels = picture_.stride * (picture_.height - 1) + picture_.width;
-  for (std::size_t i = 0; i < count_; ++i) {
-    std::uint8_t* const bytes = bytes_.data() + blocks_[i].bytes;
-    std::uint32_t* const place = picture_.pixels + blocks_[i].pixels;
+  std::uint8_t* const mask = bytes_.data();
+  std::uint32_t* const picture = picture_.pixels;
+  for (const Block& block : std::span(blocks_.data(), count_)) {
+    std::uint8_t* const bytes = mask + block.bytes;
+    std::uint32_t* const place = picture + block.pixels;
     Covers covers;
     std::memcpy(covers.data(), bytes, covers.size());
     if (covers == Covers{}) continue;
     std::memset(bytes, 0, covers.size());
-    const std::ptrdiff_t left = pixels - static_cast<std::ptrdiff_t>(blocks_[i].pixels);
+    const std::ptrdiff_t left = pixels - static_cast<std::ptrdiff_t>(block.pixels);
     if (left >= blockSize) {
       blend(place, covers);
     } else {

@@ -91,6 +91,15 @@ StepResult PaintTarget::Prepare(TargetStep step, Resolution)
 
 void PaintTarget::Resize(int width, int height) { surface_.Allocate(width, height); }
 
+std::optional<PixelRect> PaintTarget::SeenArea(float strokeWidth) const
+{
+  if (!stroker_.IsActive()) return std::nullopt;
+  // A pixel more than the stroker asks for, since single precision rounds the bounds.
+  const ClipRect area = stroker_.ReachOf(LineWidth(strokeWidth) + 1.0F);
+  return PixelRect{static_cast<float>(area.left), static_cast<float>(area.top),
+                   static_cast<float>(area.right), static_cast<float>(area.bottom)};
+}
+
 void PaintTarget::BeginFrame(const Colour& background)
 {
   QPaintDevice* const device = surface_.Device();

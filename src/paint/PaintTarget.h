@@ -23,6 +23,7 @@ public:
 
   StepResult Prepare(TargetStep step, Resolution resolution) override;
   void Resize(int width, int height) override;
+  std::optional<PixelRect> SeenArea(float strokeWidth) const override;
   void BeginFrame(const Colour& background) override;
   FrameResult EndFrame() override;
   void DrawLine(PixelPoint from, PixelPoint to, const Stroke& stroke) override;

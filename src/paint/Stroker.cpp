@@ -105,6 +105,13 @@ void Stroker::Begin(const PixelView& picture, double ratio)
   ratio_ = static_cast<float>(ratio);
 }
 
+ClipRect Stroker::ReachOf(float width) const
+{
+  const double margin = 2.0 + width;
+  return {-margin, -margin, static_cast<float>(picture_.width) / ratio_ + margin,
+          static_cast<float>(picture_.height) / ratio_ + margin};
+}
+
 void Stroker::Draw(const Figures& figures, const Pen& pen)
 {
   std::size_t begin = 0;
@@ -116,9 +123,7 @@ void Stroker::Draw(const Figures& figures, const Pen& pen)
 
 void Stroker::DrawFigure(std::span<const PixelPoint> points, FigureKind kind, const Pen& pen)
 {
-  const double margin = 2.0 + pen.width;
-  const ClipRect area{-margin, -margin, static_cast<float>(picture_.width) / ratio_ + margin,
-                      static_cast<float>(picture_.height) / ratio_ + margin};
+  const ClipRect area = ReachOf(pen.width);
   const PixelBounds bounds(points);
   if (!bounds.isWild && bounds.Misses(area)) return;
   if (bounds.isWild || bounds.IsFar()) {

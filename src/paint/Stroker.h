@@ -32,6 +32,9 @@ public:
   /// Whether there is a picture to stroke into.
   bool IsActive() const { return picture_.pixels != nullptr; }
 
+  /// What a stroke of this width must come near to show in the picture, in client pixels.
+  ClipRect ReachOf(float width) const;
+
   /// Strokes figures in client pixels into the picture, each blended by itself.
   void Draw(const Figures& figures, const Pen& pen);
 

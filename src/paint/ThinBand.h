@@ -73,11 +73,9 @@ private:
   {
     return static_cast<std::int64_t>(number * static_cast<float>(one));
   }
-  static int Whole(std::int64_t fixed)
-  {
-    constexpr std::int64_t most = std::int64_t{1} << 46U;
-    return static_cast<int>(std::clamp(fixed, -most, most) >> fractionBits);
-  }
+
+  /// Fits up to a distance of 700,000 pixels, many times that of any end of a segment.
+  static int Whole(std::int64_t fixed) { return static_cast<int>(fixed >> fractionBits); }
 
   /// Length of the longest side of a triangle, up to 2 % less: the largest of three planes.
   static Eight Hypotenuse(Eight a, Eight b)

@@ -128,6 +128,14 @@ public:
   /// Makes the picture anew at a client size.
   virtual void Resize(int width, int height) = 0;
 
+  /// What a stroke of this width must come near to be seen: a line whose points all lie beyond one
+  /// and the same edge of it paints nothing, and need not be drawn. Without it every line counts,
+  /// as for a target that keeps its calls.
+  virtual std::optional<PixelRect> SeenArea([[maybe_unused]] float strokeWidth) const
+  {
+    return std::nullopt;
+  }
+
   virtual void BeginFrame(const Colour& background) = 0;
   virtual FrameResult EndFrame() = 0;
 

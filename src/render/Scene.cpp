@@ -7,6 +7,7 @@
 
 #include "base/Text.h"
 #include "render/Canvas.h"
+#include "render/OutOfView.h"
 #include "render/ShapeDrawing.h"
 
 namespace hullwright {
@@ -102,7 +103,10 @@ void DrawContent(const DesignState& design, const CViewPort& viewPort, CShapePol
                  const GridSettings& grid)
 {
   if (CShapes* const group = FindViewGroup(design.shapeGroups, design.activeView)) {
-    Walk(group->cursor, group->shapes, [&](CShape& shape) { shape.Draw(&viewPort); });
+    const OutOfView outOfView(viewPort, TargetOf(&viewPort));
+    Walk(group->cursor, group->shapes, [&](CShape& shape) {
+      if (!outOfView.Holds(shape)) shape.Draw(&viewPort);
+    });
   }
   if (newShape != nullptr) newShape->Draw(&viewPort);
   DrawGrid(viewPort, grid);

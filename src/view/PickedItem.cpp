@@ -1,9 +1,12 @@
 #include "view/PickedItem.h"
 
 #include <array>
+#include <limits>
+#include <optional>
 
 #include "base/Numbers.h"
-#include "render/ViewPort.h"
+#include "render/ScreenMapping.h"
+#include "render/SeenStretch.h"
 
 namespace hullwright {
 namespace {
@@ -12,13 +15,17 @@ namespace {
 class PickBox {
 public:
   PickBox(const CViewPort& viewPort, std::int32_t x, std::int32_t y)
-      : viewPort_(viewPort), left_(std::int64_t{x} - reach), top_(std::int64_t{y} - reach)
+      : mapping_(viewPort),
+        left_(std::int64_t{x} - reach),
+        top_(std::int64_t{y} - reach),
+        stretch_(StretchIn(viewPort))
   {
   }
 
   bool Holds(double wx, double wy) const
   {
-    const ScreenPoint p = viewPort_.WorldToScreenFlat(wx, wy);
+    if (stretch_ && stretch_->Misses(wx, wy)) return false;  // as do most, without a division
+    const ScreenPoint p = mapping_.Flat(wx, wy);
     const std::int64_t px = TruncateToInt32(p.x);
     const std::int64_t py = TruncateToInt32(p.y);
     return px >= left_ && px < left_ + 2 * reach && py >= top_ && py < top_ + 2 * reach;
@@ -27,9 +34,23 @@ public:
 private:
   static constexpr std::int64_t reach = 5;
 
-  const CViewPort& viewPort_;
+  /// The world around the box. Of one at the lowest pixel none: what is too large for a pixel
+  /// counts as that one.
+  std::optional<SeenStretch> StretchIn(const CViewPort& viewPort) const
+  {
+    constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
+    if (left_ <= lowest || top_ <= lowest) return std::nullopt;
+    const auto left = static_cast<double>(left_);
+    const auto top = static_cast<double>(top_);
+    constexpr auto extent = static_cast<double>(2 * reach);
+    // Truncation towards zero takes up to a pixel on the left for the next one.
+    return SeenStretch({left - 1.0, top - 1.0, left + extent, top + extent}, viewPort);
+  }
+
+  ScreenMapping mapping_;
   std::int64_t left_;
   std::int64_t top_;
+  std::optional<SeenStretch> stretch_;
 };
 
 Pick FindOffsetOrAnchor(const DesignState& design, const PickBox& box)

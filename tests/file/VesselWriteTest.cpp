@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <limits>
+
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/FileVessel.h"
@@ -231,6 +234,46 @@ TEST_F(VesselWrite, VerticesMakeTheRoomOfTheirAttributes)
   }
   EXPECT_EQ(file.outCapacity, other.outCapacity);
   EXPECT_GT(file.outCapacity, 100'000U);
+}
+
+/// Lines that surely fit go straight into the block, others by way of a copy.
+TEST_F(VesselWrite, TheBlockGrowsAsForAnyElement)
+{
+  constexpr double huge = std::numeric_limits<double>::max();
+  constexpr double infinite = std::numeric_limits<double>::infinity();
+  constexpr std::array<double, 7> odd = {0.0,
+                                         -0.0004,
+                                         1234567.8905,
+                                         9.5e15,
+                                         -huge,
+                                         -infinite,
+                                         std::numeric_limits<double>::quiet_NaN()};
+  CShapePolyline& line = AddLine(ViewSide::Top);
+  for (std::size_t i = 0; i < 2000; ++i) {
+    line.AddVertex(odd.at(i % 7), odd.at(i / 3 % 5), i % 50 == 0 ? huge : odd.at(i / 5 % 3));
+  }
+  file.Compose(groups);
+  CFileSax plain{messages};
+  plain.WriteDeclaration();
+  plain.OpenElement("vessel");
+  plain.WriteEmptyElement("units", {{u"id", u"9001"}});
+  plain.OpenElement("shapes", {{u"view", u"01"}});
+  plain.OpenElement("polyline");
+  const auto text = [](double number) { return WideFromAscii(FormatFixed(number, 3)); };
+  const auto write = [&](std::string_view name, const CShapeVertex& v) {
+    plain.WriteEmptyElement(name, {{u"x", text(v.x)}, {u"y", text(v.y)}, {u"z", text(v.z)}});
+  };
+  for (const auto& vertex : line.vertices) write("vertex", *vertex);
+  plain.CloseElement("polyline");
+  plain.CloseElement("shapes");
+  write("gps", *file.gps);
+  write("txd", *file.txd);
+  write("piv", *file.piv);
+  plain.OpenElement("anchors");
+  plain.CloseElement("anchors");
+  plain.CloseElement("vessel");
+  EXPECT_EQ(file.Output(), plain.Output());
+  EXPECT_EQ(file.outCapacity, plain.outCapacity);
 }
 
 }  // namespace
