@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -223,9 +224,9 @@ public:
   ~Variable()
   {
     if (before_) {
-      setenv(name_, before_->c_str(), 1);
+      test::SetVariable(name_, before_->c_str());
     } else {
-      unsetenv(name_);
+      test::SetVariable(name_, nullptr);
     }
   }
 
@@ -238,14 +239,14 @@ TEST(UserState, FollowsTheRulesForBaseFolders)
 {
   const Variable state("XDG_STATE_HOME");
   const Variable home("HOME");
-  setenv("XDG_STATE_HOME", "/home/me/state", 1);
+  test::SetVariable("XDG_STATE_HOME", "/home/me/state");
   EXPECT_EQ(StateFolder(), "/home/me/state/hullwright");
-  setenv("XDG_STATE_HOME", "relative", 1);
-  setenv("HOME", "/home/me", 1);
+  test::SetVariable("XDG_STATE_HOME", "relative");
+  test::SetVariable("HOME", "/home/me");
   EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
-  unsetenv("XDG_STATE_HOME");
+  test::SetVariable("XDG_STATE_HOME", nullptr);
   EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
-  unsetenv("HOME");
+  test::SetVariable("HOME", nullptr);
   EXPECT_EQ(StateFolder(), "");
 }
 
