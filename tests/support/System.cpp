@@ -43,6 +43,13 @@ void FreeAligned(void* place) { std::free(place); }
 
 bool MayRead(const std::filesystem::path& path) { return access(path.c_str(), R_OK) == 0; }
 
+long MostMemory()
+{
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
+
 FileSizeLimit::FileSizeLimit(std::uint64_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN))
 {
   rlimit limit{};

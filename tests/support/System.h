@@ -24,6 +24,9 @@ void FreeAligned(void* place);
 /// Whether this user may read a file.
 bool MayRead(const std::filesystem::path& path);
 
+/// The most memory that the process has held so far, in KiB.
+long MostMemory();
+
 /// No file can grow past a size while it lives, as on a disk that is full.
 class FileSizeLimit {
 public:

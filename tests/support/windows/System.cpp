@@ -3,6 +3,8 @@
 #include <io.h>
 #include <malloc.h>
 #include <windows.h>
+// Needs the types of the header above.
+#include <psapi.h>
 
 #include <cstdlib>
 
@@ -28,6 +30,13 @@ bool MayRead(const std::filesystem::path& path)
 {
   constexpr int toRead = 4;
   return _waccess(path.c_str(), toRead) == 0;
+}
+
+long MostMemory()
+{
+  PROCESS_MEMORY_COUNTERS counters{};
+  K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return static_cast<long>(counters.PeakWorkingSetSize >> 10U);
 }
 
 // There is no such limit here; the tests that set one are left out.
