@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "app/FiniteNumbers.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "resources/Strings.h"
 
@@ -27,10 +28,10 @@ std::u16string Absolute(const std::u16string& path)
   // The folder as the system finds it, behind links too; the name as the user knows it.
   namespace fs = std::filesystem;
   std::error_code failed;
-  const fs::path whole = fs::absolute(Utf8FromWide(path), failed);
+  const fs::path whole = fs::absolute(PathOf(path), failed);
   if (failed) return path;
   const fs::path folder = fs::weakly_canonical(whole.parent_path(), failed);
-  return failed ? path : WideFromUtf8((folder / whole.filename()).string());
+  return failed ? path : WideFromUtf8(TextOf(folder / whole.filename()));
 }
 
 std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }

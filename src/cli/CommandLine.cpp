@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "cli/TerminalProgress.h"
 
@@ -52,7 +53,7 @@ bool WouldOverwrite(const char* verb, const std::vector<std::string>& inputs,
 {
   const bool isInput = std::ranges::any_of(inputs, [&output](const std::string& input) {
     std::error_code ignored;
-    return std::filesystem::equivalent(input, output, ignored);
+    return std::filesystem::equivalent(PathOf(input), PathOf(output), ignored);
   });
   if (isInput) UsageError(verb, words);
   return isInput;

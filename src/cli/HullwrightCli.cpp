@@ -1,12 +1,13 @@
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/CommandLine.h"
+#include "system/ProgramStart.h"
 #include "system/TemporaryFiles.h"
 
 namespace {
@@ -67,12 +68,15 @@ int RunVerb(int argc, char** argv, int& trouble)
 
 int main(int argc, char** argv)
 {
-  // A file that grows too large is an error to be reported, not the end of the process.
-  std::signal(SIGXFSZ, SIG_IGN);
+  BeginProgram();
   RemoveTemporaryFilesAtSignals();
   int trouble = exitFailed;
   try {
-    const int status = RunVerb(argc, argv, trouble);
+    std::vector<std::string> words = CommandWords(argc, argv);
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    const int status = RunVerb(static_cast<int>(words.size()), arguments.data(), trouble);
     if (OutputIsWhole()) return status;
     Fail("standard output: it can't be written");
   } catch (const std::exception& problem) {

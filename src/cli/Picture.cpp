@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "app/ImportText.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/PictureFile.h"
@@ -137,10 +138,10 @@ std::string AddSheet(const PictureRequest& request, const SheetFacts& facts, Sid
 std::string NameFor(const PictureRequest& request, const ViewSideEntry& side)
 {
   if (!request.oneEach) return request.output;
-  const fs::path path(request.output);
-  std::string name = path.stem().string();
-  name.append("-").append(side.name).append(path.extension().string());
-  return (path.parent_path() / name).string();
+  const fs::path path = PathOf(request.output);
+  std::string name = TextOf(path.stem());
+  name.append("-").append(side.name).append(TextOf(path.extension()));
+  return TextOf(path.parent_path() / PathOf(name));
 }
 
 }  // namespace
@@ -162,7 +163,7 @@ std::string WritePictures(const PictureRequest& request, bool& isIncomplete)
   std::string problem;
   if (request.sheet) {
     problem = AddSheet(
-        request, painter.Facts(QString::fromStdString(fs::path(input.Name()).filename().string())),
+        request, painter.Facts(QString::fromStdString(TextOf(PathOf(input.Name()).filename()))),
         painter, files);
   } else {
     const QSize size(request.width, request.height);

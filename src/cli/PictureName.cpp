@@ -1,13 +1,14 @@
 #include "cli/PictureName.h"
 
 #include <algorithm>
-#include <filesystem>
+
+#include "base/Paths.h"
 
 namespace hullwright {
 
 std::string PictureEnding(const std::string& path)
 {
-  std::string ending = path == "-" ? ".png" : std::filesystem::path(path).extension().string();
+  std::string ending = path == "-" ? ".png" : TextOf(PathOf(path).extension());
   std::ranges::transform(ending, ending.begin(), [](char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
   });

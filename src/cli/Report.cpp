@@ -10,6 +10,7 @@
 
 #include "base/Code.h"
 #include "base/Numbers.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "base/VisibleText.h"
 #include "cli/CommandLine.h"
@@ -99,8 +100,8 @@ void AddFile(ReportPages& pages, const InputFile& input, HeadlessEditor& editor,
              const std::optional<QDateTime>& fixed)
 {
   const UnitCode unit = editor.App().unitCode;
-  const std::u16string name = WideFromUtf8(std::filesystem::path(input.Name()).filename().string());
-  pages.AddTitle(Shown(WideFromUtf8(std::filesystem::path(input.Name()).stem().string())));
+  const std::u16string name = WideFromUtf8(TextOf(PathOf(input.Name()).filename()));
+  pages.AddTitle(Shown(WideFromUtf8(TextOf(PathOf(input.Name()).stem()))));
   pages.AddField(QStringLiteral("File"), Shown(name));
   if (input.Path() == input.Name()) {
     const QFileInfo info(QFile::decodeName(QByteArray::fromStdString(input.Path())));
@@ -143,7 +144,7 @@ std::string WriteReport(const std::string& design, const std::string& output)
     ShowStep(("drawing the side " + std::string(side.name)).c_str());
     sides.Add(pages, side, Text(UnitOf(editor)));
   }
-  const QString name = Shown(WideFromUtf8(std::filesystem::path(input.Name()).filename().string()));
+  const QString name = Shown(WideFromUtf8(TextOf(PathOf(input.Name()).filename())));
   PictureFiles files;
   ShowStep("writing the report");
   std::string problem = files.Add(output, pages.Write(name, name, made));

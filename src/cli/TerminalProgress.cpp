@@ -1,11 +1,11 @@
 #include "cli/TerminalProgress.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
 #include <utility>
+
+#include "system/ProgramStart.h"
 
 namespace hullwright {
 namespace {
@@ -15,7 +15,7 @@ bool lineStands = false;
 /// Begins the line anew; false in a pipe. No line takes memory: an import may be short of it.
 bool BeginLine()
 {
-  static const bool isTerminal = isatty(STDERR_FILENO) != 0;
+  static const bool isTerminal = HasTerminal();
   if (!isTerminal) return false;
   std::fputs("\r\033[K", stderr);
   lineStands = true;

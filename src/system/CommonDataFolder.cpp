@@ -1,10 +1,9 @@
 #include "system/CommonDataFolder.h"
 
-#include <algorithm>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "system/BaseFolders.h"
 
@@ -13,25 +12,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> SplitFolders(std::string_view list)
-{
-  std::vector<std::string> folders;
-  while (!list.empty()) {
-    const std::size_t end = std::min(list.find(':'), list.size());
-    if (list.front() == '/') folders.emplace_back(list.substr(0, end));
-    list.remove_prefix(std::min(end + 1, list.size()));
-  }
-  return folders;
-}
-
 bool Holds(const std::string& folder, CommonData what)
 {
   if (folder.empty()) return false;
   std::error_code error;
   switch (what) {
     case CommonData::UnitDatabase:
-      return fs::is_regular_file(fs::path(folder) / unitDatabasePlace, error);
-    case CommonData::Logs: return fs::is_directory(fs::path(folder) / logPlace, error);
+      return fs::is_regular_file(PathOf(folder) / PathOf(unitDatabasePlace), error);
+    case CommonData::Logs: return fs::is_directory(PathOf(folder) / PathOf(logPlace), error);
   }
   return false;
 }
@@ -41,11 +29,9 @@ bool Holds(const std::string& folder, CommonData what)
 DataFolderCandidates FindDataFolderCandidates()
 {
   DataFolderCandidates candidates;
-  candidates.user = BaseFolder("XDG_DATA_HOME", ".local/share").string();
-  candidates.system = SplitFolders(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  candidates.besideProgram = (program.parent_path().parent_path() / "share").string();
+  candidates.user = TextOf(BaseFolder("XDG_DATA_HOME", ".local/share"));
+  candidates.system = SystemDataFolders();
+  candidates.besideProgram = TextOf(ProgramFile().parent_path().parent_path() / "share");
   return candidates;
 }
 

@@ -1,15 +1,13 @@
 #include "system/Descriptors.h"
 
 #include <array>
-#include <cerrno>
 
 namespace hullwright {
 
 bool WriteAll(int file, std::string_view bytes)
 {
   while (!bytes.empty()) {
-    const ssize_t written = write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
+    const std::ptrdiff_t written = WriteSome(file, bytes.data(), bytes.size());
     if (written <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
@@ -20,8 +18,7 @@ bool Copy(int from, int to)
 {
   std::array<char, 1U << 16U> block{};
   for (;;) {
-    const ssize_t length = read(from, block.data(), block.size());
-    if (length < 0 && errno == EINTR) continue;
+    const std::ptrdiff_t length = ReadSome(from, block.data(), block.size());
     if (length <= 0) return length == 0;
     if (!WriteAll(to, {block.data(), static_cast<std::size_t>(length)})) return false;
   }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <string_view>
+
+#include "system/SystemFiles.h"
 
 namespace hullwright {
 
@@ -17,7 +17,7 @@ public:
   Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor()
   {
-    if (number_ >= 0) close(number_);
+    if (number_ >= 0) CloseDescriptor(number_);
   }
   int Number() const { return number_; }
 

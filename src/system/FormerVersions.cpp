@@ -1,16 +1,15 @@
 #include "system/FormerVersions.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdint>
-#include <ctime>
 #include <fstream>
 #include <new>
 #include <string_view>
 #include <vector>
 
 #include "base/Numbers.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "system/BaseFolders.h"
 
@@ -81,7 +80,7 @@ std::string Hex(std::uint64_t value)
 /// What the names of all copies of a path begin with.
 std::string PrefixOf(const fs::path& path)
 {
-  std::string stem = path.stem().string();
+  std::string stem = TextOf(path.stem());
   if (stem.size() > longestStem) {
     std::size_t end = longestStem;
     const auto continues = [&](std::size_t at) {
@@ -90,20 +89,26 @@ std::string PrefixOf(const fs::path& path)
     while (end > 0 && continues(end)) --end;
     stem.resize(end);
   }
-  return stem + '.' + Hex(HashOf(path.string())) + '.';
+  return stem + '.' + Hex(HashOf(TextOf(path))) + '.';
+}
+
+/// A number with leading zeros.
+std::string Digits(std::int64_t number, std::size_t width)
+{
+  const std::string text = std::to_string(number);
+  return std::string(width - std::min(width, text.size()), '0') + text;
 }
 
 std::string TimeStamp(std::chrono::system_clock::time_point now)
 {
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
-  const auto part = std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch());
-  constexpr int thousand = 1000;
-  std::tm utc{};
-  gmtime_r(&seconds, &utc);
-  std::array<char, 32> text{};
-  const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H-%M-%S.", &utc);
-  const std::string milliseconds = std::to_string(thousand + part.count() % thousand);
-  return std::string(text.data(), length) + milliseconds.substr(1) + 'Z';
+  const auto day = std::chrono::floor<std::chrono::days>(now);
+  const std::chrono::year_month_day date(day);
+  const std::chrono::hh_mm_ss time(std::chrono::floor<std::chrono::milliseconds>(now) - day);
+  return Digits(static_cast<int>(date.year()), 4) + '-' +
+         Digits(static_cast<unsigned>(date.month()), 2) + '-' +
+         Digits(static_cast<unsigned>(date.day()), 2) + 'T' + Digits(time.hours().count(), 2) +
+         '-' + Digits(time.minutes().count(), 2) + '-' + Digits(time.seconds().count(), 2) + '.' +
+         Digits(time.subseconds().count(), 3) + 'Z';
 }
 
 /// The copies with a prefix, the oldest first.
@@ -113,7 +118,7 @@ std::vector<fs::path> CopiesOf(const fs::path& folder, const std::string& prefix
   std::error_code failed;
   for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
        entry.increment(failed)) {
-    if (entry->path().filename().string().starts_with(prefix)) copies.push_back(entry->path());
+    if (TextOf(entry->path().filename()).starts_with(prefix)) copies.push_back(entry->path());
   }
   std::ranges::sort(copies);
   return copies;
@@ -125,10 +130,10 @@ std::string NextCount(const std::vector<fs::path>& copies, const std::string& pr
   constexpr std::uint32_t million = 1000000;
   std::uint32_t count = 0;
   if (!copies.empty()) {
-    const std::string newest = copies.back().filename().string();
+    const std::string newest = TextOf(copies.back().filename());
     count = ParseUInt32(std::string_view(newest).substr(prefix.size()), 10);
   }
-  return std::to_string(million + (count + 1) % million).substr(1);
+  return Digits((count + 1) % million, 6);
 }
 
 }  // namespace
@@ -136,7 +141,7 @@ std::string NextCount(const std::vector<fs::path>& copies, const std::string& pr
 std::u16string FormerVersions::Keep(std::u16string_view path)
 {
   std::error_code failed;
-  fs::path file(Utf8FromWide(path));
+  fs::path file = PathOf(path);
   const fs::path real = fs::canonical(file, failed);
   if (!failed) file = real;
   if (!isDamaged_ || file != file_) {
@@ -146,7 +151,7 @@ std::u16string FormerVersions::Keep(std::u16string_view path)
     bytes_ = ReadWhole(file);
     copy_ = bytes_ && !folder_.empty() ? WriteCopy() : fs::path();
   }
-  return WideFromUtf8(copy_.string());
+  return WideFromUtf8(TextOf(copy_));
 }
 
 fs::path FormerVersions::WriteCopy() const
@@ -159,10 +164,10 @@ fs::path FormerVersions::WriteCopy() const
   // Saving again without a change must not push the older versions out.
   if (!copies.empty() && Holds(copies.back(), *bytes_)) return copies.back();
 
-  std::string ending = file_.extension().string();
+  std::string ending = TextOf(file_.extension());
   if (ending.size() > longestEnding) ending.clear();
-  fs::path copy = folder_ / (prefix + NextCount(copies, prefix) + '.' +
-                             TimeStamp(std::chrono::system_clock::now()) + ending);
+  fs::path copy = folder_ / PathOf(prefix + NextCount(copies, prefix) + '.' +
+                                   TimeStamp(std::chrono::system_clock::now()) + ending);
   if (!WriteWhole(copy, *bytes_)) {
     fs::remove(copy, failed);
     return {};

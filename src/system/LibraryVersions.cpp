@@ -1,7 +1,6 @@
 #include "system/LibraryVersions.h"
 
 #include "system/SharedLibraries.h"
-#include "system/Sqlite.h"
 
 namespace hullwright {
 

@@ -1,13 +1,10 @@
 #include "system/OutputFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <filesystem>
 
 #include "base/ErrorText.h"
+#include "base/Paths.h"
 #include "system/Descriptors.h"
 #include "system/TemporaryFiles.h"
 
@@ -17,27 +14,28 @@ OutputFile::OutputFile(const std::string& name) : name_(name)
 {
   namespace fs = std::filesystem;
   std::error_code failed;
-  struct stat before {};
-  const bool exists = name != standardStream && stat(name.c_str(), &before) == 0;
+  const fs::file_status before =
+      name == standardStream ? fs::file_status() : fs::status(PathOf(name), failed);
+  const bool exists = name != standardStream && !failed;
   // Into devices, pipes and the standard output the finished file is copied.
-  copied_ = name == standardStream || (exists && !S_ISREG(before.st_mode));
-  if (exists && S_ISDIR(before.st_mode)) {
+  copied_ = name == standardStream || (exists && !is_regular_file(before));
+  if (exists && is_directory(before)) {
     Fail(EISDIR);
     return;
   }
-  if (exists && access(name.c_str(), W_OK) != 0) {
-    Fail(errno);
+  if (const int problem = exists ? WritingProblem(name) : 0; problem != 0) {
+    Fail(problem);
     return;
   }
   if (exists && !copied_) {
     // What a link points at is replaced, not the link.
-    const fs::path target = fs::canonical(name, failed);
-    if (!failed) name_ = target.string();
+    const fs::path target = fs::canonical(PathOf(name), failed);
+    if (!failed) name_ = TextOf(target);
   }
-  const fs::path folder = fs::path(name_).parent_path();
+  const fs::path folder = PathOf(name_).parent_path();
   path_ = MakeTemporary(copied_ ? TemporaryFolder() : folder.empty() ? fs::path(".") : folder);
   if (path_.empty()) Fail(errno);
-  if (exists && !copied_) chmod(path_.c_str(), before.st_mode & 07777);
+  if (exists && !copied_) fs::permissions(PathOf(path_), before.permissions(), failed);
 }
 
 OutputFile::~OutputFile() { RemoveTemporary(path_); }
@@ -59,19 +57,19 @@ bool OutputFile::Commit()
 
 bool OutputFile::CopyOut()
 {
-  const Descriptor written(open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+  const Descriptor written(OpenDescriptor(path_, Access::Read));
   // Its name goes first, so that nothing stays behind when the reader goes away.
   RemoveTemporary(path_);
   path_.clear();
-  if (name_ == standardStream) return Copy(written.Number(), STDOUT_FILENO) || Fail(errno);
-  const Descriptor target(open(name_.c_str(), O_WRONLY | O_CLOEXEC));
+  if (name_ == standardStream) return Copy(written.Number(), standardOutput) || Fail(errno);
+  const Descriptor target(OpenDescriptor(name_, Access::Write));
   return (target.Number() >= 0 && Copy(written.Number(), target.Number())) || Fail(errno);
 }
 
 bool OutputFile::Write(std::string_view bytes)
 {
   if (path_.empty()) return false;
-  const Descriptor file(open(path_.c_str(), O_WRONLY | O_CLOEXEC));
+  const Descriptor file(OpenDescriptor(path_, Access::Write));
   return WriteAll(file.Number(), bytes) || Fail(errno);
 }
 

@@ -4,6 +4,8 @@
 
 namespace hullwright {
 
+const char* const sqliteLibrary = "libsqlite3.so.0";
+
 void* SharedLibraries::Load(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
 
 void* SharedLibraries::Resolve(void* library, const char* entryPoint)

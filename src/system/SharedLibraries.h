@@ -4,6 +4,9 @@
 
 namespace hullwright {
 
+/// File name of the SQLite library on this system.
+extern const char* const sqliteLibrary;
+
 /// The system's own loader.
 class SharedLibraries : public ILibraryLoader {
 public:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "system/SharedLibraries.h"
 
 namespace hullwright {
 namespace {

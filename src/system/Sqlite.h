@@ -15,9 +15,6 @@ struct sqlite3_stmt;
 
 namespace hullwright {
 
-/// File name of the SQLite library.
-inline constexpr const char* sqliteLibrary = "libsqlite3.so.0";
-
 /// Read-only way to the unit database. Binds to the SQLite library at run time: load, open, select,
 /// then read columns of the current row until `Next` is false; close, unload. Whatever is left open
 /// is closed with the object. Results are 0 for success and -1 for failure.

@@ -1,11 +1,6 @@
 #include "system/TraceLog.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <array>
-#include <cerrno>
 #include <chrono>
 #include <deque>
 #include <new>
@@ -91,8 +86,7 @@ void Lock(int file)
 {
   constexpr std::chrono::milliseconds between(1);
   constexpr int mostTries = 1000;
-  for (int i = 0; i < mostTries && flock(file, LOCK_EX | LOCK_NB) != 0; ++i) {
-    if (errno != EWOULDBLOCK) return;  // a file system without locks
+  for (int i = 0; i < mostTries && IsLockedElsewhere(file); ++i) {
     std::this_thread::sleep_for(between);
   }
 }
@@ -102,8 +96,7 @@ void Rewrite(int file, const Log& log)
 {
   std::string text = Decimal(log.sequence) + '\n';
   for (const std::string& record : log.records) text += record;
-  // Pipes and devices can't be cut and are written into all the same.
-  if (ftruncate(file, 0) == 0 || errno == EINVAL) WriteAll(file, text);
+  if (EmptyFile(file)) WriteAll(file, text);
 }
 
 }  // namespace
@@ -127,11 +120,9 @@ void CTraceLog::Trace(double elapsedSeconds, TraceLevel level, std::u16string_vi
 void CTraceLog::Add(double elapsedSeconds, TraceLevel level, std::u16string_view category,
                     std::u16string_view text) const
 {
-  constexpr mode_t anybody = 0666;
   const std::u16string path = PathOf(category);
   if (path.size() > longestPath) return;
-  const Descriptor file(
-      open(Utf8FromWide(path).c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, anybody));
+  const Descriptor file(OpenDescriptor(Utf8FromWide(path), Access::MakeOrWrite));
   if (file.Number() < 0) return;
   Lock(file.Number());
   Log log = ReadLog(path);

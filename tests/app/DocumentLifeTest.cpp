@@ -1,9 +1,7 @@
 #include "app/DocumentLife.h"
 
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <limits>
 #include <new>
 
@@ -11,6 +9,7 @@
 #include "model/ShapePoint.h"
 #include "support/AppFixture.h"
 #include "support/FailingNew.h"
+#include "support/System.h"
 #include "system/FormerVersions.h"
 
 namespace hullwright {
@@ -44,28 +43,6 @@ public:
   std::vector<std::u16string> Read() const override { return files; }
   void Write(const std::vector<std::u16string>& paths) override { files = paths; }
   std::vector<std::u16string> files;
-};
-
-/// No file can grow past a size while it lives, as on a disk that is full.
-class FileSizeLimit {
-public:
-  explicit FileSizeLimit(rlim_t bytes)
-  {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit()
-  {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
-private:
-  rlimit before_{};
-  void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
 constexpr const char* boat =
@@ -245,7 +222,7 @@ TEST_F(Life, ASaveThatFailsHalfwayGivesTheFileBackWhatItHeldAndNamesTheCopy)
   }
   messages.onShow = [this] { heldAtMessage = folder.Read("boat.xml"); };
   {
-    const FileSizeLimit limit(4096);
+    const test::FileSizeLimit limit(4096);
     EXPECT_FALSE(life.Save());
   }
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));

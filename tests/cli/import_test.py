@@ -220,7 +220,7 @@ class ImportTest(CliTest):
     def test_what_is_no_drawing_makes_no_design(self):
         out = self.write("out.xml", "precious")
         good = self.drawing("good.dxf", "0", "LINE")
-        for name, text in (("letter.dxf", "Dear Sirs,\nan INTERSECTION of hull and deck\n"), ("nul", "\0" * 5000),
+        for name, text in (("letter.dxf", "Dear Sirs,\nan INTERSECTION of hull and deck\n"), ("zeros", "\0" * 5000),
                            ("one line.dxf", "0")):
             path = self.write(name, text)
             self.fail_with(1, (f"{name}: not a drawing: it has no SECTION",), "import", good, path, "-o", out)

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <tuple>
 
@@ -8,6 +7,7 @@
 #include "headless/KeptMessages.h"
 #include "model/ShapePolyline.h"
 #include "support/Fakes.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -120,7 +120,7 @@ TEST_F(Document, AFileWithoutReadPermissionIsReported)
 {
   const auto path = folder.Write("locked.xml", good);
   std::filesystem::permissions(folder.Path() / "locked.xml", std::filesystem::perms::none);
-  const bool allPowerful = access((folder.Path() / "locked.xml").c_str(), R_OK) == 0;
+  const bool allPowerful = test::MayRead(folder.Path() / "locked.xml");
   EXPECT_EQ(document.OnOpenDocument(path), allPowerful);
   EXPECT_EQ(messages.shown.size(), allPowerful ? 0U : 1U);
 }

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <array>
 
@@ -8,6 +7,7 @@
 #include "file/FileSax.h"
 #include "file/SaxHandlers.h"
 #include "headless/KeptMessages.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -113,8 +113,7 @@ TEST_F(SaxInput, ALongTokenTakesLinearTime)
 
 TEST_F(SaxInput, APipeThatNobodyWritesToDoesNotHang)
 {
-  const std::string pipe = (folder.Path() / "pipe").string();
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(folder.Path() / "pipe"));
   EXPECT_EQ(listener.Read(folder.File("pipe")), -1);
   EXPECT_EQ(listener.Read(u"/dev/zero"), -1);
 }

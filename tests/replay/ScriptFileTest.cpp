@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Paths.h"
 #include "support/TempFolder.h"
 
 // How a script is written down: lines, names, and texts in files of their own.
@@ -23,7 +24,7 @@ protected:
       Read(script);
     } catch (const std::exception& problem) {
       std::string text = problem.what();
-      const std::string folder = folder_.Path().string() + "/";
+      const std::string folder = hullwright::TextOf(folder_.Path()) + "/";
       for (std::size_t at = 0; (at = text.find(folder)) != std::string::npos;) {
         text.erase(at, folder.size());
       }

@@ -15,6 +15,9 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.append(str(pathlib.Path(__file__).parent.parent / "windows"))
+from left_out import reason_to_leave_out
+
 FEWEST = 150  # scripts; fewer, and somebody has lost some
 
 # The places of an expectation where names may stand in place of numbers: as values, and as members of an object.
@@ -149,11 +152,13 @@ def main():
     everything = not scripts
     if everything:
         scripts = sorted(pathlib.Path(__file__).parent.glob("*/*.replay"))
+    left_out = [path for path in scripts if reason_to_leave_out(f"replay/{path.parent.name}/{path.stem}")]
+    scripts = [path for path in scripts if path not in left_out]
     names = read_names(subprocess.run([program, "--names"], capture_output=True, check=True, text=True).stdout)
     wrong = [problem for path in scripts for problem in play(program, path, names)]
-    if everything and len(scripts) < FEWEST:
+    if everything and len(scripts) + len(left_out) < FEWEST:
         wrong.append(f"only {len(scripts)} scripts are here")
-    print("\n".join(wrong) or f"{len(scripts)} scripts do what they state.")
+    print("\n".join(wrong) or f"{len(scripts)} scripts do what they state, {len(left_out)} are left out.")
     sys.exit(1 if wrong else 0)
 
 

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "support/System.h"
+
 namespace {
 
 /// Allocations up to the one that fails; 0 while none shall.
@@ -19,8 +21,7 @@ void* Allocate(std::size_t size, std::size_t alignment) noexcept
     return nullptr;
   }
   if (alignment <= alignof(std::max_align_t)) return std::malloc(size == 0 ? 1 : size);
-  const std::size_t whole = (size + alignment - 1) / alignment * alignment;
-  return std::aligned_alloc(alignment, whole == 0 ? alignment : whole);
+  return hullwright::test::AllocateAligned(size, alignment);
 }
 
 void* AllocateOrThrow(std::size_t size, std::size_t alignment = 1)
@@ -31,6 +32,15 @@ void* AllocateOrThrow(std::size_t size, std::size_t alignment = 1)
 }
 
 std::size_t Number(std::align_val_t alignment) { return static_cast<std::size_t>(alignment); }
+
+void Free(void* place, std::align_val_t alignment) noexcept
+{
+  if (Number(alignment) <= alignof(std::max_align_t)) {
+    std::free(place);
+  } else {
+    hullwright::test::FreeAligned(place);
+  }
+}
 
 }  // namespace
 
@@ -54,19 +64,19 @@ void operator delete(void* place) noexcept { std::free(place); }
 void operator delete[](void* place) noexcept { std::free(place); }
 void operator delete(void* place, std::size_t) noexcept { std::free(place); }
 void operator delete[](void* place, std::size_t) noexcept { std::free(place); }
-void operator delete(void* place, std::align_val_t) noexcept { std::free(place); }
-void operator delete[](void* place, std::align_val_t) noexcept { std::free(place); }
-void operator delete(void* place, std::size_t, std::align_val_t) noexcept { std::free(place); }
-void operator delete[](void* place, std::size_t, std::align_val_t) noexcept { std::free(place); }
+void operator delete(void* place, std::align_val_t a) noexcept { Free(place, a); }
+void operator delete[](void* place, std::align_val_t a) noexcept { Free(place, a); }
+void operator delete(void* place, std::size_t, std::align_val_t a) noexcept { Free(place, a); }
+void operator delete[](void* place, std::size_t, std::align_val_t a) noexcept { Free(place, a); }
 void operator delete(void* place, const std::nothrow_t&) noexcept { std::free(place); }
 void operator delete[](void* place, const std::nothrow_t&) noexcept { std::free(place); }
-void operator delete(void* place, std::align_val_t, const std::nothrow_t&) noexcept
+void operator delete(void* place, std::align_val_t a, const std::nothrow_t&) noexcept
 {
-  std::free(place);
+  Free(place, a);
 }
-void operator delete[](void* place, std::align_val_t, const std::nothrow_t&) noexcept
+void operator delete[](void* place, std::align_val_t a, const std::nothrow_t&) noexcept
 {
-  std::free(place);
+  Free(place, a);
 }
 
 namespace hullwright::test {

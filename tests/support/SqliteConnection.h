@@ -4,8 +4,8 @@
 
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "system/SharedLibraries.h"
-#include "system/Sqlite.h"
 
 namespace hullwright::test {
 
@@ -14,7 +14,8 @@ class SqliteConnection {
 public:
   explicit SqliteConnection(const std::filesystem::path& path)
   {
-    EXPECT_EQ(Entry<int (*)(const char*, void**)>("sqlite3_open")(path.c_str(), &handle_), 0);
+    EXPECT_EQ(Entry<int (*)(const char*, void**)>("sqlite3_open")(TextOf(path).c_str(), &handle_),
+              0);
   }
   SqliteConnection(const SqliteConnection&) = delete;
   SqliteConnection& operator=(const SqliteConnection&) = delete;

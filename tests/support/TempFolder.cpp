@@ -1,12 +1,12 @@
 #include "support/TempFolder.h"
 
-#include <unistd.h>
-
 #include <fstream>
 #include <iterator>
 #include <string>
 
+#include "base/Paths.h"
 #include "base/Text.h"
+#include "support/System.h"
 
 namespace hullwright::test {
 
@@ -16,7 +16,7 @@ TempFolder::TempFolder()
 {
   static int count = 0;
   path_ = fs::temp_directory_path() /
-          ("hullwright-test-" + std::to_string(getpid()) + "-" + std::to_string(++count));
+          ("hullwright-test-" + std::to_string(ProcessNumber()) + "-" + std::to_string(++count));
   fs::create_directories(path_);
 }
 
@@ -29,18 +29,18 @@ TempFolder::~TempFolder()
 
 std::u16string TempFolder::File(std::string_view name) const
 {
-  return WideFromUtf8((path_ / fs::path(name)).string());
+  return WideFromUtf8(TextOf(path_ / PathOf(name)));
 }
 
 std::u16string TempFolder::Write(std::string_view name, std::string_view bytes) const
 {
-  std::ofstream(path_ / fs::path(name), std::ios::binary) << bytes;
+  std::ofstream(path_ / PathOf(name), std::ios::binary) << bytes;
   return File(name);
 }
 
 std::string TempFolder::Read(std::string_view name) const
 {
-  std::ifstream file(path_ / fs::path(name), std::ios::binary);
+  std::ifstream file(path_ / PathOf(name), std::ios::binary);
   if (!file) return "(no file)";
   return {std::istreambuf_iterator<char>(file), {}};
 }

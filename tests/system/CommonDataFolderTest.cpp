@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 #include "system/CommonDataPorts.h"
 
@@ -163,25 +164,25 @@ TEST_F(CommonDataOfTheProgram, TheFolderOfLogsMayComeAndGoDuringTheRun)
 
 TEST(DataFolderCandidates, ComeFromTheDesktopsRules)
 {
-  setenv("XDG_DATA_HOME", "/some/home", 1);
-  setenv("XDG_DATA_DIRS", "/a::/b", 1);
+  test::SetVariable("XDG_DATA_HOME", "/some/home");
+  test::SetVariable("XDG_DATA_DIRS", "/a::/b");
   const DataFolderCandidates found = FindDataFolderCandidates();
   EXPECT_EQ(found.user, "/some/home");
   EXPECT_EQ(found.system, (std::vector<std::string>{"/a", "/b"}));
   EXPECT_TRUE(found.besideProgram.ends_with("/share"));
-  unsetenv("XDG_DATA_HOME");
-  unsetenv("XDG_DATA_DIRS");
+  test::SetVariable("XDG_DATA_HOME", nullptr);
+  test::SetVariable("XDG_DATA_DIRS", nullptr);
   const std::string home = getenv("HOME") == nullptr ? "" : getenv("HOME");
-  setenv("HOME", "/home/someone", 1);
+  test::SetVariable("HOME", "/home/someone");
   const DataFolderCandidates usual = FindDataFolderCandidates();
   EXPECT_EQ(usual.user, "/home/someone/.local/share");
   EXPECT_EQ(usual.system, (std::vector<std::string>{"/usr/local/share", "/usr/share"}));
-  setenv("XDG_DATA_HOME", "relative", 1);
+  test::SetVariable("XDG_DATA_HOME", "relative");
   EXPECT_EQ(FindDataFolderCandidates().user, "/home/someone/.local/share");
-  setenv("HOME", "relative", 1);
+  test::SetVariable("HOME", "relative");
   EXPECT_EQ(FindDataFolderCandidates().user, "");
-  unsetenv("XDG_DATA_HOME");
-  setenv("HOME", home.c_str(), 1);
+  test::SetVariable("XDG_DATA_HOME", nullptr);
+  test::SetVariable("HOME", home.c_str());
 }
 
 }  // namespace

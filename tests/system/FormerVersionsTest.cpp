@@ -5,9 +5,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <regex>
 #include <vector>
 
+#include "base/Paths.h"
 #include "base/Text.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -16,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::MatchesRegex;
 
 class Former : public testing::Test {
 protected:
@@ -66,12 +68,12 @@ TEST_F(Former, ANewFileHasNone)
 TEST_F(Former, TheCopyBearsTheNameOfTheFileAndTheTime)
 {
   SaveOver("boat.xml", "first");
-  const fs::path copy = Utf8FromWide(SaveOver("boat.xml", "second"));
+  const fs::path copy = PathOf(SaveOver("boat.xml", "second"));
   EXPECT_EQ(copy.parent_path(), state);
-  EXPECT_THAT(
-      copy.filename().string(),
-      MatchesRegex("boat\\.[0-9A-F]{16}\\.000001\\."
-                   "[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}-[0-9]{2}-[0-9]{2}\\.[0-9]{3}Z\\.xml"));
+  const std::regex form(
+      "boat\\.[0-9A-F]{16}\\.000001\\."
+      "[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}-[0-9]{2}-[0-9]{2}\\.[0-9]{3}Z\\.xml");
+  EXPECT_TRUE(std::regex_match(TextOf(copy.filename()), form)) << copy;
   EXPECT_THAT(Copies(), ElementsAre("first"));
 }
 
@@ -194,12 +196,12 @@ TEST_F(Former, LongNamesAreCutBetweenCharacters)
   std::string name;
   for (int i = 0; i < 61; ++i) name += "\xE6\xB8\xAF";  // 183 bytes, and 160 is the limit
   folder.Write(name + ".xml", "long");
-  const fs::path copy = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
-  EXPECT_TRUE(copy.filename().string().starts_with(name.substr(0, 159) + "."));
+  const fs::path copy = PathOf(versions.Keep(folder.File(name + ".xml")));
+  EXPECT_TRUE(TextOf(copy.filename()).starts_with(name.substr(0, 159) + "."));
   name.insert(0, "a");
   folder.Write(name + ".xml", "long");
-  const fs::path odd = Utf8FromWide(versions.Keep(folder.File(name + ".xml")));
-  EXPECT_TRUE(odd.filename().string().starts_with(name.substr(0, 160) + "."));
+  const fs::path odd = PathOf(versions.Keep(folder.File(name + ".xml")));
+  EXPECT_TRUE(TextOf(odd.filename()).starts_with(name.substr(0, 160) + "."));
 }
 
 TEST_F(Former, AnEndingThatIsTooLongForANameIsLeftOff)
@@ -223,9 +225,9 @@ public:
   ~Variable()
   {
     if (before_) {
-      setenv(name_, before_->c_str(), 1);
+      test::SetVariable(name_, before_->c_str());
     } else {
-      unsetenv(name_);
+      test::SetVariable(name_, nullptr);
     }
   }
 
@@ -238,14 +240,14 @@ TEST(UserState, FollowsTheRulesForBaseFolders)
 {
   const Variable state("XDG_STATE_HOME");
   const Variable home("HOME");
-  setenv("XDG_STATE_HOME", "/home/me/state", 1);
+  test::SetVariable("XDG_STATE_HOME", "/home/me/state");
   EXPECT_EQ(StateFolder(), "/home/me/state/hullwright");
-  setenv("XDG_STATE_HOME", "relative", 1);
-  setenv("HOME", "/home/me", 1);
+  test::SetVariable("XDG_STATE_HOME", "relative");
+  test::SetVariable("HOME", "/home/me");
   EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
-  unsetenv("XDG_STATE_HOME");
+  test::SetVariable("XDG_STATE_HOME", nullptr);
   EXPECT_EQ(StateFolder(), "/home/me/.local/state/hullwright");
-  unsetenv("HOME");
+  test::SetVariable("HOME", nullptr);
   EXPECT_EQ(StateFolder(), "");
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "base/Code.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
 #include "support/SqliteConnection.h"
@@ -96,8 +97,8 @@ TEST_F(Units, ADatabaseIsFoundInAFolderOfAnyName)
   MakeTable("(9001, 'metre', 'm', 1)");
   for (const char16_t* const name : {u"Ordner \u00E4", u"\u6D4B \U0001F6A2"}) {
     const std::u16string path = folder.File(Utf8FromWide(name));
-    std::filesystem::create_directories(Utf8FromWide(path));
-    std::filesystem::copy(database, Utf8FromWide(path + u"/geo.db"));
+    std::filesystem::create_directories(PathOf(path));
+    std::filesystem::copy(database, PathOf(path + u"/geo.db"));
     const auto units = ReadUnits(libraries, messages, path + u"/geo.db");
     ASSERT_EQ(units.size(), 1U) << Utf8FromWide(name);
     EXPECT_EQ(units.front().strUnit, u"metre");

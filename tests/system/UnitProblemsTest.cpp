@@ -1,11 +1,11 @@
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 
 #include <filesystem>
 
 #include "base/Text.h"
 #include "headless/KeptMessages.h"
 #include "support/SqliteConnection.h"
+#include "support/System.h"
 #include "support/TempFolder.h"
 #include "system/SharedLibraries.h"
 #include "system/UnitDatabase.h"
@@ -19,14 +19,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-/// The most memory that the process has held so far, in KiB.
-long MostMemory()
-{
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
-}
 
 class UnitProblems : public testing::Test {
 protected:
@@ -145,10 +137,10 @@ TEST_F(UnitProblems, RowsThatFillTheMemoryEndAtItsBound)
   Make(
       "CREATE VIEW tblUnits AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
       "SELECT i AS numId, hex(randomblob(4900)) AS strUnit, 1 AS numDimension FROM n");
-  const long before = MostMemory();
+  const long before = test::MostMemory();
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, ElementsAre(HasSubstr(": it gives no end of rows")));
-  EXPECT_LT(MostMemory() - before, mostKilobytes);
+  EXPECT_LT(test::MostMemory() - before, mostKilobytes);
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, SizeIs(1));
 }
@@ -163,10 +155,10 @@ TEST_F(UnitProblems, ViewsThatMultiplyEndAtTheBoundOfTheMemory)
   }
   views += "CREATE VIEW tblUnits AS SELECT numId, 'metre' AS strUnit, 1 AS numDimension FROM v40;";
   Make(views.c_str());
-  const long before = MostMemory();
+  const long before = test::MostMemory();
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, ElementsAre(HasSubstr(": SQLite ERROR #7 (out of memory)")));
-  EXPECT_LT(MostMemory() - before, mostKilobytes);
+  EXPECT_LT(test::MostMemory() - before, mostKilobytes);
 }
 
 }  // namespace

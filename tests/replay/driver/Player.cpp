@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "base/Numbers.h"
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "file/AnchorListReader.h"
 #include "replay/driver/Script.h"
@@ -270,7 +271,7 @@ Value Player::Save(const Json& step)
 
 Value Player::WriteFile(const Json& step)
 {
-  std::ofstream stream(Utf8FromWide(editor_.PathOf(TextOf(Member(step, "path")))),
+  std::ofstream stream(hullwright::PathOf(editor_.PathOf(TextOf(Member(step, "path")))),
                        std::ios::binary);
   stream << BytesOf(Member(step, "text"));
   return {};
@@ -310,7 +311,7 @@ Value Player::Trace(const Json& step)
 void Player::NoteWritten(const std::u16string& path)
 {
   std::error_code isNone;
-  if (std::filesystem::is_regular_file(Utf8FromWide(path), isNone)) written_ = path;
+  if (std::filesystem::is_regular_file(hullwright::PathOf(path), isNone)) written_ = path;
 }
 
 Value Player::PutGroup(const Json& step)

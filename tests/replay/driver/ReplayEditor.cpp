@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "resources/DialogTemplates.h"
 
@@ -227,7 +228,7 @@ bool ReplayEditor::ProcessCommandLine()
 
 std::u16string ReplayEditor::PathOf(const std::string& name) const
 {
-  return WideFromUtf8((work / name).string());
+  return WideFromUtf8(hullwright::TextOf(work / hullwright::PathOf(name)));
 }
 
 TreeItem ReplayEditor::ItemAt(const std::vector<std::size_t>& path)
@@ -247,7 +248,7 @@ TreeItem ReplayEditor::ItemAt(const std::vector<std::size_t>& path)
 
 std::u16string ReplayEditor::BytesOf(const std::u16string& path)
 {
-  std::ifstream stream(Utf8FromWide(path), std::ios::binary);
+  std::ifstream stream(hullwright::PathOf(path), std::ios::binary);
   const std::string bytes((std::istreambuf_iterator<char>(stream)), {});
   std::u16string text;
   for (const char byte : bytes) text.push_back(static_cast<unsigned char>(byte));

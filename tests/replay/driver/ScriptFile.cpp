@@ -4,6 +4,7 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "replay/driver/Names.h"
 
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 Json TextOfFile(const fs::path& path)
 {
   std::ifstream file(path, std::ios::binary);
-  if (!file) throw std::runtime_error(path.string() + " can't be read");
+  if (!file) throw std::runtime_error(hullwright::TextOf(path) + " can't be read");
   std::u16string text;
   for (std::istreambuf_iterator<char> byte(file), end; byte != end; ++byte) {
     text.push_back(static_cast<unsigned char>(*byte));
@@ -28,13 +29,13 @@ Json TextOfFile(const fs::path& path)
 void ReadTexts(Json& step, const fs::path& folder)
 {
   if (const Json& name = Member(step, "textFile"); name.is_string()) {
-    step["text"] = TextOfFile(folder / TextOf(name));
+    step["text"] = TextOfFile(folder / PathOf(TextOf(name)));
     step.erase("textFile");
   }
   if (!Member(step, "files").is_object()) return;
   for (Json& content : step["files"]) {
     const Json& name = Member(content, "textFile");
-    if (name.is_string()) content = TextOfFile(folder / TextOf(name));
+    if (name.is_string()) content = TextOfFile(folder / PathOf(TextOf(name)));
   }
 }
 
@@ -60,9 +61,10 @@ std::string_view Trimmed(std::string_view line)
 std::vector<Json> ReadScript(const fs::path& path)
 {
   std::ifstream file(path, std::ios::binary);
-  if (!file) throw std::runtime_error(path.string() + ": can't be read");
+  if (!file) throw std::runtime_error(hullwright::TextOf(path) + ": can't be read");
   const auto fail = [&path](int line, const std::string& problem) {
-    throw std::runtime_error(path.string() + ":" + std::to_string(line) + ": " + problem);
+    throw std::runtime_error(hullwright::TextOf(path) + ":" + std::to_string(line) + ": " +
+                             problem);
   };
   std::vector<Json> steps;
   std::string step;
