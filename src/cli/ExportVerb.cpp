@@ -194,13 +194,9 @@ std::string WritePicture(const Options& options, const std::string& design)
 std::string Export(const Options& options)
 {
   const InputFile input(options.input);
-  if (std::string problem = input.Problem(); !problem.empty()) return problem;
-  if (!input.IsDesign()) return input.Name() + ": " + notADesign;
   ShowStep("reading the design");
   HeadlessEditor editor;
-  if (!editor.Open(WideFromUtf8(input.Path()))) {
-    return input.Name() + ": " + Utf8FromWide(editor.Problem());
-  }
+  if (std::string problem = OpenDesign(input, editor); !problem.empty()) return problem;
   ShowStep("making the export");
   const std::u16string notFinite = Describe(FindNonFiniteNumbers(editor.App()));
   if (!notFinite.empty()) return input.Name() + ": " + Utf8FromWide(notFinite);

@@ -136,6 +136,20 @@ void HeadlessEditor::Frame(const Extents& box, double marginPart) const
   viewPort.KeepAspect();
 }
 
+std::string ProblemOfDesign(const InputFile& input)
+{
+  if (std::string problem = input.Problem(); !problem.empty()) return problem;
+  if (input.IsDesign()) return {};
+  return input.Name() + ": not a design: it does not begin as XML does";
+}
+
+std::string OpenDesign(const InputFile& input, HeadlessEditor& editor)
+{
+  if (std::string problem = ProblemOfDesign(input); !problem.empty()) return problem;
+  if (editor.Open(WideFromUtf8(input.Path()))) return {};
+  return input.Name() + ": " + Utf8FromWide(editor.Problem());
+}
+
 void WidenBySymbols(const CHullwrightApp& app, Extents& box)
 {
   for (const CShapeVertex* offset :

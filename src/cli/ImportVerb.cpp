@@ -103,11 +103,7 @@ int ImportAll(const Options& options)
   HeadlessEditor editor(&progress);
   if (!options.into.empty()) {
     const InputFile design(options.into);
-    if (std::string problem = design.Problem(); !problem.empty()) return Fail(problem);
-    if (!design.IsDesign()) return Fail(design.Name() + ": " + notADesign);
-    if (!editor.Open(WideFromUtf8(design.Path()))) {
-      return Fail(design.Name() + ": " + Utf8FromWide(editor.Problem()));
-    }
+    if (std::string problem = OpenDesign(design, editor); !problem.empty()) return Fail(problem);
   }
   editor.App().activeView = options.side;
   int status = 0;

@@ -124,14 +124,10 @@ std::string WriteReport(const std::string& design, const std::string& output)
   if (fixed) QHashSeed::setDeterministicGlobalSeed();
   StartToolkit();
   const InputFile input(design);
-  if (std::string problem = input.Problem(); !problem.empty()) return problem;
-  if (!input.IsDesign()) return input.Name() + ": " + notADesign;
   ShowStep("reading the design");
   ReportSides sides;
   HeadlessEditor& editor = sides.Editor();
-  if (!editor.Open(WideFromUtf8(input.Path()))) {
-    return input.Name() + ": " + Utf8FromWide(editor.Problem());
-  }
+  if (std::string problem = OpenDesign(input, editor); !problem.empty()) return problem;
   const QDateTime made = fixed ? *fixed : QDateTime::currentDateTimeUtc();
   ReportPages pages;
   AddFile(pages, input, editor, fixed);
