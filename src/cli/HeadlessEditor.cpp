@@ -73,6 +73,13 @@ void HeadlessEditor::RemoveSymbols()
   editor_.app.anchors->Clear();
 }
 
+void HeadlessEditor::ShowGrid(bool shown)
+{
+  GridSettings grid = editor_.app.LoadGridSettings();
+  grid.show = shown ? 1 : 0;
+  editor_.app.SaveGridSettings(grid);
+}
+
 bool HeadlessEditor::Save(std::u16string_view path)
 {
   editor_.document.OnSaveDocument(path);

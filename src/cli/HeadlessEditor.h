@@ -41,6 +41,9 @@ public:
   /// Takes offsets and anchors out of the picture and out of the design.
   void RemoveSymbols();
 
+  /// Sets whether the grid is drawn.
+  void ShowGrid(bool shown);
+
   /// Writes the design; false with the reason in `Problem`.
   bool Save(std::u16string_view path);
 

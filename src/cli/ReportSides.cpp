@@ -19,6 +19,8 @@ constexpr double margin = 80.0;  // of the frame, around what is drawn
 
 /// Tenths of a millimetre for a pixel of the scene, whose symbols and lines are made for a screen.
 constexpr double perPixel = 2.5;
+constexpr int pixelsAcross = static_cast<int>(ReportPages::width / perPixel);
+constexpr int pixelsDown = static_cast<int>(frameHeight / perPixel);
 
 /// What stands on a side.
 struct SideContent {
@@ -113,19 +115,11 @@ double RoundUp(double value)
   return 10.0 * power;
 }
 
-ReportSides::ReportSides()
-    : surface_(static_cast<int>(ReportPages::width / perPixel),
-               static_cast<int>(frameHeight / perPixel)),
-      editor_(target_)
-{
-  GridSettings grid = editor_.App().LoadGridSettings();
-  grid.show = 0;
-  editor_.App().SaveGridSettings(grid);
-}
+ReportSides::ReportSides() : pictures_(pixelsAcross, pixelsDown) { Editor().ShowGrid(false); }
 
 void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QString& unit)
 {
-  CHullwrightApp& app = editor_.App();
+  CHullwrightApp& app = Editor().App();
   const SideContent content = ContentOf(app, side.code);
   Extents box = content.box;
   if (side.code == ViewSide::Top) WidenBySymbols(app, box);
@@ -144,12 +138,9 @@ void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QStri
   const double x = (box.minX + box.maxX) / 2.0;
   const double y = (box.minY + box.maxY) / 2.0;
   QPicture picture;
-  editor_.ShowSide(side.code, static_cast<int>(ReportPages::width / perPixel),
-                   static_cast<int>(frameHeight / perPixel),
-                   {x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight});
-  surface_.SetDevice(&picture);
-  editor_.Draw();
-  surface_.SetDevice(nullptr);
+  Editor().ShowSide(side.code, pixelsAcross, pixelsDown,
+                    {x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight});
+  pictures_.PaintOn(picture);
   const QString scaleText = QStringLiteral("scale 1:") + Text(RoundNumberText(scale));
   pages.AddBlock(blockHeight, [=, summary = Describe(content)](QPainter& painter) {
     painter.setFont(ReportPages::Font(44, true));
