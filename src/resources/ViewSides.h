@@ -1,9 +1,9 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
+#include "base/FindOrNull.h"
 #include "model/ViewSide.h"
 #include "resources/CommandIds.h"
 
@@ -28,15 +28,13 @@ inline constexpr std::array<ViewSideEntry, 6> viewSides = {{
 /// The side of a code; null for a code of no single side.
 constexpr const ViewSideEntry* FindViewSide(ViewSide code)
 {
-  const auto* const found = std::ranges::find(viewSides, code, &ViewSideEntry::code);
-  return found == viewSides.end() ? nullptr : found;
+  return FindOrNull(viewSides, code, &ViewSideEntry::code);
 }
 
 /// The side that a command selects; null for any other command.
 constexpr const ViewSideEntry* FindViewSideByCommand(CommandId command)
 {
-  const auto* const found = std::ranges::find(viewSides, command, &ViewSideEntry::command);
-  return found == viewSides.end() ? nullptr : found;
+  return FindOrNull(viewSides, command, &ViewSideEntry::command);
 }
 
 }  // namespace hullwright
