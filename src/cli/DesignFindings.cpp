@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "base/Code.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignNumbers.h"
 #include "model/Units.h"
@@ -121,12 +120,7 @@ std::string PlaceOf(const DesignNumber& number)
 
 }  // namespace
 
-std::string GroupName(ViewSide viewCode)
-{
-  if (const ViewSideEntry* const side = FindViewSide(viewCode)) return std::string(side->name);
-  if (viewCode == ViewSide::All) return "all";
-  return "view " + FormatHex(static_cast<std::uint32_t>(viewCode), 2);
-}
+std::string GroupName(ViewSide viewCode) { return SideName(viewCode, "all", "view "); }
 
 std::vector<std::string> LossFindings(const CSaveLosses& losses)
 {

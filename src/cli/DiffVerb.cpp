@@ -182,8 +182,8 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
       return "not a length: '" + value + "'";
     default: break;
   }
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end()) return UnknownSide(value);
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr) return UnknownSide(value);
   options.side = *side;
   return {};
 }

@@ -83,9 +83,9 @@ std::optional<Format> FormatOfFile(const std::string& path)
 
 std::string TakeSide(const std::string& value, Options& options)
 {
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end() && value != "all") return UnknownSide(value);
-  options.side = side == viewSides.end() ? ViewSide::All : side->code;
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr && value != "all") return UnknownSide(value);
+  options.side = side == nullptr ? ViewSide::All : side->code;
   return {};
 }
 

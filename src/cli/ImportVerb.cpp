@@ -140,8 +140,8 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
     case 'j': options.json = true; return {};
     default: break;
   }
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end()) return UnknownSide(value);
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr) return UnknownSide(value);
   options.side = side->code;
   return {};
 }

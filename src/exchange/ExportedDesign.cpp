@@ -3,7 +3,6 @@
 #include <bit>
 #include <utility>
 
-#include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/OffsetPoints.h"
@@ -62,12 +61,7 @@ ExportedDesign GatherExport(const DesignState& design, ViewSide side, std::strin
   return exported;
 }
 
-std::string NameOfSide(ViewSide code)
-{
-  if (const ViewSideEntry* const side = FindViewSide(code)) return std::string(side->name);
-  if (code == ViewSide::All) return "all";
-  return "view-" + FormatHex(static_cast<std::uint32_t>(NumberOf(code)), 2);
-}
+std::string NameOfSide(ViewSide code) { return SideName(code, "all", "view-"); }
 
 bool IsClosed(const CShape& polyline)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "base/FindOrNull.h"
@@ -36,5 +37,15 @@ constexpr const ViewSideEntry* FindViewSideByCommand(CommandId command)
 {
   return FindOrNull(viewSides, command, &ViewSideEntry::command);
 }
+
+/// The side of a name; null for any other word.
+constexpr const ViewSideEntry* FindViewSideByName(std::string_view name)
+{
+  return FindOrNull(viewSides, name, &ViewSideEntry::name);
+}
+
+/// What a view code is called: the name of its side, `all` for that of every side, and for any
+/// other code `other` with its two hexadecimal digits behind.
+std::string SideName(ViewSide code, std::string_view all, std::string_view other);
 
 }  // namespace hullwright
