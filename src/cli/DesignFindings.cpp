@@ -7,9 +7,9 @@
 
 #include "base/Code.h"
 #include "base/Text.h"
+#include "cli/DesignContent.h"
 #include "file/DesignNumbers.h"
 #include "model/Units.h"
-#include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
@@ -119,8 +119,6 @@ std::string PlaceOf(const DesignNumber& number)
 }
 
 }  // namespace
-
-std::string GroupName(ViewSide viewCode) { return SideName(viewCode, "all", "view "); }
 
 std::vector<std::string> LossFindings(const CSaveLosses& losses)
 {

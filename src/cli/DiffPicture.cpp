@@ -8,6 +8,7 @@
 #include <set>
 #include <tuple>
 
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "cli/PictureName.h"
 #include "cli/Sheet.h"
@@ -187,9 +188,7 @@ private:
   {
     constexpr double margin = 1.0 / 6.0;
     CHullwrightApp& app = editor_.App();
-    Extents box;
-    ForEachEntry(FindViewGroup(app.shapeGroups, side)->shapes,
-                 [&](const CShape& shape) { shape.GetExtents(box); });
+    Extents box = ContentOf(app, side).box;
     if (side == ViewSide::Top && request_.symbols) {
       WidenBySymbols(app, box);
       for (const Place& place : FormerPlaces(request_.differences)) box.Widen(place.x, place.y);

@@ -8,7 +8,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/ComparedFile.h"
-#include "cli/DesignFindings.h"
+#include "cli/DesignContent.h"
 #include "cli/DiffJson.h"
 #include "cli/DiffPicture.h"
 #include "cli/PictureName.h"

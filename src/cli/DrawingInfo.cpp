@@ -7,8 +7,8 @@
 
 #include "app/ImportText.h"
 #include "base/Code.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
+#include "cli/DesignContent.h"
 #include "dxf/DxfKeywords.h"
 #include "dxf/FileDxf.h"
 #include "headless/KeptTrace.h"
@@ -84,10 +84,8 @@ void PrintDrawing(const DrawingSummary& summary, const std::string& name)
   PrintCounts("ignored", summary.ignored);
   std::printf("  imported: %zu shapes", summary.shapes);
   if (summary.extents.minX <= summary.extents.maxX && summary.shapes != 0) {
-    std::printf(", from %s, %s to %s, %s", FormatFixed(summary.extents.minX, 3).c_str(),
-                FormatFixed(summary.extents.minY, 3).c_str(),
-                FormatFixed(summary.extents.maxX, 3).c_str(),
-                FormatFixed(summary.extents.maxY, 3).c_str());
+    std::printf(", from %s to %s", PlaceText(summary.extents.minX, summary.extents.minY).c_str(),
+                PlaceText(summary.extents.maxX, summary.extents.maxY).c_str());
   }
   std::puts("");
 }

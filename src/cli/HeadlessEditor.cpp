@@ -6,6 +6,7 @@
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/DesignContent.h"
 #include "render/Canvas.h"
 
 namespace hullwright {
@@ -91,10 +92,7 @@ bool HeadlessEditor::Save(std::u16string_view path)
 Extents HeadlessEditor::SideBox() const
 {
   const CHullwrightApp& app = editor_.app;
-  Extents box;
-  if (const CShapes* const group = FindViewGroup(app.shapeGroups, app.activeView)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
-  }
+  Extents box = ContentOf(app, app.activeView).box;
   if (app.activeView == ViewSide::Top) WidenBySymbols(app, box);
   return box;
 }

@@ -13,7 +13,7 @@
 #include "base/Text.h"
 #include "base/VisibleText.h"
 #include "cli/CommandLine.h"
-#include "cli/DesignInfo.h"
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "cli/ReportPages.h"
 #include "cli/ReportSides.h"
@@ -109,7 +109,7 @@ void AddFile(ReportPages& pages, const InputFile& input, HeadlessEditor& editor,
   }
   pages.AddField(QStringLiteral("SHA-256"), HashOf(input.Path()));
   pages.AddField(QStringLiteral("Unit"),
-                 Text(UnitOf(editor) + " (EPSG " + std::to_string(NumberOf(unit)) + ")"));
+                 Text(UnitNameOf(editor.App()) + " (EPSG " + std::to_string(NumberOf(unit)) + ")"));
   if (!HasUnitFactor(unit)) {
     pages.AddField(QString(), QStringLiteral("The unit has no factor: lengths count as metres."));
   }
@@ -137,7 +137,7 @@ std::string WriteReport(const std::string& design, const std::string& output)
   pages.StartPage();
   for (const ViewSideEntry& side : viewSides) {
     ShowStep(("drawing the side " + std::string(side.name)).c_str());
-    sides.Add(pages, side, Text(UnitOf(editor)));
+    sides.Add(pages, side, Text(UnitNameOf(editor.App())));
   }
   const QString name = Shown(WideFromUtf8(std::filesystem::path(input.Name()).filename().string()));
   PictureFiles files;

@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "base/Numbers.h"
 #include "base/RealText.h"
+#include "cli/DesignContent.h"
 
 namespace hullwright {
 namespace {
@@ -21,26 +21,6 @@ constexpr double margin = 80.0;  // of the frame, around what is drawn
 constexpr double perPixel = 2.5;
 constexpr int pixelsAcross = static_cast<int>(ReportPages::width / perPixel);
 constexpr int pixelsDown = static_cast<int>(frameHeight / perPixel);
-
-/// What stands on a side.
-struct SideContent {
-  Extents box;
-  std::size_t polylines = 0;
-  std::size_t vertices = 0;
-};
-
-SideContent ContentOf(const CHullwrightApp& app, ViewSide side)
-{
-  SideContent content;
-  if (const CShapes* const group = FindViewGroup(app.shapeGroups, side)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) {
-      ++content.polylines;
-      content.vertices += shape.vertices.size();
-      shape.GetExtents(content.box);
-    });
-  }
-  return content;
-}
 
 bool IsFinite(const Extents& box)
 {
@@ -62,18 +42,13 @@ double ScaleFor(const Extents& box, double metresPerUnit)
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-QString Place(double x, double y)
-{
-  return Text(FormatFixed(x, 3)) + QStringLiteral(", ") + Text(FormatFixed(y, 3));
-}
-
-QString Describe(const SideContent& content)
+QString Describe(const GroupContent& content)
 {
   QString text =
       QStringLiteral("%1 polylines, %2 vertices").arg(content.polylines).arg(content.vertices);
   if (!content.box.IsEmpty()) {
-    text += QStringLiteral(", from ") + Place(content.box.minX, content.box.minY) +
-            QStringLiteral(" to ") + Place(content.box.maxX, content.box.maxY);
+    text += QStringLiteral(", from ") + Text(PlaceText(content.box.minX, content.box.minY)) +
+            QStringLiteral(" to ") + Text(PlaceText(content.box.maxX, content.box.maxY));
   }
   return text;
 }
@@ -120,7 +95,7 @@ ReportSides::ReportSides() : pictures_(pixelsAcross, pixelsDown) { Editor().Show
 void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QString& unit)
 {
   CHullwrightApp& app = Editor().App();
-  const SideContent content = ContentOf(app, side.code);
+  const GroupContent content = ContentOf(app, side.code);
   Extents box = content.box;
   if (side.code == ViewSide::Top) WidenBySymbols(app, box);
   const QString name = Text(std::string(side.name));

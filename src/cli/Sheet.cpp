@@ -10,6 +10,7 @@
 #include "base/Code.h"
 #include "base/Numbers.h"
 #include "base/RealText.h"
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "model/OffsetPoints.h"
 #include "paint/PaintText.h"
@@ -78,8 +79,8 @@ SheetFacts FactsOf(CHullwrightApp& design, const QString& file)
 {
   SheetFacts facts;
   facts.file = file;
-  facts.unit = ToText(design.GetUnitName());
-  if (facts.unit.isEmpty()) facts.unit = QStringLiteral("code %1").arg(NumberOf(design.unitCode));
+  facts.unit = QString::fromStdString(
+      UnitNameOf(design, "code " + std::to_string(NumberOf(design.unitCode))));
   std::u16string unitShort;
   design.GetUnitLabel(unitShort);
   facts.unitShort = ToText(unitShort);
