@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "base/RealText.h"
+#include "base/RoundNumbers.h"
 #include "cli/DesignContent.h"
 
 namespace hullwright {
@@ -79,16 +79,6 @@ void PaintBar(QPainter& painter, double tenthsPerUnit, const QString& unit)
 }
 
 }  // namespace
-
-double RoundUp(double value)
-{
-  const double power = std::pow(10.0, std::floor(std::log10(value)));
-  for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
-    // The last bits of a quotient are no reason for the next number.
-    if (factor * power >= value * (1.0 - 1e-9)) return factor * power;
-  }
-  return 10.0 * power;
-}
 
 ReportSides::ReportSides() : pictures_(pixelsAcross, pixelsDown) { Editor().ShowGrid(false); }
 

@@ -21,8 +21,4 @@ private:
   SidePictures pictures_;
 };
 
-/// The smallest round number (1, 2, 2.5 or 5 times a power of ten) that isn't below a positive
-/// value; the denominators of scales.
-double RoundUp(double value);
-
 }  // namespace hullwright
