@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "model/ShapeColours.h"
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
 #include "model/ShapeText.h"
@@ -65,8 +66,7 @@ private:
 
 LineLook LookOf(const CShape& shape)
 {
-  const ShapeStyle plain;
-  const ShapeStyle& style = shape.style ? *shape.style : plain;
+  const ShapeStyle& style = StyleOf(shape);
   return {style.lineColour, style.lineWidth};
 }
 

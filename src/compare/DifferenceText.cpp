@@ -9,6 +9,7 @@
 #include "base/Numbers.h"
 #include "base/VisibleText.h"
 #include "model/OffsetPoints.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {
@@ -41,15 +42,6 @@ std::string Ranges(const std::vector<std::size_t>& numbers)
     i = last + 1;
   }
   return text;
-}
-
-/// A colour as painting programs write it: #rrggbb.
-std::string ColourText(std::uint32_t colour)
-{
-  const std::uint32_t red = colour & 0xFFU;
-  const std::uint32_t green = colour >> 8U & 0xFFU;
-  const std::uint32_t blue = colour >> 16U & 0xFFU;
-  return "#" + FormatHex(red << 16U | green << 8U | blue, 6);
 }
 
 /// Puts the lines together.
@@ -241,7 +233,7 @@ private:
     const auto& [former, current] = *shape.look;
     std::string text;
     if (former.colour != current.colour) {
-      text = ", colour " + ColourText(former.colour) + " -> " + ColourText(current.colour);
+      text = ", colour " + HexColour(former.colour) + " -> " + HexColour(current.colour);
     }
     if (former.width != current.width) {
       text +=

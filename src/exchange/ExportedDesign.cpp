@@ -3,9 +3,9 @@
 #include <bit>
 #include <utility>
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/OffsetPoints.h"
+#include "model/ShapeColours.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -75,18 +75,9 @@ bool IsClosed(const CShape& polyline)
 std::uint32_t LineColourOf(const CShape& polyline)
 {
   constexpr std::uint32_t channels = 0xFFFFFF;
-  return polyline.style ? polyline.style->lineColour & channels : 0;
+  return StyleOf(polyline).lineColour & channels;
 }
 
-double LineWidthOf(const CShape& polyline)
-{
-  return polyline.style ? polyline.style->lineWidth : ShapeStyle().lineWidth;
-}
-
-std::string HexColour(std::uint32_t colour)
-{
-  const std::uint32_t rgb = (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
-  return "#" + FormatHex(rgb, 6);
-}
+double LineWidthOf(const CShape& polyline) { return StyleOf(polyline).lineWidth; }
 
 }  // namespace hullwright

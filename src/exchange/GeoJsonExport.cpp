@@ -2,6 +2,7 @@
 
 #include "base/Code.h"
 #include "base/Json.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {
