@@ -17,12 +17,9 @@ bool HasBox(const GroupContent& content) { return content.box.minX <= content.bo
 void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
 {
   json.BeginObject();
-  json.Key("id");
-  json.Integer(anchor.id);
-  json.Key("name");
-  json.Text(anchor.name);
-  json.Key("attachment");
-  json.Doubles({anchor.attachmentX, anchor.attachmentY});
+  json.Key("id").Integer(anchor.id);
+  json.Key("name").Text(anchor.name);
+  json.Key("attachment").Doubles({anchor.attachmentX, anchor.attachmentY});
   json.EndObject();
 }
 
@@ -30,14 +27,10 @@ void WriteGroup(JsonWriter& json, const CShapes& group)
 {
   const GroupContent content = ContentOf(group);
   json.BeginObject();
-  json.Key("view");
-  json.Integer(NumberOf(group.viewCode));
-  json.Key("side");
-  json.Ascii(GroupName(group.viewCode));
-  json.Key("polylines");
-  json.Integer(static_cast<std::int64_t>(content.polylines));
-  json.Key("vertices");
-  json.Integer(static_cast<std::int64_t>(content.vertices));
+  json.Key("view").Integer(NumberOf(group.viewCode));
+  json.Key("side").Ascii(GroupName(group.viewCode));
+  json.Key("polylines").Integer(static_cast<std::int64_t>(content.polylines));
+  json.Key("vertices").Integer(static_cast<std::int64_t>(content.vertices));
   json.Key("extents");
   if (HasBox(content)) {
     json.Doubles({content.box.minX, content.box.minY, content.box.maxX, content.box.maxY});
@@ -80,31 +73,22 @@ void WriteDesignJson(JsonWriter& json, HeadlessEditor& editor, const std::string
 {
   CHullwrightApp& app = editor.App();
   json.BeginObject();
-  json.Key("file");
-  json.Text(WideFromUtf8(name));
-  json.Key("kind");
-  json.Ascii("design");
-  json.Key("unit");
-  json.BeginObject();
-  json.Key("code");
-  json.Integer(NumberOf(app.unitCode));
-  json.Key("name");
-  json.Text(WideFromUtf8(UnitNameOf(app)));
+  json.Key("file").Text(WideFromUtf8(name));
+  json.Key("kind").Ascii("design");
+  json.Key("unit").BeginObject();
+  json.Key("code").Integer(NumberOf(app.unitCode));
+  json.Key("name").Text(WideFromUtf8(UnitNameOf(app)));
   json.EndObject();
-  json.Key("offsets");
-  json.BeginObject();
+  json.Key("offsets").BeginObject();
   for (const OffsetPoint& offset : offsetPoints) {
     const CShapeVertex& place = *(app.*offset.place);
-    json.Key(offset.element);
-    json.Doubles({place.x, place.y, place.z});
+    json.Key(offset.element).Doubles({place.x, place.y, place.z});
   }
   json.EndObject();
-  json.Key("anchors");
-  json.BeginArray();
+  json.Key("anchors").BeginArray();
   ForEachEntry(app.anchors->items, [&](const CAnchor& anchor) { WriteAnchor(json, anchor); });
   json.EndArray();
-  json.Key("groups");
-  json.BeginArray();
+  json.Key("groups").BeginArray();
   ForEachEntry(app.shapeGroups, [&](const CShapes& group) { WriteGroup(json, group); });
   json.EndArray();
   json.EndObject();

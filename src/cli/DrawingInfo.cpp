@@ -28,11 +28,9 @@ std::map<std::string, std::size_t> Named(const KeywordCounts& counts)
 void WriteCounts(JsonWriter& json, std::string_view key,
                  const std::map<std::string, std::size_t>& counts)
 {
-  json.Key(key);
-  json.BeginObject();
+  json.Key(key).BeginObject();
   for (const auto& [name, count] : counts) {
-    json.WideKey(WideFromAnsi(name));
-    json.Integer(static_cast<std::int64_t>(count));
+    json.WideKey(WideFromAnsi(name)).Integer(static_cast<std::int64_t>(count));
   }
   json.EndObject();
 }
@@ -93,31 +91,22 @@ void PrintDrawing(const DrawingSummary& summary, const std::string& name)
 void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std::string& name)
 {
   json.BeginObject();
-  json.Key("file");
-  json.Text(WideFromUtf8(name));
-  json.Key("kind");
-  json.Ascii("drawing");
-  json.Key("layers");
-  json.BeginObject();
+  json.Key("file").Text(WideFromUtf8(name));
+  json.Key("kind").Ascii("drawing");
+  json.Key("layers").BeginObject();
   for (const auto& [layer, look] : summary.layers) {
-    json.WideKey(WideFromAnsi(layer));
-    json.BeginObject();
-    json.Key("colour");
-    json.Integer(look.colour);
-    json.Key("off");
-    json.Boolean(look.off);
-    json.Key("frozen");
-    json.Boolean(look.frozen);
+    json.WideKey(WideFromAnsi(layer)).BeginObject();
+    json.Key("colour").Integer(look.colour);
+    json.Key("off").Boolean(look.off);
+    json.Key("frozen").Boolean(look.frozen);
     json.EndObject();
   }
   json.EndObject();
   WriteCounts(json, "blocks", summary.blocks);
   WriteCounts(json, "entities", summary.entities);
   WriteCounts(json, "ignored", summary.ignored);
-  json.Key("shapes");
-  json.Integer(static_cast<std::int64_t>(summary.shapes));
-  json.Key("extents");
-  json.Doubles(
+  json.Key("shapes").Integer(static_cast<std::int64_t>(summary.shapes));
+  json.Key("extents").Doubles(
       {summary.extents.minX, summary.extents.minY, summary.extents.maxX, summary.extents.maxY});
   json.EndObject();
   json.EndLine();
