@@ -71,7 +71,7 @@ UnitCode ComparedFile::OwnUnit()
 std::optional<UnitDifference> ComparedFile::UnitsApart(ComparedFile& former, ComparedFile& current)
 {
   if (former.UnitName().empty() || current.UnitName().empty()) return std::nullopt;
-  const BeforeAndAfter<UnitCode> units = {former.OwnUnit(), current.OwnUnit()};
+  const FormerAndCurrent<UnitCode> units = {former.OwnUnit(), current.OwnUnit()};
   // Units of drawings that no design has are known by their numbers.
   const bool areTheSame =
       units.former == units.current &&

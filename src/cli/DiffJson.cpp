@@ -31,7 +31,7 @@ void WriteNumber(JsonWriter& json, std::size_t number)
 
 /// Writes a member of two values, the former and the current one.
 template <class T, class Write>
-void WritePair(JsonWriter& json, std::string_view key, const BeforeAndAfter<T>& pair, Write write)
+void WritePair(JsonWriter& json, std::string_view key, const FormerAndCurrent<T>& pair, Write write)
 {
   json.Key(key).BeginObject();
   json.Key("former");
@@ -138,11 +138,11 @@ void WriteShape(JsonWriter& json, const ShapeDifference& shape, const DiffSubjec
   json.Key("changedVertices").BeginArray();
   for (const VertexDifference& vertex : shape.vertices) WriteVertex(json, vertex, subject);
   json.EndArray();
-  if (shape.look) {
-    WritePair(json, "look", *shape.look, [&](const LineLook& look) {
+  if (shape.style) {
+    WritePair(json, "look", *shape.style, [&](const LineStyle& style) {
       json.BeginObject();
-      json.Key("line").Integer(look.colour);
-      json.Key("width").Double(static_cast<double>(look.width));
+      json.Key("line").Integer(style.colour);
+      json.Key("width").Double(static_cast<double>(style.width));
       json.EndObject();
     });
   }

@@ -246,7 +246,7 @@ private:
   const DiffPictureRequest& request_;
   SidePictures pictures_;
   HeadlessEditor& editor_ = pictures_.Editor();
-  BeforeAndAfter<std::set<ShapeName>> changed_;
+  FormerAndCurrent<std::set<ShapeName>> changed_;
   std::vector<Ring> rings_;  ///< of vertices, then of offsets and anchors
 };
 

@@ -46,7 +46,7 @@ constexpr int exitDifferent = 1;
 constexpr int exitTrouble = 2;
 
 struct Options {
-  BeforeAndAfter<std::string> input;
+  FormerAndCurrent<std::string> input;
   std::string output;
   double tolerance = 0.001;
   std::optional<ViewSideEntry> side;

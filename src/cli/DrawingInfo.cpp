@@ -73,9 +73,9 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
 void PrintDrawing(const DrawingSummary& summary, const std::string& name)
 {
   std::printf("%s: drawing\n", name.c_str());
-  for (const auto& [layer, look] : summary.layers) {
+  for (const auto& [layer, state] : summary.layers) {
     std::printf("  layer %s: colour %" PRId32 "%s%s\n", Utf8FromWide(WideFromAnsi(layer)).c_str(),
-                look.colour, look.off ? ", off" : "", look.frozen ? ", frozen" : "");
+                state.colour, state.off ? ", off" : "", state.frozen ? ", frozen" : "");
   }
   PrintCounts("blocks and their shapes", summary.blocks);
   PrintCounts("entities", summary.entities);
@@ -94,11 +94,11 @@ void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std
   json.Key("file").Text(WideFromUtf8(name));
   json.Key("kind").Ascii("drawing");
   json.Key("layers").BeginObject();
-  for (const auto& [layer, look] : summary.layers) {
+  for (const auto& [layer, state] : summary.layers) {
     json.WideKey(WideFromAnsi(layer)).BeginObject();
-    json.Key("colour").Integer(look.colour);
-    json.Key("off").Boolean(look.off);
-    json.Key("frozen").Boolean(look.frozen);
+    json.Key("colour").Integer(state.colour);
+    json.Key("off").Boolean(state.off);
+    json.Key("frozen").Boolean(state.frozen);
     json.EndObject();
   }
   json.EndObject();

@@ -73,7 +73,7 @@ private:
   std::string PlaceText(const Place& p) const { return FlatPlace(p) + ", " + Number(p.z); }
   std::string FlatPlace(const Place& p) const { return Number(p.x) + ", " + Number(p.y); }
 
-  std::string Moved(const BeforeAndAfter<Place>& place, bool flat) const
+  std::string Moved(const FormerAndCurrent<Place>& place, bool flat) const
   {
     const auto text = [&](const Place& p) { return flat ? FlatPlace(p) : PlaceText(p); };
     return text(place.former) + " -> " + text(place.current) + ", moved by " +
@@ -119,7 +119,7 @@ private:
   std::string LineKey(const ShapeDifference& d) const
   {
     const bool isPlain =
-        d.change == ShapeChange::Moved && !d.look && d.number.former == d.number.current;
+        d.change == ShapeChange::Moved && !d.style && d.number.former == d.number.current;
     if (!isPlain) return {};
     return names_.ofSide(d.side) + "/" + std::string(NameOf(d.type)) + "/" + PlaceText(d.by);
   }
@@ -181,10 +181,10 @@ private:
     switch (shape.change) {
       case ShapeChange::Added: return "added" + Extent(shape, shape.vertexCount.current);
       case ShapeChange::Removed: return "removed" + Extent(shape, shape.vertexCount.former);
-      case ShapeChange::Moved: return MovedBy(shape.by) + OtherLook(shape);
+      case ShapeChange::Moved: return MovedBy(shape.by) + OtherStyle(shape);
       case ShapeChange::Changed: break;
     }
-    return "changed" + Vertices(shape) + Form(shape) + OtherLook(shape);
+    return "changed" + Vertices(shape) + Form(shape) + OtherStyle(shape);
   }
 
   std::string Extent(const ShapeDifference& shape, std::size_t count) const
@@ -227,10 +227,10 @@ private:
     return ", was " + QuotedText(shape.text.former);
   }
 
-  static std::string OtherLook(const ShapeDifference& shape)
+  static std::string OtherStyle(const ShapeDifference& shape)
   {
-    if (!shape.look) return {};
-    const auto& [former, current] = *shape.look;
+    if (!shape.style) return {};
+    const auto& [former, current] = *shape.style;
     std::string text;
     if (former.colour != current.colour) {
       text = ", colour " + HexColour(former.colour) + " -> " + HexColour(current.colour);
