@@ -84,9 +84,9 @@ void Add(Numbers& numbers, std::initializer_list<double> more)
 }
 
 template <class T>
-BeforeAndAfter<T> Turned(const BeforeAndAfter<T>& pair, bool turn)
+FormerAndCurrent<T> Turned(const FormerAndCurrent<T>& pair, bool turn)
 {
-  return turn ? BeforeAndAfter<T>{pair.current, pair.former} : pair;
+  return turn ? FormerAndCurrent<T>{pair.current, pair.former} : pair;
 }
 
 /// All that a shape's difference says, or would say with the designs exchanged.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <variant>
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "file/DesignNumbers.h"
 #include "model/OffsetPoints.h"
@@ -11,13 +10,6 @@
 
 namespace hullwright {
 namespace {
-
-std::string SideName(ViewSide viewCode)
-{
-  if (const ViewSideEntry* const side = FindViewSide(viewCode)) return std::string(side->name);
-  return viewCode == ViewSide::All ? "all sides"
-                                   : "view " + FormatHex(static_cast<std::uint32_t>(viewCode), 2);
-}
 
 /// What the offset of an element is called.
 std::string OffsetName(const DesignElement& element)
@@ -32,7 +24,8 @@ std::string Place(const DesignNumber& number)
   if (number.anchor != nullptr) return "anchor #" + std::to_string(number.anchor->id);
   if (number.group == nullptr) return OffsetName(number.element);
   return "polyline " + std::to_string(number.polylineNumber) + " (" +
-         SideName(number.group->viewCode) + "), point " + std::to_string(number.vertexNumber);
+         SideName(number.group->viewCode, "all sides", "view ") + "), point " +
+         std::to_string(number.vertexNumber);
 }
 
 }  // namespace

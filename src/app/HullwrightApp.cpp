@@ -8,6 +8,7 @@
 #include "app/GridSettingsStore.h"
 #include "app/MainFrame.h"
 #include "base/Code.h"
+#include "base/FindOrNull.h"
 #include "resources/CommandIds.h"
 #include "resources/Strings.h"
 #include "resources/ViewSides.h"
@@ -79,8 +80,7 @@ void CHullwrightApp::LoadUnits()
 const UnitRecord* CHullwrightApp::FindUnit()
 {
   if (unitTable.empty()) LoadUnits();
-  const auto found = std::ranges::find(unitTable, unitCode, &UnitRecord::numId);
-  return found == unitTable.end() ? nullptr : &*found;
+  return FindOrNull(unitTable, unitCode, &UnitRecord::numId);
 }
 
 void CHullwrightApp::GetUnitLabel(std::u16string& label)

@@ -45,11 +45,12 @@ void JsonWriter::Raw(std::string_view text)
   out_ += text;
 }
 
-void JsonWriter::WideKey(std::u16string_view name)
+JsonWriter& JsonWriter::WideKey(std::u16string_view name)
 {
   Text(name);
   out_.push_back(':');
   first_ = true;
+  return *this;
 }
 
 void JsonWriter::Integer(std::int64_t value) { Raw(std::to_string(value)); }

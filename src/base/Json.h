@@ -25,9 +25,9 @@ public:
   void BeginArray() { Open('['); }
   void EndArray() { Close(']'); }
 
-  /// Name of the member whose value comes next.
-  void Key(std::string_view name) { WideKey(WideFromUtf8(name)); }
-  void WideKey(std::u16string_view name);
+  /// Name of the member whose value comes next: `json.Key("id").Integer(7)`.
+  JsonWriter& Key(std::string_view name) { return WideKey(WideFromUtf8(name)); }
+  JsonWriter& WideKey(std::u16string_view name);
 
   void Null() { Raw("null"); }
   void Boolean(bool value) { Raw(value ? "true" : "false"); }

@@ -8,8 +8,4 @@ namespace hullwright {
 /// no whole number: with a point or an exponent, so that minus zero stays what it is.
 std::string RealText(double value);
 
-/// A whole number below 1e15 without an exponent, however round it is; any other finite number in
-/// as few digits as give the same number back.
-std::string RoundNumberText(double value);
-
 }  // namespace hullwright

@@ -23,30 +23,26 @@ constexpr const char* help =
 
 constexpr int exitUnreadable = 2;
 
+/// Finds what a save loses. Empty on success, else where the design can't be read.
+std::string ReadLosses(const InputFile& input, CSaveLosses& losses)
+{
+  if (losses.Read(WideFromUtf8(input.Path())) == 0) return {};
+  const ReadError& error = losses.LastReadError();
+  const char* const colon = error.line == 0 ? ": " : ":";  // a place follows the name at once
+  return input.Name() + colon + Utf8FromWide(DescribeBriefly(error));
+}
+
 int Check(const std::string& word)
 {
   const InputFile input(word);
-  const std::string problem = input.Problem();
   KeptMessages messages;
   CSaveLosses losses(messages);
+  HeadlessEditor editor;
+  std::string problem = ProblemOfDesign(input);
+  if (problem.empty()) problem = ReadLosses(input, losses);
+  if (problem.empty()) problem = OpenDesign(input, editor);
   if (!problem.empty()) {
     Fail(problem);
-    return exitUnreadable;
-  }
-  if (!input.IsDesign()) {
-    Fail(input.Name() + ": " + notADesign);
-    return exitUnreadable;
-  }
-  const std::u16string path = WideFromUtf8(input.Path());
-  HeadlessEditor editor;
-  if (losses.Read(path) != 0) {
-    const ReadError& error = losses.LastReadError();
-    const char* const colon = error.line == 0 ? ": " : ":";  // a place follows the name at once
-    Fail(input.Name() + colon + Utf8FromWide(DescribeBriefly(error)));
-    return exitUnreadable;
-  }
-  if (!editor.Open(path)) {
-    Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
     return exitUnreadable;
   }
   int status = 0;

@@ -10,9 +10,6 @@
 
 namespace hullwright {
 
-/// The message for a file that should be a design and is none.
-inline constexpr const char* notADesign = "not a design: it does not begin as XML does";
-
 // Exit statuses of the command line.
 inline constexpr int exitFailed = 1;
 inline constexpr int exitUsage = 2;

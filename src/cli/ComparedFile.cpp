@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "base/VisibleText.h"
 #include "cli/CommandLine.h"
-#include "cli/DesignInfo.h"
+#include "cli/DesignContent.h"
 #include "exchange/DrawingUnits.h"
 #include "exchange/SideLayers.h"
 
@@ -49,7 +49,7 @@ std::string ComparedFile::Name() const { return VisibleText(WideFromUtf8(input_.
 
 std::string ComparedFile::UnitName()
 {
-  if (isDesign_) return UnitOf(editor_);
+  if (isDesign_) return UnitNameOf(Design());
   const DrawingUnit* const unit = FindDrawingUnit(drawingUnit_);
   return unit == nullptr ? std::string() : std::string(unit->name);
 }
@@ -71,7 +71,7 @@ UnitCode ComparedFile::OwnUnit()
 std::optional<UnitDifference> ComparedFile::UnitsApart(ComparedFile& former, ComparedFile& current)
 {
   if (former.UnitName().empty() || current.UnitName().empty()) return std::nullopt;
-  const BeforeAndAfter<UnitCode> units = {former.OwnUnit(), current.OwnUnit()};
+  const FormerAndCurrent<UnitCode> units = {former.OwnUnit(), current.OwnUnit()};
   // Units of drawings that no design has are known by their numbers.
   const bool areTheSame =
       units.former == units.current &&

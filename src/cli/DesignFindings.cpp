@@ -6,11 +6,10 @@
 #include <string_view>
 
 #include "base/Code.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
+#include "cli/DesignContent.h"
 #include "file/DesignNumbers.h"
 #include "model/Units.h"
-#include "resources/ViewSides.h"
 
 namespace hullwright {
 namespace {
@@ -120,13 +119,6 @@ std::string PlaceOf(const DesignNumber& number)
 }
 
 }  // namespace
-
-std::string GroupName(ViewSide viewCode)
-{
-  if (const ViewSideEntry* const side = FindViewSide(viewCode)) return std::string(side->name);
-  if (viewCode == ViewSide::All) return "all";
-  return "view " + FormatHex(static_cast<std::uint32_t>(viewCode), 2);
-}
 
 std::vector<std::string> LossFindings(const CSaveLosses& losses)
 {

@@ -18,7 +18,4 @@ std::vector<std::string> NumberFindings(const DesignState& design);
 /// What is wrong with the design's unit code, a line; the names come from the unit database.
 std::vector<std::string> UnitFindings(CHullwrightApp& app);
 
-/// What a view code is called: the name of its side, "all", or "view 03" for one of no side.
-std::string GroupName(ViewSide viewCode);
-
 }  // namespace hullwright

@@ -5,9 +5,6 @@
 
 namespace hullwright {
 
-/// Name of the design's unit; "unknown" for a code that the unit database lacks.
-std::string UnitOf(HeadlessEditor& editor);
-
 /// Prints what a design holds: unit, offsets, anchors, and what stands on each side. As text for
 /// people.
 void PrintDesign(HeadlessEditor& editor, const std::string& name);

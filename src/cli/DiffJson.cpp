@@ -19,8 +19,7 @@ double Rounded(double value, const DiffSubject& subject)
 
 void WriteDistance(JsonWriter& json, const Place& way, const DiffSubject& subject)
 {
-  json.Key("distance");
-  json.Double(Rounded(LengthOf(way), subject));
+  json.Key("distance").Double(Rounded(LengthOf(way), subject));
 }
 
 /// Writes a number that counts from 1; null for 0.
@@ -32,10 +31,9 @@ void WriteNumber(JsonWriter& json, std::size_t number)
 
 /// Writes a member of two values, the former and the current one.
 template <class T, class Write>
-void WritePair(JsonWriter& json, std::string_view key, const BeforeAndAfter<T>& pair, Write write)
+void WritePair(JsonWriter& json, std::string_view key, const FormerAndCurrent<T>& pair, Write write)
 {
-  json.Key(key);
-  json.BeginObject();
+  json.Key(key).BeginObject();
   json.Key("former");
   write(pair.former);
   json.Key("current");
@@ -46,33 +44,28 @@ void WritePair(JsonWriter& json, std::string_view key, const BeforeAndAfter<T>& 
 void WriteUnit(JsonWriter& json, const UnitDifference& unit, const DiffSubject& subject)
 {
   const auto write = [&json](std::string_view key, UnitCode code, const std::string& name) {
-    json.Key(key);
-    json.BeginObject();
+    json.Key(key).BeginObject();
     json.Key("code");
     if (code == UnitCode{}) {
       json.Null();
     } else {
       json.Integer(NumberOf(code));
     }
-    json.Key("name");
-    json.Text(WideFromUtf8(name));
+    json.Key("name").Text(WideFromUtf8(name));
     json.EndObject();
   };
   json.BeginObject();
   write("former", unit.unit.former, subject.unit.former);
   write("current", unit.unit.current, subject.unit.current);
-  json.Key("sameNumbers");
-  json.Boolean(unit.sameNumbers);
-  json.Key("converted");
-  json.Boolean(unit.converted);
+  json.Key("sameNumbers").Boolean(unit.sameNumbers);
+  json.Key("converted").Boolean(unit.converted);
   json.EndObject();
 }
 
 void WriteOffset(JsonWriter& json, const OffsetDifference& offset, const DiffSubject& subject)
 {
   json.BeginObject();
-  json.Key("name");
-  json.Ascii(NameOf(offset.kind));
+  json.Key("name").Ascii(NameOf(offset.kind));
   json.Key("former");
   WritePlace(json, offset.place.former);
   json.Key("current");
@@ -86,18 +79,14 @@ void WriteAnchor(JsonWriter& json, const AnchorDifference& difference, const Dif
   const auto write = [&json](const std::optional<AnchorRecord>& anchor) {
     if (!anchor) return json.Null();
     json.BeginObject();
-    json.Key("id");
-    json.Integer(anchor->id);
-    json.Key("name");
-    json.Text(anchor->name);
-    json.Key("attachment");
-    json.Doubles({anchor->place.x, anchor->place.y});
+    json.Key("id").Integer(anchor->id);
+    json.Key("name").Text(anchor->name);
+    json.Key("attachment").Doubles({anchor->place.x, anchor->place.y});
     json.EndObject();
   };
   const auto& [former, current] = difference.anchor;
   json.BeginObject();
-  json.Key("change");
-  json.Ascii(!former ? "added" : !current ? "removed" : "changed");
+  json.Key("change").Ascii(!former ? "added" : !current ? "removed" : "changed");
   json.Key("former");
   write(former);
   json.Key("current");
@@ -133,12 +122,9 @@ void WriteShape(JsonWriter& json, const ShapeDifference& shape, const DiffSubjec
 {
   static constexpr std::array<const char*, 4> changes = {"added", "removed", "moved", "changed"};
   json.BeginObject();
-  json.Key("side");
-  json.Ascii(subject.nameOfSide(shape.side));
-  json.Key("type");
-  json.Ascii(NameOf(shape.type));
-  json.Key("change");
-  json.Ascii(changes.at(static_cast<std::size_t>(shape.change)));
+  json.Key("side").Ascii(subject.nameOfSide(shape.side));
+  json.Key("type").Ascii(NameOf(shape.type));
+  json.Key("change").Ascii(changes.at(static_cast<std::size_t>(shape.change)));
   WritePair(json, "number", shape.number, [&](std::size_t number) { WriteNumber(json, number); });
   WritePair(json, "vertices", shape.vertexCount,
             [&](std::size_t count) { json.Integer(static_cast<std::int64_t>(count)); });
@@ -148,19 +134,15 @@ void WriteShape(JsonWriter& json, const ShapeDifference& shape, const DiffSubjec
                       Rounded(shape.by.z, subject)});
     WriteDistance(json, shape.by, subject);
   }
-  json.Key("reversed");
-  json.Boolean(shape.reversed);
-  json.Key("changedVertices");
-  json.BeginArray();
+  json.Key("reversed").Boolean(shape.reversed);
+  json.Key("changedVertices").BeginArray();
   for (const VertexDifference& vertex : shape.vertices) WriteVertex(json, vertex, subject);
   json.EndArray();
-  if (shape.look) {
-    WritePair(json, "look", *shape.look, [&](const LineLook& look) {
+  if (shape.style) {
+    WritePair(json, "look", *shape.style, [&](const LineStyle& style) {
       json.BeginObject();
-      json.Key("line");
-      json.Integer(look.colour);
-      json.Key("width");
-      json.Double(static_cast<double>(look.width));
+      json.Key("line").Integer(style.colour);
+      json.Key("width").Double(static_cast<double>(style.width));
       json.EndObject();
     });
   }
@@ -174,8 +156,7 @@ template <class T, class Write>
 void WriteList(JsonWriter& json, std::string_view key, const std::vector<T>& list,
                const DiffSubject& subject, Write write)
 {
-  json.Key(key);
-  json.BeginArray();
+  json.Key(key).BeginArray();
   for (const T& entry : list) write(json, entry, subject);
   json.EndArray();
 }
@@ -185,14 +166,10 @@ void WriteList(JsonWriter& json, std::string_view key, const std::vector<T>& lis
 void WriteDiffJson(JsonWriter& json, const Differences& differences, const DiffSubject& subject)
 {
   json.BeginObject();
-  json.Key("former");
-  json.Text(WideFromUtf8(subject.name.former));
-  json.Key("current");
-  json.Text(WideFromUtf8(subject.name.current));
-  json.Key("tolerance");
-  json.Double(subject.tolerance);
-  json.Key("equal");
-  json.Boolean(differences.None());
+  json.Key("former").Text(WideFromUtf8(subject.name.former));
+  json.Key("current").Text(WideFromUtf8(subject.name.current));
+  json.Key("tolerance").Double(subject.tolerance);
+  json.Key("equal").Boolean(differences.None());
   json.Key("unit");
   if (differences.unit) {
     WriteUnit(json, *differences.unit, subject);

@@ -9,8 +9,8 @@ namespace hullwright {
 
 /// What a comparison was made of.
 struct DiffSubject {
-  BeforeAndAfter<std::string> name;  ///< of the files
-  BeforeAndAfter<std::string> unit;  ///< names of the units
+  FormerAndCurrent<std::string> name;  ///< of the files
+  FormerAndCurrent<std::string> unit;  ///< names of the units
   double tolerance = 0.0;
   std::string (*nameOfSide)(ViewSide) = nullptr;
 };

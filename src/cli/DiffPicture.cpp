@@ -8,12 +8,11 @@
 #include <set>
 #include <tuple>
 
-#include "cli/HeadlessEditor.h"
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "cli/PictureName.h"
 #include "cli/Sheet.h"
-#include "paint/PaintSurface.h"
-#include "paint/PaintTarget.h"
+#include "cli/SidePictures.h"
 #include "paint/PaintText.h"
 
 namespace hullwright {
@@ -76,21 +75,18 @@ class Overlay {
 public:
   explicit Overlay(const DiffPictureRequest& request)
       : request_(request),
-        surface_(pictureSize.width(), pictureSize.height()),
-        editor_(target_),
+        pictures_(pictureSize.width(), pictureSize.height()),
         rings_(RingsOf(request.differences))
   {
     for (const ShapeDifference& shape : request.differences.shapes) {
       changed_.former.insert({shape.side, shape.type, shape.number.former});
       changed_.current.insert({shape.side, shape.type, shape.number.current});
     }
-    GridSettings grid = editor_.App().LoadGridSettings();
-    grid.show = 0;
-    editor_.App().SaveGridSettings(grid);
+    editor_.ShowGrid(false);
     if (request.symbols) TakeSymbols();
   }
 
-  bool HasRoom() { return !surface_.Picture().isNull(); }
+  bool HasRoom() { return pictures_.HasRoom(); }
 
   bool Differs(ViewSide side) const
   {
@@ -106,9 +102,7 @@ public:
     TakeShapes(side);
     editor_.ShowSide(side, pictureSize.width(), pictureSize.height(), Stretch(side));
     QPicture picture;
-    surface_.SetDevice(&picture);
-    editor_.Draw();
-    surface_.SetDevice(nullptr);
+    pictures_.PaintOn(picture);
     painter.drawPicture(QPoint(0, 0), picture);
     painter.setRenderHint(QPainter::Antialiasing);
     if (side == ViewSide::Top) PaintFormerPlaces(painter);
@@ -194,9 +188,7 @@ private:
   {
     constexpr double margin = 1.0 / 6.0;
     CHullwrightApp& app = editor_.App();
-    Extents box;
-    ForEachEntry(FindViewGroup(app.shapeGroups, side)->shapes,
-                 [&](const CShape& shape) { shape.GetExtents(box); });
+    Extents box = ContentOf(app, side).box;
     if (side == ViewSide::Top && request_.symbols) {
       WidenBySymbols(app, box);
       for (const Place& place : FormerPlaces(request_.differences)) box.Widen(place.x, place.y);
@@ -252,10 +244,9 @@ private:
   }
 
   const DiffPictureRequest& request_;
-  PaintSurface surface_;
-  PaintTarget target_{surface_};
-  HeadlessEditor editor_;
-  BeforeAndAfter<std::set<ShapeName>> changed_;
+  SidePictures pictures_;
+  HeadlessEditor& editor_ = pictures_.Editor();
+  FormerAndCurrent<std::set<ShapeName>> changed_;
   std::vector<Ring> rings_;  ///< of vertices, then of offsets and anchors
 };
 

@@ -8,7 +8,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/ComparedFile.h"
-#include "cli/DesignFindings.h"
+#include "cli/DesignContent.h"
 #include "cli/DiffJson.h"
 #include "cli/DiffPicture.h"
 #include "cli/PictureName.h"
@@ -46,7 +46,7 @@ constexpr int exitDifferent = 1;
 constexpr int exitTrouble = 2;
 
 struct Options {
-  BeforeAndAfter<std::string> input;
+  FormerAndCurrent<std::string> input;
   std::string output;
   double tolerance = 0.001;
   std::optional<ViewSideEntry> side;
@@ -182,8 +182,8 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
       return "not a length: '" + value + "'";
     default: break;
   }
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end()) return UnknownSide(value);
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr) return UnknownSide(value);
   options.side = *side;
   return {};
 }

@@ -7,8 +7,8 @@
 
 #include "app/ImportText.h"
 #include "base/Code.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
+#include "cli/DesignContent.h"
 #include "dxf/DxfKeywords.h"
 #include "dxf/FileDxf.h"
 #include "headless/KeptTrace.h"
@@ -28,11 +28,9 @@ std::map<std::string, std::size_t> Named(const KeywordCounts& counts)
 void WriteCounts(JsonWriter& json, std::string_view key,
                  const std::map<std::string, std::size_t>& counts)
 {
-  json.Key(key);
-  json.BeginObject();
+  json.Key(key).BeginObject();
   for (const auto& [name, count] : counts) {
-    json.WideKey(WideFromAnsi(name));
-    json.Integer(static_cast<std::int64_t>(count));
+    json.WideKey(WideFromAnsi(name)).Integer(static_cast<std::int64_t>(count));
   }
   json.EndObject();
 }
@@ -75,19 +73,17 @@ std::u16string SummariseDrawing(std::u16string_view path, DrawingSummary& summar
 void PrintDrawing(const DrawingSummary& summary, const std::string& name)
 {
   std::printf("%s: drawing\n", name.c_str());
-  for (const auto& [layer, look] : summary.layers) {
+  for (const auto& [layer, state] : summary.layers) {
     std::printf("  layer %s: colour %" PRId32 "%s%s\n", Utf8FromWide(WideFromAnsi(layer)).c_str(),
-                look.colour, look.off ? ", off" : "", look.frozen ? ", frozen" : "");
+                state.colour, state.off ? ", off" : "", state.frozen ? ", frozen" : "");
   }
   PrintCounts("blocks and their shapes", summary.blocks);
   PrintCounts("entities", summary.entities);
   PrintCounts("ignored", summary.ignored);
   std::printf("  imported: %zu shapes", summary.shapes);
   if (summary.extents.minX <= summary.extents.maxX && summary.shapes != 0) {
-    std::printf(", from %s, %s to %s, %s", FormatFixed(summary.extents.minX, 3).c_str(),
-                FormatFixed(summary.extents.minY, 3).c_str(),
-                FormatFixed(summary.extents.maxX, 3).c_str(),
-                FormatFixed(summary.extents.maxY, 3).c_str());
+    std::printf(", from %s to %s", PlaceText(summary.extents.minX, summary.extents.minY).c_str(),
+                PlaceText(summary.extents.maxX, summary.extents.maxY).c_str());
   }
   std::puts("");
 }
@@ -95,31 +91,22 @@ void PrintDrawing(const DrawingSummary& summary, const std::string& name)
 void WriteDrawingJson(JsonWriter& json, const DrawingSummary& summary, const std::string& name)
 {
   json.BeginObject();
-  json.Key("file");
-  json.Text(WideFromUtf8(name));
-  json.Key("kind");
-  json.Ascii("drawing");
-  json.Key("layers");
-  json.BeginObject();
-  for (const auto& [layer, look] : summary.layers) {
-    json.WideKey(WideFromAnsi(layer));
-    json.BeginObject();
-    json.Key("colour");
-    json.Integer(look.colour);
-    json.Key("off");
-    json.Boolean(look.off);
-    json.Key("frozen");
-    json.Boolean(look.frozen);
+  json.Key("file").Text(WideFromUtf8(name));
+  json.Key("kind").Ascii("drawing");
+  json.Key("layers").BeginObject();
+  for (const auto& [layer, state] : summary.layers) {
+    json.WideKey(WideFromAnsi(layer)).BeginObject();
+    json.Key("colour").Integer(state.colour);
+    json.Key("off").Boolean(state.off);
+    json.Key("frozen").Boolean(state.frozen);
     json.EndObject();
   }
   json.EndObject();
   WriteCounts(json, "blocks", summary.blocks);
   WriteCounts(json, "entities", summary.entities);
   WriteCounts(json, "ignored", summary.ignored);
-  json.Key("shapes");
-  json.Integer(static_cast<std::int64_t>(summary.shapes));
-  json.Key("extents");
-  json.Doubles(
+  json.Key("shapes").Integer(static_cast<std::int64_t>(summary.shapes));
+  json.Key("extents").Doubles(
       {summary.extents.minX, summary.extents.minY, summary.extents.maxX, summary.extents.maxY});
   json.EndObject();
   json.EndLine();

@@ -13,12 +13,12 @@ namespace hullwright {
 
 /// What a drawing holds, as the import sees it.
 struct DrawingSummary {
-  struct LayerLook {
+  struct LayerState {
     std::int32_t colour;
     bool off;
     bool frozen;
   };
-  std::map<std::string, LayerLook> layers;
+  std::map<std::string, LayerState> layers;
   std::map<std::string, std::size_t> blocks;    ///< with the number of their shapes
   std::map<std::string, std::size_t> entities;  ///< keywords of the entities section
   std::map<std::string, std::size_t> ignored;   ///< those of them that nothing is made of

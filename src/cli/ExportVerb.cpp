@@ -7,6 +7,7 @@
 #include "base/Code.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/DesignContent.h"
 #include "cli/HeadlessEditor.h"
 #include "cli/Picture.h"
 #include "cli/PictureName.h"
@@ -83,9 +84,9 @@ std::optional<Format> FormatOfFile(const std::string& path)
 
 std::string TakeSide(const std::string& value, Options& options)
 {
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end() && value != "all") return UnknownSide(value);
-  options.side = side == viewSides.end() ? ViewSide::All : side->code;
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr && value != "all") return UnknownSide(value);
+  options.side = side == nullptr ? ViewSide::All : side->code;
   return {};
 }
 
@@ -143,13 +144,6 @@ std::u16string Counted(std::size_t count, const std::string& thing)
   return WideFromAscii(std::to_string(count) + " " + thing + (count == 1 ? "" : "s"));
 }
 
-std::string UnitNameOf(HeadlessEditor& editor)
-{
-  const std::u16string name = editor.App().GetUnitName();
-  if (!name.empty()) return Utf8FromWide(name);
-  return "EPSG " + std::to_string(NumberOf(editor.App().unitCode));
-}
-
 /// The bytes of the export, with remarks on what is not in them.
 std::string MakeBytes(const Options& options, const std::string& name, const ExportedDesign& design)
 {
@@ -194,18 +188,16 @@ std::string WritePicture(const Options& options, const std::string& design)
 std::string Export(const Options& options)
 {
   const InputFile input(options.input);
-  if (std::string problem = input.Problem(); !problem.empty()) return problem;
-  if (!input.IsDesign()) return input.Name() + ": " + notADesign;
   ShowStep("reading the design");
   HeadlessEditor editor;
-  if (!editor.Open(WideFromUtf8(input.Path()))) {
-    return input.Name() + ": " + Utf8FromWide(editor.Problem());
-  }
+  if (std::string problem = OpenDesign(input, editor); !problem.empty()) return problem;
   ShowStep("making the export");
   const std::u16string notFinite = Describe(FindNonFiniteNumbers(editor.App()));
   if (!notFinite.empty()) return input.Name() + ": " + Utf8FromWide(notFinite);
   if (*options.format == Format::Svg) return WritePicture(options, input.Path());
-  const ExportedDesign design = GatherExport(editor.App(), options.side, UnitNameOf(editor));
+  const std::string code = "EPSG " + std::to_string(NumberOf(editor.App().unitCode));
+  const ExportedDesign design =
+      GatherExport(editor.App(), options.side, UnitNameOf(editor.App(), code));
   return WriteBytes(options, MakeBytes(options, input.Name(), design));
 }
 

@@ -6,6 +6,7 @@
 #include "app/ImportText.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
+#include "cli/DesignContent.h"
 #include "render/Canvas.h"
 
 namespace hullwright {
@@ -73,6 +74,13 @@ void HeadlessEditor::RemoveSymbols()
   editor_.app.anchors->Clear();
 }
 
+void HeadlessEditor::ShowGrid(bool shown)
+{
+  GridSettings grid = editor_.app.LoadGridSettings();
+  grid.show = shown ? 1 : 0;
+  editor_.app.SaveGridSettings(grid);
+}
+
 bool HeadlessEditor::Save(std::u16string_view path)
 {
   editor_.document.OnSaveDocument(path);
@@ -84,10 +92,7 @@ bool HeadlessEditor::Save(std::u16string_view path)
 Extents HeadlessEditor::SideBox() const
 {
   const CHullwrightApp& app = editor_.app;
-  Extents box;
-  if (const CShapes* const group = FindViewGroup(app.shapeGroups, app.activeView)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) { shape.GetExtents(box); });
-  }
+  Extents box = ContentOf(app, app.activeView).box;
   if (app.activeView == ViewSide::Top) WidenBySymbols(app, box);
   return box;
 }
@@ -134,6 +139,20 @@ void HeadlessEditor::Frame(const Extents& box, double marginPart) const
   viewPort.bottom = box.minY;
   viewPort.top = box.maxY;
   viewPort.KeepAspect();
+}
+
+std::string ProblemOfDesign(const InputFile& input)
+{
+  if (std::string problem = input.Problem(); !problem.empty()) return problem;
+  if (input.IsDesign()) return {};
+  return input.Name() + ": not a design: it does not begin as XML does";
+}
+
+std::string OpenDesign(const InputFile& input, HeadlessEditor& editor)
+{
+  if (std::string problem = ProblemOfDesign(input); !problem.empty()) return problem;
+  if (editor.Open(WideFromUtf8(input.Path()))) return {};
+  return input.Name() + ": " + Utf8FromWide(editor.Problem());
 }
 
 void WidenBySymbols(const CHullwrightApp& app, Extents& box)

@@ -13,6 +13,7 @@
 #include "headless/NoTree.h"
 #include "headless/NoWidgets.h"
 #include "system/CommonDataPorts.h"
+#include "system/InputFile.h"
 
 namespace hullwright {
 
@@ -39,6 +40,9 @@ public:
 
   /// Takes offsets and anchors out of the picture and out of the design.
   void RemoveSymbols();
+
+  /// Sets whether the grid is drawn.
+  void ShowGrid(bool shown);
 
   /// Writes the design; false with the reason in `Problem`.
   bool Save(std::u16string_view path);
@@ -69,6 +73,13 @@ private:
   std::u16string problem_;
   ImportTally tally_;
 };
+
+/// Why a file can't be opened as a design, seen by its beginning alone, with its name; empty where
+/// it may be one.
+std::string ProblemOfDesign(const InputFile& input);
+
+/// Opens a file as a design. Empty on success, else what is wrong with the file, with its name.
+std::string OpenDesign(const InputFile& input, HeadlessEditor& editor);
 
 /// Widens a box by the places of the offsets, those that there are, and of the anchors.
 void WidenBySymbols(const CHullwrightApp& app, Extents& box);

@@ -103,11 +103,7 @@ int ImportAll(const Options& options)
   HeadlessEditor editor(&progress);
   if (!options.into.empty()) {
     const InputFile design(options.into);
-    if (std::string problem = design.Problem(); !problem.empty()) return Fail(problem);
-    if (!design.IsDesign()) return Fail(design.Name() + ": " + notADesign);
-    if (!editor.Open(WideFromUtf8(design.Path()))) {
-      return Fail(design.Name() + ": " + Utf8FromWide(editor.Problem()));
-    }
+    if (std::string problem = OpenDesign(design, editor); !problem.empty()) return Fail(problem);
   }
   editor.App().activeView = options.side;
   int status = 0;
@@ -144,8 +140,8 @@ std::string TakeOption(int letter, const std::string& value, Options& options)
     case 'j': options.json = true; return {};
     default: break;
   }
-  const auto* const side = std::ranges::find(viewSides, value, &ViewSideEntry::name);
-  if (side == viewSides.end()) return UnknownSide(value);
+  const ViewSideEntry* const side = FindViewSideByName(value);
+  if (side == nullptr) return UnknownSide(value);
   options.side = side->code;
   return {};
 }

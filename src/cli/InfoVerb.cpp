@@ -41,9 +41,7 @@ int InfoOfDrawing(const InputFile& input, bool asJson)
 int InfoOfDesign(const InputFile& input, bool asJson)
 {
   HeadlessEditor editor;
-  if (!editor.Open(WideFromUtf8(input.Path()))) {
-    return Fail(input.Name() + ": " + Utf8FromWide(editor.Problem()));
-  }
+  if (std::string problem = OpenDesign(input, editor); !problem.empty()) return Fail(problem);
   if (!asJson) {
     PrintDesign(editor, input.Name());
     return 0;

@@ -12,8 +12,7 @@
 #include "cli/PictureFile.h"
 #include "cli/PictureName.h"
 #include "cli/Sheet.h"
-#include "paint/PaintSurface.h"
-#include "paint/PaintTarget.h"
+#include "cli/SidePictures.h"
 #include "system/InputFile.h"
 
 namespace hullwright {
@@ -31,11 +30,11 @@ std::string FormatOf(const PictureRequest& request)
 class SidePainter {
 public:
   explicit SidePainter(const PictureRequest& request)
-      : request_(request), surface_(request.width, request.height), editor_(target_)
+      : request_(request), pictures_(request.width, request.height)
   {
   }
 
-  bool HasRoom() { return !surface_.Picture().isNull(); }
+  bool HasRoom() { return pictures_.HasRoom(); }
 
   /// Opens the design, or imports the drawing into each side that is asked for.
   std::string Open(const InputFile& input)
@@ -50,11 +49,7 @@ public:
     if (IsIncomplete()) Remark(input.Name(), DescribePassedOver(editor_.Tally()));
     // A drawing comes into a new design, whose offsets it doesn't have.
     if (!isDesign || !request_.symbols) editor_.RemoveSymbols();
-    if (request_.grid) {
-      GridSettings grid = editor_.App().LoadGridSettings();
-      grid.show = *request_.grid ? 1 : 0;
-      editor_.App().SaveGridSettings(grid);
-    }
+    if (request_.grid) editor_.ShowGrid(*request_.grid);
     return opened ? std::string() : input.Name() + ": " + Utf8FromWide(editor_.Problem());
   }
 
@@ -69,9 +64,7 @@ public:
     } else {
       editor_.ShowSide(side.code, request_.width, request_.height);
     }
-    surface_.SetDevice(&device);
-    editor_.Draw();
-    surface_.SetDevice(nullptr);
+    pictures_.PaintOn(device);
   }
 
   /// Width of the world that the last picture shows, in units of the design.
@@ -89,9 +82,8 @@ private:
   }
 
   const PictureRequest& request_;
-  PaintSurface surface_;
-  PaintTarget target_{surface_};
-  HeadlessEditor editor_;
+  SidePictures pictures_;
+  HeadlessEditor& editor_ = pictures_.Editor();
 };
 
 /// The layout of a sheet with a table of as many rows.

@@ -14,7 +14,7 @@
 #include "base/Text.h"
 #include "base/VisibleText.h"
 #include "cli/CommandLine.h"
-#include "cli/DesignInfo.h"
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "cli/ReportPages.h"
 #include "cli/ReportSides.h"
@@ -110,7 +110,7 @@ void AddFile(ReportPages& pages, const InputFile& input, HeadlessEditor& editor,
   }
   pages.AddField(QStringLiteral("SHA-256"), HashOf(input.Path()));
   pages.AddField(QStringLiteral("Unit"),
-                 Text(UnitOf(editor) + " (EPSG " + std::to_string(NumberOf(unit)) + ")"));
+                 Text(UnitNameOf(editor.App()) + " (EPSG " + std::to_string(NumberOf(unit)) + ")"));
   if (!HasUnitFactor(unit)) {
     pages.AddField(QString(), QStringLiteral("The unit has no factor: lengths count as metres."));
   }
@@ -125,14 +125,10 @@ std::string WriteReport(const std::string& design, const std::string& output)
   if (fixed) QHashSeed::setDeterministicGlobalSeed();
   StartToolkit();
   const InputFile input(design);
-  if (std::string problem = input.Problem(); !problem.empty()) return problem;
-  if (!input.IsDesign()) return input.Name() + ": " + notADesign;
   ShowStep("reading the design");
   ReportSides sides;
   HeadlessEditor& editor = sides.Editor();
-  if (!editor.Open(WideFromUtf8(input.Path()))) {
-    return input.Name() + ": " + Utf8FromWide(editor.Problem());
-  }
+  if (std::string problem = OpenDesign(input, editor); !problem.empty()) return problem;
   const QDateTime made = fixed ? *fixed : QDateTime::currentDateTimeUtc();
   ReportPages pages;
   AddFile(pages, input, editor, fixed);
@@ -142,7 +138,7 @@ std::string WriteReport(const std::string& design, const std::string& output)
   pages.StartPage();
   for (const ViewSideEntry& side : viewSides) {
     ShowStep(("drawing the side " + std::string(side.name)).c_str());
-    sides.Add(pages, side, Text(UnitOf(editor)));
+    sides.Add(pages, side, Text(UnitNameOf(editor.App())));
   }
   const QString name = Shown(WideFromUtf8(TextOf(PathOf(input.Name()).filename())));
   PictureFiles files;

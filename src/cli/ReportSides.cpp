@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "base/Numbers.h"
-#include "base/RealText.h"
+#include "base/RoundNumbers.h"
+#include "cli/DesignContent.h"
 
 namespace hullwright {
 namespace {
@@ -19,26 +19,8 @@ constexpr double margin = 80.0;  // of the frame, around what is drawn
 
 /// Tenths of a millimetre for a pixel of the scene, whose symbols and lines are made for a screen.
 constexpr double perPixel = 2.5;
-
-/// What stands on a side.
-struct SideContent {
-  Extents box;
-  std::size_t polylines = 0;
-  std::size_t vertices = 0;
-};
-
-SideContent ContentOf(const CHullwrightApp& app, ViewSide side)
-{
-  SideContent content;
-  if (const CShapes* const group = FindViewGroup(app.shapeGroups, side)) {
-    ForEachEntry(group->shapes, [&](const CShape& shape) {
-      ++content.polylines;
-      content.vertices += shape.vertices.size();
-      shape.GetExtents(content.box);
-    });
-  }
-  return content;
-}
+constexpr int pixelsAcross = static_cast<int>(ReportPages::width / perPixel);
+constexpr int pixelsDown = static_cast<int>(frameHeight / perPixel);
 
 bool IsFinite(const Extents& box)
 {
@@ -60,18 +42,13 @@ double ScaleFor(const Extents& box, double metresPerUnit)
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-QString Place(double x, double y)
-{
-  return Text(FormatFixed(x, 3)) + QStringLiteral(", ") + Text(FormatFixed(y, 3));
-}
-
-QString Describe(const SideContent& content)
+QString Describe(const GroupContent& content)
 {
   QString text =
       QStringLiteral("%1 polylines, %2 vertices").arg(content.polylines).arg(content.vertices);
   if (!content.box.IsEmpty()) {
-    text += QStringLiteral(", from ") + Place(content.box.minX, content.box.minY) +
-            QStringLiteral(" to ") + Place(content.box.maxX, content.box.maxY);
+    text += QStringLiteral(", from ") + Text(PlaceText(content.box.minX, content.box.minY)) +
+            QStringLiteral(" to ") + Text(PlaceText(content.box.maxX, content.box.maxY));
   }
   return text;
 }
@@ -103,30 +80,12 @@ void PaintBar(QPainter& painter, double tenthsPerUnit, const QString& unit)
 
 }  // namespace
 
-double RoundUp(double value)
-{
-  const double power = std::pow(10.0, std::floor(std::log10(value)));
-  for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
-    // The last bits of a quotient are no reason for the next number.
-    if (factor * power >= value * (1.0 - 1e-9)) return factor * power;
-  }
-  return 10.0 * power;
-}
-
-ReportSides::ReportSides()
-    : surface_(static_cast<int>(ReportPages::width / perPixel),
-               static_cast<int>(frameHeight / perPixel)),
-      editor_(target_)
-{
-  GridSettings grid = editor_.App().LoadGridSettings();
-  grid.show = 0;
-  editor_.App().SaveGridSettings(grid);
-}
+ReportSides::ReportSides() : pictures_(pixelsAcross, pixelsDown) { Editor().ShowGrid(false); }
 
 void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QString& unit)
 {
-  CHullwrightApp& app = editor_.App();
-  const SideContent content = ContentOf(app, side.code);
+  CHullwrightApp& app = Editor().App();
+  const GroupContent content = ContentOf(app, side.code);
   Extents box = content.box;
   if (side.code == ViewSide::Top) WidenBySymbols(app, box);
   const QString name = Text(std::string(side.name));
@@ -144,12 +103,9 @@ void ReportSides::Add(ReportPages& pages, const ViewSideEntry& side, const QStri
   const double x = (box.minX + box.maxX) / 2.0;
   const double y = (box.minY + box.maxY) / 2.0;
   QPicture picture;
-  editor_.ShowSide(side.code, static_cast<int>(ReportPages::width / perPixel),
-                   static_cast<int>(frameHeight / perPixel),
-                   {x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight});
-  surface_.SetDevice(&picture);
-  editor_.Draw();
-  surface_.SetDevice(nullptr);
+  Editor().ShowSide(side.code, pixelsAcross, pixelsDown,
+                    {x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight});
+  pictures_.PaintOn(picture);
   const QString scaleText = QStringLiteral("scale 1:") + Text(RoundNumberText(scale));
   pages.AddBlock(blockHeight, [=, summary = Describe(content)](QPainter& painter) {
     painter.setFont(ReportPages::Font(44, true));

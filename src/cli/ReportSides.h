@@ -1,9 +1,7 @@
 #pragma once
 
-#include "cli/HeadlessEditor.h"
 #include "cli/ReportPages.h"
-#include "paint/PaintSurface.h"
-#include "paint/PaintTarget.h"
+#include "cli/SidePictures.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -13,20 +11,14 @@ class ReportSides {
 public:
   ReportSides();
 
-  HeadlessEditor& Editor() { return editor_; }
+  HeadlessEditor& Editor() { return pictures_.Editor(); }
 
   /// Adds a side with its name, its scale, a bar of a round length, and what stands on it; a line
   /// where nothing can be drawn. `unit` is what lengths are named by.
   void Add(ReportPages& pages, const ViewSideEntry& side, const QString& unit);
 
 private:
-  PaintSurface surface_;
-  PaintTarget target_{surface_};
-  HeadlessEditor editor_;
+  SidePictures pictures_;
 };
-
-/// The smallest round number (1, 2, 2.5 or 5 times a power of ten) that isn't below a positive
-/// value; the denominators of scales.
-double RoundUp(double value);
 
 }  // namespace hullwright

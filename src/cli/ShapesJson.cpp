@@ -24,14 +24,10 @@ void WriteStyle(JsonWriter& json, const ShapeStyle* style)
 {
   if (style == nullptr) return json.Null();
   json.BeginObject();
-  json.Key("line");
-  json.Integer(style->lineColour);
-  json.Key("fill");
-  json.Integer(style->fillColour);
-  json.Key("width");
-  json.Double(style->lineWidth);
-  json.Key("styleCode");
-  json.Integer(style->styleCode);
+  json.Key("line").Integer(style->lineColour);
+  json.Key("fill").Integer(style->fillColour);
+  json.Key("width").Double(style->lineWidth);
+  json.Key("styleCode").Integer(style->styleCode);
   json.EndObject();
 }
 
@@ -56,8 +52,7 @@ public:
 
   void Visit(const CShapePoint& point) override
   {
-    json_.Key("vertices");
-    json_.BeginArray();
+    json_.Key("vertices").BeginArray();
     WriteVertex(json_, point.position);
     json_.EndArray();
   }
@@ -67,8 +62,7 @@ public:
   void Visit(const CShapePolygon& polygon) override
   {
     WriteOutline(polygon);
-    json_.Key("rings");
-    json_.BeginArray();
+    json_.Key("rings").BeginArray();
     ForEachEntry(polygon.rings,
                  [this](const CShapePolygonRing& ring) { WriteVertices(json_, ring.vertices); });
     json_.EndArray();
@@ -77,12 +71,9 @@ public:
   void Visit(const CShapeText& label) override
   {
     WriteOutline(label);
-    json_.Key("text");
-    json_.Text(label.text);
-    json_.Key("angle");
-    json_.Double(label.angle);
-    json_.Key("height");
-    json_.Double(label.height);
+    json_.Key("text").Text(label.text);
+    json_.Key("angle").Double(label.angle);
+    json_.Key("height").Double(label.height);
   }
 
 private:
@@ -98,10 +89,8 @@ private:
 void WriteShape(JsonWriter& json, const CShape& shape)
 {
   json.BeginObject();
-  json.Key("type");
-  json.Integer(NumberOf(shape.type));
-  json.Key("tag");
-  json.Integer(shape.tag);
+  json.Key("type").Integer(NumberOf(shape.type));
+  json.Key("tag").Integer(shape.tag);
   json.Key("style");
   WriteStyle(json, shape.style.get());
   json.Key("attrs");
@@ -128,10 +117,8 @@ void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u1
                      const CLayer& layer)
 {
   json.BeginObject();
-  json.Key("result");
-  json.Integer(result);
-  json.Key("log");
-  json.BeginArray();
+  json.Key("result").Integer(result);
+  json.Key("log").BeginArray();
   for (const KeptTrace::Record& record : log.records) {
     json.BeginArray();
     json.Integer(NumberOf(record.level));
@@ -140,10 +127,9 @@ void WriteImportJson(JsonWriter& json, int result, const KeptTrace& log, std::u1
     json.EndArray();
   }
   json.EndArray();
-  json.Key("extents");
-  json.Doubles({layer.extents.minX, layer.extents.minY, layer.extents.maxX, layer.extents.maxY});
-  json.Key("shapes");
-  json.BeginArray();
+  json.Key("extents").Doubles(
+      {layer.extents.minX, layer.extents.minY, layer.extents.maxX, layer.extents.maxY});
+  json.Key("shapes").BeginArray();
   ForEachEntry(layer.shapes->shapes, [&](const CShape& shape) { WriteShape(json, shape); });
   json.EndArray();
   json.EndObject();

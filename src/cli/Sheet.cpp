@@ -4,12 +4,12 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "app/HullwrightApp.h"
 #include "base/Code.h"
 #include "base/Numbers.h"
-#include "base/RealText.h"
+#include "base/RoundNumbers.h"
+#include "cli/DesignContent.h"
 #include "cli/PictureFile.h"
 #include "model/OffsetPoints.h"
 #include "paint/PaintText.h"
@@ -78,8 +78,8 @@ SheetFacts FactsOf(CHullwrightApp& design, const QString& file)
 {
   SheetFacts facts;
   facts.file = file;
-  facts.unit = ToText(design.GetUnitName());
-  if (facts.unit.isEmpty()) facts.unit = QStringLiteral("code %1").arg(NumberOf(design.unitCode));
+  facts.unit = QString::fromStdString(
+      UnitNameOf(design, "code " + std::to_string(NumberOf(design.unitCode))));
   std::u16string unitShort;
   design.GetUnitLabel(unitShort);
   facts.unitShort = ToText(unitShort);
@@ -187,16 +187,6 @@ QRect SheetLayout::TableRow(int row) const
   return TableLine(row / RowsPerColumn(), 1 + row % RowsPerColumn());
 }
 
-double RoundLength(double most)
-{
-  if (!(most > 0.0) || !std::isfinite(most)) return 0.0;
-  const double power = std::pow(10.0, std::floor(std::log10(most)));
-  for (const double factor : {5.0, 2.0, 1.0}) {
-    if (factor * power <= most) return factor * power;
-  }
-  return power / 2.0;
-}
-
 void PaintGround(QPainter& sheet, const SheetLayout& layout)
 {
   sheet.fillRect(QRect(QPoint(0, 0), layout.Size()), Qt::white);
@@ -237,7 +227,7 @@ void PaintScaleBar(QPainter& sheet, const SheetLayout& layout, int picture, doub
   constexpr int mostOfThePicture = 3;
   constexpr int tick = 4;
   const QRect place = layout.ScaleBar(picture);
-  const double length = RoundLength(worldWidth / mostOfThePicture);
+  const double length = RoundDown(worldWidth / mostOfThePicture);
   if (length <= 0.0) return;
   const double pixels = length / worldWidth * place.width();
   const QPointF start(place.left() + 0.5, place.center().y() + 0.5);

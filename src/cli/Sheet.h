@@ -76,10 +76,6 @@ private:
   int tableRows_ = 0;
 };
 
-/// The longest round length, 1, 2 or 5 times a power of ten, up to a length; 0.0 where there is
-/// none.
-double RoundLength(double most);
-
 /// Paints a sheet white.
 void PaintGround(QPainter& sheet, const SheetLayout& layout);
 

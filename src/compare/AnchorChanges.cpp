@@ -94,10 +94,10 @@ std::vector<AnchorDifference> CompareAnchors(const CAnchors& former, UnitCode fo
       differences.push_back({{std::nullopt, anchor}});
       continue;
     }
-    const AnchorRecord& before = *partners[i];
-    const bool moved = !tolerance.Same(before.place, anchor.place);
-    if (moved || before.id != anchor.id || before.name != anchor.name) {
-      differences.push_back({{before, anchor}, moved});
+    const AnchorRecord& formerAnchor = *partners[i];
+    const bool moved = !tolerance.Same(formerAnchor.place, anchor.place);
+    if (moved || formerAnchor.id != anchor.id || formerAnchor.name != anchor.name) {
+      differences.push_back({{formerAnchor, anchor}, moved});
     }
   }
   for (const AnchorRecord* const removed : left) {

@@ -20,13 +20,14 @@ std::vector<OffsetDifference> CompareOffsets(const DesignState& former, UnitCode
   int kind = -1;
   for (const OffsetPoint& point : offsetPoints) {
     ++kind;
-    const CShapeVertex* const before = (former.*point.place).get();
-    const CShapeVertex* const now = (current.*point.place).get();
-    if (before == nullptr || now == nullptr) continue;
-    const Place formerPlace = PlaceOf(*before, formerUnit, current.unitCode);
-    const Place place = PlaceOf(*now, current.unitCode, current.unitCode);
-    if (!tolerance.Same(formerPlace, place))
-      differences.push_back({OffsetKind{kind}, {formerPlace, place}});
+    const CShapeVertex* const formerPoint = (former.*point.place).get();
+    const CShapeVertex* const currentPoint = (current.*point.place).get();
+    if (formerPoint == nullptr || currentPoint == nullptr) continue;
+    const Place formerPlace = PlaceOf(*formerPoint, formerUnit, current.unitCode);
+    const Place currentPlace = PlaceOf(*currentPoint, current.unitCode, current.unitCode);
+    if (!tolerance.Same(formerPlace, currentPlace)) {
+      differences.push_back({OffsetKind{kind}, {formerPlace, currentPlace}});
+    }
   }
   return differences;
 }
@@ -59,7 +60,7 @@ std::optional<ShapeDifference> CompareShapes(const ShapeRecord& former, const Sh
                                              MatchRule rule, const Tolerance& tolerance)
 {
   ShapeDifference difference = DifferenceOf(ShapeChange::Changed, &former, &current);
-  if (former.look != current.look) difference.look = {{former.look, current.look}};
+  if (former.style != current.style) difference.style = {{former.style, current.style}};
   difference.otherForm = former.form != current.form;
   if (rule == MatchRule::Moved) {
     difference.change = ShapeChange::Moved;
@@ -72,7 +73,7 @@ std::optional<ShapeDifference> CompareShapes(const ShapeRecord& former, const Sh
         !difference.vertices.empty() && IsReversed(former.vertices, current.vertices, tolerance);
     if (difference.reversed) difference.vertices.clear();
   }
-  const bool differs = difference.look || difference.otherForm || difference.reversed ||
+  const bool differs = difference.style || difference.otherForm || difference.reversed ||
                        !difference.vertices.empty();
   return differs ? std::optional(std::move(difference)) : std::nullopt;
 }
@@ -87,29 +88,27 @@ bool IsReportedBefore(const ShapeDifference& a, const ShapeDifference& b)
   return rank(a) < rank(b);
 }
 
-std::vector<ShapeDifference> CompareAllShapes(const DesignRecords& former,
-                                              const DesignRecords& current,
+std::vector<ShapeDifference> CompareAllShapes(const std::vector<ShapeRecord>& former,
+                                              const std::vector<ShapeRecord>& current,
                                               const Tolerance& tolerance)
 {
-  const std::vector<ShapeRecord>& before = former.Shapes();
-  const std::vector<ShapeRecord>& now = current.Shapes();
   std::vector<ShapeDifference> differences;
-  std::vector<bool> formerMatched(before.size());
-  std::vector<bool> currentMatched(now.size());
-  for (const ShapeMatch& match : MatchShapes(before, now, tolerance)) {
+  std::vector<bool> formerMatched(former.size());
+  std::vector<bool> currentMatched(current.size());
+  for (const ShapeMatch& match : MatchShapes(former, current, tolerance)) {
     formerMatched[match.former] = true;
     currentMatched[match.current] = true;
     auto difference =
-        CompareShapes(before[match.former], now[match.current], match.rule, tolerance);
+        CompareShapes(former[match.former], current[match.current], match.rule, tolerance);
     if (difference) differences.push_back(std::move(*difference));
   }
-  for (std::size_t i = 0; i < before.size(); ++i) {
+  for (std::size_t i = 0; i < former.size(); ++i) {
     if (formerMatched[i]) continue;
-    differences.push_back(DifferenceOf(ShapeChange::Removed, &before[i], nullptr));
+    differences.push_back(DifferenceOf(ShapeChange::Removed, &former[i], nullptr));
   }
-  for (std::size_t i = 0; i < now.size(); ++i) {
+  for (std::size_t i = 0; i < current.size(); ++i) {
     if (currentMatched[i]) continue;
-    differences.push_back(DifferenceOf(ShapeChange::Added, nullptr, &now[i]));
+    differences.push_back(DifferenceOf(ShapeChange::Added, nullptr, &current[i]));
   }
   std::ranges::sort(differences, IsReportedBefore);
   return differences;
@@ -126,9 +125,9 @@ Differences CompareIn(UnitCode formerUnit, const DesignState& former, const Desi
     differences.anchors =
         CompareAnchors(*former.anchors, formerUnit, *current.anchors, current.unitCode, tolerance);
   }
-  const DesignRecords before(former, formerUnit, current.unitCode, options.shapes);
-  const DesignRecords now(current, current.unitCode, current.unitCode, options.shapes);
-  differences.shapes = CompareAllShapes(before, now, tolerance);
+  const DesignRecords formerRecords(former, formerUnit, current.unitCode, options.shapes);
+  const DesignRecords currentRecords(current, current.unitCode, current.unitCode, options.shapes);
+  differences.shapes = CompareAllShapes(formerRecords.Shapes(), currentRecords.Shapes(), tolerance);
   return differences;
 }
 

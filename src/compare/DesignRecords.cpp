@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "model/ShapeColours.h"
 #include "model/ShapePoint.h"
 #include "model/ShapePolygon.h"
 #include "model/ShapeText.h"
@@ -63,10 +64,9 @@ private:
   UnitCode to_;
 };
 
-LineLook LookOf(const CShape& shape)
+LineStyle LineStyleOf(const CShape& shape)
 {
-  const ShapeStyle plain;
-  const ShapeStyle& style = shape.style ? *shape.style : plain;
+  const ShapeStyle& style = StyleOf(shape);
   return {style.lineColour, style.lineWidth};
 }
 
@@ -100,7 +100,7 @@ DesignRecords::DesignRecords(const DesignState& design, UnitCode from, UnitCode 
       record.side = side;
       record.type = shape.type;
       record.number = number;
-      if (!choice.onlyLines) record.look = LookOf(shape);
+      if (!choice.onlyLines) record.style = LineStyleOf(shape);
       RecordFiller filler(record, places_, from, to);
       shape.Accept(filler);
       ends.push_back(places_.size());

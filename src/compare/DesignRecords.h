@@ -11,7 +11,7 @@
 
 namespace hullwright {
 
-/// What a shape is beside its vertices and its look.
+/// What a shape is beside its vertices and its style.
 struct ShapeForm {
   std::u16string text;  ///< of a text
   double angle = 0.0;   ///< of a text
@@ -28,7 +28,7 @@ struct ShapeRecord {
   ShapeType type = ShapeType::Polyline;
   std::size_t number = 0;  ///< from 1, among those of its type on its side
   std::span<const Place> vertices;
-  LineLook look;
+  LineStyle style;
   ShapeForm form;
 };
 
@@ -36,7 +36,7 @@ struct ShapeRecord {
 struct ShapeChoice {
   std::optional<ViewSide> side;  ///< only those of groups that answer for this side, as its own
   /// Only what both a design file and a drawing keep: polylines of two vertices or more, without a
-  /// look.
+  /// style.
   bool onlyLines = false;
 };
 

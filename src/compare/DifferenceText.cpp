@@ -9,6 +9,7 @@
 #include "base/Numbers.h"
 #include "base/VisibleText.h"
 #include "model/OffsetPoints.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {
@@ -43,15 +44,6 @@ std::string Ranges(const std::vector<std::size_t>& numbers)
   return text;
 }
 
-/// A colour as painting programs write it: #rrggbb.
-std::string ColourText(std::uint32_t colour)
-{
-  const std::uint32_t red = colour & 0xFFU;
-  const std::uint32_t green = colour >> 8U & 0xFFU;
-  const std::uint32_t blue = colour >> 16U & 0xFFU;
-  return "#" + FormatHex(red << 16U | green << 8U | blue, 6);
-}
-
 /// Puts the lines together.
 class DifferenceWriter {
 public:
@@ -81,7 +73,7 @@ private:
   std::string PlaceText(const Place& p) const { return FlatPlace(p) + ", " + Number(p.z); }
   std::string FlatPlace(const Place& p) const { return Number(p.x) + ", " + Number(p.y); }
 
-  std::string Moved(const BeforeAndAfter<Place>& place, bool flat) const
+  std::string Moved(const FormerAndCurrent<Place>& place, bool flat) const
   {
     const auto text = [&](const Place& p) { return flat ? FlatPlace(p) : PlaceText(p); };
     return text(place.former) + " -> " + text(place.current) + ", moved by " +
@@ -127,7 +119,7 @@ private:
   std::string LineKey(const ShapeDifference& d) const
   {
     const bool isPlain =
-        d.change == ShapeChange::Moved && !d.look && d.number.former == d.number.current;
+        d.change == ShapeChange::Moved && !d.style && d.number.former == d.number.current;
     if (!isPlain) return {};
     return names_.ofSide(d.side) + "/" + std::string(NameOf(d.type)) + "/" + PlaceText(d.by);
   }
@@ -189,10 +181,10 @@ private:
     switch (shape.change) {
       case ShapeChange::Added: return "added" + Extent(shape, shape.vertexCount.current);
       case ShapeChange::Removed: return "removed" + Extent(shape, shape.vertexCount.former);
-      case ShapeChange::Moved: return MovedBy(shape.by) + OtherLook(shape);
+      case ShapeChange::Moved: return MovedBy(shape.by) + OtherStyle(shape);
       case ShapeChange::Changed: break;
     }
-    return "changed" + Vertices(shape) + Form(shape) + OtherLook(shape);
+    return "changed" + Vertices(shape) + Form(shape) + OtherStyle(shape);
   }
 
   std::string Extent(const ShapeDifference& shape, std::size_t count) const
@@ -235,13 +227,13 @@ private:
     return ", was " + QuotedText(shape.text.former);
   }
 
-  static std::string OtherLook(const ShapeDifference& shape)
+  static std::string OtherStyle(const ShapeDifference& shape)
   {
-    if (!shape.look) return {};
-    const auto& [former, current] = *shape.look;
+    if (!shape.style) return {};
+    const auto& [former, current] = *shape.style;
     std::string text;
     if (former.colour != current.colour) {
-      text = ", colour " + ColourText(former.colour) + " -> " + ColourText(current.colour);
+      text = ", colour " + HexColour(former.colour) + " -> " + HexColour(current.colour);
     }
     if (former.width != current.width) {
       text +=

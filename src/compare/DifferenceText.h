@@ -9,7 +9,7 @@ namespace hullwright {
 
 /// What the text calls things that the differences know by their codes.
 struct DifferenceNames {
-  BeforeAndAfter<std::string> unit;  ///< the units, each with its code
+  FormerAndCurrent<std::string> unit;  ///< the units, each with its code
   std::string (*ofSide)(ViewSide);
 };
 

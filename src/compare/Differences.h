@@ -15,18 +15,18 @@ namespace hullwright {
 
 /// The former and the current one of something.
 template <class T>
-struct BeforeAndAfter {
+struct FormerAndCurrent {
   T former;
   T current;
 
-  bool operator==(const BeforeAndAfter&) const = default;
+  bool operator==(const FormerAndCurrent&) const = default;
 };
 
 /// The unit of the design is another one. All numbers of the former design are then given as
 /// converted to the current one's unit, unless they are compared as they stand.
 struct UnitDifference {
-  BeforeAndAfter<UnitCode> unit;  ///< 0 for one that no design has
-  bool sameNumbers = false;       ///< without the conversion there is no other difference
+  FormerAndCurrent<UnitCode> unit;  ///< 0 for one that no design has
+  bool sameNumbers = false;         ///< without the conversion there is no other difference
   bool converted = true;
 };
 
@@ -36,7 +36,7 @@ enum class OffsetKind { Antenna, EchoSounder, Pivot };
 /// An offset stands somewhere else.
 struct OffsetDifference {
   OffsetKind kind = OffsetKind::Antenna;
-  BeforeAndAfter<Place> place;
+  FormerAndCurrent<Place> place;
 };
 
 /// An anchor as it is compared; it has no z.
@@ -48,23 +48,23 @@ struct AnchorRecord {
 
 /// An anchor was added (no former one), removed (no current one), moved, renumbered or renamed.
 struct AnchorDifference {
-  BeforeAndAfter<std::optional<AnchorRecord>> anchor;
+  FormerAndCurrent<std::optional<AnchorRecord>> anchor;
   bool moved = false;  ///< only for one that is in both
 };
 
 /// How a shape is stroked.
-struct LineLook {
+struct LineStyle {
   std::uint32_t colour = 0;  ///< 0x00BBGGRR, red in the low byte
   float width = 1.0F;        ///< in pixels
 
-  bool operator==(const LineLook&) const = default;
+  bool operator==(const LineStyle&) const = default;
 };
 
 /// A vertex was added (the former number is 0), removed (the current number is 0) or moved.
 /// Vertices are counted from 1.
 struct VertexDifference {
-  BeforeAndAfter<std::size_t> number;
-  BeforeAndAfter<Place> place;
+  FormerAndCurrent<std::size_t> number;
+  FormerAndCurrent<Place> place;
 };
 
 enum class ShapeChange { Added, Removed, Moved, Changed };
@@ -75,15 +75,15 @@ struct ShapeDifference {
   ViewSide side = ViewSide::None;
   ShapeType type = ShapeType::Polyline;
   ShapeChange change = ShapeChange::Changed;
-  BeforeAndAfter<std::size_t> number{0, 0};  ///< 0 in the design that lacks it
-  BeforeAndAfter<std::size_t> vertexCount{0, 0};
-  Place by;                                      ///< the way of all vertices of one that was moved
-  bool reversed = false;                         ///< the same vertices from the last to the first
-  std::vector<VertexDifference> vertices;        ///< of one that was changed
-  std::optional<BeforeAndAfter<LineLook>> look;  ///< where it is another
+  FormerAndCurrent<std::size_t> number{0, 0};  ///< 0 in the design that lacks it
+  FormerAndCurrent<std::size_t> vertexCount{0, 0};
+  Place by;                                ///< the way of all vertices of one that was moved
+  bool reversed = false;                   ///< the same vertices from the last to the first
+  std::vector<VertexDifference> vertices;  ///< of one that was changed
+  std::optional<FormerAndCurrent<LineStyle>> style;  ///< where it is another
   bool otherForm =
       false;  ///< wording, angle or height of a text, or how an area is parted in rings
-  BeforeAndAfter<std::u16string> text;  ///< of a text
+  FormerAndCurrent<std::u16string> text;  ///< of a text
   Extents box;  ///< of the current shape, or of the former one that was removed
 };
 

@@ -42,12 +42,12 @@ bool IsOfOneForm(const ShapeRecord& a, const ShapeRecord& b)
 }
 
 /// Orders shapes by all that they are, so that equal ones come together.
-std::strong_ordering ContentOrder(const ShapeRecord& a, const ShapeRecord& b, bool byLook)
+std::strong_ordering ContentOrder(const ShapeRecord& a, const ShapeRecord& b, bool byStyle)
 {
-  const auto head = [byLook](const ShapeRecord& s) {
-    const LineLook look = byLook ? s.look : LineLook();
-    return std::tuple(NumberOf(s.side), NumberOf(s.type), s.vertices.size(), look.colour,
-                      std::bit_cast<std::uint32_t>(look.width), BitsOf(s.form.angle),
+  const auto head = [byStyle](const ShapeRecord& s) {
+    const LineStyle style = byStyle ? s.style : LineStyle();
+    return std::tuple(NumberOf(s.side), NumberOf(s.type), s.vertices.size(), style.colour,
+                      std::bit_cast<std::uint32_t>(style.width), BitsOf(s.form.angle),
                       BitsOf(s.form.height));
   };
   if (const auto order = head(a) <=> head(b); std::is_neq(order)) return order;
@@ -173,18 +173,18 @@ public:
 
 private:
   /// Pairs what has the same content, the first with the first.
-  void TakeIdentical(bool byLook)
+  void TakeIdentical(bool byStyle)
   {
-    const auto sorted = [byLook](const Shapes& shapes, std::vector<std::size_t> left) {
+    const auto sorted = [byStyle](const Shapes& shapes, std::vector<std::size_t> left) {
       std::ranges::stable_sort(left, [&](std::size_t a, std::size_t b) {
-        return std::is_lt(ContentOrder(shapes[a], shapes[b], byLook));
+        return std::is_lt(ContentOrder(shapes[a], shapes[b], byStyle));
       });
       return left;
     };
     const std::vector<std::size_t> formers = sorted(former_, left_.former);
     const std::vector<std::size_t> currents = sorted(current_, left_.current);
     for (std::size_t i = 0, k = 0; i < formers.size() && k < currents.size();) {
-      const auto order = ContentOrder(former_[formers[i]], current_[currents[k]], byLook);
+      const auto order = ContentOrder(former_[formers[i]], current_[currents[k]], byStyle);
       if (std::is_eq(order)) matches_.push_back({formers[i], currents[k], MatchRule::Equal});
       if (std::is_lteq(order)) ++i;
       if (std::is_gteq(order)) ++k;

@@ -22,7 +22,7 @@ struct ShapeMatch {
 /// with the number of vertices. The rules come one after the other, each for what those before it
 /// have left:
 /// 1. Equal: the same form, and each vertex the same to the last bit, in order; first those of the
-///    same look as well. Then those whose vertices are the same within the tolerance.
+///    same style as well. Then those whose vertices are the same within the tolerance.
 /// 2. Moved: the same form, and one way between all vertices, in order. First come ways that more
 ///    shapes of the side could have gone, then shorter ones.
 /// 3. Changed: more than half of the vertices of the longer one stand in the other one, too. Those

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "model/ShapeColours.h"
+
 namespace hullwright {
 namespace {
 
@@ -39,11 +41,6 @@ constexpr std::array<std::uint32_t, colourCount> table = {
     0x696969, 0x828282, 0xBEBEBE, 0xFFFFFF,
 };
 
-constexpr int Channel(std::uint32_t colour, unsigned shift)
-{
-  return static_cast<int>((colour >> shift) & 0xFFU);
-}
-
 constexpr int Square(int value) { return value * value; }
 
 }  // namespace
@@ -63,9 +60,9 @@ ColourIndex NearestColourIndex(std::uint32_t colour)
   for (std::int32_t place = 0; place < static_cast<std::int32_t>(colourCount); ++place) {
     const ColourIndex index{place};
     const std::uint32_t entry = ColourOfIndex(index);
-    const int sum = Square(Channel(entry, 0) - Channel(colour, 0)) +
-                    Square(Channel(entry, 8) - Channel(colour, 8)) +
-                    Square(Channel(entry, 16) - Channel(colour, 16));
+    const int sum = Square(RedOf(entry) - RedOf(colour)) +
+                    Square(GreenOf(entry) - GreenOf(colour)) +
+                    Square(BlueOf(entry) - BlueOf(colour));
     if (sum >= smallest) continue;
     nearest = index;
     smallest = sum;

@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {

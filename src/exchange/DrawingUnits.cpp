@@ -1,8 +1,8 @@
 #include "exchange/DrawingUnits.h"
 
-#include <algorithm>
 #include <array>
 
+#include "base/FindOrNull.h"
 #include "base/Numbers.h"
 #include "dxf/DxfLines.h"
 
@@ -67,15 +67,14 @@ private:
 
 const DrawingUnit* FindDrawingUnit(int number)
 {
-  const auto* const found = std::ranges::find(drawingUnits, number, &DrawingUnit::number);
-  return found == drawingUnits.end() ? nullptr : found;
+  return FindOrNull(drawingUnits, number, &DrawingUnit::number);
 }
 
 int DrawingUnitOf(UnitCode unit)
 {
   if (unit == UnitCode{}) return 0;
-  const auto* const found = std::ranges::find(drawingUnits, unit, &DrawingUnit::code);
-  return found == drawingUnits.end() ? 0 : found->number;
+  const DrawingUnit* const found = FindOrNull(drawingUnits, unit, &DrawingUnit::code);
+  return found == nullptr ? 0 : found->number;
 }
 
 int StatedDrawingUnit(std::string_view drawing)

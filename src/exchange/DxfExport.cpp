@@ -11,6 +11,7 @@
 #include "exchange/DxfHeader.h"
 #include "exchange/DxfRecords.h"
 #include "exchange/DxfText.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {

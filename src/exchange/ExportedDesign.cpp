@@ -3,10 +3,9 @@
 #include <bit>
 #include <utility>
 
-#include "base/Code.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "model/OffsetPoints.h"
+#include "model/ShapeColours.h"
 #include "resources/ViewSides.h"
 
 namespace hullwright {
@@ -62,12 +61,7 @@ ExportedDesign GatherExport(const DesignState& design, ViewSide side, std::strin
   return exported;
 }
 
-std::string NameOfSide(ViewSide code)
-{
-  if (const ViewSideEntry* const side = FindViewSide(code)) return std::string(side->name);
-  if (code == ViewSide::All) return "all";
-  return "view-" + FormatHex(static_cast<std::uint32_t>(NumberOf(code)), 2);
-}
+std::string NameOfSide(ViewSide code) { return SideName(code, "all", "view-"); }
 
 bool IsClosed(const CShape& polyline)
 {
@@ -81,18 +75,9 @@ bool IsClosed(const CShape& polyline)
 std::uint32_t LineColourOf(const CShape& polyline)
 {
   constexpr std::uint32_t channels = 0xFFFFFF;
-  return polyline.style ? polyline.style->lineColour & channels : 0;
+  return StyleOf(polyline).lineColour & channels;
 }
 
-double LineWidthOf(const CShape& polyline)
-{
-  return polyline.style ? polyline.style->lineWidth : ShapeStyle().lineWidth;
-}
-
-std::string HexColour(std::uint32_t colour)
-{
-  const std::uint32_t rgb = (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
-  return "#" + FormatHex(rgb, 6);
-}
+double LineWidthOf(const CShape& polyline) { return StyleOf(polyline).lineWidth; }
 
 }  // namespace hullwright

@@ -55,7 +55,4 @@ std::uint32_t LineColourOf(const CShape& polyline);
 /// Its stroke width in pixels.
 double LineWidthOf(const CShape& polyline);
 
-/// The colour as "#RRGGBB".
-std::string HexColour(std::uint32_t colour);
-
 }  // namespace hullwright

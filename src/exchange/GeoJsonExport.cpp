@@ -2,6 +2,7 @@
 
 #include "base/Code.h"
 #include "base/Json.h"
+#include "model/ShapeColours.h"
 
 namespace hullwright {
 namespace {
@@ -9,32 +10,24 @@ namespace {
 constexpr const char* note =
     "Vessel coordinates in the unit of length that is named here, not longitudes and latitudes.";
 
-void WriteText(JsonWriter& json, std::string_view key, std::string_view utf8)
-{
-  json.Key(key);
-  json.Text(WideFromUtf8(utf8));
-}
-
 /// Begins a feature and its properties, with those that all have.
 void BeginFeature(JsonWriter& json, const ExportedDesign& design, std::string_view kind,
                   std::string_view side)
 {
   json.BeginObject();
-  WriteText(json, "type", "Feature");
-  json.Key("properties");
-  json.BeginObject();
-  WriteText(json, "kind", kind);
-  WriteText(json, "side", side);
-  WriteText(json, "unit", design.unitName);
+  json.Key("type").Ascii("Feature");
+  json.Key("properties").BeginObject();
+  json.Key("kind").Ascii(kind);
+  json.Key("side").Ascii(side);
+  json.Key("unit").Text(WideFromUtf8(design.unitName));
 }
 
 /// Ends the properties and begins the geometry, whose coordinates come next.
 void BeginGeometry(JsonWriter& json, std::string_view type)
 {
   json.EndObject();
-  json.Key("geometry");
-  json.BeginObject();
-  WriteText(json, "type", type);
+  json.Key("geometry").BeginObject();
+  json.Key("type").Ascii(type);
   json.Key("coordinates");
 }
 
@@ -47,15 +40,11 @@ void EndFeature(JsonWriter& json)
 void WritePolyline(JsonWriter& json, const ExportedDesign& design, const ExportedPolyline& polyline)
 {
   BeginFeature(json, design, "polyline", polyline.side);
-  json.Key("number");
-  json.Integer(static_cast<std::int64_t>(polyline.number));
-  json.Key("name");
-  json.Null();
-  WriteText(json, "colour", HexColour(LineColourOf(*polyline.shape)));
-  json.Key("width");
-  json.Double(LineWidthOf(*polyline.shape));
-  json.Key("closed");
-  json.Boolean(IsClosed(*polyline.shape));
+  json.Key("number").Integer(static_cast<std::int64_t>(polyline.number));
+  json.Key("name").Null();
+  json.Key("colour").Ascii(HexColour(LineColourOf(*polyline.shape)));
+  json.Key("width").Double(LineWidthOf(*polyline.shape));
+  json.Key("closed").Boolean(IsClosed(*polyline.shape));
   BeginGeometry(json, "LineString");
   json.BeginArray();
   ForEachEntry(polyline.shape->vertices, [&](const CShapeVertex& vertex) {
@@ -74,12 +63,9 @@ void WritePlace(JsonWriter& json, const ExportedDesign& design, const ExportedPl
   } else {
     json.Null();
   }
-  json.Key("name");
-  json.Text(place.name);
-  for (const char* const key : {"colour", "width"}) {
-    json.Key(key);
-    json.Null();
-  }
+  json.Key("name").Text(place.name);
+  json.Key("colour").Null();
+  json.Key("width").Null();
   BeginGeometry(json, "Point");
   if (place.z) {
     json.Doubles({place.x, place.y, *place.z});
@@ -96,16 +82,13 @@ std::string MakeGeoJson(const ExportedDesign& design)
   std::string text;
   JsonWriter json(text);
   json.BeginObject();
-  WriteText(json, "type", "FeatureCollection");
-  WriteText(json, "note", note);
-  json.Key("unit");
-  json.BeginObject();
-  json.Key("code");
-  json.Integer(NumberOf(design.unit));
-  WriteText(json, "name", design.unitName);
+  json.Key("type").Ascii("FeatureCollection");
+  json.Key("note").Ascii(note);
+  json.Key("unit").BeginObject();
+  json.Key("code").Integer(NumberOf(design.unit));
+  json.Key("name").Text(WideFromUtf8(design.unitName));
   json.EndObject();
-  json.Key("features");
-  json.BeginArray();
+  json.Key("features").BeginArray();
   for (const ExportedPolyline& polyline : design.polylines) WritePolyline(json, design, polyline);
   for (const ExportedPlace& place : design.places) WritePlace(json, design, place);
   json.EndArray();

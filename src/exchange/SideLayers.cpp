@@ -39,8 +39,7 @@ std::optional<ViewSide> SideOfLayer(const CShape& shape)
 std::optional<ViewSide> SideOfName(std::u16string_view name)
 {
   const std::string small = SmallLetters(name);
-  const auto* const side = std::ranges::find(viewSides, small, &ViewSideEntry::name);
-  if (side != viewSides.end()) return side->code;
+  if (const ViewSideEntry* const side = FindViewSideByName(small)) return side->code;
   if (small == NameOfSide(ViewSide::All)) return ViewSide::All;
   constexpr std::string_view beginning = "view-";
   if (!small.starts_with(beginning)) return std::nullopt;

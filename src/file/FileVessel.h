@@ -60,7 +60,7 @@ protected:
 private:
   /// Where in the document the reader stands. Transitions are not checked: a start tag enters its
   /// state from any other.
-  enum class State { Start = 0, Between = 1, InGroup = 2, InPolyline = 3, InAnchor = 5 };
+  enum class State { Start, Between, InGroup, InPolyline, InAnchor };
 
   void WritePart(const DesignElement& element, const OwnedArray<CShapes>& shapeGroups,
                  EmptyGroups emptyGroups);

@@ -67,8 +67,9 @@ public:
 protected:
   void OnFullBlock() override
   {
+    constexpr std::size_t goldenRatio = 0x9E3779B9U;  // 2^32 divided by it: bits without a pattern
     const std::size_t piece = std::hash<std::string_view>()(Output());
-    hash_ ^= piece + 0x9E3779B9U + (hash_ << 6U) + (hash_ >> 2U);
+    hash_ ^= piece + goldenRatio + (hash_ << 6U) + (hash_ >> 2U);
     outLength = 0;
   }
 

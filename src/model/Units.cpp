@@ -1,7 +1,8 @@
 #include "model/Units.h"
 
-#include <algorithm>
 #include <array>
+
+#include "base/FindOrNull.h"
 
 namespace hullwright {
 namespace {
@@ -43,11 +44,7 @@ constexpr std::array unitFactors = std::to_array<UnitFactor>({
 });
 
 /// The factors of a unit; null for one that counts as the metre.
-const UnitFactor* Find(UnitCode code)
-{
-  const auto* const found = std::ranges::find(unitFactors, code, &UnitFactor::code);
-  return found == unitFactors.end() ? nullptr : found;
-}
+const UnitFactor* Find(UnitCode code) { return FindOrNull(unitFactors, code, &UnitFactor::code); }
 
 }  // namespace
 

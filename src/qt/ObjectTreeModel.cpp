@@ -3,6 +3,7 @@
 #include <QColor>
 #include <utility>
 
+#include "model/ShapeColours.h"
 #include "qt/QtText.h"
 
 namespace hullwright {
@@ -96,11 +97,8 @@ QVariant ObjectTreeModel::ToolTip(const TreeItem& item) const
 {
   const CShape* const shape = item.level == TreeLevel::Polyline ? tree_.Shape(item) : nullptr;
   if (shape == nullptr) return {};
-  // As the shape is drawn without a style.
-  const ShapeStyle style = shape->style == nullptr ? ShapeStyle() : *shape->style;
-  const QColor colour(static_cast<int>(style.lineColour & 0xFFU),
-                      static_cast<int>(style.lineColour >> 8U & 0xFFU),
-                      static_cast<int>(style.lineColour >> 16U & 0xFFU));
+  const ShapeStyle& style = StyleOf(*shape);
+  const QColor colour(RedOf(style.lineColour), GreenOf(style.lineColour), BlueOf(style.lineColour));
   return tr("%1 points, width %2, colour %3")
       .arg(tree_.ChildCount(item))
       .arg(QString::number(style.lineWidth), colour.name());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/FindOrNull.h"
 #include "resources/CommandIds.h"
 
 namespace hullwright {
@@ -36,9 +37,7 @@ constexpr bool HasHandler(const auto& handlers, CommandId id)
 /// The row of a command in a table of handlers; null for one that the table lacks.
 constexpr auto* FindHandler(const auto& handlers, CommandId id)
 {
-  const auto* const found =
-      std::ranges::find_if(handlers, [id](const auto& row) { return row.id == id; });
-  return found == handlers.end() ? nullptr : found;
+  return FindOrNull(handlers, id, [](const auto& row) { return row.id; });
 }
 
 /// Carries a command out by its row; false without one.

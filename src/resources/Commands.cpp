@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "base/FindOrNull.h"
 #include "resources/Menus.h"
 #include "resources/ToolBarButtons.h"
 
@@ -70,8 +71,7 @@ std::span<const CommandEntry> Commands() { return commands; }
 
 const CommandEntry* FindCommand(CommandId id)
 {
-  const auto* const found = std::ranges::find(commands, id, &CommandEntry::id);
-  return found == commands.end() ? nullptr : found;
+  return FindOrNull(commands, id, &CommandEntry::id);
 }
 
 std::u16string_view StatusText(const CommandEntry& command)

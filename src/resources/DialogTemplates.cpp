@@ -1,5 +1,6 @@
 #include "resources/DialogTemplates.h"
 
+#include "base/FindOrNull.h"
 #include "resources/AboutDialog.h"
 #include "resources/Controls.h"
 #include "resources/GridDialog.h"
@@ -51,8 +52,7 @@ static_assert(std::ranges::all_of(namedControls, [](const NamedControl& control)
 
 const DialogTemplate* FindDialogTemplate(DialogId id)
 {
-  const auto* const found = std::ranges::find(templates, id, &DialogTemplate::id);
-  return found == templates.end() ? nullptr : found;
+  return FindOrNull(templates, id, &DialogTemplate::id);
 }
 
 std::u16string AsTyped(std::u16string_view text)

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/FindOrNull.h"
 #include "resources/DialogIds.h"
 
 namespace hullwright {
@@ -73,15 +74,13 @@ constexpr ControlId ButtonOf(const DialogRow& row)
 /// The row of an edit field; null for an id that is no field's.
 constexpr const DialogRow* FindField(const DialogTemplate& dialog, ControlId field)
 {
-  const auto found = std::ranges::find(dialog.rows, field, FieldOf);
-  return field == ControlId::None || found == dialog.rows.end() ? nullptr : &*found;
+  return field == ControlId::None ? nullptr : FindOrNull(dialog.rows, field, FieldOf);
 }
 
 /// The row of a check box or radio button; null for an id that is none's.
 constexpr const DialogRow* FindButton(const DialogTemplate& dialog, ControlId button)
 {
-  const auto found = std::ranges::find(dialog.rows, button, ButtonOf);
-  return button == ControlId::None || found == dialog.rows.end() ? nullptr : &*found;
+  return button == ControlId::None ? nullptr : FindOrNull(dialog.rows, button, ButtonOf);
 }
 
 /// The rows between a button and the next group or the end; none for an id that is no button's.

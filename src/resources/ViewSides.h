@@ -1,9 +1,10 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
+#include "base/FindOrNull.h"
 #include "model/ViewSide.h"
 #include "resources/CommandIds.h"
 
@@ -28,15 +29,23 @@ inline constexpr std::array<ViewSideEntry, 6> viewSides = {{
 /// The side of a code; null for a code of no single side.
 constexpr const ViewSideEntry* FindViewSide(ViewSide code)
 {
-  const auto* const found = std::ranges::find(viewSides, code, &ViewSideEntry::code);
-  return found == viewSides.end() ? nullptr : found;
+  return FindOrNull(viewSides, code, &ViewSideEntry::code);
 }
 
 /// The side that a command selects; null for any other command.
 constexpr const ViewSideEntry* FindViewSideByCommand(CommandId command)
 {
-  const auto* const found = std::ranges::find(viewSides, command, &ViewSideEntry::command);
-  return found == viewSides.end() ? nullptr : found;
+  return FindOrNull(viewSides, command, &ViewSideEntry::command);
 }
+
+/// The side of a name; null for any other word.
+constexpr const ViewSideEntry* FindViewSideByName(std::string_view name)
+{
+  return FindOrNull(viewSides, name, &ViewSideEntry::name);
+}
+
+/// What a view code is called: the name of its side, `all` for that of every side, and for any
+/// other code `other` with its two hexadecimal digits behind.
+std::string SideName(ViewSide code, std::string_view all, std::string_view other);
 
 }  // namespace hullwright

@@ -13,10 +13,8 @@ TEST(JsonWriter, WritesToTheEndOfAText)
   {
     JsonWriter json(text);
     json.BeginObject();
-    json.Key("a");
-    json.Doubles({1.0, -0.0, std::numeric_limits<double>::infinity()});
-    json.Key("b");
-    json.Text(u"\"\u00E4\n");
+    json.Key("a").Doubles({1.0, -0.0, std::numeric_limits<double>::infinity()});
+    json.Key("b").Text(u"\"\u00E4\n");
     json.EndObject();
   }
   EXPECT_EQ(text, "before {\"a\":[1.0,-0.0,\"inf\"],\"b\":\"\\\"\u00E4\\u000A\"}");

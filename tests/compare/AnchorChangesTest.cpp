@@ -19,7 +19,7 @@ protected:
 TEST_F(ComparedAnchors, OfOneNumberAndNameMove)
 {
   AddAnchor(former, 1, u"Bow", 1.0, 2.0);
-  AddAnchor(now, 1, u"Bow", 1.0, 2.5);
+  AddAnchor(current, 1, u"Bow", 1.0, 2.5);
   const AnchorDifference moved = Only();
   EXPECT_TRUE(moved.moved);
   EXPECT_EQ(moved.anchor.former->place.y, 2.0);
@@ -30,8 +30,8 @@ TEST_F(ComparedAnchors, OfOneNameAreRenumbered)
 {
   AddAnchor(former, 1, u"Bow", 1.0, 2.0);
   AddAnchor(former, 2, u"Stern", 5.0, 2.0);
-  AddAnchor(now, 2, u"Bow", 1.0, 2.0);
-  AddAnchor(now, 1, u"Stern", 5.0, 2.0);
+  AddAnchor(current, 2, u"Bow", 1.0, 2.0);
+  AddAnchor(current, 1, u"Stern", 5.0, 2.0);
   const Differences differences = Compare();
   ASSERT_EQ(differences.anchors.size(), 2U);
   EXPECT_EQ(differences.anchors[0].anchor.former->id, 1U);
@@ -42,7 +42,7 @@ TEST_F(ComparedAnchors, OfOneNameAreRenumbered)
 TEST_F(ComparedAnchors, OfOneNumberAreRenamed)
 {
   AddAnchor(former, 1, u"", 1.0, 2.0);
-  AddAnchor(now, 1, u"Bow", 1.0, 2.0);
+  AddAnchor(current, 1, u"Bow", 1.0, 2.0);
   EXPECT_EQ(Only().anchor.current->name, u"Bow");
   EXPECT_EQ(Only().anchor.former->name, u"");
 }
@@ -50,7 +50,7 @@ TEST_F(ComparedAnchors, OfOneNumberAreRenamed)
 TEST_F(ComparedAnchors, WithoutNameAreNotOneByIt)
 {
   AddAnchor(former, 1, u"", 1.0, 2.0);
-  AddAnchor(now, 2, u"", 1.0, 2.0);
+  AddAnchor(current, 2, u"", 1.0, 2.0);
   const Differences differences = Compare();
   ASSERT_EQ(differences.anchors.size(), 2U);
   EXPECT_FALSE(differences.anchors[0].anchor.former);
@@ -61,8 +61,8 @@ TEST_F(ComparedAnchors, OfOneNumberAndNameKeepTheirPlacesFirst)
 {
   AddAnchor(former, 1, u"Bow", 1.0, 0.0);
   AddAnchor(former, 1, u"Bow", 2.0, 0.0);
-  AddAnchor(now, 1, u"Bow", 2.0, 0.0);
-  AddAnchor(now, 1, u"Bow", 1.5, 0.0);
+  AddAnchor(current, 1, u"Bow", 2.0, 0.0);
+  AddAnchor(current, 1, u"Bow", 1.5, 0.0);
   EXPECT_EQ(Only().anchor.former->place.x, 1.0);
   EXPECT_EQ(Only().anchor.current->place.x, 1.5);
 }
@@ -70,8 +70,8 @@ TEST_F(ComparedAnchors, OfOneNumberAndNameKeepTheirPlacesFirst)
 TEST_F(ComparedAnchors, OfTwoUnitsAreConverted)
 {
   AddAnchor(former, 1, u"Bow", 10.0, 0.0);
-  AddAnchor(now, 1, u"Bow", 32.808, 0.0);
-  now.unitCode = UnitCode{9002};
+  AddAnchor(current, 1, u"Bow", 32.808, 0.0);
+  current.unitCode = UnitCode{9002};
   EXPECT_TRUE(Compare().anchors.empty());
 }
 

@@ -20,11 +20,11 @@ TEST_F(DifferenceText, IsEmptyWithoutDifferences) { EXPECT_EQ(Text(), ""); }
 
 TEST_F(DifferenceText, NamesOffsetsAndAnchorsWithOldAndNewNumbers)
 {
-  now.offsetGps->y = 0.25;
+  current.offsetGps->y = 0.25;
   AddAnchor(former, 1, u"Bow", 1.0, 2.0);
   AddAnchor(former, 2, u"Stern", 1.0, 2.0);
-  AddAnchor(now, 1, u"Prow\n", 4.0, 6.0);
-  AddAnchor(now, 3, u"Side", 1.0, 2.0);
+  AddAnchor(current, 1, u"Prow\n", 4.0, 6.0);
+  AddAnchor(current, 3, u"Side", 1.0, 2.0);
   EXPECT_EQ(Text(),
             "  GNSS antenna  10.000, 0.000, 0.000 -> 10.000, 0.250, 0.000, moved by 0.250\n"
             "  anchor 1 \"Prow\\u000A\"  was anchor 1 \"Bow\"; 1.000, 2.000 -> 4.000, 6.000, "
@@ -35,14 +35,14 @@ TEST_F(DifferenceText, NamesOffsetsAndAnchorsWithOldAndNewNumbers)
 
 TEST_F(DifferenceText, OfAnotherUnitSaysWhatWasDoneToTheNumbers)
 {
-  now.unitCode = UnitCode{9002};
+  current.unitCode = UnitCode{9002};
   EXPECT_EQ(
       Text(),
       "  unit          metre (EPSG 9001) -> foot (EPSG 9002); all numbers are the same, so that "
       "every length changed\n");
-  now.offsetGps->x = 10.0 / 0.3048;
-  now.offsetTransducer->x = -10.0 / 0.3048;
-  now.offsetPivot->y = 10.0 / 0.3048;
+  current.offsetGps->x = 10.0 / 0.3048;
+  current.offsetTransducer->x = -10.0 / 0.3048;
+  current.offsetPivot->y = 10.0 / 0.3048;
   EXPECT_EQ(Text(),
             "  unit          metre (EPSG 9001) -> foot (EPSG 9002); the former numbers are shown "
             "converted\n");
@@ -51,7 +51,7 @@ TEST_F(DifferenceText, OfAnotherUnitSaysWhatWasDoneToTheNumbers)
 TEST_F(DifferenceText, ListsVerticesThatChanged)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {1, 1, 0}, {2, 0, 0}, {3, 0, 0}, {4, 0, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {1, 1, 0}, {2, 0, 0}, {3, 0, 0}, {4, 0, 0}});
   EXPECT_EQ(
       Text(),
       "  top           polyline 1 changed: 1 vertex moved, 1 vertex added, 4 -> 5\n"
@@ -61,11 +61,11 @@ TEST_F(DifferenceText, ListsVerticesThatChanged)
 
 TEST_F(DifferenceText, ShowsTheFirstDozenVerticesOnly)
 {
-  CShapePolyline& before = AddFormer(ViewSide::Top, {{0, 0, 0}});
-  CShapePolyline& after = AddNow(ViewSide::Top, {{0, 0, 0}});
+  CShapePolyline& formerLine = AddFormer(ViewSide::Top, {{0, 0, 0}});
+  CShapePolyline& currentLine = AddCurrent(ViewSide::Top, {{0, 0, 0}});
   for (int i = 1; i < 40; ++i) {
-    before.AddVertex(i, 0.0, 0.0);
-    after.AddVertex(i, i < 20 ? 0.0 : 1.0, 0.0);
+    formerLine.AddVertex(i, 0.0, 0.0);
+    currentLine.AddVertex(i, i < 20 ? 0.0 : 1.0, 0.0);
   }
   EXPECT_NE(Text().find("polyline 1 changed: 20 vertices moved of 40\n"), std::string::npos);
   EXPECT_NE(Text().find("vertex 32: "), std::string::npos);
@@ -78,8 +78,8 @@ TEST_F(DifferenceText, PutsWhatMovedTogetherOnOneLine)
   for (int i = 0; i < 6; ++i) {
     const double x = i * i;
     AddFormer(ViewSide::Top, {{x, 0, 0}, {x + i + 1.0, 2, 0}});
-    AddNow(ViewSide::Top,
-           {{x + 3.0, i == 2 ? 9.0 : 4.0, 0}, {x + i + 4.0, i == 2 ? 11.0 : 6.0, 0}});
+    AddCurrent(ViewSide::Top,
+               {{x + 3.0, i == 2 ? 9.0 : 4.0, 0}, {x + i + 4.0, i == 2 ? 11.0 : 6.0, 0}});
   }
   EXPECT_EQ(Text(),
             "  top           polylines 1, 2, 4-6 moved by 5.000 (dX +3.000, dY +4.000, dZ 0.000)\n"
@@ -89,7 +89,7 @@ TEST_F(DifferenceText, PutsWhatMovedTogetherOnOneLine)
 TEST_F(DifferenceText, GivesWaysTheirSignAndNoneToWhatIsShownAsZero)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 2, 0}});
-  AddNow(ViewSide::Top, {{-0.0004, -0.25, 0.0004}, {0.9996, 1.75, 0.0004}});
+  AddCurrent(ViewSide::Top, {{-0.0004, -0.25, 0.0004}, {0.9996, 1.75, 0.0004}});
   EXPECT_EQ(Text(), "  top           polyline 1 moved by 0.250 (dX 0.000, dY -0.250, dZ 0.000)\n");
 }
 
@@ -106,13 +106,13 @@ TEST_F(DifferenceText, OfNumbersAsTheyStandSaysSo)
 TEST_F(DifferenceText, SaysWhatWasAddedRemovedTurnedAndColoured)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {1, 2, 0}});
-  AddNow(ViewSide::Top, {{1, 2, 0}, {1, 0, 0}, {0, 0, 0}});
+  AddCurrent(ViewSide::Top, {{1, 2, 0}, {1, 0, 0}, {0, 0, 0}});
   AddFormer(ViewSide::Top, {{20, 0, 0}, {21, 0, 0}});
-  AddNow(ViewSide::Top, {});
+  AddCurrent(ViewSide::Top, {});
   AddToBoth(ViewSide::Top, {{50, 50, 0}});
-  now.shapeGroups[0]->shapes[2]->style = std::make_unique<ShapeStyle>();
-  now.shapeGroups[0]->shapes[2]->style->lineColour = 0x0000FF;
-  now.shapeGroups[0]->shapes[2]->style->lineWidth = 2.5F;
+  current.shapeGroups[0]->shapes[2]->style = std::make_unique<ShapeStyle>();
+  current.shapeGroups[0]->shapes[2]->style->lineColour = 0x0000FF;
+  current.shapeGroups[0]->shapes[2]->style->lineWidth = 2.5F;
   EXPECT_EQ(
       Text(),
       "  top           polyline 1 changed, the same vertices from the last to the first\n"

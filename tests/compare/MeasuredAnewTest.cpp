@@ -19,13 +19,13 @@ protected:
   /// Adds a frame of size 4 to both designs, whose vertices have gone ways of their own.
   void AddFrame(int number, double x, double y)
   {
-    CShapePolyline& before = AddFormer(ViewSide::Top, {});
-    CShapePolyline& after = AddNow(ViewSide::Top, {});
+    CShapePolyline& formerLine = AddFormer(ViewSide::Top, {});
+    CShapePolyline& currentLine = AddCurrent(ViewSide::Top, {});
     int i = 0;
     for (const auto& [dx, dy] : {std::pair(0.0, 0.0), {4.0, 0.0}, {4.0, 3.0}, {0.0, 3.0}}) {
       const CShapeVertex way = Way(number, i++);
-      before.AddVertex(x + dx, y + dy, 1.0);
-      after.AddVertex(x + dx + way.x, y + dy + way.y, 1.0);
+      formerLine.AddVertex(x + dx, y + dy, 1.0);
+      currentLine.AddVertex(x + dx + way.x, y + dy + way.y, 1.0);
     }
   }
 
@@ -33,9 +33,9 @@ protected:
   Differences CompareEnds(const CShapeVertex& first, const CShapeVertex& second)
   {
     ClearGroups(former.shapeGroups);
-    ClearGroups(now.shapeGroups);
+    ClearGroups(current.shapeGroups);
     AddFormer(ViewSide::Top, {{0, 0, 0}, {10, 0, 0}});
-    AddNow(ViewSide::Top, {first, {10.0 + second.x, second.y, second.z}});
+    AddCurrent(ViewSide::Top, {first, {10.0 + second.x, second.y, second.z}});
     return Compare();
   }
 };
@@ -47,7 +47,7 @@ TEST_F(OutlineMeasuredAnew, IsChangedVertexByVertex)
   EXPECT_EQ(changed.change, ShapeChange::Changed);
   ASSERT_EQ(changed.vertices.size(), 4U);
   for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_EQ(changed.vertices[i].number, (BeforeAndAfter<std::size_t>{i + 1, i + 1}));
+    EXPECT_EQ(changed.vertices[i].number, (FormerAndCurrent<std::size_t>{i + 1, i + 1}));
   }
   EXPECT_FALSE(changed.reversed);
 }
@@ -64,27 +64,27 @@ TEST_F(OutlineMeasuredAnew, KeepsEachVertexWithinATenthOfItsSize)
 TEST_F(OutlineMeasuredAnew, HasAsManyVerticesOnTheSameSide)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {5, 0, 0}, {10, 0, 0}});
-  AddNow(ViewSide::Top, {{0.1, 0, 0}, {10.2, 0, 0}});
-  AddNow(ViewSide::Left, {{0.1, 0, 0}, {5.2, 0, 0}, {10.3, 0, 0}});
+  AddCurrent(ViewSide::Top, {{0.1, 0, 0}, {10.2, 0, 0}});
+  AddCurrent(ViewSide::Left, {{0.1, 0, 0}, {5.2, 0, 0}, {10.3, 0, 0}});
   EXPECT_EQ(Compare().shapes.size(), 3U);
 }
 
 TEST_F(OutlineMeasuredAnew, IsTheNearestOne)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {10, 0, 0}});
-  AddNow(ViewSide::Top, {{0, 0.5, 0}, {10, 0.6, 0}});
-  AddNow(ViewSide::Top, {{0, -0.1, 0}, {10, 0.3, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0.5, 0}, {10, 0.6, 0}});
+  AddCurrent(ViewSide::Top, {{0, -0.1, 0}, {10, 0.3, 0}});
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 2U);
   EXPECT_EQ(differences.shapes[0].change, ShapeChange::Added);
-  EXPECT_EQ(differences.shapes[1].number, (BeforeAndAfter<std::size_t>{1, 2}));
+  EXPECT_EQ(differences.shapes[1].number, (FormerAndCurrent<std::size_t>{1, 2}));
 }
 
 TEST_F(OutlineMeasuredAnew, GoesBehindOneWithMostVerticesInCommon)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {5, 0, 0}, {10, 0, 0}, {10, 5, 0}});
-  AddNow(ViewSide::Top, {{0, 0.1, 0}, {5, 0.2, 0}, {10, 0.3, 0}, {10, 5.1, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {5, 0, 0}, {10, 0, 0}, {20, 9, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0.1, 0}, {5, 0.2, 0}, {10, 0.3, 0}, {10, 5.1, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {5, 0, 0}, {10, 0, 0}, {20, 9, 0}});
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 2U);
   EXPECT_EQ(differences.shapes[0].change, ShapeChange::Added);
@@ -94,8 +94,8 @@ TEST_F(OutlineMeasuredAnew, GoesBehindOneWithMostVerticesInCommon)
 TEST_F(OutlineMeasuredAnew, GoesBeforeOneWithHalfOfTheVerticesInCommon)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {10, 0, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {0, 10, 0}});
-  AddNow(ViewSide::Top, {{0, 0.1, 0}, {10, 0.2, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {0, 10, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0.1, 0}, {10, 0.2, 0}});
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 2U);
   EXPECT_EQ(differences.shapes[1].number.current, 2U);
@@ -107,9 +107,9 @@ TEST_F(OutlineMeasuredAnew, IsNoneWithoutASizeOrAFiniteNumber)
   constexpr double none = std::numeric_limits<double>::quiet_NaN();
   for (const double odd : {0.0, infinity, none}) {
     ClearGroups(former.shapeGroups);
-    ClearGroups(now.shapeGroups);
+    ClearGroups(current.shapeGroups);
     AddFormer(ViewSide::Top, {{0, 0, 0}, {odd, 0, 0}});
-    AddNow(ViewSide::Top, {{1, 0, 0}, {odd == 0.0 ? 1.1 : odd, 2, 0}});
+    AddCurrent(ViewSide::Top, {{1, 0, 0}, {odd == 0.0 ? 1.1 : odd, 2, 0}});
     EXPECT_EQ(Compare().shapes.size(), 2U) << odd;
   }
 }
@@ -119,11 +119,11 @@ TEST_F(OutlineMeasuredAnew, IsFoundAlsoAcrossAPowerOfTwoInSize)
   for (int i = 0; i < 40; ++i) {
     const double size = 7.9 + 0.01 * i;
     ClearGroups(former.shapeGroups);
-    ClearGroups(now.shapeGroups);
+    ClearGroups(current.shapeGroups);
     AddFormer(ViewSide::Top, {{100, 100, 0}, {100 + size, 100, 0}});
-    AddNow(ViewSide::Top, {{99.7, 99.9, 0}, {100.4 + size, 100.1, 0}});
+    AddCurrent(ViewSide::Top, {{99.7, 99.9, 0}, {100.4 + size, 100.1, 0}});
     EXPECT_EQ(Compare().shapes.size(), 1U) << size;
-    std::swap(former.shapeGroups, now.shapeGroups);
+    std::swap(former.shapeGroups, current.shapeGroups);
     EXPECT_EQ(Compare().shapes.size(), 1U) << size;
   }
 }

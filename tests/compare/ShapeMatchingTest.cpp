@@ -22,8 +22,8 @@ TEST_F(MatchedShapes, AreEqualBeforeTheyAreMoved)
 {
   AddSquare(former, 0.0, 0.0);
   AddSquare(former, 5.0, 0.0);
-  AddSquare(now, 5.0, 0.0);
-  AddSquare(now, 7.0, 0.0);
+  AddSquare(current, 5.0, 0.0);
+  AddSquare(current, 7.0, 0.0);
   const ShapeDifference moved = OnlyShape();
   EXPECT_EQ(moved.number.former, 1U);
   EXPECT_EQ(moved.number.current, 2U);
@@ -34,7 +34,7 @@ TEST_F(MatchedShapes, GoTheWayThatMostOfThemWent)
 {
   for (int i = 0; i < 9; ++i) AddSquare(former, 3.0 * i, 0.5 * i * i);
   for (int i = 0; i < 9; ++i) {
-    if (i != 4) AddSquare(now, 3.0 * i + 0.25, 0.5 * i * i);
+    if (i != 4) AddSquare(current, 3.0 * i + 0.25, 0.5 * i * i);
   }
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 9U);
@@ -51,7 +51,7 @@ TEST_F(MatchedShapes, ThatAreAllAlikeAreFoundInAnyOrder)
   constexpr int count = 100;
   for (int i = 0; i < count; ++i) {
     AddSquare(former, 5.0 * i, 0.0);
-    AddSquare(now, 5.0 * (count - 1 - i), 0.5);
+    AddSquare(current, 5.0 * (count - 1 - i), 0.5);
   }
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 1U * count);
@@ -63,19 +63,19 @@ TEST_F(MatchedShapes, ThatAreAllAlikeAreFoundInAnyOrder)
 TEST_F(MatchedShapes, WithMostVerticesInCommonBelongTogether)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 1, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 7, 0}, {3, 9, 0}, {4, 8, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {5, 1, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 7, 0}, {3, 9, 0}, {4, 8, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {5, 1, 0}});
   const Differences differences = Compare();
   ASSERT_EQ(differences.shapes.size(), 2U);
   EXPECT_EQ(differences.shapes[0].change, ShapeChange::Added);
   EXPECT_EQ(differences.shapes[1].change, ShapeChange::Changed);
-  EXPECT_EQ(differences.shapes[1].number, (BeforeAndAfter<std::size_t>{1, 2}));
+  EXPECT_EQ(differences.shapes[1].number, (FormerAndCurrent<std::size_t>{1, 2}));
 }
 
 TEST_F(MatchedShapes, WithFewVerticesInCommonDoNot)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}});
-  AddNow(ViewSide::Top, {{0, 0, 0}, {5, 5, 0}, {6, 6, 0}, {7, 8, 0}, {8, 7, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {5, 5, 0}, {6, 6, 0}, {7, 8, 0}, {8, 7, 0}});
   EXPECT_EQ(Compare().shapes.size(), 2U);
 }
 
@@ -85,7 +85,7 @@ TEST_F(MatchedShapes, AreFoundAcrossTheBordersOfCells)
   for (int i = 0; i < 100; ++i) {
     const double x = 0.002 * i;
     AddFormer(ViewSide::Top, {{x + 0.0004, -x, 0.0}, {x + 10.0 + i, 5.0, 0.0}});
-    AddNow(ViewSide::Top, {{x - 0.0004, -x - 0.0004, 0.0}, {x + 10.0 + i, 5.0, 0.0}});
+    AddCurrent(ViewSide::Top, {{x - 0.0004, -x - 0.0004, 0.0}, {x + 10.0 + i, 5.0, 0.0}});
   }
   EXPECT_TRUE(Compare().None());
 }
@@ -97,9 +97,9 @@ TEST_F(MatchedShapes, AreFoundByTheThousandInAShortTime)
   for (int i = 0; i < count; ++i) {
     const double x = 0.01 * i;
     AddFormer(ViewSide::Top, {{0.0, 0.0, 0.0}, {x, 1.0, 0.0}, {x, 3.0, 0.0}});
-    AddNow(ViewSide::Top, {{0.0, 0.0, 0.0}, {x, 1.0, 0.0}, {x, 2.0, 0.0}});
+    AddCurrent(ViewSide::Top, {{0.0, 0.0, 0.0}, {x, 1.0, 0.0}, {x, 2.0, 0.0}});
     AddSquare(former, x, 0.0);
-    AddSquare(now, x, 0.5);
+    AddSquare(current, x, 0.5);
   }
   const std::clock_t start = std::clock();
   const Differences differences = Compare();

@@ -22,12 +22,12 @@ std::string Changes(const std::vector<Place>& former, const std::vector<Place>& 
 {
   std::string text;
   for (const VertexDifference& vertex : CompareVertices(former, current, tolerance)) {
-    const std::string before = std::to_string(vertex.number.former);
-    const std::string now = std::to_string(vertex.number.current);
+    const std::string formerNumber = std::to_string(vertex.number.former);
+    const std::string currentNumber = std::to_string(vertex.number.current);
     text += text.empty() ? "" : " ";
-    text += vertex.number.former == 0    ? "+" + now
-            : vertex.number.current == 0 ? "-" + before
-                                         : before + ">" + now;
+    text += vertex.number.former == 0    ? "+" + currentNumber
+            : vertex.number.current == 0 ? "-" + formerNumber
+                                         : formerNumber + ">" + currentNumber;
   }
   return text;
 }

@@ -95,7 +95,7 @@ TEST_F(ExportedDesignTest, ALineWithoutAStyleIsBlackAndOnePixelWide)
   EXPECT_EQ(LineColourOf(line), 0U);
   EXPECT_EQ(LineWidthOf(line), 1.0);
   Style(line, 0xFF563412, 2.5F);
-  EXPECT_EQ(HexColour(LineColourOf(line)), "#123456");
+  EXPECT_EQ(LineColourOf(line), 0x563412U);
   EXPECT_EQ(LineWidthOf(line), 2.5);
 }
 

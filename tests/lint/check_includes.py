@@ -15,7 +15,7 @@ ROOMS = {
     "headless": "base model platform resources",
     "model": "base",
     "render": "base model platform",
-    "resources": "model",
+    "resources": "base model",
     "file": "base model platform",
     "compare": "base model",
     "dxf": "base model platform file",

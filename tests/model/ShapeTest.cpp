@@ -4,6 +4,7 @@
 
 #include "base/Code.h"
 #include "model/ShapeAttributes.h"
+#include "model/ShapeColours.h"
 #include "model/ShapePolyline.h"
 #include "render/ViewPort.h"
 #include "support/PlainShape.h"
@@ -25,6 +26,26 @@ TEST(ShapeStyle, HasTheDefaultsOfANewShape)
   EXPECT_EQ(style.lineWidth, 1.0F);
   EXPECT_EQ(style.styleFlagA, 0);
   EXPECT_EQ(style.styleFlagB, 0);
+}
+
+TEST(ShapeStyle, AShapeWithoutOneIsStrokedAsANewShape)
+{
+  CShapePolyline shape;
+  EXPECT_EQ(StyleOf(shape).lineColour, 0U);
+  EXPECT_EQ(StyleOf(shape).lineWidth, 1.0F);
+  shape.style = std::make_unique<ShapeStyle>();
+  shape.style->lineWidth = 2.5F;
+  EXPECT_EQ(&StyleOf(shape), shape.style.get());
+}
+
+TEST(ShapeColours, HaveRedInTheLowByteAndFirstInTheirText)
+{
+  constexpr std::uint32_t colour = 0xFF563412;
+  EXPECT_EQ(RedOf(colour), 0x12);
+  EXPECT_EQ(GreenOf(colour), 0x34);
+  EXPECT_EQ(BlueOf(colour), 0x56);
+  EXPECT_EQ(HexColour(colour), "#123456");
+  EXPECT_EQ(HexColour(0x0000AB), "#AB0000");
 }
 
 TEST(ShapeAttributes, AppendFromAddsDeepCopiesBehindWhatIsThere)

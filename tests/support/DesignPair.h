@@ -16,13 +16,16 @@ protected:
   {
     return AddLine(former, side, vertices);
   }
-  CShapePolyline& AddNow(ViewSide side, Line vertices) { return AddLine(now, side, vertices); }
+  CShapePolyline& AddCurrent(ViewSide side, Line vertices)
+  {
+    return AddLine(current, side, vertices);
+  }
 
   /// Adds the same polyline to both.
   void AddToBoth(ViewSide side, Line vertices)
   {
     AddFormer(side, vertices);
-    AddNow(side, vertices);
+    AddCurrent(side, vertices);
   }
 
   static CAnchor& AddAnchor(DesignState& design, std::uint32_t id, std::u16string name, double x,
@@ -37,7 +40,7 @@ protected:
     return anchor;
   }
 
-  Differences Compare() const { return CompareDesigns(former, now, options); }
+  Differences Compare() const { return CompareDesigns(former, current, options); }
 
   /// The only shape that differs.
   ShapeDifference OnlyShape() const
@@ -48,7 +51,7 @@ protected:
   }
 
   DesignState former;
-  DesignState now;
+  DesignState current;
   CompareOptions options;
 };
 

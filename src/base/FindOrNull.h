@@ -1,0 +1,16 @@
+#pragma once
+
+#include <algorithm>
+#include <iterator>
+
+namespace hullwright {
+
+/// The first entry of a range of which `projection` gives a value; null where there is none.
+template <class Range, class Value, class Projection>
+constexpr auto* FindOrNull(Range& range, const Value& value, Projection projection)
+{
+  const auto found = std::ranges::find(range, value, projection);
+  return found == std::ranges::end(range) ? nullptr : &*found;
+}
+
+}  // namespace hullwright
