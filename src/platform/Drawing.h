@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Pixels.h"
+
 /// The drawing target: what the canvas and the drawers ask of a picture, and no more. Points and
 /// texts are lent for the length of a call and all else goes in by value, so a target may gather
 /// calls, leave out what can't be seen, and keep what it made of a figure. Coordinates and widths
@@ -20,37 +22,6 @@ constexpr bool Failed(ResultCode code) { return code < 0; }
 
 /// The code of a frame whose device was lost: the target must be made ready again.
 inline constexpr ResultCode recreateTarget = static_cast<ResultCode>(0x8899000CU);
-
-struct PixelPoint {
-  float x = 0.0F;
-  float y = 0.0F;
-};
-
-struct PixelRect {
-  float left = 0.0F;
-  float top = 0.0F;
-  float right = 0.0F;
-  float bottom = 0.0F;
-};
-
-struct PixelSize {
-  float width = 0.0F;
-  float height = 0.0F;
-};
-
-/// Dots per inch.
-struct Resolution {
-  float x = 96.0F;
-  float y = 96.0F;
-};
-
-/// Parts from 0.0 to 1.0.
-struct Colour {
-  float red = 0.0F;
-  float green = 0.0F;
-  float blue = 0.0F;
-  float alpha = 1.0F;
-};
 
 struct Stroke {
   Colour colour;
