@@ -1,4 +1,5 @@
 #include "FileInMemory.h"
+#include "FuzzInput.h"
 #include "file/AnchorListReader.h"
 #include "headless/KeptMessages.h"
 
@@ -14,11 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CAnchors anchors;
   CAnchorListReader reader(anchors, messages);
   const int result = reader.Read(file.Path());
-  if (result != 0 && result != -1) __builtin_trap();
-  if ((result == 0) != reader.LastReadError().message.empty()) __builtin_trap();
-  if (!messages.shown.empty()) __builtin_trap();
-  for (const auto& anchor : anchors.items) {
-    if (!anchor) __builtin_trap();
-  }
+  Require(result == 0 || result == -1);
+  Require((result == 0) == reader.LastReadError().message.empty());
+  Require(messages.shown.empty());
+  for (const auto& anchor : anchors.items) Require(anchor != nullptr);
   return 0;
 }

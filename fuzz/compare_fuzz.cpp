@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <span>
 #include <string>
 #include <vector>
 
+#include "FuzzInput.h"
 #include "compare/CompareDesigns.h"
 #include "compare/DifferenceText.h"
 #include "model/ShapePolyline.h"
@@ -18,58 +18,39 @@ using namespace hullwright;
 
 namespace {
 
-/// Takes small numbers from the input, zeros behind its end.
-class Input {
-public:
-  explicit Input(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+/// A coordinate near others, far away, or none.
+double TakeCoordinate(FuzzInput& input)
+{
+  static constexpr std::array<double, 8> steps = {0.0005, 0.001, 0.002, 0.25,
+                                                  1.0,    7.0,   1e12,  1e300};
+  const unsigned byte = input.Byte();
+  if (byte == 0xFF) return std::nan("");
+  if (byte == 0xFE) return HUGE_VAL;
+  return (static_cast<double>(byte >> 3U) - 8.0) * steps.at(byte & 7U);
+}
 
-  unsigned Byte()
-  {
-    if (bytes_.empty()) return 0;
-    const unsigned byte = bytes_[0];
-    bytes_ = bytes_.subspan(1);
-    return byte;
-  }
-
-  bool AtEnd() const { return bytes_.empty(); }
-
-  /// A coordinate near others, far away, or none.
-  double Coordinate()
-  {
-    static constexpr std::array<double, 8> steps = {0.0005, 0.001, 0.002, 0.25,
-                                                    1.0,    7.0,   1e12,  1e300};
-    const unsigned byte = Byte();
-    if (byte == 0xFF) return std::nan("");
-    if (byte == 0xFE) return HUGE_VAL;
-    return (static_cast<double>(byte >> 3U) - 8.0) * steps.at(byte & 7U);
-  }
-
-private:
-  std::span<const std::uint8_t> bytes_;
-};
-
-void Fill(DesignState& design, Input& input)
+void Fill(DesignState& design, FuzzInput& input)
 {
   static constexpr std::array<ViewSide, 4> sides = {ViewSide::Top, ViewSide::Left, ViewSide::All,
                                                     ViewSide{3}};  // the last is no side
-  const unsigned shapes = input.Byte() % 40;
+  const unsigned shapes = input.Below(40);
   for (unsigned i = 0; i < shapes && !input.AtEnd(); ++i) {
     const unsigned kind = input.Byte();
     auto line = std::make_unique<CShapePolyline>();
     for (unsigned k = 0; k < kind >> 3U; ++k) {
-      line->AddVertex(input.Coordinate(), input.Coordinate(), (kind & 4U) != 0 ? 1.0 : 0.0);
+      line->AddVertex(TakeCoordinate(input), TakeCoordinate(input), (kind & 4U) != 0 ? 1.0 : 0.0);
     }
     GetShapes(design.shapeGroups, sides.at(kind & 3U))->shapes.push_back(std::move(line));
   }
-  const unsigned anchors = input.Byte() % 8;
+  const unsigned anchors = input.Below(8);
   for (unsigned i = 0; i < anchors; ++i) {
     auto anchor = std::make_unique<CAnchor>();
-    anchor->id = input.Byte() % 4;
-    anchor->name.assign(input.Byte() % 3, u'a');
-    anchor->attachmentX = input.Coordinate();
+    anchor->id = input.Below(4);
+    anchor->name.assign(input.Below(3), u'a');
+    anchor->attachmentX = TakeCoordinate(input);
     design.anchors->items.push_back(std::move(anchor));
   }
-  design.offsetGps->x = input.Coordinate();
+  design.offsetGps->x = TakeCoordinate(input);
 }
 
 /// Numbers of which what is no number is equal to its like.
@@ -129,11 +110,6 @@ std::vector<Numbers> NumbersOf(const Differences& differences, bool turn)
   return all;
 }
 
-void Require(bool condition)
-{
-  if (!condition) __builtin_trap();
-}
-
 std::string SideName(ViewSide) { return "side"; }
 
 }  // namespace
@@ -141,7 +117,7 @@ std::string SideName(ViewSide) { return "side"; }
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
   static constexpr std::array<double, 4> tolerances = {0.0, 0.001, 0.6, 1e9};
-  Input input({data, size});
+  FuzzInput input(data, size);
   CompareOptions options;
   options.tolerance = tolerances.at(input.Byte() & 3U);
   DesignState former;

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "FileInMemory.h"
+#include "FuzzInput.h"
 #include "base/Code.h"
 #include "file/FileVessel.h"
 #include "headless/KeptMessages.h"
@@ -22,7 +23,7 @@ struct Design {
   bool Open(const FileInMemory& from) { return file.Read(from.Path()) == 0; }
   std::string Save(const FileInMemory& to)
   {
-    if (file.Save(to.Path(), groups) != 0) __builtin_trap();
+    Require(file.Save(to.Path(), groups) == 0);
     return to.Content();
   }
 };
@@ -61,10 +62,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Design design;
   if (!design.Open(input)) return 0;
   const std::string text = design.Save(saved);
-  if (!text.ends_with("</vessel>\n") || text.find('\0') != std::string::npos) __builtin_trap();
+  Require(text.ends_with("</vessel>\n") && text.find('\0') == std::string::npos);
   if (!ComesBack(design)) return 0;
   Design again;
-  if (!again.Open(saved)) __builtin_trap();
-  if (again.Save(savedAgain) != text) __builtin_trap();
+  Require(again.Open(saved));
+  Require(again.Save(savedAgain) == text);
   return 0;
 }

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -8,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "FuzzInput.h"
+#include "base/Bits.h"
 #include "base/Numbers.h"
 
 // Any bytes are the text of a number, and the first eight of them are one: both must be what the C
@@ -20,7 +21,7 @@ namespace {
 bool Same(double a, double b)
 {
   if (std::isnan(a) || std::isnan(b)) return std::isnan(a) && std::isnan(b);
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+  return SameBits(a, b);
 }
 
 /// The text as an integer of 32 bits.
@@ -38,12 +39,12 @@ void CheckFormat(double value)
   std::snprintf(text, sizeof text, "%.3f", value);
   std::string found;
   AppendFixed3(found, value);
-  if (found != text) __builtin_trap();
+  Require(found == text);
   for (const int decimals : {0, 6, 17}) {
     std::snprintf(text, sizeof text, "%.*f", decimals, value);
-    if (FormatFixed(value, decimals) != text) __builtin_trap();
+    Require(FormatFixed(value, decimals) == text);
   }
-  if (!Same(std::strtod(FormatShortest(value).c_str(), nullptr), value)) __builtin_trap();
+  Require(Same(std::strtod(FormatShortest(value).c_str(), nullptr), value));
 }
 
 }  // namespace
@@ -52,10 +53,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
   const std::string text(reinterpret_cast<const char*>(data), size);
   const double number = ParseDouble(text);
-  if (!Same(number, std::strtod(text.c_str(), nullptr))) __builtin_trap();
+  Require(Same(number, std::strtod(text.c_str(), nullptr)));
   CheckFormat(number);
   for (const int base : {10, 16}) {
-    if (ParseInt32(text, base) != LibraryInt32(text, base)) __builtin_trap();
+    Require(ParseInt32(text, base) == LibraryInt32(text, base));
   }
   if (size >= sizeof(double)) {
     double value = 0.0;

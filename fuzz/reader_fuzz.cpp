@@ -1,6 +1,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "FuzzInput.h"
 #include "dxf/DxfSections.h"
 #include "headless/KeptTrace.h"
 #include "headless/SilentWindow.h"
@@ -23,8 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   CShapes copies;
   copies.AppendClones(layer.shapes.get());
-  if (copies.shapes.size() != layer.shapes->shapes.size()) __builtin_trap();
-  if (context.tally.Shapes() != copies.shapes.size()) __builtin_trap();
+  Require(copies.shapes.size() == layer.shapes->shapes.size());
+  Require(context.tally.Shapes() == copies.shapes.size());
   std::vector<CShapeVertex*> vertices;
   for (const auto& shape : copies.shapes) {
     shape->Scale(2.0, -1.0, 0.5);

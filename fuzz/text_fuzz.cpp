@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <string>
 
+#include "FuzzInput.h"
 #include "dxf/TextCodes.h"
 
 // Any 16-bit units are a text: cleaning must end and can only shorten it.
@@ -16,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const bool coded = text.find(u'\\') != std::u16string::npos;
   const hullwright::CleanedText cleaned = hullwright::CleanText(text);
-  if (cleaned.text.size() > text.size()) __builtin_trap();
-  if (!coded && (cleaned.colourIndex || cleaned.colourValue)) __builtin_trap();
+  hullwright::Require(cleaned.text.size() <= text.size());
+  hullwright::Require(coded || (!cleaned.colourIndex && !cleaned.colourValue));
   return 0;
 }

@@ -1,10 +1,10 @@
 #include "compare/AnchorChanges.h"
 
-#include <bit>
 #include <deque>
 #include <map>
 #include <tuple>
 
+#include "base/Bits.h"
 #include "compare/DesignRecords.h"
 
 namespace hullwright {
@@ -27,8 +27,7 @@ struct AnchorKey {
 
 AnchorKey ByAll(const AnchorRecord& anchor)
 {
-  return {anchor.id, anchor.name, std::bit_cast<std::uint64_t>(anchor.place.x),
-          std::bit_cast<std::uint64_t>(anchor.place.y)};
+  return {anchor.id, anchor.name, BitsOf(anchor.place.x), BitsOf(anchor.place.y)};
 }
 
 AnchorKey ByNumberAndName(const AnchorRecord& anchor) { return {anchor.id, anchor.name}; }

@@ -1,13 +1,13 @@
 #include "compare/NearPairs.h"
 
-#include <bit>
+#include "base/Bits.h"
 
 namespace hullwright {
 
 std::size_t GridCellHash::operator()(const GridCell& cell) const
 {
-  const std::uint64_t column = Mixed(cell.key, std::bit_cast<std::uint64_t>(cell.column));
-  return static_cast<std::size_t>(Mixed(column, std::bit_cast<std::uint64_t>(cell.row)));
+  const std::uint64_t column = Mixed(cell.key, BitsOf(cell.column));
+  return static_cast<std::size_t>(Mixed(column, BitsOf(cell.row)));
 }
 
 GridCell CellOf(const GridItem& item, double cellSize)

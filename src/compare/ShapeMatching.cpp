@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/Bits.h"
 #include "base/Code.h"
 #include "compare/NearPairs.h"
 #include "compare/OutlineDistance.h"
@@ -17,8 +18,6 @@ namespace hullwright {
 namespace {
 
 using Shapes = std::vector<ShapeRecord>;
-
-std::uint64_t BitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 /// What two shapes must have in common to be compared at all.
 std::uint64_t KeyOfKind(const ShapeRecord& shape)

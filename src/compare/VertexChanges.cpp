@@ -1,9 +1,10 @@
 #include "compare/VertexChanges.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <tuple>
+
+#include "base/Bits.h"
 
 namespace hullwright {
 namespace {
@@ -36,8 +37,7 @@ private:
 bool ComesBefore(const Place& a, const Place& b)
 {
   const auto bits = [](const Place& place) {
-    return std::tuple(std::bit_cast<std::uint64_t>(place.x), std::bit_cast<std::uint64_t>(place.y),
-                      std::bit_cast<std::uint64_t>(place.z));
+    return std::tuple(BitsOf(place.x), BitsOf(place.y), BitsOf(place.z));
   };
   return bits(a) < bits(b);
 }

@@ -1,8 +1,8 @@
 #include "exchange/ExportedDesign.h"
 
-#include <bit>
 #include <utility>
 
+#include "base/Bits.h"
 #include "base/Text.h"
 #include "model/OffsetPoints.h"
 #include "model/ShapeColours.h"
@@ -39,11 +39,6 @@ void GatherPlaces(const DesignState& design, ExportedDesign& exported)
     exported.places.push_back(
         {anchorKind, anchor.name, anchor.id, anchor.attachmentX, anchor.attachmentY, std::nullopt});
   });
-}
-
-bool SameBits(double a, double b)
-{
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
 }  // namespace

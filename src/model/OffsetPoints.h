@@ -22,4 +22,10 @@ inline constexpr auto offsetPoints = std::to_array<OffsetPoint>({
     {"piv", "pivot", &DesignState::offsetPivot},
 });
 
+/// Whether the offsets and the anchors are drawn, and can be picked, where a side is in view.
+constexpr bool ShowsOffsetsAndAnchors(ViewSide inView)
+{
+  return inView == ViewSide::Top || inView == ViewSide::All;
+}
+
 }  // namespace hullwright

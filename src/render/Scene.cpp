@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "model/OffsetPoints.h"
 #include "render/Canvas.h"
 #include "render/OutOfView.h"
 #include "render/ShapeDrawing.h"
@@ -110,9 +111,7 @@ void DrawContent(const DesignState& design, const CViewPort& viewPort, CShapePol
   }
   if (newShape != nullptr) newShape->Draw(&viewPort);
   DrawGrid(viewPort, grid);
-  if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
-    DrawOffsetsAndAnchors(design, viewPort);
-  }
+  if (ShowsOffsetsAndAnchors(design.activeView)) DrawOffsetsAndAnchors(design, viewPort);
 }
 
 }  // namespace

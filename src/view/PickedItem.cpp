@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/Numbers.h"
+#include "model/OffsetPoints.h"
 #include "render/ScreenMapping.h"
 #include "render/SeenStretch.h"
 
@@ -120,7 +121,7 @@ Pick FindItemAt(const DesignState& design, std::int32_t x, std::int32_t y)
 {
   if (design.viewPort == nullptr) return {};
   const PickBox box(*design.viewPort, x, y);
-  if (design.activeView == ViewSide::Top || design.activeView == ViewSide::All) {
+  if (ShowsOffsetsAndAnchors(design.activeView)) {
     const Pick pick = FindOffsetOrAnchor(design, box);
     if (pick.kind != HitKind::None) return pick;
   }

@@ -1,10 +1,10 @@
 #include "exchange/DxfExport.h"
 
-#include <bit>
 #include <limits>
 #include <map>
 #include <sstream>
 
+#include "base/Bits.h"
 #include "base/Numbers.h"
 #include "exchange/DesignFixture.h"
 #include "support/DxfFixture.h"
@@ -18,12 +18,6 @@ using testing::Not;
 
 constexpr DxfForm r12{DxfVersion::R12};
 constexpr DxfForm r2000{DxfVersion::R2000};
-
-/// The same number to the bit, zeros with their sign.
-bool SameBits(double a, double b)
-{
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
-}
 
 class DxfExportTest : public DxfFixture, public DesignFixture {
 protected:
