@@ -1,5 +1,6 @@
 #include "paint/CoverageMask.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <span>
@@ -41,6 +42,8 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
                          std::size_t segments)
 {
   constexpr std::size_t blocksOfSegment = 3;
+  if (isOpen_) Forget();
+  isOpen_ = true;
   // A segment names more than that, most of which its neighbours name as well.
   isDense_ = BlocksOf(area) < blocksOfSegment * segments;
   picture_ = picture;
@@ -52,6 +55,13 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
   const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
   if (bytes_.size() < size) bytes_.resize(size);
   if (isDense_ && blocks_.size() < BlocksOf(area)) blocks_.resize(2 * BlocksOf(area));
+}
+
+/// Its blocks would be painted with the next line, in a picture that may be smaller by then.
+void CoverageMask::Forget()
+{
+  std::ranges::fill(bytes_, std::uint8_t{0});
+  count_ = 0;
 }
 
 void CoverageMask::Reserve(const PixelArea& area)
@@ -221,6 +231,7 @@ void CoverageMask::Paint(std::uint32_t colour)
     }
   }
   count_ = 0;
+  isOpen_ = false;
 }
 
 }  // namespace hullwright

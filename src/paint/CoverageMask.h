@@ -15,7 +15,8 @@ class CoverageMask {
 public:
   /// Begins a line that is painted into an area of a picture. The area lies in the picture, which
   /// is at least four pixels wide; the line is painted as transparent as `alpha` (0 to 1) has it.
-  /// How many segments it will have makes no difference but to speed.
+  /// How many segments it will have makes no difference but to speed. A line that was begun and
+  /// never painted, because memory ended in it, is forgotten.
   void Begin(const PixelView& picture, const PixelArea& area, float alpha, std::size_t segments);
 
   /// Adds a segment, whose ends lie within some ten thousand pixels of the area.
@@ -34,6 +35,7 @@ private:
   /// Makes room for the blocks of an area.
   void Reserve(const PixelArea& area);
   void NameBlocksOnce();
+  void Forget();
   struct Place;
 
   /// Adds a thin segment, unless its blocks would reach out of the picture.
@@ -50,6 +52,7 @@ private:
   std::vector<std::uint8_t> bytes_;  ///< coverages of the area, zero outside a line
   std::vector<Block> blocks_;        ///< room for more than there are
   std::size_t count_ = 0;            ///< blocks that there are
+  bool isOpen_ = false;              ///< a line was begun
   bool isDense_ = false;             ///< blocks are looked for when all is added
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace hullwright {
 
@@ -22,10 +23,14 @@ void PaintSurface::Allocate(int width, int height)
   height_ = std::max(height, 0);
   picture_ = QImage();  // the old one's memory goes first
   if (device_ != nullptr) return;
-  picture_ = QImage(static_cast<int>(std::ceil(width_ * ratio_)),
-                    static_cast<int>(std::ceil(height_ * ratio_)), QImage::Format_RGB32);
-  picture_.setDevicePixelRatio(ratio_);
-  if (!picture_.isNull()) picture_.fill(Qt::white);
+  try {
+    picture_ = QImage(static_cast<int>(std::ceil(width_ * ratio_)),
+                      static_cast<int>(std::ceil(height_ * ratio_)), QImage::Format_RGB32);
+    picture_.setDevicePixelRatio(ratio_);
+    if (!picture_.isNull()) picture_.fill(Qt::white);
+  } catch (const std::bad_alloc&) {
+    picture_ = QImage();  // as where its pixels alone find no room
+  }
 }
 
 }  // namespace hullwright

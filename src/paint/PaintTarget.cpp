@@ -102,6 +102,8 @@ std::optional<PixelRect> PaintTarget::SeenArea(float strokeWidth) const
 
 void PaintTarget::BeginFrame(const Colour& background)
 {
+  // There may be memory for a picture by now.
+  if (surface_.Device() == nullptr) surface_.Allocate(surface_.Width(), surface_.Height());
   QPaintDevice* const device = surface_.Device();
   if (device == nullptr || !painter_.begin(device)) return;
   stroker_.Begin(ViewOf(device), device->devicePixelRatioF());

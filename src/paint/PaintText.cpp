@@ -86,9 +86,10 @@ const PaintFont* PaintFonts::Find(const TextStyle& style)
 {
   if (!PaintFont::IsPaintable(style.size)) return nullptr;
   if (!font_ || style.size != size_ || style.family != family_) {
-    font_.emplace(style);
+    font_.reset();  // none stands for a style that memory ended for
     family_ = style.family;
     size_ = style.size;
+    font_.emplace(style);
   }
   return &*font_;
 }

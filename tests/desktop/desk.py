@@ -14,7 +14,12 @@ from screen import Screen
 PATIENCE = 60        # seconds that anything may take on a slow machine
 TICK = 0.008         # seconds between two looks at what the desk does
 REST = 0.024         # seconds without any activity that make a rest; a repaint may wait for 5 ms
+SHORTEST_NAP = 0.0001  # seconds between the first looks at whether the desk sleeps
 DOUBLE_CLICK = 0.45  # seconds after which a second click is one of its own
+
+# Of what the system tells of a thread: its state, and how often it has left the processor.
+STATUS = re.compile(rb"^(?:State|(?:non)?voluntary_ctxt_switches):\t(\w+)", re.M)
+AWAKE = (b"R", b"D")  # states of a thread that runs, wants to, or waits for a disk
 
 # Fonts as the system has them, with a cache of the desk's own.
 FONTS = """<?xml version="1.0"?>
@@ -199,15 +204,30 @@ class Desk:
         for process in self.processes():
             if process.poll() is not None:
                 continue
-            for status in pathlib.Path(f"/proc/{process.pid}/task").glob("*/status"):
-                try:
-                    text = status.read_text()
-                except (FileNotFoundError, ProcessLookupError):
-                    return None  # a thread that just ended
-                if re.search(r"^State:\t[RD]", text, re.M):
-                    return None
-                runs[status] = re.findall(r"ctxt_switches:\t(\d+)", text)
+            threads = f"/proc/{process.pid}/task"
+            try:
+                for thread in os.listdir(threads):
+                    with open(f"{threads}/{thread}/status", "rb") as status:
+                        state, *switches = STATUS.findall(status.read())
+                    if state in AWAKE:
+                        return None
+                    runs[thread] = switches
+            except (FileNotFoundError, ProcessLookupError):
+                return None  # a thread that just ended
         return runs
+
+    def sleep(self):
+        """Waits until the display and the program sleep at one moment: each thread does so at two looks, and has
+        not run from one to the other. Whoever sleeps wakes nobody, so nothing happens from then on until
+        something is sent or a timer ends."""
+        deadline, nap = time.monotonic() + PATIENCE, SHORTEST_NAP
+        while time.monotonic() < deadline:
+            before = self._activity()
+            if before is not None and before == self._activity():
+                return
+            time.sleep(nap)
+            nap = min(2 * nap, TICK)
+        raise AssertionError("the desk does not come to sleep")
 
     def rest(self, length=REST):
         """Waits until what was sent has been dealt with: the display, the window manager and the program

@@ -26,6 +26,7 @@ class Hands:
         self._atoms = x11.Atoms(self._x)
         self._keys = {}
         self._windows = []  # those that are shown; the last one was given the keys
+        self._popups = []   # those that are shown without having asked for it
         self._new = []      # those since a window was last waited for
         self.lives = lambda: True  # whether the program that answers are waited for still runs
 
@@ -75,14 +76,8 @@ class Hands:
     # Answers.
 
     def answered(self, window):
-        """Waits until the program has dealt with everything that was sent: windows that it opened for it are
-        shown, and the last one has the keys."""
-        for _ in range(2):
-            # The first answer comes when an event is read, the second one when it has been dealt with.
-            self._ping(window)
-            self._ping(window)
-
-    def _ping(self, window):
+        """Waits for an answer of a window's program. It answers as it reads: all that was sent before has been read
+        then, but need not have been dealt with."""
         kind, ping, number = self._atoms["WM_PROTOCOLS"], self._atoms["_NET_WM_PING"], self._x.next_number()
         self._x.send(window, x11.client_message(window, kind, (ping, number, window)))
         self.wait(lambda event: event.is_message(kind, self._x.root) and event.data(1) == number)
@@ -91,9 +86,7 @@ class Hands:
         """Waits for an event, and deals with all before it as a window manager."""
         deadline = time.monotonic() + patience
         while True:
-            while self._x.pending():
-                event = self._x.next_event()
-                self._manage(event)
+            for event in self._events():
                 if wanted(event):
                     return
             if not select.select([self._x.descriptor], [], [], LOOK)[0]:
@@ -102,7 +95,18 @@ class Hands:
                 if time.monotonic() > deadline:
                     raise NoAnswer("the program does not answer")
 
+    def _events(self):
+        """The events that have come, each of which has been dealt with."""
+        while self._x.pending():
+            event = self._x.next_event()
+            self._manage(event)
+            yield event
+
     # Windows.
+
+    def manage(self):
+        """Does what there is to do for a window manager; whether there was anything."""
+        return sum(1 for _ in self._events()) > 0
 
     def _manage(self, event):
         """What a window manager does about an event."""
@@ -114,7 +118,16 @@ class Hands:
             self.focus(window)
         elif event.type == x11.CONFIGURE_REQUEST:
             self._x.grant(event.wish)
-        elif event.type in (x11.UNMAPPED, x11.DESTROYED) and window in self._windows:
+        elif event.type == x11.MAPPED and event.mapped.unmanaged:
+            self._popups.append(window)
+        elif event.type in (x11.UNMAPPED, x11.DESTROYED):
+            self._gone(window)
+
+    def _gone(self, window):
+        """The last window that is left has the keys."""
+        if window in self._popups:
+            self._popups.remove(window)
+        if window in self._windows:
             self._windows.remove(window)
             if self._windows:
                 self.focus(self._windows[-1])
@@ -133,6 +146,10 @@ class Hands:
         """Asks a window to close, as a button of its frame would."""
         kind = self._atoms["WM_PROTOCOLS"]
         self._x.send(window, x11.client_message(window, kind, (self._atoms["WM_DELETE_WINDOW"], 0)))
+
+    def shows(self, window):
+        """Whether a window is shown."""
+        return window in self._windows
 
     def active(self):
         """The window that has the keys; a program may have given them to another one of its windows."""
@@ -159,11 +176,11 @@ class Hands:
         return found[-1]
 
     def menus(self):
-        """The menus and lists that are open; no window manager knows of them."""
-        types = {self._atoms[f"_NET_WM_WINDOW_TYPE_{kind}"]
-                 for kind in ("POPUP_MENU", "DROPDOWN_MENU", "MENU", "COMBO")}
-        return [window for window in self._x.popups() if types.intersection(
-            self._x.number_properties(window, self._atoms["_NET_WM_WINDOW_TYPE"]))]
+        """The menus and lists that are open; no window manager knows of them. That they are no tips is all that is
+        sure of their type: the toolkit calls some menus normal windows, and others in another run."""
+        tip = self._atoms["_NET_WM_WINDOW_TYPE_TOOLTIP"]
+        return [window for window in self._popups
+                if tip not in self._x.number_properties(window, self._atoms["_NET_WM_WINDOW_TYPE"])]
 
     def place(self, window):
         """A window's place on the screen and its size, as (left, top, width, height); None where it has gone."""

@@ -7,8 +7,8 @@ from hands import LEFT, RIGHT, WHEEL_DOWN, WHEEL_UP
 from monkey_player import CHECKPOINT, HEIGHT, WIDTH
 
 APART = 20          # pixels between two clicks, which otherwise would be a double click if the program is fast
-ANIMATED = 0.2      # seconds that a button takes which is pressed by its letter
-DOCKED = 0.5        # seconds that a toolbar takes to find its place
+ANIMATED = 0.15     # seconds; a button that is pressed by its letter takes 0.1
+DOCKED = 0.3        # seconds; a toolbar takes 0.2 to find its place
 FILE_DIALOGS = ("Open Design", "Save Design As", "Import DXF File")
 LISTS = ("Switch Units", "Customize Toolbars")  # there typing is a search, which begins anew after a while
 BESIDES = ("Guide", "Object View")  # windows that leave the main one free
@@ -165,21 +165,20 @@ class Monkey:
         yield ["key", self._any(("Return", "Return", "Escape"))]
 
     def _answer(self):
-        yield ["key", self._any(("Return", "Escape", "Tab", "alt+y", "alt+n", "alt+n", "space"))]
-        yield ["pause", ANIMATED]
+        key = self._any(("Return", "Escape", "Tab", "alt+y", "alt+n", "alt+n", "space"))
+        yield ["key", key]
+        if key.startswith("alt+"):
+            yield ["pause", ANIMATED]
 
     def _name(self, title):
         """Names a file, or gives up. With a whole path, the dialog may choose a folder instead for a slow disk."""
-        yield ["rest"]
         if self._chance(3):
             yield ["key", "Escape"]
         else:
             names = {"Open Design": DESIGNS, "Save Design As": TARGETS, "Import DXF File": DRAWINGS}[title]
             yield ["key", "ctrl+a"]
             yield ["type", self._any(names)]
-            yield ["rest"]
             yield ["key", "Return"]
-        yield ["rest"]
 
     def _beside(self, title):
         yield ["key", self._any(SCROLLS)]
@@ -210,7 +209,7 @@ class Monkey:
             return [["start"]]
         if title in BESIDES and not menu:
             return list(self._leave(title))
-        return [["key", "Escape"], ["rest"]]
+        return [["key", "Escape"]]
 
     def save(self):
         """Saves the design under the name of the checkpoint, from the main window."""
@@ -218,14 +217,10 @@ class Monkey:
         yield ["forget"]
         yield ["key", "alt+f"]
         yield ["key", "a"]
-        yield ["rest"]
         yield ["key", "ctrl+a"]
         yield ["type", CHECKPOINT]
-        yield ["rest"]
         yield ["key", "Return"]
-        yield ["rest"]
 
     def begin(self):
         """Begins a new design, from the main window; the one of before has just been saved."""
         yield ["key", "ctrl+n"]
-        yield ["rest"]

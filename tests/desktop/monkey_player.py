@@ -104,9 +104,11 @@ class Player:
     def _look(self):
         hands = self.desk.hands
         window = hands.active()
-        title, place = hands.title(window), hands.place(window)
-        title = "main" if title.endswith(TITLE) else title
-        return [title, title != "main" and place is not None and place[3] <= LONGEST_BOX, bool(hands.menus())]
+        title = hands.title(window)
+        if title.endswith(TITLE):
+            return ["main", False, bool(hands.menus())]
+        place = hands.place(window)
+        return [title, place is not None and place[3] <= LONGEST_BOX, bool(hands.menus())]
 
     def see(self, *expected):
         """Fails where something else is seen than in the run that is played again."""
@@ -170,10 +172,6 @@ class Player:
     def do_focus(self):
         """Gives the main window the keys."""
         self.desk.hands.focus(self.desk.window)
-
-    def do_rest(self):
-        """Waits for the threads that look through folders."""
-        self.desk.rest()
 
     def do_pause(self, seconds):
         """Waits for a timer of the program."""

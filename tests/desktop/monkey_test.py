@@ -10,6 +10,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 from case import PROGRAM  # noqa: E402
+from desk import Desk  # noqa: E402
 
 MONKEY = pathlib.Path(__file__).parent / "monkey"
 
@@ -63,6 +64,34 @@ class MonkeyTest(unittest.TestCase):
         status, words = self.run_monkey("--events", 1000000, "--log", self.log, program=program)
         self.assertEqual(status, 1, words)
         self.assertIn("a heap in disorder", words)
+
+    def test_a_run_for_some_minutes_ends_with_a_whole_checkpoint(self):
+        status, words = self.run_monkey("--minutes", 0.001, "--checkpoint", 30, "--log", self.log)
+        self.assertEqual(status, 0, words)
+        self.assertIn("1 designs saved", words)
+        self.assertEqual(json.loads(self.log.read_text().splitlines()[-1]), ["close"])
+
+
+class SleepTest(unittest.TestCase):
+    """When the steps of a monkey are over."""
+
+    def test_a_desk_sleeps_when_no_thread_of_the_program_has_anything_left_to_do(self):
+        desk = Desk("100x100", managed=False)
+        self.addCleanup(desk.close)
+        done = desk.folder / "done"
+        # Work that goes from thread to thread, each of which only wakes the next one.
+        desk.launch(sys.executable, "-c", f"""
+import pathlib, threading, time
+def work(left):
+    sum(range(300000))
+    if left == 0:
+        pathlib.Path({str(done)!r}).touch()
+        time.sleep(60)
+    threading.Thread(target=work, args=[left - 1], daemon=True).start()
+    time.sleep(60)
+work(30)""")
+        desk.sleep()
+        self.assertTrue(done.exists(), desk.output())
 
 
 if __name__ == "__main__":

@@ -30,8 +30,15 @@ class QuickDesk(Desk):
         self.answered()
 
     def answered(self):
-        """Waits until the program has dealt with all events."""
+        """Waits until the program has dealt with all that was sent, answers, and has no more to do. The windows that
+        it opened for it are shown then, those that it closed have gone, and the last one has the keys. Where it
+        ends instead, waits for that."""
         self.hands.answered(self.window)
+        self.sleep()
+        while self.hands.manage():
+            self.sleep()
+        if not self.hands.shows(self.window):
+            self.hands.answered(self.window)
 
     def processor_time(self):
         """Seconds that the program has run on any processor so far."""

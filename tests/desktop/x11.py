@@ -4,9 +4,8 @@ import ctypes
 from ctypes import POINTER, byref, c_char, c_int, c_long, c_uint, c_ulong, c_void_p
 
 # Of the display's protocol.
-DESTROYED, UNMAPPED, MAP_REQUEST, CONFIGURE_REQUEST, CLIENT_MESSAGE = 17, 18, 20, 23, 33
+DESTROYED, UNMAPPED, MAPPED, MAP_REQUEST, CONFIGURE_REQUEST, CLIENT_MESSAGE = 17, 18, 19, 20, 23, 33
 SUBSTRUCTURE_NOTIFY, SUBSTRUCTURE_REDIRECT = 1 << 19, 1 << 20
-VIEWABLE = 2
 ABOVE = 0                # all other windows
 FALL_BACK_TO_ROOT = 1    # the keys, when the window that has them goes
 NUMBERS = 32             # a property of numbers
@@ -30,6 +29,11 @@ class AboutWindow(ctypes.Structure):
                 ("window", c_ulong)]
 
 
+class Mapped(ctypes.Structure):
+    """A window is shown; no window manager was asked for one that is unmanaged."""
+    _fields_ = [*AboutWindow._fields_, ("unmanaged", c_int)]
+
+
 class Changes(ctypes.Structure):
     """The place, size and height above others of a window."""
     _fields_ = [("x", c_int), ("y", c_int), ("width", c_int), ("height", c_int), ("border", c_int),
@@ -44,7 +48,7 @@ class ConfigureRequest(ctypes.Structure):
 
 class Event(ctypes.Union):
     """Any event of the display."""
-    _fields_ = [("type", c_int), ("message", Message), ("about", AboutWindow), ("wish", ConfigureRequest),
+    _fields_ = [("type", c_int), ("message", Message), ("about", AboutWindow), ("mapped", Mapped), ("wish", ConfigureRequest),
                 ("room", c_long * 24)]
 
     def is_message(self, kind, window):
@@ -227,17 +231,6 @@ class Library:
         attributes = Attributes()
         known = self._x.XGetWindowAttributes(self._display, c_ulong(window), byref(attributes))
         return attributes if known else None
-
-    def popups(self):
-        """The windows that are shown without the window manager."""
-        root, parent, children, count = c_ulong(), c_ulong(), POINTER(c_ulong)(), c_uint()
-        self._x.XQueryTree(self._display, c_ulong(self.root), byref(root), byref(parent), byref(children),
-                           byref(count))
-        windows = children[:count.value]
-        if windows:
-            self._x.XFree(children)
-        looks = ((window, self._attributes(window)) for window in windows)
-        return [window for window, look in looks if look and look.unmanaged and look.state == VIEWABLE]
 
     def place(self, window):
         """A window's place on the screen and its size; None where it has gone."""
