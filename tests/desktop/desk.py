@@ -14,7 +14,7 @@ from screen import Screen
 PATIENCE = 60        # seconds that anything may take on a slow machine
 TICK = 0.008         # seconds between two looks at what the desk does
 REST = 0.024         # seconds without any activity that make a rest; a repaint may wait for 5 ms
-SHORTEST_NAP = 0.0001  # seconds between the first looks at whether the desk sleeps
+NAPS = (0.0001, 0.002)  # seconds, least and most, between two looks at whether the desk sleeps
 DOUBLE_CLICK = 0.45  # seconds after which a second click is one of its own
 
 # Of what the system tells of a thread: its state, and how often it has left the processor.
@@ -220,13 +220,13 @@ class Desk:
         """Waits until the display and the program sleep at one moment: each thread does so at two looks, and has
         not run from one to the other. Whoever sleeps wakes nobody, so nothing happens from then on until
         something is sent or a timer ends."""
-        deadline, nap = time.monotonic() + PATIENCE, SHORTEST_NAP
+        deadline, nap = time.monotonic() + PATIENCE, NAPS[0]
         while time.monotonic() < deadline:
             before = self._activity()
             if before is not None and before == self._activity():
                 return
             time.sleep(nap)
-            nap = min(2 * nap, TICK)
+            nap = min(2 * nap, NAPS[1])
         raise AssertionError("the desk does not come to sleep")
 
     def rest(self, length=REST):
