@@ -6,10 +6,12 @@
 #include <vector>
 
 #include "base/Json.h"
+#include "base/Paths.h"
 #include "replay/driver/Names.h"
 #include "replay/driver/Player.h"
 #include "replay/driver/ScriptFile.h"
 #include "support/TempFolder.h"
+#include "system/ProgramStart.h"
 
 // hullwright-replay SCRIPT [--work DIR] [--full]: plays a script and prints what each step does;
 // --names: prints the names that scripts may have for numbers.
@@ -29,7 +31,7 @@ struct Options {
   bool names = false;
 };
 
-bool ReadOptions(std::span<char* const> words, Options& options)
+bool ReadOptions(std::span<const std::string> words, Options& options)
 {
   for (std::size_t i = 1; i < words.size(); ++i) {
     const std::string_view word = words[i];
@@ -97,7 +99,7 @@ void PrepareWork(const Json& header, ReplayEditor& editor)
     editor.settings.values[SettingOf(key)] = static_cast<std::int32_t>(IntegerOf(value));
   }
   for (const auto& [name, content] : MembersOf(Member(header, "files")).items()) {
-    const fs::path path = editor.work / name;
+    const fs::path path = editor.work / hullwright::PathOf(name);
     fs::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << BytesOf(content);
   }
@@ -128,7 +130,7 @@ void Play(const std::vector<Json>& lines, const fs::path& work, bool full)
   }
 }
 
-int Run(std::span<char* const> words)
+int Run(std::span<const std::string> words)
 {
   Options options;
   if (!ReadOptions(words, options)) {
@@ -139,9 +141,9 @@ int Run(std::span<char* const> words)
     PrintNames();
     return 0;
   }
-  const std::vector<Json> lines = ReadScript(options.script);
+  const std::vector<Json> lines = ReadScript(hullwright::PathOf(options.script));
   const test::TempFolder temporary;
-  const fs::path work = options.work.empty() ? temporary.Path() : fs::path(options.work);
+  const fs::path work = options.work.empty() ? temporary.Path() : hullwright::PathOf(options.work);
   fs::create_directories(work);
   Play(lines, work, options.full);
   return 0;
@@ -151,8 +153,9 @@ int Run(std::span<char* const> words)
 
 int main(int argc, char** argv)
 {
+  BeginProgram();
   try {
-    return Run({argv, static_cast<std::size_t>(argc)});
+    return Run(CommandWords(argc, argv));
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "hullwright-replay: %s\n", problem.what());
     return exitFailed;
