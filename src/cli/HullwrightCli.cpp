@@ -74,6 +74,7 @@ int main(int argc, char** argv)
   try {
     std::vector<std::string> words = CommandWords(argc, argv);
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     const int status = RunVerb(static_cast<int>(words.size()), arguments.data(), trouble);
