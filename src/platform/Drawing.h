@@ -115,9 +115,8 @@ struct FrameResult {
   std::optional<std::string> message;
 };
 
-/// The picture of one window, drawn frame by frame. Only a target whose steps were all done is
-/// drawn on; a call with a value that can't be drawn, such as a width that is no number, draws
-/// nothing.
+/// The picture of one window, drawn frame by frame, once all steps were done. A call with a value
+/// that can't be drawn, such as a width that is no number, draws nothing.
 class IDrawingTarget {
 public:
   virtual ~IDrawingTarget() = default;
@@ -128,13 +127,9 @@ public:
   /// Makes the picture anew at a client size.
   virtual void Resize(int width, int height) = 0;
 
-  /// What a stroke of this width must come near to be seen: a line whose points all lie beyond one
-  /// and the same edge of it paints nothing, and need not be drawn. Without it every line counts,
-  /// as for a target that keeps its calls.
-  virtual std::optional<PixelRect> SeenArea([[maybe_unused]] float strokeWidth) const
-  {
-    return std::nullopt;
-  }
+  /// What a stroke of a width must come near to be seen: a line wholly beyond one edge of it need
+  /// not be drawn. Without it every line counts.
+  virtual std::optional<PixelRect> SeenArea(float) const { return std::nullopt; }
 
   virtual void BeginFrame(const Colour& background) = 0;
   virtual FrameResult EndFrame() = 0;
