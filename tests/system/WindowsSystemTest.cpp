@@ -25,7 +25,7 @@ constexpr const char* oddName = "Schiff \xC3\x84rger \xE6\xB8\xAF \xF0\x9F\x9A\x
 
 class WindowsFolders : public testing::Test {
 protected:
-  WindowsFolders() { test::SetVariable("LOCALAPPDATA", "C:\\Users\\me\\AppData\\Local"); }
+  WindowsFolders() { test::SetVariable("LOCALAPPDATA", R"(C:\Users\me\AppData\Local)"); }
   ~WindowsFolders() override
   {
     test::SetVariable("LOCALAPPDATA", before_.c_str());
