@@ -49,7 +49,9 @@ public:
 private:
   // Slabs stand at multiples of their reach, so that a piece knows its own. They are a little
   // smaller: the heap puts a few bytes between them, and would leave gaps as large as a slab.
-  static constexpr std::size_t slabReach = std::size_t{1} << 16U;
+  // Twice the reach, which is what an aligned piece of the heap takes at first, stays below the
+  // 128 KiB from which the C library maps each piece of memory by itself, gaps included.
+  static constexpr std::size_t slabReach = std::size_t{1} << 15U;
   static constexpr std::size_t slabSize = slabReach - 64;
   static constexpr auto alignment = static_cast<std::align_val_t>(slabReach);
   static constexpr std::size_t wordBits = 64;
