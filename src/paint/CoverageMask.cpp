@@ -89,9 +89,18 @@ void CoverageMask::NameBlocksOnce()
 
 void CoverageMask::Add(const StrokeSegment& segment)
 {
-  if (ThinBand::Serves(segment.radius, full_) && AddThin(segment)) return;
+  const SegmentWay way(segment);
+  if (ThinBand::Serves(segment.radius, full_)) {
+    AddThin(segment, way);
+  } else {
+    AddAny(segment, way);
+  }
+}
+
+void CoverageMask::AddAny(const StrokeSegment& segment, const SegmentWay& way)
+{
   const bool isFlat = segment.flatFrom || segment.flatTo;
-  const SegmentBand band(segment, full_);
+  const SegmentBand band(segment, way, full_);
   const PixelArea area = band.Runs().reach.Within(area_);
   if (area.IsEmpty()) return;
   if (!isDense_) Reserve(area);
@@ -102,17 +111,88 @@ void CoverageMask::Add(const StrokeSegment& segment)
   }
 }
 
-bool CoverageMask::AddThin(const StrokeSegment& segment)
+// Inlined, so that the numbers of the band stay in registers.
+template <bool isFlat>
+inline __attribute__((always_inline)) void CoverageMask::AddPairs(ThinBand band, RowPair rows,
+                                                                  const PixelArea& area, int blocks)
 {
-  const ThinBand band(segment, full_);
-  const PixelArea area = band.Runs().reach.Within(area_);
+  const int lastX = std::max(area.Width() - blocks * blockSize, 0);
+  const auto pictureStride = static_cast<int>(picture_.stride);
+  int byte = (area.firstRow - area_.firstRow) * stride_ + area.firstX - area_.firstX;
+  int pixel = area.firstRow * pictureStride + area.firstX;
+  std::uint8_t* const bytes = bytes_.data();
+  const bool isDense = isDense_;
+  Block* next = blocks_.data() + count_;
+  int rowsLeft = area.Height();
+  while (true) {
+    const PairStart<Eight> start = band.StartOf(rows, lastX);
+    const int upper = byte + start.upperX;
+    const int lower = byte + start.lowerX + stride_;
+    const int upperPixel = pixel + start.upperX;
+    const int lowerPixel = pixel + start.lowerX + pictureStride;
+    // The picture is too large for the cache, and `Paint` comes soon.
+    __builtin_prefetch(picture_.pixels + upperPixel, 1);
+    __builtin_prefetch(picture_.pixels + lowerPixel, 1);
+    ThinBand::Distances distances{start.along, start.across};
+    for (int x = 0; x < blocks * blockSize; x += blockSize) {
+      band.Cover<isFlat>(distances).RaiseBytes(bytes + upper + x, bytes + lower + x);
+      band.Advance(distances);
+      if (isDense) continue;
+      *next++ = {static_cast<std::uint32_t>(upper + x), static_cast<std::uint32_t>(upperPixel + x)};
+      *next++ = {static_cast<std::uint32_t>(lower + x), static_cast<std::uint32_t>(lowerPixel + x)};
+    }
+    rowsLeft -= 2;
+    if (rowsLeft <= 0) break;
+    if (rowsLeft == 1) {  // the last row makes a pair with the one before
+      rows.MoveOne();
+      byte += stride_;
+      pixel += pictureStride;
+    } else {
+      rows.MoveTwo();
+      byte += 2 * stride_;
+      pixel += 2 * pictureStride;
+    }
+  }
+  count_ = static_cast<std::size_t>(next - blocks_.data());
+}
+
+void CoverageMask::AddThin(const StrokeSegment& segment, const SegmentWay& way)
+{
+  const float longer = std::max(std::abs(way.dx), std::abs(way.dy));
+  if (longer <= ThinBand::longest) {
+    if (!AddShort(segment, way)) AddAny(segment, way);
+    return;
+  }
+  // Where two parts meet, each covers a pixel as the whole does, or less.
+  const int parts = static_cast<int>(longer / ThinBand::longest) + 1;
+  const SegmentWay step = way.PartOf(parts);
+  const auto cut = [&segment, &step](int i) {
+    const auto steps = static_cast<float>(i);
+    return PixelPosition{segment.from.x + step.dx * steps, segment.from.y + step.dy * steps};
+  };
+  for (int i = 0; i < parts; ++i) {
+    const bool isFirst = i == 0;
+    const bool isLast = i + 1 == parts;
+    const StrokeSegment part{cut(i), isLast ? segment.to : cut(i + 1), segment.radius,
+                             isFirst && segment.flatFrom, isLast && segment.flatTo};
+    if (!AddShort(part, step)) AddAny(part, step);
+  }
+}
+
+bool CoverageMask::AddShort(const StrokeSegment& segment, const SegmentWay& way)
+{
+  const SegmentRuns runs(segment, way);
+  const PixelArea area = runs.reach.Within(area_);
   if (area.IsEmpty()) return true;
-  if (area.firstX + band.Runs().BlocksIn(area) * blockSize > picture_.width) return false;
+  const int blocks = runs.BlocksIn(area);
+  if (area.firstX + blocks * blockSize > picture_.width || area.Height() == 1) return false;
   if (!isDense_) Reserve(area);
+  const ThinBand band(segment, way, full_);
+  const RowPair rows = band.FirstOf(area, runs);
   if (segment.flatFrom || segment.flatTo) {
-    AddPairs<true>(band, area);
+    AddPairs<true>(band, rows, area, blocks);
   } else {
-    AddPairs<false>(band, area);
+    AddPairs<false>(band, rows, area, blocks);
   }
   return true;
 }
@@ -147,64 +227,6 @@ void CoverageMask::AddRows(const SegmentBand& theBand, const PixelArea& area, Co
       byte += blockSize;
       pixel += blockSize;
     }
-  }
-  count_ = static_cast<std::size_t>(next - blocks_.data());
-}
-
-/// Where a row of blocks lies that is being added.
-struct CoverageMask::Place {
-  int x;  ///< from the left edge of the area
-  std::int32_t byte;
-  std::int32_t pixel;
-
-  Place Right(int pixels) const { return {x + pixels, byte + pixels, pixel + pixels}; }
-
-  void Move(const Place& step) { *this = {x + step.x, byte + step.byte, pixel + step.pixel}; }
-
-  Block ToBlock() const
-  {
-    return {static_cast<std::uint32_t>(byte), static_cast<std::uint32_t>(pixel)};
-  }
-};
-
-template <bool isFlat>
-void CoverageMask::AddPairs(const ThinBand& band, const PixelArea& area)
-{
-  const int blocks = band.Runs().BlocksIn(area);
-  const std::int64_t lastX = std::max(area.Width() - blocks * blockSize, 0);
-  const auto pictureStride = static_cast<int>(picture_.stride);
-  Place edge{0, (area.firstRow - area_.firstRow) * stride_ + area.firstX - area_.firstX,
-             area.firstRow * pictureStride + area.firstX};
-  const auto rightOfEdge = [&edge, lastX](const ThinBand::Row& row) {
-    return edge.Right(static_cast<int>(std::clamp<std::int64_t>(row.begin >> 16U, 0, lastX)));
-  };
-  const Place down{0, stride_, pictureStride};
-  constexpr Place block{blockSize, blockSize, blockSize};
-  const bool isDense = isDense_;
-  std::uint8_t* const bytes = bytes_.data();
-  Block* next = blocks_.data() + count_;
-  ThinBand::Row upper = band.FirstOf(area);
-  for (int y = area.firstRow; y <= area.lastRow; y += 2) {
-    const bool isPair = y < area.lastRow;  // else the last row is added twice
-    const ThinBand::Row lower = isPair ? band.After(upper) : upper;
-    Place first = rightOfEdge(upper);
-    if (isPair) edge.Move(down);
-    Place second = rightOfEdge(lower);
-    edge.Move(down);
-    // The picture is too large for the cache, and `Paint` comes soon.
-    __builtin_prefetch(picture_.pixels + first.pixel, 1);
-    __builtin_prefetch(picture_.pixels + second.pixel, 1);
-    for (int left = blocks; left > 0; --left) {
-      const Eight covered = band.Cover<isFlat>(upper, first.x, lower, second.x);
-      covered.RaiseBytes(bytes + first.byte, bytes + second.byte);
-      if (!isDense) {
-        *next++ = first.ToBlock();
-        *next++ = second.ToBlock();
-      }
-      first.Move(block);
-      second.Move(block);
-    }
-    upper = band.After(lower);
   }
   count_ = static_cast<std::size_t>(next - blocks_.data());
 }

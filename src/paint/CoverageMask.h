@@ -36,12 +36,15 @@ private:
   void Reserve(const PixelArea& area);
   void NameBlocksOnce();
   void Forget();
-  struct Place;
 
-  /// Adds a thin segment, unless its blocks would reach out of the picture.
-  bool AddThin(const StrokeSegment& segment);
+  /// Adds a segment of any length whose stroke is thin.
+  void AddThin(const StrokeSegment& segment, const SegmentWay& way);
+  /// Adds a short one, unless its blocks would reach out of the picture.
+  bool AddShort(const StrokeSegment& segment, const SegmentWay& way);
+  /// Adds a segment of any kind.
+  void AddAny(const StrokeSegment& segment, const SegmentWay& way);
   template <bool isFlat>
-  void AddPairs(const ThinBand& band, const PixelArea& area);
+  void AddPairs(ThinBand band, RowPair rows, const PixelArea& area, int blocks);
   template <class Cover>
   void AddRows(const SegmentBand& band, const PixelArea& area, Cover cover);
 

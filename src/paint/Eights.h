@@ -13,7 +13,8 @@ namespace hullwright {
 /// Whole numbers of eight pixels, four in each of two rows, which stop at the ends of 16 bits.
 class PlainEight {
 public:
-  explicit PlainEight(int all) { lanes_.fill(Cut(all)); }
+  /// The same number, which fits 16 bits, for all.
+  explicit PlainEight(int all) { lanes_.fill(static_cast<std::int16_t>(all)); }
 
   /// The same number for each pixel of a row.
   PlainEight(int upper, int lower)
@@ -21,12 +22,12 @@ public:
     for (std::size_t i = 0; i < lanes_.size(); ++i) lanes_[i] = Cut(i < half ? upper : lower);
   }
 
-  /// 0, 1, 2, 3 times a number, in both rows.
+  /// 0, 1, 2, 3 times a number, in both rows. All fit 16 bits.
   static PlainEight Steps(int number)
   {
     PlainEight steps(0);
     for (std::size_t i = 0; i < steps.lanes_.size(); ++i) {
-      steps.lanes_[i] = Cut(static_cast<std::int64_t>(i % half) * number);
+      steps.lanes_[i] = static_cast<std::int16_t>(static_cast<int>(i % half) * number);
     }
     return steps;
   }
@@ -54,18 +55,18 @@ public:
     return With(*this, [part](int x, int) { return (x * static_cast<std::int64_t>(part)) >> 16U; });
   }
 
-  /// Numbers from 0 to 4095, times others of the same range, by 512.
+  /// Numbers from 0 to 1023, times others of the same range, by 32.
   PlainEight Product(const PlainEight& b) const
   {
-    return With(b, [](int x, int y) { return (x * y) >> 9U; });
+    return With(b, [](int x, int y) { return (x * y) >> 5U; });
   }
 
-  /// Raises the bytes of two rows to a sixteenth of these numbers, which are from 0 to 4080.
+  /// Raises the bytes of two rows to a quarter of these numbers, which are from 0 to 1020.
   void RaiseBytes(std::uint8_t* upper, std::uint8_t* lower) const
   {
     for (std::size_t i = 0; i < lanes_.size(); ++i) {
       std::uint8_t& byte = i < half ? upper[i] : lower[i - half];
-      byte = std::max(byte, static_cast<std::uint8_t>((lanes_[i] + 8) / 16));
+      byte = std::max(byte, static_cast<std::uint8_t>((lanes_[i] + 2) / 4));
     }
   }
 
@@ -94,11 +95,7 @@ private:
 /// The same with the instructions that each 64-bit PC has.
 class FastEight {
 public:
-  explicit FastEight(int all)
-  {
-    const __m128i cut = _mm_packs_epi32(_mm_cvtsi32_si128(all), _mm_setzero_si128());
-    lanes_ = _mm_shuffle_epi32(_mm_unpacklo_epi16(cut, cut), 0);
-  }
+  explicit FastEight(int all) : lanes_(_mm_set1_epi16(static_cast<std::int16_t>(all))) {}
   FastEight(int upper, int lower)
   {
     const __m128i two = _mm_unpacklo_epi32(_mm_cvtsi32_si128(upper), _mm_cvtsi32_si128(lower));
@@ -108,8 +105,8 @@ public:
   }
   static FastEight Steps(int number)
   {
-    const __m128i steps = _mm_setr_epi32(0, number, 2 * number, 3 * number);
-    return FastEight(_mm_packs_epi32(steps, steps));
+    const __m128i counts = _mm_setr_epi16(0, 1, 2, 3, 0, 1, 2, 3);
+    return FastEight(_mm_mullo_epi16(_mm_set1_epi16(static_cast<std::int16_t>(number)), counts));
   }
   FastEight operator+(FastEight b) const { return FastEight(_mm_adds_epi16(lanes_, b.lanes_)); }
   FastEight operator-(FastEight b) const { return FastEight(_mm_subs_epi16(lanes_, b.lanes_)); }
@@ -121,7 +118,7 @@ public:
   }
   FastEight Product(FastEight b) const
   {
-    return FastEight(_mm_mulhi_epu16(_mm_slli_epi16(lanes_, 4), _mm_slli_epi16(b.lanes_, 3)));
+    return FastEight(_mm_mulhi_epu16(_mm_slli_epi16(lanes_, 6), _mm_slli_epi16(b.lanes_, 5)));
   }
   void RaiseBytes(std::uint8_t* upper, std::uint8_t* lower) const
   {
@@ -130,7 +127,7 @@ public:
     std::memcpy(&first, upper, sizeof(first));
     std::memcpy(&last, lower, sizeof(last));
     const __m128i old = _mm_unpacklo_epi32(_mm_cvtsi32_si128(first), _mm_cvtsi32_si128(last));
-    const __m128i words = _mm_srli_epi16(_mm_add_epi16(lanes_, _mm_set1_epi16(8)), 4);
+    const __m128i words = _mm_srli_epi16(_mm_add_epi16(lanes_, _mm_set1_epi16(2)), 2);
     const __m128i raised = _mm_max_epu8(old, _mm_packus_epi16(words, words));
     first = _mm_cvtsi128_si32(raised);
     last = _mm_cvtsi128_si32(_mm_srli_epi64(raised, 32));
@@ -138,8 +135,9 @@ public:
     std::memcpy(lower, &last, sizeof(last));
   }
 
-private:
   explicit FastEight(__m128i lanes) : lanes_(lanes) {}
+
+private:
   __m128i lanes_;
 };
 using Eight = FastEight;

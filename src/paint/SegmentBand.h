@@ -11,10 +11,7 @@ namespace hullwright {
 /// that. Distances are kept in such parts of a pixel that a ramp rises by one for one.
 class SegmentBand {
 public:
-  SegmentBand(const StrokeSegment& segment, float full)
-      : SegmentBand(segment, SegmentWay(segment), full)
-  {
-  }
+  SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full);
 
   /// Which pixels can be covered.
   const SegmentRuns& Runs() const { return runs_; }
@@ -48,8 +45,6 @@ public:
   Four CoverFlat(const Distances& distances) const;
 
 private:
-  SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full);
-
   Four CoverAt(Four distance) const
   {
     const Four outer = (outerLimit_ - distance).Max(none_).Min(half_);

@@ -42,6 +42,17 @@ struct SegmentWay {
     return outside < sliver ? 1.0F : 1.0F - outside * outside / (larger * smaller);
   }
 
+  /// The way of one of so many equal parts.
+  SegmentWay PartOf(int count) const
+  {
+    SegmentWay part = *this;
+    const float share = 1.0F / static_cast<float>(count);
+    part.dx *= share;
+    part.dy *= share;
+    part.length *= share;
+    return part;
+  }
+
   float dx;
   float dy;
   float length;
@@ -55,7 +66,7 @@ struct SegmentWay {
 struct SegmentRuns {
   SegmentRuns(const StrokeSegment& segment, const SegmentWay& way)
   {
-    constexpr int worthwhile = 8;
+    constexpr int worthwhile = 5;
     constexpr float level = 0.001F;
     const float limit = way.LimitOf(segment.radius);
     // Truncated, so that one more may count; of those left of the picture, only that they are.
@@ -75,23 +86,23 @@ struct SegmentRuns {
   /// Blocks of four pixels in each row of an area.
   int BlocksIn(const PixelArea& area) const
   {
-    constexpr int block = 4;
-    const float most = std::min(run, static_cast<float>(area.Width()));
-    return (static_cast<int>(most) + block - 1) / block;
+    constexpr unsigned block = 4;
+    const auto most = static_cast<unsigned>(std::min(run, area.Width()));
+    return static_cast<int>((most + block - 1) / block);
   }
 
   PixelArea reach;
   float begin = -1.0F;  ///< in the row of the start
   float fromY = 0.0F;
   float slant = 0.0F;  ///< change from one row to the next
-  float run = 1e9F;    ///< pixels of a row at most
+  int run = 1 << 30;   ///< pixels of a row at most
 
 private:
   void Narrow(const StrokeSegment& segment, const SegmentWay& way, float limit)
   {
     const float perRow = 1.0F / way.dy;
     const float half = limit * way.length * std::abs(perRow);
-    run = 2.0F * half + 1.0F;
+    run = static_cast<int>(2.0F * half) + 1;
     slant = way.dx * perRow;
     begin = segment.from.x - half + 0.5F;
   }

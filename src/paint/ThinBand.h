@@ -1,15 +1,13 @@
 #pragma once
 
-#include <cstdint>
-
-#include "paint/Eights.h"
+#include "paint/RowPair.h"
 #include "paint/SegmentRuns.h"
 
 namespace hullwright {
 
-/// What a thin stroke covers of pixels, as `SegmentBand` has it, in sixteenths and in whole
-/// numbers: two rows at a time. In place of half discs the ends have halves of a polygon of sixteen
-/// corners, from which thin strokes can't be told.
+/// What a thin stroke covers of pixels, as `SegmentBand` has it, in quarters and in whole numbers:
+/// two rows at a time. In place of half discs the ends have halves of a polygon of sixteen corners,
+/// from which thin strokes can't be told.
 class ThinBand {
 public:
   /// Whether a stroke is thin enough, and not so pale that whole numbers would show.
@@ -20,67 +18,68 @@ public:
     return radius <= widest && full >= palest;
   }
 
-  ThinBand(const StrokeSegment& segment, float full) : ThinBand(segment, SegmentWay(segment), full)
-  {
-  }
+  /// Pixels across or down that a segment reaches at most: all distances fit the 16 bits of a lane.
+  static constexpr float longest = 26.0F;
 
-  /// Which pixels can be covered.
-  const SegmentRuns& Runs() const { return runs_; }
+  ThinBand(const StrokeSegment& segment, const SegmentWay& way, float full);
 
-  /// Places of a row, in parts of a pixel or of a distance too small to add up to anything.
-  struct Row {
-    std::int64_t begin;   ///< of its first pixel, from the left edge of the area
-    std::int64_t along;   ///< distance from the start of the segment, at that edge
-    std::int64_t across;  ///< distance from the line, there
+  /// The first two rows of an area.
+  RowPair FirstOf(const PixelArea& area, const SegmentRuns& runs) const;
+
+  /// Distances of four pixels in each of two rows, along the line and across it.
+  struct Distances {
+    Eight along;
+    Eight across;
   };
 
-  /// The first row of an area.
-  Row FirstOf(const PixelArea& area) const;
-
-  Row After(const Row& row) const
+  /// Where the pixels of two rows begin, up to `lastX` from the left edge of the area.
+  PairStart<Eight> StartOf(const RowPair& rows, int lastX) const
   {
-    return {row.begin + slant_, row.along + alongY_, row.across + alongX_};
+    PairStart<Eight> start = rows.Start(lastX, alongX_, -alongY_);
+    start.along = start.along + stepAlong_;
+    start.across = start.across + stepAcross_;
+    return start;
   }
 
-  /// Coverage of four pixels in each of two rows, so many pixels from the left edge of the area.
-  template <bool isFlat>
-  Eight Cover(const Row& upper, int upperX, const Row& lower, int lowerX) const
+  /// The next four pixels.
+  void Advance(Distances& distances) const
   {
-    const std::int64_t upperAlong = upper.along + upperX * alongX_;
-    const std::int64_t lowerAlong = lower.along + lowerX * alongX_;
-    const Eight across =
-        Eight(Whole(upper.across - upperX * alongY_), Whole(lower.across - lowerX * alongY_)) +
-        stepAcross_;
-    const Eight along = Eight(Whole(upperAlong), Whole(lowerAlong)) + stepAlong_;
-    const Eight left = Eight(Whole(length_ - upperAlong), Whole(length_ - lowerAlong)) - stepAlong_;
+    distances.along = distances.along + nextAlong_;
+    distances.across = distances.across + nextAcross_;
+  }
+
+  /// Coverage in quarters; `isFlat` where an end is flat.
+  template <bool isFlat>
+  Eight Cover(const Distances& distances) const
+  {
     const Eight none(0);
-    Eight inside = along.Min(left);
-    if constexpr (isFlat) {
-      inside = (flatFrom_ ? far_ : along).Min(flatTo_ ? far_ : left);
-    }
-    const Eight cover = CoverAt(Hypotenuse(across.Max(none - across), (none - inside).Max(none)));
-    if constexpr (!isFlat) return cover;
-    return CutOff(cover, flatFrom_ ? along : far_, flatTo_ ? left : far_);
+    const Eight across = distances.across.Max(none - distances.across);
+    const Eight before = none - distances.along;
+    const Eight behind = distances.along - length_;
+    if constexpr (!isFlat) return CoverAt(Hypotenuse(across, before.Max(behind).Max(none)));
+    const Eight far(-32767);
+    const Eight outside = (flatFrom_ ? far : before).Max(flatTo_ ? far : behind).Max(none);
+    const Eight cover = CoverAt(Hypotenuse(across, outside));
+    return CutOff(cover, flatFrom_ ? before : far, flatTo_ ? behind : far);
   }
 
 private:
-  ThinBand(const StrokeSegment& segment, const SegmentWay& way, float full);
-
-  static constexpr unsigned fractionBits = 16;
-  static constexpr int one = 1 << fractionBits;
-
-  static std::int64_t Fixed(float number)
+  static int Fixed(float number, int bits)
   {
-    return static_cast<std::int64_t>(number * static_cast<float>(one));
+    return static_cast<int>(number * static_cast<float>(1 << bits));
   }
 
-  /// Fits up to a distance of 700,000 pixels, many times that of any end of a segment.
-  static int Whole(std::int64_t fixed) { return static_cast<int>(fixed >> fractionBits); }
+  /// The nearest whole distance.
+  static int Rounded(int fixed)
+  {
+    constexpr int half = 1 << (BandRow::distanceBits - 1);
+    return (fixed + half) >> BandRow::distanceBits;
+  }
 
   /// Length of the longest side of a triangle, up to 2 % less: the largest of three planes.
   static Eight Hypotenuse(Eight a, Eight b)
   {
-    constexpr int cosine = 60547;  // of an eighth of half a turn, in parts of `one`
+    constexpr int cosine = 60547;  // of an eighth of half a turn, in parts of 65536
     constexpr int sine = 25080;
     constexpr int diagonal = 46341;
     const Eight longer = a.Max(b);
@@ -98,36 +97,89 @@ private:
   }
 
   /// Takes away what of a pixel's breadth lies beyond flat ends.
-  Eight CutOff(Eight cover, Eight along, Eight left) const
+  Eight CutOff(Eight cover, Eight before, Eight behind) const
   {
     const Eight breadth(pixel_);
     const Eight halfBreadth(pixel_ / 2);
-    const Eight before = (along + halfBreadth).Min(breadth);
-    const Eight behind = (left + halfBreadth).Min(breadth);
-    const Eight inside = (before + behind - breadth).Max(Eight(0));
+    const Eight afterStart = (halfBreadth - before).Min(breadth);
+    const Eight tillEnd = (halfBreadth - behind).Min(breadth);
+    const Eight inside = (afterStart + tillEnd - breadth).Max(Eight(0));
     return cover.Product(inside).Part(perPixel_).Min(cover);
   }
 
-  SegmentRuns runs_;
   PixelPosition from_;
   int pixel_;         ///< a pixel as a distance
-  int perPixel_ = 0;  ///< a pixel's distance is the whole, in parts of `one` of 512 times it
+  int perPixel_ = 0;  ///< a pixel's distance is the whole, in parts of 65536 of 32 times it
   float perPixelX_;   ///< change of the distance along the line from one pixel to the next
   float perPixelY_;
-  std::int64_t alongX_;  ///< the same in small parts
-  std::int64_t alongY_;
-  std::int64_t slant_;
-  std::int64_t length_;
+  int alongX_;  ///< the same in small parts
+  int alongY_;
   bool flatFrom_;
   bool flatTo_;
 
-  Eight far_{32767};
   Eight half_;        ///< what a ramp gives at most
   Eight outerLimit_;  ///< distance from the line at which a ramp begins
   Eight innerLimit_;
   Eight most_;
+  Eight length_;
   Eight stepAlong_;
   Eight stepAcross_;
+  Eight nextAlong_;
+  Eight nextAcross_;
 };
+
+inline ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, float full)
+    : from_(segment.from),
+      flatFrom_(segment.flatFrom),
+      flatTo_(segment.flatTo),
+      half_(0),
+      outerLimit_(0),
+      innerLimit_(0),
+      most_(0),
+      length_(0),
+      stepAlong_(0),
+      stepAcross_(0),
+      nextAlong_(0),
+      nextAcross_(0)
+{
+  constexpr float quarters = 4.0F;
+  constexpr int pixels = 4;
+  const float whole = full * quarters;
+  const float pixel = 0.5F * whole / way.larger;
+  constexpr float half = 0.5F;
+  const auto rounded = [](float number) { return Eight(static_cast<int>(number + half)); };
+  pixel_ = static_cast<int>(pixel);
+  if (flatFrom_ || flatTo_) {
+    constexpr float product = 65536.0F * 32.0F;
+    perPixel_ = static_cast<int>(product / static_cast<float>(pixel_)) + 1;
+  }
+  perPixelX_ = way.x * pixel;
+  perPixelY_ = way.y * pixel;
+  alongX_ = Fixed(perPixelX_, BandRow::distanceBits);
+  alongY_ = Fixed(perPixelY_, BandRow::distanceBits);
+  length_ = rounded(way.length * pixel);
+  const float edge = segment.radius * pixel + 0.25F * whole;
+  const float apart = 0.25F * way.smaller * pixel;
+  half_ = rounded(0.5F * whole);
+  outerLimit_ = rounded(edge + apart);
+  innerLimit_ = rounded(edge - apart);
+  most_ = rounded(whole * way.MostCovered(segment.radius));
+  stepAlong_ = Eight::Steps(Rounded(alongX_));
+  stepAcross_ = Eight::Steps(Rounded(-alongY_));
+  nextAlong_ = Eight(Rounded(pixels * alongX_));
+  nextAcross_ = Eight(Rounded(-pixels * alongY_));
+}
+
+inline RowPair ThinBand::FirstOf(const PixelArea& area, const SegmentRuns& runs) const
+{
+  const float y = static_cast<float>(area.firstRow) + 0.5F;
+  const auto left = static_cast<float>(area.firstX);
+  const float dx = left + 0.5F - from_.x;
+  const float dy = y - from_.y;
+  const BandRow first = {Fixed(runs.BeginOf(y) - left, BandRow::pixelBits),
+                         Fixed(dx * perPixelX_ + dy * perPixelY_, BandRow::distanceBits),
+                         Fixed(dy * perPixelX_ - dx * perPixelY_, BandRow::distanceBits)};
+  return {first, {Fixed(runs.slant, BandRow::pixelBits), alongY_, alongX_}};
+}
 
 }  // namespace hullwright

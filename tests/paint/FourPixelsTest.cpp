@@ -7,6 +7,7 @@
 #include "paint/Eights.h"
 #include "paint/Fours.h"
 #include "paint/PixelBlend.h"
+#include "paint/RowPair.h"
 
 // What is done to four pixels at once, with the machine's own instructions and without them.
 
@@ -50,12 +51,12 @@ template <class Lanes>
 std::array<Rows, 3> ReckonRows(int a, int b, int step)
 {
   const Lanes none(0);
-  const Lanes most(4080);
+  const Lanes most(1020);
   const Lanes x = Lanes(a, b) + Lanes::Steps(step);
   const Lanes size = x.Max(none - x);
   const Lanes product = size.Min(most).Product((Lanes(b, a) - x).Max(none).Min(most));
   return {Bytes8(x.Max(none).Min(most)), Bytes8((size.Part(46341) + size).Part(5000).Min(most)),
-          Bytes8(product.Part(7000))};
+          Bytes8(product.Part(2000))};
 }
 
 TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
@@ -74,10 +75,64 @@ TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
 TEST(EightPixels, SumsStopAtTheEndsOfTheirRange)
 {
   const Eight high = Eight(1000000, 30000) + Eight(30000);
-  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Max(Eight(0)))[0], 10);
-  EXPECT_EQ(Bytes8((high - Eight(32767 - 160)).Max(Eight(0)))[5], 10);
-  const Eight low = Eight(-1000000) - Eight(30000);
-  EXPECT_EQ(Bytes8(low + Eight(32767) + Eight(33))[0], 2);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 40)).Max(Eight(0)))[0], 10);
+  EXPECT_EQ(Bytes8((high - Eight(32767 - 40)).Max(Eight(0)))[5], 10);
+  const Eight low = Eight(-1000000, -30000) - Eight(30000);
+  EXPECT_EQ(Bytes8(low + Eight(32767) + Eight(9))[0], 2);
+}
+
+/// Where two rows begin after some moves, and the distances there, as far as bytes tell.
+template <class Pair>
+std::array<Rows, 3> ReckonStarts(const BandRow& first, const BandRow& change, int slope)
+{
+  Pair rows(first, change);
+  rows.MoveTwo();
+  rows.MoveOne();
+  const auto start = rows.Start(9, slope, -slope / 3);
+  using Lanes = decltype(start.along);
+  const Lanes none(0);
+  const Lanes most(1020);
+  const auto x = [](int number) { return static_cast<std::uint8_t>(number); };
+  return {Rows{x(start.upperX), x(start.lowerX)}, Bytes8(start.along.Max(none).Min(most)),
+          Bytes8((most - start.across).Max(none).Min(most))};
+}
+
+TEST(RowPairs, BeginAlikeOnEveryMachine)
+{
+  std::mt19937 random(6);
+  const auto number = [&random](int size) {
+    const std::uint64_t range = std::uint64_t{2} * static_cast<unsigned>(size);
+    return static_cast<int>(random() % range) - size;
+  };
+  for (int i = 0; i < 20000; ++i) {
+    const BandRow first = {number(20 << BandRow::pixelBits), number(1500 << BandRow::distanceBits),
+                           number(40000 << BandRow::distanceBits)};
+    const BandRow change = {number(3 << BandRow::pixelBits), number(700 << BandRow::distanceBits),
+                            number(700 << BandRow::distanceBits)};
+    const int slope = number(720 << BandRow::distanceBits);
+    ASSERT_EQ((ReckonStarts<RowPair>(first, change, slope)),
+              (ReckonStarts<PlainRowPair>(first, change, slope)))
+        << i;
+  }
+}
+
+TEST(RowPairs, BeginWhereTheyShouldAndGoOnByRows)
+{
+  constexpr int pixel = 1 << BandRow::pixelBits;
+  constexpr int distance = 1 << BandRow::distanceBits;
+  RowPair rows({2 * pixel, 40 * distance, 80 * distance}, {3 * pixel / 2, 4 * distance, 0});
+  rows.MoveOne();
+  const auto start = rows.Start(4, 8 * distance, 12 * distance);
+  EXPECT_EQ(start.upperX, 3);
+  EXPECT_EQ(start.lowerX, 4) << "no further than the last one";
+  Rows along = {};
+  start.along.RaiseBytes(along.data(), along.data() + 4);
+  EXPECT_EQ(along[0], (40 + 4 + 3 * 8) / 4);
+  EXPECT_EQ(along[4], (40 + 8 + 4 * 8) / 4);
+  Rows across = {};
+  start.across.RaiseBytes(across.data(), across.data() + 4);
+  EXPECT_EQ(across[3], (80 + 3 * 12) / 4);
+  EXPECT_EQ(across[7], (80 + 4 * 12) / 4);
 }
 
 TEST(FourPixels, BytesAreRaisedNeverLowered)
