@@ -24,11 +24,11 @@ union SlabsOf {
 template <class T>
 inline constinit SlabsOf<T> slabsOf;
 
-/// Room for one object. The address sanitizer watches single allocations and gets those.
+/// Room for one object. The address sanitizer and valgrind watch single allocations and get those.
 template <class T>
 void* TakePlace()
 {
-#ifdef HULLWRIGHT_SANITIZE
+#ifdef HULLWRIGHT_SINGLE_ALLOCATIONS
   return ::operator new(sizeof(T));
 #else
   return slabsOf<T>.pool.Take();
@@ -39,7 +39,7 @@ void* TakePlace()
 template <class T>
 void GiveBackPlace(void* place)
 {
-#ifdef HULLWRIGHT_SANITIZE
+#ifdef HULLWRIGHT_SINGLE_ALLOCATIONS
   ::operator delete(place);
 #else
   slabsOf<T>.pool.GiveBack(place);
