@@ -90,6 +90,35 @@ bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
 // A processor that computes in more than double precision would round a quotient twice.
 static_assert(FLT_EVAL_METHOD == 0);
 
+/// Appends the digits at `at` to a number, which wraps where there are too many; the end of them.
+const char* TakeDigits(const char* at, const char* end, std::uint64_t& number)
+{
+  for (; at != end; ++at) {
+    const auto digit = static_cast<unsigned char>(*at - '0');
+    if (digit > 9) break;
+    number = number * 10 + digit;
+  }
+  return at;
+}
+
+/// The same, four at a time.
+const char* TakeManyDigits(const char* at, const char* end, std::uint64_t& number)
+{
+  // Each byte becomes the value of its digit, or more than 9, which reaches the top bit below. Then
+  // the first and the third byte become the values of two digits.
+  std::uint32_t four = 0;
+  if constexpr (std::endian::native == std::endian::little) {
+    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(four)); at += sizeof(four)) {
+      std::memcpy(&four, at, sizeof(four));
+      four ^= 0x30303030U;
+      if ((((four + 0x76767676U) | four) & 0x80808080U) != 0) break;
+      four = four * 10 + (four >> 8U);
+      number = number * 10000 + (four & 0xFFU) * 100 + ((four >> 16U) & 0xFFU);
+    }
+  }
+  return TakeDigits(at, end, number);
+}
+
 /// The number that the text begins with, if it is a decimal of few digits: an integer below 2^53
 /// over a power of ten, both without error, so that the one division rounds as the library does.
 /// Nothing for any other text, also for one with an exponent and for hexadecimal digits.
@@ -97,21 +126,17 @@ std::optional<double> ParseShortDecimal(std::string_view text)
 {
   constexpr std::ptrdiff_t mostDigits = 19;  // what 64 bits hold
   constexpr std::uint64_t mostInteger = std::uint64_t{1} << 53U;
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  const char* point = nullptr;
+  const char* const end = text.data() + text.size();
   std::uint64_t integer = 0;
-  for (; at != end; ++at) {
-    if (IsDigit(*at)) {
-      integer = integer * 10 + static_cast<std::uint64_t>(*at - '0');
-    } else if (*at == '.' && point == nullptr) {
-      point = at;
-    } else {
-      break;
-    }
+  const char* at = TakeDigits(text.data(), end, integer);
+  std::ptrdiff_t digits = at - text.data();
+  std::ptrdiff_t decimals = 0;
+  if (at != end && *at == '.') {
+    const char* const first = at + 1;
+    at = TakeManyDigits(first, end, integer);
+    decimals = at - first;
+    digits += decimals;
   }
-  const std::ptrdiff_t decimals = point == nullptr ? 0 : at - point - 1;
-  const std::ptrdiff_t digits = at - text.data() - (point == nullptr ? 0 : 1);
   if (digits == 0 || digits > mostDigits || integer > mostInteger) return std::nullopt;
   if (at != end && (Lower(*at) == 'e' || Lower(*at) == 'x')) return std::nullopt;
   static constexpr std::array<double, mostDigits + 1> powersOfTen = {
@@ -131,7 +156,8 @@ std::string_view WithoutTwiceSignedExponent(std::string_view text)
 }
 
 /// The number that the text begins with; nothing where there is none, so that no sign is put to it.
-std::optional<double> ParseMagnitude(std::string_view text)
+/// Rarely needed, and no part of its caller, which would save registers for it at each number.
+[[gnu::noinline]] std::optional<double> ParseMagnitude(std::string_view text)
 {
   const bool hex =
       HasHexPrefix(text) &&
@@ -180,7 +206,7 @@ bool ScaleToThousandths(double value, std::uint64_t& thousandths)
   const int biased = static_cast<int>((bits >> mantissaBits) & 0x7FFU);
   const int shift = exponentBias - biased;
   if (shift < 1) return false;
-  if (biased == 0 || shift > 63) {
+  if (shift > 63) {
     thousandths = 0;
     return true;
   }
@@ -229,13 +255,19 @@ char* WriteThreeDigits(char* at, std::uint64_t number)
   return at + 3;
 }
 
-/// Writes an integer in three digits at a time, and up to three characters more; the end of it.
-char* WriteInteger(char* at, std::uint64_t number)
+/// Writes a number below 1000 and up to three characters more; the end of it.
+char* WriteUpToThreeDigits(char* at, std::uint64_t number)
 {
-  if (number >= 1000) return WriteThreeDigits(WriteInteger(at, number / 1000), number % 1000);
   const DigitTexts::Text& text = digitTexts.plain[number];
   std::memcpy(at, text.data(), text.size());
   return at + text.back();
+}
+
+/// Writes an integer in three digits at a time, and up to three characters more; the end of it.
+[[gnu::noinline]] char* WriteInteger(char* at, std::uint64_t number)
+{
+  if (number < 1000) return WriteUpToThreeDigits(at, number);
+  return WriteThreeDigits(WriteInteger(at, number / 1000), number % 1000);
 }
 
 }  // namespace
@@ -304,7 +336,9 @@ char* WriteFixed3(char* at, double value)
     return std::to_chars(at, at + longestFixed3, value, std::chars_format::fixed, 3).ptr;
   }
   *at = '-';
-  at = WriteInteger(at + (std::signbit(value) ? 1 : 0), thousandths / 1000);
+  at += std::signbit(value) ? 1 : 0;
+  const std::uint64_t whole = thousandths / 1000;
+  at = whole < 1000 ? WriteUpToThreeDigits(at, whole) : WriteInteger(at, whole);
   *at++ = '.';
   return WriteThreeDigits(at, thousandths % 1000);
 }

@@ -92,6 +92,14 @@ char32_t TakeUtf8(std::string_view bytes, std::size_t& at)
   return code;
 }
 
+/// Looks at each byte whatever stands before it, so that the compiler takes many at a time.
+bool IsAscii(std::string_view bytes)
+{
+  unsigned char all = 0;
+  for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+  return all < 0x80;
+}
+
 }  // namespace
 
 std::string Utf8FromWide(std::u16string_view text)
@@ -111,6 +119,7 @@ std::string Utf8FromWide(std::u16string_view text)
 
 std::u16string WideFromUtf8(std::string_view bytes)
 {
+  if (IsAscii(bytes)) return WideFromAscii(bytes);
   std::u16string out;
   out.reserve(bytes.size());
   for (std::size_t at = 0; at < bytes.size();) {

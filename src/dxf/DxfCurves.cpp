@@ -83,11 +83,12 @@ void AppendArc(CShapePolyline& line, const DxfPoint& centre, const Extrusion& to
   double b = endDegrees * radiansPerDegree;
   if (!clockwise && b - nearlyEqual < a) b += twoPi;
   if (clockwise && a < b + nearlyEqual) b -= twoPi;
-  const double step = clockwise ? (a - b) / steps : (b - a) / steps;
+  const double step = (b - a) / steps;
   // Clockwise the rounding of the steps decides whether one more vertex stands behind the end.
-  for (double t = a; clockwise ? t >= b - step : t <= b;) {
+  const double last = clockwise ? b + step : b;
+  for (double t = a; clockwise ? t >= last : t <= last;) {
     emit(t);
-    const double next = clockwise ? t - step : t + step;
+    const double next = t + step;
     if (next == t) break;  // too large an angle for a step this small
     t = next;
   }

@@ -72,19 +72,10 @@ void DxfLines::ReportProgress(IProgress& progress)
 
 std::string_view Trimmed(std::string_view line)
 {
-  constexpr std::string_view blanks = " \t\r";
-  const std::size_t first = line.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return line.substr(first, line.find_last_not_of(blanks) + 1 - first);
-}
-
-bool Contains(std::string_view line, std::string_view word)
-{
-  // Lines are so short that the calls of a library's search would cost more than this.
-  for (; line.size() >= word.size(); line.remove_prefix(1)) {
-    if (line.front() == word.front() && line.starts_with(word)) return true;
-  }
-  return false;
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+  while (!line.empty() && isBlank(line.front())) line.remove_prefix(1);
+  while (!line.empty() && isBlank(line.back())) line.remove_suffix(1);
+  return line;
 }
 
 }  // namespace hullwright

@@ -90,7 +90,14 @@ private:
 std::string_view Trimmed(std::string_view line);
 
 /// Whether the line contains the word.
-bool Contains(std::string_view line, std::string_view word);
+inline bool Contains(std::string_view line, std::string_view word)
+{
+  // Lines are so short that the calls of a library's search would cost more than this.
+  for (; line.size() >= word.size(); line.remove_prefix(1)) {
+    if (line.front() == word.front() && line.starts_with(word)) return true;
+  }
+  return false;
+}
 
 // Every pair of a drawing passes through these, so they are made part of each reader.
 

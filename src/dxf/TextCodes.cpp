@@ -26,6 +26,23 @@ constexpr int HexValue(char16_t unit)
   return -1;
 }
 
+/// Whether a unit stands in a text. Looks at each, so that the compiler takes many at a time.
+bool Holds(Text text, char16_t unit)
+{
+  bool holds = false;
+  for (const char16_t other : text) holds |= other == unit;
+  return holds;
+}
+
+/// The first place of a unit from `at` on, or the length of the text. A search by the library looks
+/// at one unit at a time, and most texts hold few of those that codes are made of.
+std::size_t FindUnit(Text text, char16_t unit, std::size_t at)
+{
+  constexpr std::size_t block = 16;
+  while (text.size() - at >= block && !Holds(text.substr(at, block), unit)) at += block;
+  return std::min(text.find(unit, at), text.size());
+}
+
 bool IsAt(Text text, std::size_t at, char16_t unit) { return at < text.size() && text[at] == unit; }
 
 /// The end of the digits that begin at a place.
@@ -162,7 +179,7 @@ void DecodeCarets(std::u16string& text)
 {
   // A control character is neither a caret nor a letter, so nothing new comes to match.
   constexpr unsigned controlBit = 64;
-  std::size_t kept = std::min(text.find(u'^'), text.size());
+  std::size_t kept = FindUnit(text, u'^', 0);
   for (std::size_t at = kept; at < text.size(); ++at) {
     const bool code =
         text[at] == u'^' && at + 1 < text.size() && text[at + 1] >= u'A' && text[at + 1] <= u'Z';
@@ -174,7 +191,7 @@ void DecodeCarets(std::u16string& text)
 void DecodePercents(std::u16string& text)
 {
   // A code and its sign have nothing in common with another code, so one search serves for all.
-  std::size_t kept = std::min(text.find(u'%'), text.size());
+  std::size_t kept = FindUnit(text, u'%', 0);
   for (std::size_t at = kept; at < text.size(); ++at) {
     const bool code = text[at] == u'%' && IsAt(text, at + 1, u'%') && at + 2 < text.size();
     const char16_t sign = code ? SignOf(text[at + 2]) : u'\0';
@@ -189,8 +206,9 @@ void DecodePercents(std::u16string& text)
 BackslashCodes::BackslashCodes(std::u16string& text) : text_(text)
 {
   places_.reserve(static_cast<std::size_t>(std::ranges::count(text, backslash)));
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    if (text[at] == backslash) places_.push_back(at);
+  for (std::size_t at = FindUnit(text, backslash, 0); at < text.size();
+       at = FindUnit(text, backslash, at + 1)) {
+    places_.push_back(at);
   }
 }
 

@@ -10,10 +10,14 @@ char* CoordinateLine::Write(char* at, const CShapeVertex& place) const
     std::memcpy(at, piece.text.data(), piece.text.size());
     at += piece.length;
   };
-  for (std::size_t i = 0; i < coordinates.size(); ++i) {
+  const auto writeCoordinate = [&](std::size_t i) {
     write(before_[i]);
     at = WriteFixed3(at, place.*coordinates[i].member);
-  }
+  };
+  static_assert(coordinates.size() == 3);
+  writeCoordinate(0);
+  writeCoordinate(1);
+  writeCoordinate(2);
   write(end_);
   return at;
 }

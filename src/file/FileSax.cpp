@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <initializer_list>
 #include <limits>
 
 #include "base/Numbers.h"
@@ -19,17 +18,10 @@ namespace {
 constexpr std::size_t openMargin = 0x200;
 constexpr std::size_t elementMargin = 0x100;
 
-std::string Joined(std::initializer_list<std::string_view> parts)
-{
-  std::string text;
-  for (const std::string_view part : parts) text += part;
-  return text;
-}
-
 /// One attribute as it stands in a tag; the blank stays behind every value.
 std::string AttributeText(std::u16string_view name, std::u16string_view value)
 {
-  return Joined({Utf8FromWide(name), "=\"", Escape(value), "\" "});
+  return Utf8FromWide(name) + "=\"" + Escape(value) + "\" ";
 }
 
 }  // namespace
@@ -93,7 +85,7 @@ void CFileSax::WriteDeclaration()
 void CFileSax::OpenElement(std::string_view name)
 {
   if (!MakeRoom(openMargin)) return;
-  if (WriteLine(0, Joined({"<", name, ">\n"}))) ++indent;
+  if (WriteLine(0, {"<", name, ">\n"})) ++indent;
 }
 
 void CFileSax::OpenElement(std::string_view name, const AttributeMap& attributes)
@@ -102,20 +94,20 @@ void CFileSax::OpenElement(std::string_view name, const AttributeMap& attributes
   std::string text;
   for (const auto& [key, value] : attributes) text.insert(0, AttributeText(key, value));
   if (!MakeRoom(elementMargin + text.size())) return;
-  if (WriteLine(0, Joined({"<", name, " ", text, ">\n"}))) ++indent;
+  if (WriteLine(0, {"<", name, " ", text, ">\n"})) ++indent;
 }
 
 void CFileSax::CloseElement(std::string_view name)
 {
   if (!MakeRoom(elementMargin)) return;
   --indent;
-  if (!WriteLine(0, Joined({"</", name, ">\n"}))) ++indent;
+  if (!WriteLine(0, {"</", name, ">\n"})) ++indent;
 }
 
 void CFileSax::WriteTextElement(std::string_view name, std::u16string_view value)
 {
   const std::string text = Escape(value);
-  WriteLine(elementMargin + text.size(), Joined({"<", name, ">", text, "</", name, ">\n"}));
+  WriteLine(elementMargin + text.size(), {"<", name, ">", text, "</", name, ">\n"});
 }
 
 void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attributes,
@@ -124,12 +116,12 @@ void CFileSax::WriteEmptyElement(std::string_view name, const AttributeMap& attr
   std::string text;
   for (const auto& [key, value] : attributes) text += AttributeText(key, value);
   if (body.empty()) {
-    WriteEmptyElementLine(Joined({"<", name, " ", text, "/>\n"}), text.size());
+    WriteLine(elementMargin + text.size(), {"<", name, " ", text, "/>\n"});
     return;
   }
   const std::string content = Escape(body);
   WriteLine(elementMargin + text.size() + content.size(),
-            Joined({"<", name, " ", text, ">", content, "</", name, ">\n"}));
+            {"<", name, " ", text, ">", content, "</", name, ">\n"});
 }
 
 char* CFileSax::BeginEmptyElementLine(std::size_t longest)
@@ -147,19 +139,20 @@ char* CFileSax::BeginEmptyElementLine(std::size_t longest)
 
 void CFileSax::WriteEmptyElementLine(std::string_view line, std::size_t attributeLength)
 {
-  WriteLine(elementMargin + attributeLength, line);
+  WriteLine(elementMargin + attributeLength, {line});
 }
 
-bool CFileSax::WriteLine(std::size_t margin, std::string_view line)
+bool CFileSax::WriteLine(std::size_t margin, std::initializer_list<std::string_view> parts)
 {
   if (margin != 0 && !MakeRoom(margin)) return false;
   const auto blanks = static_cast<std::size_t>(std::max(indent, 0));
+  std::size_t length = blanks;
+  for (const std::string_view part : parts) length += part.size();
   // The margin covers what the format writes; deep nesting or a long name may need more.
-  if (outLength + blanks + line.size() > outCapacity && !GrowCapacity(blanks + line.size()))
-    return false;
+  if (outLength + length > outCapacity && !GrowCapacity(length)) return false;
   std::memset(outBuffer_.get() + outLength, ' ', blanks);
   outLength += static_cast<std::uint32_t>(blanks);
-  Append(line);
+  for (const std::string_view part : parts) Append(part);
   return true;
 }
 

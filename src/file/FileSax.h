@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
@@ -128,7 +129,10 @@ private:
   bool GrowCapacity(std::size_t margin);
   bool GrowBlock(std::size_t size);
   void Append(std::string_view text);
-  bool WriteLine(std::size_t margin, std::string_view line);
+
+  /// Writes an indented line of several parts; false where there is no memory for it. A margin of 0
+  /// is that of a caller who has made room.
+  bool WriteLine(std::size_t margin, std::initializer_list<std::string_view> parts);
 
   IMessageBoxes& messages_;
   std::unique_ptr<char, FreeBlock> outBuffer_;

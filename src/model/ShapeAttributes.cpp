@@ -14,10 +14,7 @@ CShapeAttributes& CShapeAttributes::AppendFrom(const CShapeAttributes& source)
 
 void CShapeAttributes::Append(std::u16string_view name, std::u16string value)
 {
-  auto pair = std::make_unique<ShapeAttribute>();
-  pair->name = name;
-  pair->value = std::move(value);
-  items.push_back(std::move(pair));
+  items.push_back(std::make_unique<ShapeAttribute>(std::u16string(name), std::move(value)));
 }
 
 }  // namespace hullwright

@@ -44,9 +44,11 @@ std::u16string CommonDataFolder(const DataFolderCandidates& candidates, CommonDa
   return WideFromUtf8(candidates.besideProgram);
 }
 
-std::u16string FindCommonDataFolder(CommonData what)
+std::function<std::u16string(CommonData)> CommonDataFinder()
 {
-  return CommonDataFolder(FindDataFolderCandidates(), what);
+  return [candidates = FindDataFolderCandidates()](CommonData what) {
+    return CommonDataFolder(candidates, what);
+  };
 }
 
 }  // namespace hullwright

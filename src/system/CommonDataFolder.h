@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,7 +32,8 @@ DataFolderCandidates FindDataFolderCandidates();
 /// its own, so a user's folder made for the logs does not hide the database of the system.
 std::u16string CommonDataFolder(const DataFolderCandidates& candidates, CommonData what);
 
-/// The common data folder of this user and this program for one thing, as it is now.
-std::u16string FindCommonDataFolder(CommonData what);
+/// Finds the common data folder of this user and this program for one thing, as it is at each call.
+/// An import adds some ten records to the logs: the candidates themselves are found once.
+std::function<std::u16string(CommonData)> CommonDataFinder();
 
 }  // namespace hullwright

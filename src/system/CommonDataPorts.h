@@ -17,7 +17,7 @@ public:
   /// `folder` returns where each is to be found, at each use; a library that is missing is reported
   /// in `messages`.
   explicit CommonDataPorts(IMessageBoxes& messages,
-                           std::function<std::u16string(CommonData)> folder = FindCommonDataFolder)
+                           std::function<std::u16string(CommonData)> folder = CommonDataFinder())
       : folder_(std::move(folder)),
         units(libraries_, messages, [this] { return folder_(CommonData::UnitDatabase); }),
         log([this] { return folder_(CommonData::Logs); })

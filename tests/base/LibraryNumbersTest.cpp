@@ -99,6 +99,18 @@ TEST_F(LibraryNumbers, DecimalsOfAnyLengthAreReadToTheLastBit)
   }
 }
 
+TEST_F(LibraryNumbers, AnyCharacterAtAnyPlaceOfAFractionEndsItOrBelongsToIt)
+{
+  const std::string decimal = "-12.123456789";
+  for (std::size_t place = decimal.find('.') + 1; place < decimal.size(); ++place) {
+    for (int c = 0; c < 256; ++c) {
+      std::string text = decimal;
+      text[place] = static_cast<char>(c);
+      ExpectLibraryValue(text);
+    }
+  }
+}
+
 TEST_F(LibraryNumbers, ShortDecimalsReachAsFarAsIntegersAreExact)
 {
   for (const char* const text :

@@ -13,6 +13,19 @@ TEST(Utf8, TakesEveryWidthThereAndBack)
   EXPECT_EQ(WideFromUtf8(""), u"");
 }
 
+TEST(Utf8, TakesALetterAtAnyPlaceAmongOthers)
+{
+  for (std::size_t length = 0; length < 40; ++length) {
+    const std::string plain(length, 'a');
+    const std::u16string wide(length, u'a');
+    EXPECT_EQ(WideFromUtf8(plain), wide);
+    for (std::size_t place = 0; place <= length; ++place) {
+      EXPECT_EQ(WideFromUtf8(std::string(plain).insert(place, "\xC3\xA9")),
+                std::u16string(wide).insert(place, 1, u'\u00E9'));
+    }
+  }
+}
+
 TEST(Utf8, ALoneSurrogateBecomesTheReplacementCharacter)
 {
   EXPECT_EQ(Utf8FromWide(std::u16string(1, char16_t{0xD83D})), "\xEF\xBF\xBD");

@@ -104,6 +104,7 @@ TEST(TextCodes, PercentsBecomeSignsWithOrWithoutABackslash)
       {u"\\L50%%D %%p1 %%P2 %%c3 %%C4", u"50\u00B0 \u00B11 \u00B12 \u23003 \u23004"},
       {u"%%u %%o %%065 %d", u"%%u %%o %%065 %d"},
       {u"%%%d", u"%\u00B0"},
+      {u"turned by not quite a 180%%d, by 90%%d", u"turned by not quite a 180\u00B0, by 90\u00B0"},
       {u"%%%%cc", u"%%\u2300c"},
       {u"%%u%%d", u"%%u\u00B0"},
       {u"\\L%%\\U+0064", u"\u00B0"},
@@ -302,6 +303,8 @@ TEST(TextCodes, EachStepDoesWhatItsPatternSays)
   for (int round = 0; round < 4000; ++round) {
     std::u16string text;
     for (int left = length(random); left > 0; --left) text += pieces[pick(random)];
+    // Where no code stands, many units are passed over at a time.
+    if (round % 4 == 0) text.insert(text.size() / 2, pick(random), u'a');
     for (const Step& step : Steps()) {
       std::u16string byHand = text;
       std::u16string byEngine = text;
