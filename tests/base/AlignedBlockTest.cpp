@@ -32,6 +32,7 @@ TEST(AlignedBlock, StandsAtAMultipleOfItsAlignment)
 TEST(AlignedBlock, HasNoMoreThanTheBytesAskedFor)
 {
   void* const block = TakeAligned(size, alignment);
+  EXPECT_GE(test::BytesOf(block), size);
   EXPECT_LT(test::BytesOf(block), size + 32);
   GiveBackAligned(block);
 }
