@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <new>
 
+#include "base/AlignedBlock.h"
+
 namespace hullwright {
 
 /// Room for many small objects of one size, taken from large slabs: a piece costs little more than
@@ -53,7 +55,6 @@ private:
   // 128 KiB from which the C library maps each piece of memory by itself, gaps included.
   static constexpr std::size_t slabReach = std::size_t{1} << 15U;
   static constexpr std::size_t slabSize = slabReach - 64;
-  static constexpr auto alignment = static_cast<std::align_val_t>(slabReach);
   static constexpr std::size_t wordBits = 64;
 
   /// Begins each slab.
@@ -92,7 +93,7 @@ private:
 
   void AddSlab()
   {
-    auto* const bytes = static_cast<std::byte*>(::operator new(slabSize, alignment));
+    auto* const bytes = static_cast<std::byte*>(TakeAligned(slabSize, slabReach));
     new (bytes) Slab{nullptr, nullptr, piecesInSlab, {}};
     fresh_ = bytes + sizeof(Slab);
     freshEnd_ = fresh_ + piecesInSlab * PieceSize;
@@ -101,7 +102,7 @@ private:
   void Release(Slab* slab)
   {
     Unlink(slab);
-    ::operator delete(slab, alignment);
+    GiveBackAligned(slab);
   }
 
   void Link(Slab* slab)

@@ -89,6 +89,12 @@ bool HeadlessEditor::Save(std::u16string_view path)
   return false;
 }
 
+bool HeadlessEditor::SaveAndLetGo(std::u16string_view path)
+{
+  editor_.document.LetGoAtSave();
+  return Save(path);
+}
+
 Extents HeadlessEditor::SideBox() const
 {
   const CHullwrightApp& app = editor_.app;

@@ -47,6 +47,9 @@ public:
   /// Writes the design; false with the reason in `Problem`.
   bool Save(std::u16string_view path);
 
+  /// Likewise, for a design that nobody needs afterwards: its shapes are empty then.
+  bool SaveAndLetGo(std::u16string_view path);
+
   /// Brings a side into view at a client size, with all its shapes, and on the top side its devices
   /// and anchors if they are not removed, or with at least a stretch of the world.
   void ShowSide(ViewSide side, int width, int height);

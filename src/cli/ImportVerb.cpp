@@ -4,6 +4,7 @@
 
 #include "app/FiniteNumbers.h"
 #include "app/ImportText.h"
+#include "base/Pages.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"
 #include "cli/HeadlessEditor.h"
@@ -99,6 +100,7 @@ int PrintJson(const Options& options)
 
 int ImportAll(const Options& options)
 {
+  MapLargeBlocks();  // the text of a drawing, then that of the design
   TerminalProgress progress;
   HeadlessEditor editor(&progress);
   if (!options.into.empty()) {
@@ -119,13 +121,11 @@ int ImportAll(const Options& options)
   }
   OutputFile output(options.output);
   if (output.Path().empty()) return Fail(output.Problem());
-  if (!editor.Save(WideFromUtf8(output.Path()))) {
+  const std::u16string numbers = Describe(FindNonFiniteNumbers(editor.App()));
+  if (!editor.SaveAndLetGo(WideFromUtf8(output.Path()))) {
     return Fail(options.output + ": " + Utf8FromWide(editor.Problem()));
   }
-  if (const std::u16string numbers = Describe(FindNonFiniteNumbers(editor.App()));
-      !numbers.empty()) {
-    Remark(options.output, u"warning: " + numbers);
-  }
+  if (!numbers.empty()) Remark(options.output, u"warning: " + numbers);
   if (options.output != "-") FormerVersions(StateFolder()).Keep(WideFromUtf8(options.output));
   return output.Commit() ? status : Fail(output.Problem());
 }

@@ -2,17 +2,19 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "base/Numbers.h"
 
 namespace hullwright {
 
-DxfLines::DxfLines(std::string_view text)
+DxfLines::DxfLines(std::string_view text, std::function<void(std::size_t)> onRead)
     : text_(text),
       at_(text.data()),
       linesEnd_(text.data() + (text.rfind('\n') + 1)),
       unendedLength_(text.size() - (text.rfind('\n') + 1)),
-      hasNul_(text.find('\0') != std::string_view::npos)
+      hasNul_(text.find('\0') != std::string_view::npos),
+      onRead_(std::move(onRead))
 {
 }
 
@@ -63,6 +65,9 @@ void DxfLines::ReportProgress(IProgress& progress)
   const std::int32_t percent = TruncateToInt32(part * 100.0F);
   if (percent == lastPercent_) return;
   lastPercent_ = percent;
+  // Whether the line read last was a code is asked later.
+  const char* const needed = lastLine_.empty() ? at_ : lastLine_.data();
+  if (onRead_) onRead_(static_cast<std::size_t>(needed - text_.data()));
   try {
     progress.ShowProgress(percent);
   } catch (const std::bad_alloc&) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "dxf/DxfCode.h"
@@ -21,7 +22,8 @@ public:
   static constexpr std::size_t shortLine = 256;
   static constexpr std::size_t longLine = 512;
 
-  explicit DxfLines(std::string_view text);
+  /// `onRead` is called now and then with how much of the text is not looked at again.
+  explicit DxfLines(std::string_view text, std::function<void(std::size_t)> onRead = {});
 
   /// Reads the next line. False when the text ends before the line does, or when `maxChars` bytes
   /// came without an end: `line` is then what came, and the position behind it, inside the line.
@@ -55,7 +57,7 @@ public:
   bool IsAtEnd() const { return at_ == text_.data() + text_.size(); }
 
   /// Reports how far the reading is, once for each percent. A report that fails for want of memory
-  /// is not made.
+  /// is not made. Nobody may look at the lines of before any more.
   void ReportProgress(IProgress& progress);
 
 private:
@@ -83,6 +85,7 @@ private:
   bool hasNul_;
   std::string_view lastLine_;  ///< empty behind one that was cut short, and within a record
   std::int32_t lastPercent_ = 0;
+  std::function<void(std::size_t)> onRead_;
   std::array<char, longLine> joined_{};
 };
 

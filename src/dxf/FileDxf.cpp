@@ -96,7 +96,8 @@ int CFileDxf::ProcessFile()
   if (!targetLayer_->shapes || frame_ == nullptr || !frame_->HasWindow()) return -1;
   LogRecord(context_.log, TraceLevel::Progress, processingLog, {u"[DXF] Processing file..."});
   frame_->StartProgress("Loading and processing DXF file, please wait...");
-  DxfLines lines(text);
+  // Text and shapes would else stand in memory together.
+  DxfLines lines(text, [this](std::size_t read) { LetGoBefore(read); });
   ProcessSections(lines, context_, *targetLayer_->shapes, *frame_);
   frame_->EndProgress();
   return 0;

@@ -7,6 +7,7 @@
 #include <new>
 
 #include "base/OpenFile.h"
+#include "base/Pages.h"
 
 namespace hullwright {
 namespace {
@@ -37,6 +38,7 @@ int CFileBase::Load(std::u16string_view filePath)
 {
   path = filePath;
   loadError_ = 0;
+  letGo_ = 0;
   const FilePointer file = OpenToRead(filePath);
   if (!file || std::fseek(file.get(), 0, SEEK_END) != 0) return -1;
   const long length = std::ftell(file.get());
@@ -52,6 +54,14 @@ int CFileBase::Load(std::u16string_view filePath)
   size = static_cast<std::int64_t>(kept);
   position = 0;
   return 0;
+}
+
+void CFileBase::LetGoBefore(std::size_t place)
+{
+  constexpr std::size_t enough = std::size_t{1} << 20U;  // each time costs a call of the system
+  if (place < letGo_ + enough) return;
+  GiveBackPages({buffer.get() + letGo_, place - letGo_});
+  letGo_ = place;
 }
 
 }  // namespace hullwright

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -29,8 +30,14 @@ public:
   std::u16string path;
   std::unique_ptr<char[]> buffer;  ///< `size` bytes of text and a NUL
 
+protected:
+  /// Gives the memory of the text before a place back to the system, now and then: it may hold
+  /// anything from here on.
+  void LetGoBefore(std::size_t place);
+
 private:
   int loadError_ = 0;
+  std::size_t letGo_ = 0;  ///< bytes at the beginning
 };
 
 }  // namespace hullwright

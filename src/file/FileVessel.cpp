@@ -99,8 +99,9 @@ void CFileVessel::WritePart(const DesignElement& element, const OwnedArray<CShap
 void CFileVessel::WriteGroup(const DesignElement& element, const CShapes& group)
 {
   OpenElement(element.name, ValueAttribute(element, group));
-  Walk(group.cursor, group.shapes, [this](const CShape& shape) {
+  Walk(group.cursor, group.shapes, [this](CShape& shape) {
     if (shape.type == ShapeType::Polyline && !LostBlock()) WritePolyline(shape);
+    OnPassed(shape);
   });
   CloseElement(element.name);
 }

@@ -51,6 +51,10 @@ public:
   OwnedArray<CShapes>* groups = nullptr;  ///< set before reading
 
 protected:
+  /// Called behind each shape of a group, whether or not the text holds it: a class that saves a
+  /// design for the last time may empty it.
+  virtual void OnPassed(CShape&) {}
+
   /// The anchor being read; null outside any.
   const CAnchor* CurrentAnchor() const { return currentAnchor_.get(); }
 

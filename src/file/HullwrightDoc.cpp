@@ -6,6 +6,7 @@
 
 #include "base/ErrorText.h"
 #include "base/OpenFile.h"
+#include "base/Pages.h"
 #include "base/Text.h"
 #include "file/DesignElements.h"
 #include "file/FileVessel.h"
@@ -75,6 +76,30 @@ protected:
 
 private:
   std::size_t hash_ = 0;
+};
+
+/// Saves a design for the last time: what stands in the text goes from the design, and from memory.
+class LastFile : public CFileVessel {
+public:
+  using CFileVessel::CFileVessel;
+
+protected:
+  void OnPassed(CShape& shape) override
+  {
+    gone_ += shape.vertices.size();
+    OwnedArray<CShapeVertex>().swap(shape.vertices);
+    shape.attributes.reset();
+    shape.style.reset();
+    if (gone_ < enough_) return;
+    GiveBackFreed();
+    // Each time costs a walk over all that has gone, so the times become rarer: what has gone makes
+    // more than enough room for the text until the next time.
+    enough_ = gone_ + gone_ / 4;
+  }
+
+private:
+  std::size_t gone_ = 0;                        ///< vertices
+  std::size_t enough_ = std::size_t{1} << 15U;  ///< to look for what can be given back
 };
 
 /// The groups and anchors of a design, kept aside while it is empty. They go back into it unless
@@ -212,14 +237,18 @@ void CHullwrightDoc::FillFile(CFileVessel& file) const
 std::u16string CHullwrightDoc::Write(std::u16string_view path, IMessageBoxes& messages) const
 {
   try {
-    CFileVessel file(messages);
-    FillFile(file);
-    if (file.Save(path, design_.shapeGroups) == 0) return {};
-    return Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
+    return letsGoAtSave_ ? WriteAs(LastFile(messages), path) : WriteAs(CFileVessel(messages), path);
   } catch (const std::bad_alloc&) {
     // Nothing needs memory once the file is open.
     return Reason(ENOMEM, "");
   }
+}
+
+std::u16string CHullwrightDoc::WriteAs(CFileVessel&& file, std::u16string_view path) const
+{
+  FillFile(file);
+  if (file.Save(path, design_.shapeGroups) == 0) return {};
+  return Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
 }
 
 bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)

@@ -65,6 +65,10 @@ public:
   /// Called when a save has failed, before it is reported to the user: the target may be torn.
   std::function<void()> onSaveFailed;
 
+  /// Makes each save the last one of its design, whose shapes are emptied as the text
+  /// grows: large ones and their text would else stand in memory together.
+  void LetGoAtSave() { letsGoAtSave_ = true; }
+
   void SetModifiedFlag(bool modified) { modified_ = modified; }
   bool IsModified() const { return modified_; }
 
@@ -79,11 +83,13 @@ private:
 
   /// Saves the design; why that failed, empty when it did not.
   std::u16string Write(std::u16string_view path, IMessageBoxes& messages) const;
+  std::u16string WriteAs(CFileVessel&& file, std::u16string_view path) const;
 
   DesignState& design_;
   IMainWindow& mainWindow_;
   IMessageBoxes& messages_;
   bool modified_ = false;
+  bool letsGoAtSave_ = false;
   std::u16string saveProblem_;
   std::u16string openProblem_;
   ReadError openError_;

@@ -1,6 +1,7 @@
 #include "system/FormerVersions.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <fstream>
@@ -45,11 +46,22 @@ std::optional<std::string> ReadWhole(const fs::path& path)
   }
 }
 
-/// Whether a file holds these bytes. One of another size is not read.
+/// Whether a file holds these bytes. One of another size is not read, and none stands in memory
+/// whole.
 bool Holds(const fs::path& path, std::string_view bytes)
 {
   std::error_code failed;
-  return fs::file_size(path, failed) == bytes.size() && ReadWhole(path) == bytes;
+  if (!fs::is_regular_file(path, failed) || fs::file_size(path, failed) != bytes.size())
+    return false;
+  std::ifstream file(path, std::ios::binary);
+  std::array<char, 1U << 14U> part{};
+  while (file && !bytes.empty()) {
+    const std::size_t length = std::min(part.size(), bytes.size());
+    file.read(part.data(), static_cast<std::streamsize>(length));
+    if (!file || bytes.substr(0, length) != std::string_view(part.data(), length)) return false;
+    bytes.remove_prefix(length);
+  }
+  return bytes.empty() && file.is_open();
 }
 
 bool WriteWhole(const fs::path& path, std::string_view bytes)

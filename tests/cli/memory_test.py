@@ -5,11 +5,20 @@ import os
 import re
 import resource
 import subprocess
+import sys
 import unittest
 
 from cli import FOLDERS, PROGRAM, CliTest
 
 MIB = 1 << 20
+
+# Runs a program and prints its peak memory in KiB.
+MEASURE = """
+import os, sys
+_, status, used = os.wait4(os.posix_spawn(sys.argv[1], sys.argv[1:], os.environ), 0)
+print(used.ru_maxrss)
+sys.exit(os.waitstatus_to_exitcode(status))
+"""
 
 
 class MemoryTest(CliTest):
@@ -68,6 +77,25 @@ class MemoryTest(CliTest):
                 polylines = design.read_bytes().count(b"<polyline>")
                 self.assertEqual(polylines, 20000 - (int(left_out[1]) if left_out else 0))
         self.assertTrue({0, 1, 3} <= statuses, statuses)
+
+    def peak_of_import(self, drawing):
+        """Bytes of memory that an import takes at most. A process counts what the one that started it takes, so that is a
+        small one."""
+        done = subprocess.run([sys.executable, "-c", MEASURE, PROGRAM, "import", drawing, "-o", self.folder / "boat.xml"],
+                              capture_output=True, check=True,
+                              env={**os.environ, **FOLDERS, "XDG_STATE_HOME": str(self.folder / "state")})
+        return int(done.stdout) * 1024
+
+    def test_drawing_and_design_and_the_texts_of_both_do_not_stand_in_memory_together(self):
+        # A vertex takes 63 bytes, its lines in the drawing 28, and its line in the design 52.
+        vertices = [word for i in range(20) for word in (" 10", f"{i - 400}.{i}23456", " 20", f"{i + 300}.654321")]
+        entity = ("  0", "LWPOLYLINE", "  8", "HULL", *vertices)
+        small = self.peak_of_import(self.drawing("small.dxf", *entity))
+        drawing = self.drawing("big.dxf", *(entity * 15000))
+        for design in ("a new one", "over one", "over one with a former version"):
+            with self.subTest(design):
+                times = (self.peak_of_import(drawing) - small) / drawing.stat().st_size
+                self.assertLess(times, 3.0)
 
 
 if __name__ == "__main__":

@@ -46,6 +46,22 @@ TEST_F(Tallies, EntitiesOfTheSectionsAreCountedAndThoseOfBlocksAreNot)
   EXPECT_THAT(Ignored(), ElementsAre(Pair("HATCH", 1), Pair("OTHER", 2)));
 }
 
+TEST_F(Tallies, CountEveryEntityOfATextThatGoesWhileItIsRead)
+{
+  constexpr std::size_t lines = 100'000;
+  std::string records;
+  for (std::size_t i = 0; i < lines; ++i) {
+    records += Entity("LINE", {{10, std::to_string(i)}, {20, "1"}, {11, "2"}, {21, "3"}});
+  }
+  ASSERT_GT(records.size(), std::size_t{3'000'000});  // it goes a megabyte at a time
+  ImportEntities(records);
+  EXPECT_THAT(Tally().entities.ByKeyword(), ElementsAre(Pair("LINE", lines)));
+  ASSERT_EQ(ShapeCount(), lines);
+  for (std::size_t i = 0; i < lines; ++i) {
+    ASSERT_EQ(At(i).vertices.front()->x, static_cast<double>(i));
+  }
+}
+
 TEST_F(Tallies, HaveTheExtentsOfTheShapes)
 {
   ImportEntities(Entity("LINE", {{10, "1"}, {20, "-7"}, {11, "-2"}, {21, "3"}}) +

@@ -110,6 +110,35 @@ TEST(Lines, EndAtANul)
   EXPECT_EQ(line, "A");
 }
 
+TEST(Lines, TextIsGivenUpThatIsNotLookedAtAgain)
+{
+  class NoProgress : public IProgress {
+  public:
+    void ShowProgress(int) override {}
+    void StartProgress(std::string_view) override {}
+    void EndProgress() override {}
+  };
+  std::string text;
+  for (int i = 0; i < 1000; ++i) text += "0\nLINE\n10\n1.5\n";
+  std::size_t givenUp = 0;
+  DxfLines lines(text, [&](std::size_t read) {
+    EXPECT_GT(read, givenUp);
+    givenUp = read;
+    std::fill_n(text.begin(), read, '?');
+  });
+  NoProgress progress;
+  lines.SkipEntity();
+  for (int i = 0; i < 1000; ++i) {
+    EXPECT_TRUE(lines.IsAtKeyword());
+    std::string_view line;
+    EXPECT_TRUE(lines.GetLine(line, 256));
+    EXPECT_EQ(line, "LINE");
+    EXPECT_THAT(PairsOf(lines), ElementsAre(Pair(10, "1.5")));
+    lines.ReportProgress(progress);
+  }
+  EXPECT_EQ(givenUp, text.size());
+}
+
 TEST(Lines, AKeywordStandsBehindAZeroWithOrWithoutBlanks)
 {
   for (const auto& [text, isAtKeyword] : {std::pair{"0\n", true},

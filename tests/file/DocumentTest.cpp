@@ -5,6 +5,7 @@
 
 #include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
+#include "model/ShapePoint.h"
 #include "model/ShapePolyline.h"
 #include "support/Fakes.h"
 #include "support/System.h"
@@ -227,6 +228,27 @@ TEST_F(Document, SavingToAFullDiskIsReportedAndCountsAsSaved)
   EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
   EXPECT_THAT(window.list, ElementsAre("clean"));
+}
+
+TEST_F(Document, TheLastSaveIsASaveAndEmptiesTheShapes)
+{
+  ASSERT_TRUE(Open(good));
+  OwnedArray<CShape>& shapes = design.shapeGroups[0]->shapes;
+  shapes.push_back(std::make_unique<CShapePoint>());
+  for (int i = 0; i < 4; ++i) {
+    auto line = std::make_unique<CShapePolyline>();
+    for (int j = 0; j < 50'000; ++j) line->AddVertex(j, i, 0.5);
+    line->style = std::make_unique<ShapeStyle>();
+    shapes.push_back(std::move(line));
+  }
+  document.OnSaveDocument(folder.File("out.xml"));
+  EXPECT_EQ(shapes.back()->vertices.size(), 50'000U);
+  document.LetGoAtSave();
+  document.OnSaveDocument(folder.File("last.xml"));
+  EXPECT_TRUE(document.SavedWhole());
+  EXPECT_TRUE(folder.Read("last.xml") == folder.Read("out.xml"));
+  ASSERT_EQ(shapes.size(), 6U);
+  for (const auto& shape : shapes) EXPECT_TRUE(shape->vertices.empty() && !shape->style);
 }
 
 TEST_F(Document, ReportsWhetherASaveReachedTheDisk)

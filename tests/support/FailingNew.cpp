@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <new>
 
+#include "base/AlignedBlock.h"
 #include "support/System.h"
 
 namespace {
@@ -78,6 +79,18 @@ void operator delete[](void* place, std::align_val_t a, const std::nothrow_t&) n
 {
   Free(place, a);
 }
+
+// Stands in for the base room's own.
+namespace hullwright {
+
+void* TakeAligned(std::size_t size, std::size_t alignment)
+{
+  return AllocateOrThrow(size, alignment);
+}
+
+void GiveBackAligned(void* block) noexcept { test::FreeAligned(block); }
+
+}  // namespace hullwright
 
 namespace hullwright::test {
 

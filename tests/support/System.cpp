@@ -1,5 +1,6 @@
 #include "support/System.h"
 
+#include <malloc.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -40,6 +41,8 @@ void* AllocateAligned(std::size_t size, std::size_t alignment)
 }
 
 void FreeAligned(void* place) { std::free(place); }
+
+std::size_t BytesOf(void* block) { return malloc_usable_size(block); }
 
 bool MayRead(const std::filesystem::path& path) { return access(path.c_str(), R_OK) == 0; }
 

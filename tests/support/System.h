@@ -21,6 +21,9 @@ bool MakePipe(const std::filesystem::path& path);
 void* AllocateAligned(std::size_t size, std::size_t alignment);
 void FreeAligned(void* place);
 
+/// The bytes that the heap has given for a block, aligned or not; 0 where it does not tell.
+std::size_t BytesOf(void* block);
+
 /// Whether this user may read a file.
 bool MayRead(const std::filesystem::path& path);
 

@@ -101,6 +101,28 @@ TEST_F(Former, SavingAgainWithoutAChangeAddsNoCopy)
   EXPECT_THAT(Copies(), ElementsAre("same"));
 }
 
+TEST_F(Former, AChangeAnywhereInALargeFileAddsACopy)
+{
+  std::string text(100'000, 'x');
+  SaveOver("boat.xml", text);
+  SaveOver("boat.xml", text);
+  EXPECT_EQ(Copies().size(), 1U);
+  for (const std::size_t at : {text.size() - 1, std::size_t{50'000}, std::size_t{0}}) {
+    const std::size_t before = Copies().size();
+    text[at] = 'y';
+    SaveOver("boat.xml", text);
+    SaveOver("boat.xml", text);
+    EXPECT_EQ(Copies().size(), before + 1);
+    EXPECT_EQ(Copies().back(), text);
+  }
+}
+
+TEST_F(Former, AnEmptyFileIsKeptOnce)
+{
+  for (int i = 0; i < 3; ++i) SaveOver("boat.xml", "");
+  EXPECT_THAT(Copies(), ElementsAre(""));
+}
+
 TEST_F(Former, AFileReachedThroughALinkIsTheFileThatTheLinkNames)
 {
   SaveOver("boat.xml", "1");

@@ -26,6 +26,9 @@ void* AllocateAligned(std::size_t size, std::size_t alignment)
 
 void FreeAligned(void* place) { _aligned_free(place); }
 
+// Aligned blocks stand at the end of others, whose beginning is not known.
+std::size_t BytesOf(void*) { return 0; }
+
 bool MayRead(const std::filesystem::path& path)
 {
   constexpr int toRead = 4;
