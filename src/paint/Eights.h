@@ -13,6 +13,7 @@ namespace hullwright {
 /// Whole numbers of eight pixels, four in each of two rows, which stop at the ends of 16 bits.
 class PlainEight {
 public:
+  PlainEight() = default;
   /// The same number, which fits 16 bits, for all.
   explicit PlainEight(int all) { lanes_.fill(static_cast<std::int16_t>(all)); }
 
@@ -95,6 +96,7 @@ private:
 /// The same with the instructions that each 64-bit PC has.
 class FastEight {
 public:
+  FastEight() = default;
   explicit FastEight(int all) : lanes_(_mm_set1_epi16(static_cast<std::int16_t>(all))) {}
   FastEight(int upper, int lower)
   {
@@ -138,7 +140,7 @@ public:
   explicit FastEight(__m128i lanes) : lanes_(lanes) {}
 
 private:
-  __m128i lanes_;
+  __m128i lanes_ = {};
 };
 using Eight = FastEight;
 #else

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "paint/EdgeRamp.h"
 #include "paint/RowPair.h"
 #include "paint/SegmentRuns.h"
 
 namespace hullwright {
 
 /// What a thin stroke covers of pixels, as `SegmentBand` has it, in quarters and in whole numbers:
-/// two rows at a time. In place of half discs the ends have halves of a polygon of sixteen corners,
-/// from which thin strokes can't be told.
+/// two rows at a time.
 class ThinBand {
 public:
   /// Whether a stroke is thin enough, and not so pale that whole numbers would show.
@@ -56,10 +56,10 @@ public:
     const Eight across = distances.across.Max(none - distances.across);
     const Eight before = none - distances.along;
     const Eight behind = distances.along - length_;
-    if constexpr (!isFlat) return CoverAt(Hypotenuse(across, before.Max(behind).Max(none)));
+    if constexpr (!isFlat) return edge_.CoverAt(across, before.Max(behind).Max(none));
     const Eight far(-32767);
     const Eight outside = (flatFrom_ ? far : before).Max(flatTo_ ? far : behind).Max(none);
-    const Eight cover = CoverAt(Hypotenuse(across, outside));
+    const Eight cover = edge_.CoverAt(across, outside);
     return CutOff(cover, flatFrom_ ? before : far, flatTo_ ? behind : far);
   }
 
@@ -74,26 +74,6 @@ private:
   {
     constexpr int half = 1 << (BandRow::distanceBits - 1);
     return (fixed + half) >> BandRow::distanceBits;
-  }
-
-  /// Length of the longest side of a triangle, up to 2 % less: the largest of three planes.
-  static Eight Hypotenuse(Eight a, Eight b)
-  {
-    constexpr int cosine = 60547;  // of an eighth of half a turn, in parts of 65536
-    constexpr int sine = 25080;
-    constexpr int diagonal = 46341;
-    const Eight longer = a.Max(b);
-    const Eight shorter = a.Min(b);
-    const Eight between = longer.Part(cosine) + shorter.Part(sine);
-    return longer.Max(between).Max(longer.Part(diagonal) + shorter.Part(diagonal));
-  }
-
-  Eight CoverAt(Eight distance) const
-  {
-    const Eight none(0);
-    const Eight outer = (outerLimit_ - distance).Max(none).Min(half_);
-    const Eight inner = (innerLimit_ - distance).Max(none).Min(half_);
-    return (outer + inner).Min(most_);
   }
 
   /// Takes away what of a pixel's breadth lies beyond flat ends.
@@ -117,10 +97,7 @@ private:
   bool flatFrom_;
   bool flatTo_;
 
-  Eight half_;        ///< what a ramp gives at most
-  Eight outerLimit_;  ///< distance from the line at which a ramp begins
-  Eight innerLimit_;
-  Eight most_;
+  EdgeRamp edge_;
   Eight length_;
   Eight stepAlong_;
   Eight stepAcross_;
@@ -132,22 +109,11 @@ inline ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, f
     : from_(segment.from),
       flatFrom_(segment.flatFrom),
       flatTo_(segment.flatTo),
-      half_(0),
-      outerLimit_(0),
-      innerLimit_(0),
-      most_(0),
-      length_(0),
-      stepAlong_(0),
-      stepAcross_(0),
-      nextAlong_(0),
-      nextAcross_(0)
+      edge_(way, segment.radius, full)
 {
-  constexpr float quarters = 4.0F;
   constexpr int pixels = 4;
-  const float whole = full * quarters;
-  const float pixel = 0.5F * whole / way.larger;
   constexpr float half = 0.5F;
-  const auto rounded = [](float number) { return Eight(static_cast<int>(number + half)); };
+  const float pixel = EdgeRamp::PixelOf(way, full);
   pixel_ = static_cast<int>(pixel);
   if (flatFrom_ || flatTo_) {
     constexpr float product = 65536.0F * 32.0F;
@@ -157,13 +123,7 @@ inline ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, f
   perPixelY_ = way.y * pixel;
   alongX_ = Fixed(perPixelX_, BandRow::distanceBits);
   alongY_ = Fixed(perPixelY_, BandRow::distanceBits);
-  length_ = rounded(way.length * pixel);
-  const float edge = segment.radius * pixel + 0.25F * whole;
-  const float apart = 0.25F * way.smaller * pixel;
-  half_ = rounded(0.5F * whole);
-  outerLimit_ = rounded(edge + apart);
-  innerLimit_ = rounded(edge - apart);
-  most_ = rounded(whole * way.MostCovered(segment.radius));
+  length_ = Eight(static_cast<int>(way.length * pixel + half));
   stepAlong_ = Eight::Steps(Rounded(alongX_));
   stepAcross_ = Eight::Steps(Rounded(-alongY_));
   nextAlong_ = Eight(Rounded(pixels * alongX_));
