@@ -14,7 +14,8 @@ CShapeAttributes& CShapeAttributes::AppendFrom(const CShapeAttributes& source)
 
 void CShapeAttributes::Append(std::u16string_view name, std::u16string value)
 {
-  items.push_back(std::make_unique<ShapeAttribute>(std::u16string(name), std::move(value)));
+  ShapeAttribute item{std::u16string(name), std::move(value)};
+  items.push_back(std::make_unique<ShapeAttribute>(std::move(item)));
 }
 
 }  // namespace hullwright
