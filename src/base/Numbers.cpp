@@ -113,7 +113,7 @@ const char* TakeManyDigits(const char* at, const char* end, std::uint64_t& numbe
       four ^= 0x30303030U;
       if ((((four + 0x76767676U) | four) & 0x80808080U) != 0) break;
       four = four * 10 + (four >> 8U);
-      number = number * 10000 + (four & 0xFFU) * 100 + ((four >> 16U) & 0xFFU);
+      number = number * 10000 + std::uint64_t{four & 0xFFU} * 100 + ((four >> 16U) & 0xFFU);
     }
   }
   return TakeDigits(at, end, number);
