@@ -14,6 +14,7 @@ char* CoordinateLine::Write(char* at, const CShapeVertex& place) const
     write(before_[i]);
     at = WriteFixed3(at, place.*coordinates[i].member);
   };
+  // Not in a loop: where each member lies is then part of the code, and is not looked up.
   static_assert(coordinates.size() == 3);
   writeCoordinate(0);
   writeCoordinate(1);

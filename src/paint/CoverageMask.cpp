@@ -143,15 +143,12 @@ inline __attribute__((always_inline)) void CoverageMask::AddPairs(ThinBand band,
     }
     rowsLeft -= 2;
     if (rowsLeft <= 0) break;
-    if (rowsLeft == 1) {  // the last row makes a pair with the one before
-      rows.MoveOne();
-      byte += stride_;
-      pixel += pictureStride;
-    } else {
-      rows.MoveTwo();
-      byte += 2 * stride_;
-      pixel += 2 * pictureStride;
-    }
+    // A last row by itself makes a pair with the one before.
+    const int step = std::min(rowsLeft, 2);
+    rows.Move();
+    if (step == 2) rows.Move();
+    byte += step * stride_;
+    pixel += step * pictureStride;
   }
   count_ = static_cast<std::size_t>(next - blocks_.data());
 }

@@ -41,17 +41,10 @@ public:
   }
 
   /// Goes on by a row, so that the lower one becomes the upper one.
-  void MoveOne()
+  void Move()
   {
     upper_ = upper_ + change_;
     lower_ = lower_ + change_;
-  }
-
-  /// Goes on to the next two.
-  void MoveTwo()
-  {
-    MoveOne();
-    MoveOne();
   }
 
   /// The first pixels, which lie up to `lastX` from the edge. The distances change by `alongX` and
@@ -88,15 +81,10 @@ public:
         _mm_add_epi32(Twice(upper.along, upper.across), _mm_and_si128(distanceChange_, ofLower));
   }
 
-  void MoveOne()
+  void Move()
   {
     begins_ = _mm_add_epi32(begins_, beginChange_);
     distances_ = _mm_add_epi32(distances_, distanceChange_);
-  }
-  void MoveTwo()
-  {
-    MoveOne();
-    MoveOne();
   }
 
   PairStart<FastEight> Start(int lastX, int alongX, int acrossX) const

@@ -86,8 +86,7 @@ template <class Pair>
 std::array<Rows, 3> ReckonStarts(const BandRow& first, const BandRow& change, int slope)
 {
   Pair rows(first, change);
-  rows.MoveTwo();
-  rows.MoveOne();
+  for (int i = 0; i < 3; ++i) rows.Move();
   const auto start = rows.Start(9, slope, -slope / 3);
   using Lanes = decltype(start.along);
   const Lanes none(0);
@@ -121,7 +120,7 @@ TEST(RowPairs, BeginWhereTheyShouldAndGoOnByRows)
   constexpr int pixel = 1 << BandRow::pixelBits;
   constexpr int distance = 1 << BandRow::distanceBits;
   RowPair rows({2 * pixel, 40 * distance, 80 * distance}, {3 * pixel / 2, 4 * distance, 0});
-  rows.MoveOne();
+  rows.Move();
   const auto start = rows.Start(4, 8 * distance, 12 * distance);
   EXPECT_EQ(start.upperX, 3);
   EXPECT_EQ(start.lowerX, 4) << "no further than the last one";
