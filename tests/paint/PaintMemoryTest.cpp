@@ -4,10 +4,13 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <limits>
 #include <new>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -276,6 +279,28 @@ private:
   rlim_t pages_ = 0;  ///< that the process has
 };
 
+/// While it lives, the heap has no room of its own for a picture: what tests of before have freed
+/// there could hold one, however little the system gives.
+class TakenHeap {
+public:
+  explicit TakenHeap(std::size_t bytes)
+  {
+    blocks_.reserve(1000);
+    const SystemLimit limit(0);
+    while (blocks_.size() < blocks_.capacity()) {
+      void* block = std::malloc(bytes);
+      if (block == nullptr) break;
+      blocks_.push_back(block);
+    }
+  }
+  TakenHeap(const TakenHeap&) = delete;
+  TakenHeap& operator=(const TakenHeap&) = delete;
+  ~TakenHeap() { std::ranges::for_each(blocks_, std::free); }
+
+private:
+  std::vector<void*> blocks_;
+};
+
 /// A picture that the system has no room for, under a limit.
 class RepaintUnderALimitOfTheSystem : public testing::Test {
 protected:
@@ -285,9 +310,12 @@ protected:
     GTEST_SKIP() << "the sanitizers take all addresses that there are";
 #endif
     mallopt(M_MMAP_THRESHOLD, 1 << 16);  // pictures come from the system and go back there
-    Painted large(everything);
-    large.Resize(1500, 1000);
-    whole = large.Next();
+    {
+      Painted large(everything);
+      large.Resize(1500, 1000);
+      whole = large.Next();
+    }
+    heap.emplace(static_cast<std::size_t>(whole.sizeInBytes()));
   }
 
   /// Paints with so many bytes left, and with the allocation of that number failing besides. The
@@ -310,6 +338,7 @@ protected:
 
   const Drawing everything = Drawings().back();
   QImage whole;
+  std::optional<TakenHeap> heap;
   bool failed = true;
   int lost = 0;  ///< pictures that there was no memory for
 };
