@@ -27,6 +27,14 @@ Four CutOff(Four cover, int lastLane)
   return cover.Min((room * Four(steep)).Max(Four(0.0F)));
 }
 
+/// What a segment covers, by the kind of its ends.
+constexpr auto roundCover = [](const SegmentBand& band, const SegmentBand::Distances& at) {
+  return band.CoverRound(at);
+};
+constexpr auto flatCover = [](const SegmentBand& band, const SegmentBand::Distances& at) {
+  return band.CoverFlat(at);
+};
+
 /// Blends into the last pixels of a picture, which are fewer than a block.
 void BlendLast(const PixelBlend& blend, std::span<std::uint32_t> pixels, const Covers& covers)
 {
@@ -52,6 +60,14 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
   // A mask as small as the line keeps to the processor's cache. The last block of a row reaches
   // out.
   stride_ = area.Width() + blockSize - 1;
+  if (isDense_) {
+    // The picture is too large for the cache, and `Paint` comes soon.
+    for (int row = area.firstRow; row <= area.lastRow; ++row) {
+      const std::uint32_t* const first = picture_.pixels + row * picture_.stride + area.firstX;
+      __builtin_prefetch(first, 1);
+      __builtin_prefetch(first + area.Width(), 1);
+    }
+  }
   const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
   if (bytes_.size() < size) bytes_.resize(size);
   if (isDense_ && blocks_.size() < BlocksOf(area)) blocks_.resize(2 * BlocksOf(area));
@@ -87,9 +103,21 @@ void CoverageMask::NameBlocksOnce()
   }
 }
 
-void CoverageMask::Add(const StrokeSegment& segment)
+void CoverageMask::AddLine(std::span<const PixelPosition> line, float radius, bool isClosed)
+{
+  for (std::size_t i = 1; i < line.size(); ++i) {
+    const bool isFirst = i == 1;
+    const bool isLast = i + 1 == line.size();
+    AddSegment({line[i - 1], line[i], radius, isFirst && !isClosed, isLast && !isClosed});
+  }
+}
+
+void CoverageMask::Add(const StrokeSegment& segment) { AddSegment(segment); }
+
+inline __attribute__((always_inline)) void CoverageMask::AddSegment(const StrokeSegment& segment)
 {
   const SegmentWay way(segment);
+  if (AddDab(segment, way)) return;
   if (ThinBand::Serves(segment.radius, full_)) {
     AddThin(segment, way);
   } else {
@@ -100,14 +128,15 @@ void CoverageMask::Add(const StrokeSegment& segment)
 void CoverageMask::AddAny(const StrokeSegment& segment, const SegmentWay& way)
 {
   const bool isFlat = segment.flatFrom || segment.flatTo;
-  const SegmentBand band(segment, way, full_);
-  const PixelArea area = band.Runs().reach.Within(area_);
+  const SegmentRuns runs(segment, way);
+  const PixelArea area = runs.reach.Within(area_);
   if (area.IsEmpty()) return;
   if (!isDense_) Reserve(area);
+  const SegmentBand band(segment, way, full_);
   if (isFlat) {
-    AddRows(band, area, [](const SegmentBand& b, const auto& at) { return b.CoverFlat(at); });
+    AddRows(band, runs, area, flatCover);
   } else {
-    AddRows(band, area, [](const SegmentBand& b, const auto& at) { return b.CoverRound(at); });
+    AddRows(band, runs, area, roundCover);
   }
 }
 
@@ -176,6 +205,54 @@ void CoverageMask::AddThin(const StrokeSegment& segment, const SegmentWay& way)
   }
 }
 
+inline __attribute__((always_inline)) bool CoverageMask::AddDab(const StrokeSegment& segment,
+                                                                const SegmentWay& way)
+{
+  constexpr float longest = blockSize - 2;
+  if (std::max(std::abs(way.dx), std::abs(way.dy)) > longest) return false;
+  constexpr float farthest = 0.56F;  // from an edge to the centre of a pixel that it covers
+  const PixelArea area = SegmentRuns::ReachOf(segment, segment.radius + farthest).Within(area_);
+  if (area.IsEmpty()) return true;
+  const int x = std::min(area.firstX, area_.lastX + 1 - blockSize);
+  const int row = std::min(area.firstRow, area_.lastRow + 1 - blockSize);
+  if (std::max(area.Width(), area.Height()) > blockSize || x < area_.firstX ||
+      row < area_.firstRow) {
+    return false;
+  }
+  const SegmentBand band(segment, way, full_);
+  if (segment.flatFrom || segment.flatTo) {
+    AddSquare(band, x, row, flatCover);
+  } else {
+    AddSquare(band, x, row, roundCover);
+  }
+  return true;
+}
+
+template <class Cover>
+inline __attribute__((always_inline)) void CoverageMask::AddSquare(const SegmentBand& band, int x,
+                                                                   int row, Cover cover)
+{
+  SegmentBand::Distances distances =
+      band.At(static_cast<float>(x) + 0.5F, static_cast<float>(row) + 0.5F);
+  std::array<Four, blockSize> rows = {Four(0.0F), Four(0.0F), Four(0.0F), Four(0.0F)};
+  for (Four& four : rows) {
+    four = cover(band, distances);
+    band.MoveDown(distances);
+  }
+  if (!isDense_) Reserve({row, row + blockSize - 1, x, x + blockSize - 1});
+  std::uint8_t* const bytes = bytes_.data();
+  int byte = (row - area_.firstRow) * stride_ + x - area_.firstX;
+  std::ptrdiff_t pixel = row * picture_.stride + x;
+  for (const Four& four : rows) {
+    four.RaiseBytes(bytes + byte);
+    if (!isDense_) {
+      blocks_[count_++] = {static_cast<std::uint32_t>(byte), static_cast<std::uint32_t>(pixel)};
+    }
+    byte += stride_;
+    pixel += picture_.stride;
+  }
+}
+
 bool CoverageMask::AddShort(const StrokeSegment& segment, const SegmentWay& way)
 {
   const SegmentRuns runs(segment, way);
@@ -195,10 +272,11 @@ bool CoverageMask::AddShort(const StrokeSegment& segment, const SegmentWay& way)
 }
 
 template <class Cover>
-void CoverageMask::AddRows(const SegmentBand& theBand, const PixelArea& area, Cover cover)
+void CoverageMask::AddRows(const SegmentBand& theBand, const SegmentRuns& runs,
+                           const PixelArea& area, Cover cover)
 {
   const SegmentBand band = theBand;  // which no byte written below can be part of
-  const int blocks = band.Runs().BlocksIn(area);
+  const int blocks = runs.BlocksIn(area);
   const auto firstX = static_cast<float>(area.firstX);
   const auto lastX = std::max(static_cast<float>(area.lastX + 1 - blocks * blockSize), firstX);
   const int lastWhole = picture_.width - blockSize;
@@ -207,7 +285,7 @@ void CoverageMask::AddRows(const SegmentBand& theBand, const PixelArea& area, Co
   Block* next = blocks_.data() + count_;
   for (int row = area.firstRow; row <= area.lastRow; ++row) {
     const float y = static_cast<float>(row) + 0.5F;
-    int x = static_cast<int>(std::min(std::max(band.Runs().BeginOf(y), firstX), lastX));
+    int x = static_cast<int>(std::min(std::max(runs.BeginOf(y), firstX), lastX));
     SegmentBand::Distances distances = band.At(static_cast<float>(x) + 0.5F, y);
     int byte = (row - area_.firstRow) * stride_ + x - area_.firstX;
     std::ptrdiff_t pixel = row * picture_.stride + x;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "paint/PixelView.h"
@@ -18,6 +19,9 @@ public:
   /// How many segments it will have makes no difference but to speed. A line that was begun and
   /// never painted, because memory ended in it, is forgotten.
   void Begin(const PixelView& picture, const PixelArea& area, float alpha, std::size_t segments);
+
+  /// Adds the segments of a line, closed or with flat ends.
+  void AddLine(std::span<const PixelPosition> line, float radius, bool isClosed);
 
   /// Adds a segment, whose ends lie within some ten thousand pixels of the area.
   void Add(const StrokeSegment& segment);
@@ -37,6 +41,11 @@ private:
   void NameBlocksOnce();
   void Forget();
 
+  void AddSegment(const StrokeSegment& segment);
+  /// Adds one that covers no more than a square of four by four pixels; false if it may do so.
+  bool AddDab(const StrokeSegment& segment, const SegmentWay& way);
+  template <class Cover>
+  void AddSquare(const SegmentBand& band, int x, int row, Cover cover);
   /// Adds a segment of any length whose stroke is thin.
   void AddThin(const StrokeSegment& segment, const SegmentWay& way);
   /// Adds a short one, unless its blocks would reach out of the picture.
@@ -46,7 +55,8 @@ private:
   template <bool isFlat>
   void AddPairs(ThinBand band, RowPair rows, const PixelArea& area, int blocks);
   template <class Cover>
-  void AddRows(const SegmentBand& band, const PixelArea& area, Cover cover);
+  void AddRows(const SegmentBand& band, const SegmentRuns& runs, const PixelArea& area,
+               Cover cover);
 
   PixelView picture_;
   PixelArea area_;

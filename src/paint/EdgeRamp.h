@@ -18,17 +18,17 @@ public:
       return Eight(static_cast<int>(number + half));
     };
     const float whole = full * quarters;
-    const float pixel = PixelOf(way, full);
-    const float edge = radius * pixel + 0.25F * whole;
-    const float apart = 0.25F * way.smaller * pixel;
+    const float unit = UnitOf(way, full);
+    const float edge = radius * way.length * unit + 0.25F * whole;
+    const float apart = 0.25F * way.smaller * unit;
     half_ = rounded(0.5F * whole);
     outerLimit_ = rounded(edge + apart);
     innerLimit_ = rounded(edge - apart);
     most_ = rounded(whole * way.MostCovered(radius));
   }
 
-  /// A pixel as a distance: a ramp rises by one for one.
-  static float PixelOf(const SegmentWay& way, float full)
+  /// Distances for each pixel of a way along x or y: a ramp rises by one for one.
+  static float UnitOf(const SegmentWay& way, float full)
   {
     return 0.5F * full * quarters / way.larger;
   }

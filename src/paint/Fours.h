@@ -53,6 +53,10 @@ public:
   {
     return With(b, [](float x, float y) { return x > y ? x : y; });
   }
+  PlainFour Abs() const
+  {
+    return With(*this, [](float x, float) { return std::abs(x); });
+  }
   PlainFour Sqrt() const
   {
     return With(*this, [](float x, float) { return std::sqrt(x); });
@@ -101,6 +105,7 @@ public:
   FastFour operator*(FastFour b) const { return FastFour(_mm_mul_ps(lanes_, b.lanes_)); }
   FastFour Min(FastFour b) const { return FastFour(_mm_min_ps(lanes_, b.lanes_)); }
   FastFour Max(FastFour b) const { return FastFour(_mm_max_ps(lanes_, b.lanes_)); }
+  FastFour Abs() const { return FastFour(_mm_andnot_ps(_mm_set1_ps(-0.0F), lanes_)); }
   FastFour Sqrt() const { return FastFour(_mm_sqrt_ps(lanes_)); }
   void RaiseBytes(std::uint8_t* bytes) const
   {

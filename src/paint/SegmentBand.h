@@ -11,38 +11,79 @@ namespace hullwright {
 /// that. Distances are kept in such parts of a pixel that a ramp rises by one for one.
 class SegmentBand {
 public:
-  SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full);
+  SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full)
+      : middle_{segment.from.x + 0.5F * way.dx, segment.from.y + 0.5F * way.dy},
+        unit_(0.5F * full / way.larger),
+        pixel_(way.length * unit_),
+        alongX_(way.dx * unit_),
+        alongY_(way.dy * unit_),
+        flatFrom_(segment.flatFrom),
+        flatTo_(segment.flatTo),
+        half_(0.5F * full),
+        most_(full * way.MostCovered(segment.radius)),
+        halfLength_(0.5F * way.length * pixel_),
+        rowAlong_(alongY_),
+        rowAcross_(alongX_)
+  {
+    constexpr float pixels = 4.0F;
+    const float edge = segment.radius * pixel_ + 0.25F * full;
+    const float apart = 0.25F * way.smaller * unit_;
+    outerLimit_ = Four(edge + apart);
+    innerLimit_ = Four(edge - apart);
+    stepAlong_ = Four::Steps() * Four(alongX_);
+    stepAcross_ = Four::Steps() * Four(-alongY_);
+    nextAlong_ = Four(pixels * alongX_);
+    nextAcross_ = Four(-pixels * alongY_);
+  }
 
-  /// Which pixels can be covered.
-  const SegmentRuns& Runs() const { return runs_; }
-
-  /// Distances of four pixels from the start, along the line and across it.
+  /// Distances of four pixels from the middle, along the line and across it.
   struct Distances {
     Four along;
     Four across;
   };
   Distances At(float x, float y) const
   {
-    const float dx = x - from_.x;
-    const float dy = y - from_.y;
+    const float dx = x - middle_.x;
+    const float dy = y - middle_.y;
     return {Four(dx * alongX_ + dy * alongY_) + stepAlong_,
             Four(dy * alongX_ - dx * alongY_) + stepAcross_};
   }
+  /// The next four pixels of the row; those of the next row.
   void Advance(Distances& distances) const
   {
     distances.along = distances.along + nextAlong_;
     distances.across = distances.across + nextAcross_;
   }
 
+  void MoveDown(Distances& distances) const
+  {
+    distances.along = distances.along + rowAlong_;
+    distances.across = distances.across + rowAcross_;
+  }
+
   /// For any pixels, where both ends are round.
   Four CoverRound(const Distances& distances) const
   {
-    const Four beyond = (none_ - distances.along).Max(distances.along - length_).Max(none_);
-    return CoverWithin(distances.across, beyond);
+    return CoverWithin(distances.across, (distances.along.Abs() - halfLength_).Max(none_));
   }
 
   /// For any pixels, where an end is flat.
-  Four CoverFlat(const Distances& distances) const;
+  Four CoverFlat(const Distances& distances) const
+  {
+    constexpr float endless = 1e9F;  // a distance that no pixel has
+    const Four along = distances.along;
+    const Four before = none_ - along - (flatFrom_ ? Four(endless) : halfLength_);
+    const Four behind = along - (flatTo_ ? Four(endless) : halfLength_);
+    const Four cover = CoverWithin(distances.across, before.Max(behind).Max(none_));
+    // The part of a pixel's breadth that lies between the flat ends.
+    const Four half(0.5F * pixel_);
+    const Four end = flatTo_ ? halfLength_ : Four(endless);
+    const Four begin = flatFrom_ ? none_ - halfLength_ : Four(-endless);
+    const Four inside = (along + half).Min(end) - (along - half).Max(begin);
+    // A shade more, so that rounding takes nothing from a pixel that is inside whole.
+    const Four part = inside * Four(1.0001F / pixel_);
+    return cover * part.Max(none_).Min(Four(1.0F));
+  }
 
 private:
   Four CoverAt(Four distance) const
@@ -56,24 +97,26 @@ private:
     return CoverAt((across * across + beyond * beyond).Sqrt());
   }
 
-  SegmentRuns runs_;
-  PixelPosition from_;
+  PixelPosition middle_;
+  float unit_;    ///< distances for each pixel of the way along x or y
   float pixel_;   ///< a pixel as a distance
   float alongX_;  ///< change of the distance along the line from one pixel to the next
   float alongY_;
   bool flatFrom_;
   bool flatTo_;
 
-  Four none_;
-  Four half_;        ///< what a ramp gives at most
-  Four outerLimit_;  ///< distance from the line at which a ramp begins
-  Four innerLimit_;
+  Four none_ = Four(0.0F);
+  Four half_;                     ///< what a ramp gives at most
+  Four outerLimit_ = Four(0.0F);  ///< distance from the line at which a ramp begins
+  Four innerLimit_ = Four(0.0F);
   Four most_;
-  Four length_;
-  Four stepAlong_;
-  Four stepAcross_;
-  Four nextAlong_;
-  Four nextAcross_;
+  Four halfLength_;
+  Four stepAlong_ = Four(0.0F);
+  Four stepAcross_ = Four(0.0F);
+  Four nextAlong_ = Four(0.0F);
+  Four nextAcross_ = Four(0.0F);
+  Four rowAlong_;
+  Four rowAcross_;
 };
 
 }  // namespace hullwright

@@ -16,30 +16,33 @@ struct StrokeSegment {
   bool flatTo = false;
 };
 
-/// The way from the start of a segment to its end. One of length zero leads to the right.
+/// The way from the start of a segment to its end. One without length leads to the right.
 struct SegmentWay {
   explicit SegmentWay(const StrokeSegment& segment)
       : dx(segment.to.x - segment.from.x),
         dy(segment.to.y - segment.from.y),
         length(std::sqrt(dx * dx + dy * dy))
   {
-    const float perLength = length > 0.0F ? 1.0F / length : 0.0F;
-    x = length > 0.0F ? dx * perLength : 1.0F;
-    y = dy * perLength;
-    larger = std::max(std::abs(x), std::abs(y));
-    smaller = std::min(std::abs(x), std::abs(y));
+    constexpr float shortest = 1e-6F;
+    if (length < shortest) {
+      dx = shortest;
+      dy = 0.0F;
+      length = shortest;
+    }
+    larger = std::max(std::abs(dx), std::abs(dy));
+    smaller = std::min(std::abs(dx), std::abs(dy));
   }
 
   /// How far from the line the coverage of a stroke ends, in pixels.
-  float LimitOf(float radius) const { return radius + 0.5F * larger + 0.25F * smaller; }
+  float LimitOf(float radius) const { return radius + (0.5F * larger + 0.25F * smaller) / length; }
 
   /// What a stroke covers of a pixel whose centre it runs through: not all of it where it is thin
   /// and slants, for the corners of the pixel reach out.
   float MostCovered(float radius) const
   {
     constexpr float sliver = 0.001F;
-    const float outside = (larger + smaller) * 0.5F - radius;
-    return outside < sliver ? 1.0F : 1.0F - outside * outside / (larger * smaller);
+    const float outside = (larger + smaller) * 0.5F - radius * length;
+    return outside < sliver * length ? 1.0F : 1.0F - outside * outside / (larger * smaller);
   }
 
   /// The way of one of so many equal parts.
@@ -50,15 +53,15 @@ struct SegmentWay {
     part.dx *= share;
     part.dy *= share;
     part.length *= share;
+    part.larger *= share;
+    part.smaller *= share;
     return part;
   }
 
   float dx;
   float dy;
   float length;
-  float x;  ///< part along x of a step of length 1
-  float y;
-  float larger;   ///< of the sizes of these parts
+  float larger;   ///< of the sizes of dx and dy
   float smaller;  ///< the other one
 };
 
@@ -69,15 +72,22 @@ struct SegmentRuns {
     constexpr int worthwhile = 5;
     constexpr float level = 0.001F;
     const float limit = way.LimitOf(segment.radius);
-    // Truncated, so that one more may count; of those left of the picture, only that they are.
-    const float margin = limit - 0.5F;
-    reach = {static_cast<int>(std::min(segment.from.y, segment.to.y) - margin),
-             static_cast<int>(std::max(segment.from.y, segment.to.y) + margin),
-             static_cast<int>(std::min(segment.from.x, segment.to.x) - margin),
-             static_cast<int>(std::max(segment.from.x, segment.to.x) + margin)};
+    reach = ReachOf(segment, limit);
     fromY = segment.from.y;
     // A short line, or one that is nearly level, meets each of its rows on its whole length.
-    if (reach.Width() >= worthwhile && std::abs(way.y) > level) Narrow(segment, way, limit);
+    if (reach.Width() >= worthwhile && std::abs(way.dy) > level * way.length)
+      Narrow(segment, way, limit);
+  }
+
+  /// The pixels whose centres a line comes nearer to than a limit.
+  static PixelArea ReachOf(const StrokeSegment& segment, float limit)
+  {
+    // Truncated, so that one more may count; of those left of the picture, only that they are.
+    const float margin = limit - 0.5F;
+    return {static_cast<int>(std::min(segment.from.y, segment.to.y) - margin),
+            static_cast<int>(std::max(segment.from.y, segment.to.y) + margin),
+            static_cast<int>(std::min(segment.from.x, segment.to.x) - margin),
+            static_cast<int>(std::max(segment.from.x, segment.to.x) + margin)};
   }
 
   /// Where in a row the first pixel begins, or up to one further left.

@@ -203,11 +203,7 @@ void Stroker::StrokeGathered(bool closed, const Pen& pen)
   if (area.IsEmpty() || alpha < faintest) return;
   mask_.Begin(picture_, area, alpha, line_.size());
   if (line_.size() == 1) mask_.Add({line_.front(), line_.front(), radius});
-  for (std::size_t i = 1; i < line_.size(); ++i) {
-    const bool isFirst = i == 1;
-    const bool isLast = i + 1 == line_.size();
-    mask_.Add({line_[i - 1], line_[i], radius, isFirst && !closed, isLast && !closed});
-  }
+  mask_.AddLine(line_, radius, closed);
   if (closed) AddCorners(radius);
   mask_.Paint(pen.colour);
 }

@@ -113,14 +113,15 @@ inline ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, f
 {
   constexpr int pixels = 4;
   constexpr float half = 0.5F;
-  const float pixel = EdgeRamp::PixelOf(way, full);
+  const float unit = EdgeRamp::UnitOf(way, full);
+  const float pixel = way.length * unit;
   pixel_ = static_cast<int>(pixel);
   if (flatFrom_ || flatTo_) {
     constexpr float product = 65536.0F * 32.0F;
     perPixel_ = static_cast<int>(product / static_cast<float>(pixel_)) + 1;
   }
-  perPixelX_ = way.x * pixel;
-  perPixelY_ = way.y * pixel;
+  perPixelX_ = way.dx * unit;
+  perPixelY_ = way.dy * unit;
   alongX_ = Fixed(perPixelX_, BandRow::distanceBits);
   alongY_ = Fixed(perPixelY_, BandRow::distanceBits);
   length_ = Eight(static_cast<int>(way.length * pixel + half));

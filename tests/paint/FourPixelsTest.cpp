@@ -20,7 +20,7 @@ template <class Lanes>
 Bytes Reckon(float a, float b, Bytes bytes)
 {
   const Lanes x = Lanes::Steps() * Lanes(a) + Lanes(b);
-  const Lanes y = x - Lanes(40.0F);
+  const Lanes y = (x - Lanes(40.0F)).Abs();
   const Lanes root = (x * x + y * y).Sqrt();
   root.Min(Lanes(255.0F)).Max(Lanes(3.0F)).RaiseBytes(bytes.data());
   return bytes;

@@ -71,6 +71,50 @@ TEST_F(StrokerFixture, LongSegmentsCoverWhatTheyShould)
   }
 }
 
+TEST_F(StrokerFixture, SegmentsOfAPixelOrTwoCoverWhatTheyShould)
+{
+  std::mt19937 random(4);
+  std::uniform_real_distribution<float> anywhere(30.0F, 34.0F);
+  std::uniform_real_distribution<float> anyStep(-2.0F, 2.0F);
+  for (const float width : {0.7F, 1.0F, 1.4F, 2.0F, 2.4F}) {
+    for (int round = 0; round < 40; ++round) {
+      Points line = {{anywhere(random), anywhere(random)}};
+      while (line.size() < 3) {
+        const PixelPoint step = {anyStep(random), anyStep(random)};
+        const PixelPoint& last = line.back();
+        if (std::hypot(step.x, step.y) > 0.6F) line.push_back({last.x + step.x, last.y + step.y});
+      }
+      ExpectExact(line, width, {14.0, 64.0});
+      line.pop_back();
+      ExpectExact(line, width, {8.5, 40.0});
+    }
+  }
+}
+
+TEST_F(StrokerFixture, SegmentsOfAPixelOrTwoAreCutAtTheEdgesOfThePicture)
+{
+  Paper large(100, 100);
+  Paper small(10, 10);
+  for (float x = -3.0F; x < 14.0F; x += 0.7F) {
+    for (float y = -3.0F; y < 14.0F; y += 0.7F) {
+      const auto line = [x, y](float by) {
+        return Points{
+            {x + by, y + by}, {x + by + 0.9F, y + by - 1.1F}, {x + by + 1.1F, y + by + 0.6F}};
+      };
+      large.Clear();
+      small.Clear();
+      large.Draw(line(40.0F), FigureKind::Line, {});
+      small.Draw(line(0.0F), FigureKind::Line, {});
+      for (int row = 0; row < 10; ++row) {
+        for (int column = 0; column < 10; ++column) {
+          ASSERT_NEAR(small.Blue(column, row), large.Blue(column + 40, row + 40), 6)
+              << x << ' ' << y << " at " << column << ' ' << row;
+        }
+      }
+    }
+  }
+}
+
 TEST_F(StrokerFixture, ATangleOfManySegmentsIsOneLine)
 {
   std::mt19937 random(9);
