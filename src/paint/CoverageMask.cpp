@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <span>
 
 #include "paint/PixelBlend.h"
 
@@ -35,6 +34,9 @@ constexpr auto flatCover = [](const SegmentBand& band, const SegmentBand::Distan
   return band.CoverFlat(at);
 };
 
+/// The picture is too large for the cache, and `Paint` comes soon.
+void FetchSoon(const std::uint32_t* pixels) { __builtin_prefetch(pixels, 1); }
+
 /// Blends into the last pixels of a picture, which are fewer than a block.
 void BlendLast(const PixelBlend& blend, std::span<std::uint32_t> pixels, const Covers& covers)
 {
@@ -60,17 +62,15 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
   // A mask as small as the line keeps to the processor's cache. The last block of a row reaches
   // out.
   stride_ = area.Width() + blockSize - 1;
-  if (isDense_) {
-    // The picture is too large for the cache, and `Paint` comes soon.
-    for (int row = area.firstRow; row <= area.lastRow; ++row) {
-      const std::uint32_t* const first = picture_.pixels + row * picture_.stride + area.firstX;
-      __builtin_prefetch(first, 1);
-      __builtin_prefetch(first + area.Width(), 1);
-    }
-  }
   const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
   if (bytes_.size() < size) bytes_.resize(size);
   if (isDense_ && blocks_.size() < BlocksOf(area)) blocks_.resize(2 * BlocksOf(area));
+  // A dense line is narrow, so that the ends of its rows are most of them.
+  for (int row = area.firstRow; isDense_ && row <= area.lastRow; ++row) {
+    const std::uint32_t* const first = picture.pixels + row * picture.stride + area.firstX;
+    FetchSoon(first);
+    FetchSoon(first + area.Width());
+  }
 }
 
 /// Its blocks would be painted with the next line, in a picture that may be smaller by then.
@@ -114,7 +114,7 @@ void CoverageMask::AddLine(std::span<const PixelPosition> line, float radius, bo
 
 void CoverageMask::Add(const StrokeSegment& segment) { AddSegment(segment); }
 
-inline __attribute__((always_inline)) void CoverageMask::AddSegment(const StrokeSegment& segment)
+inline void CoverageMask::AddSegment(const StrokeSegment& segment)
 {
   const SegmentWay way(segment);
   if (AddDab(segment, way)) return;
@@ -127,13 +127,12 @@ inline __attribute__((always_inline)) void CoverageMask::AddSegment(const Stroke
 
 void CoverageMask::AddAny(const StrokeSegment& segment, const SegmentWay& way)
 {
-  const bool isFlat = segment.flatFrom || segment.flatTo;
   const SegmentRuns runs(segment, way);
   const PixelArea area = runs.reach.Within(area_);
   if (area.IsEmpty()) return;
   if (!isDense_) Reserve(area);
   const SegmentBand band(segment, way, full_);
-  if (isFlat) {
+  if (segment.HasFlatEnd()) {
     AddRows(band, runs, area, flatCover);
   } else {
     AddRows(band, runs, area, roundCover);
@@ -159,9 +158,8 @@ inline __attribute__((always_inline)) void CoverageMask::AddPairs(ThinBand band,
     const int lower = byte + start.lowerX + stride_;
     const int upperPixel = pixel + start.upperX;
     const int lowerPixel = pixel + start.lowerX + pictureStride;
-    // The picture is too large for the cache, and `Paint` comes soon.
-    __builtin_prefetch(picture_.pixels + upperPixel, 1);
-    __builtin_prefetch(picture_.pixels + lowerPixel, 1);
+    FetchSoon(picture_.pixels + upperPixel);
+    FetchSoon(picture_.pixels + lowerPixel);
     ThinBand::Distances distances{start.along, start.across};
     for (int x = 0; x < blocks * blockSize; x += blockSize) {
       band.Cover<isFlat>(distances).RaiseBytes(bytes + upper + x, bytes + lower + x);
@@ -205,13 +203,14 @@ void CoverageMask::AddThin(const StrokeSegment& segment, const SegmentWay& way)
   }
 }
 
+// Inlined as well, like what follows: a line that is far away has nothing else.
 inline __attribute__((always_inline)) bool CoverageMask::AddDab(const StrokeSegment& segment,
                                                                 const SegmentWay& way)
 {
-  constexpr float longest = blockSize - 2;
+  constexpr float longest = blockSize - 2;  // a longer one seldom fits
   if (std::max(std::abs(way.dx), std::abs(way.dy)) > longest) return false;
-  constexpr float farthest = 0.56F;  // from an edge to the centre of a pixel that it covers
-  const PixelArea area = SegmentRuns::ReachOf(segment, segment.radius + farthest).Within(area_);
+  const float limit = SegmentWay::MostLimitOf(segment.radius);
+  const PixelArea area = segment.ReachOf(limit).Within(area_);
   if (area.IsEmpty()) return true;
   const int x = std::min(area.firstX, area_.lastX + 1 - blockSize);
   const int row = std::min(area.firstRow, area_.lastRow + 1 - blockSize);
@@ -220,7 +219,7 @@ inline __attribute__((always_inline)) bool CoverageMask::AddDab(const StrokeSegm
     return false;
   }
   const SegmentBand band(segment, way, full_);
-  if (segment.flatFrom || segment.flatTo) {
+  if (segment.HasFlatEnd()) {
     AddSquare(band, x, row, flatCover);
   } else {
     AddSquare(band, x, row, roundCover);
@@ -234,6 +233,7 @@ inline __attribute__((always_inline)) void CoverageMask::AddSquare(const Segment
 {
   SegmentBand::Distances distances =
       band.At(static_cast<float>(x) + 0.5F, static_cast<float>(row) + 0.5F);
+  // All four before the first byte is written, which the compiler must take for a part of the band.
   std::array<Four, blockSize> rows = {Four(0.0F), Four(0.0F), Four(0.0F), Four(0.0F)};
   for (Four& four : rows) {
     four = cover(band, distances);
@@ -263,7 +263,7 @@ bool CoverageMask::AddShort(const StrokeSegment& segment, const SegmentWay& way)
   if (!isDense_) Reserve(area);
   const ThinBand band(segment, way, full_);
   const RowPair rows = band.FirstOf(area, runs);
-  if (segment.flatFrom || segment.flatTo) {
+  if (segment.HasFlatEnd()) {
     AddPairs<true>(band, rows, area, blocks);
   } else {
     AddPairs<false>(band, rows, area, blocks);
@@ -272,8 +272,8 @@ bool CoverageMask::AddShort(const StrokeSegment& segment, const SegmentWay& way)
 }
 
 template <class Cover>
-void CoverageMask::AddRows(const SegmentBand& theBand, const SegmentRuns& runs,
-                           const PixelArea& area, Cover cover)
+void CoverageMask::AddRows(const SegmentBand& theBand, SegmentRuns runs, const PixelArea& area,
+                           Cover cover)
 {
   const SegmentBand band = theBand;  // which no byte written below can be part of
   const int blocks = runs.BlocksIn(area);
@@ -289,8 +289,7 @@ void CoverageMask::AddRows(const SegmentBand& theBand, const SegmentRuns& runs,
     SegmentBand::Distances distances = band.At(static_cast<float>(x) + 0.5F, y);
     int byte = (row - area_.firstRow) * stride_ + x - area_.firstX;
     std::ptrdiff_t pixel = row * picture_.stride + x;
-    // The picture is too large for the cache, and `Paint` comes soon.
-    __builtin_prefetch(picture_.pixels + pixel, 1);
+    FetchSoon(picture_.pixels + pixel);
     for (int left = blocks; left > 0; --left) {
       Four covered = cover(band, distances);
       if (x > lastWhole) covered = CutOff(covered, picture_.width - 1 - x);

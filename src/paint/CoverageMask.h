@@ -41,22 +41,23 @@ private:
   void NameBlocksOnce();
   void Forget();
 
-  void AddSegment(const StrokeSegment& segment);
-  /// Adds one that covers no more than a square of four by four pixels; false if it may do so.
-  bool AddDab(const StrokeSegment& segment, const SegmentWay& way);
+  /// The same as `Add`, inlined into the loop over a line.
+  inline void AddSegment(const StrokeSegment& segment);
+  /// Adds one whose stroke fits a square of four by four pixels of the area; false for any other.
+  inline bool AddDab(const StrokeSegment& segment, const SegmentWay& way);
   template <class Cover>
-  void AddSquare(const SegmentBand& band, int x, int row, Cover cover);
+  inline void AddSquare(const SegmentBand& band, int x, int row, Cover cover);
   /// Adds a segment of any length whose stroke is thin.
   void AddThin(const StrokeSegment& segment, const SegmentWay& way);
-  /// Adds a short one, unless its blocks would reach out of the picture.
+  /// Adds a short one, unless it meets one row only, or its blocks would reach out of
+  /// the picture.
   bool AddShort(const StrokeSegment& segment, const SegmentWay& way);
   /// Adds a segment of any kind.
   void AddAny(const StrokeSegment& segment, const SegmentWay& way);
   template <bool isFlat>
-  void AddPairs(ThinBand band, RowPair rows, const PixelArea& area, int blocks);
+  inline void AddPairs(ThinBand band, RowPair rows, const PixelArea& area, int blocks);
   template <class Cover>
-  void AddRows(const SegmentBand& band, const SegmentRuns& runs, const PixelArea& area,
-               Cover cover);
+  void AddRows(const SegmentBand& band, SegmentRuns runs, const PixelArea& area, Cover cover);
 
   PixelView picture_;
   PixelArea area_;

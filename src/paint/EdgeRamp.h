@@ -10,6 +10,8 @@ namespace hullwright {
 /// strokes can't be told.
 class EdgeRamp {
 public:
+  static constexpr float quarters = 4.0F;
+
   /// For a coverage of `full` where a pixel is covered whole.
   EdgeRamp(const SegmentWay& way, float radius, float full)
   {
@@ -18,19 +20,13 @@ public:
       return Eight(static_cast<int>(number + half));
     };
     const float whole = full * quarters;
-    const float unit = UnitOf(way, full);
+    const float unit = way.UnitOf(whole);
     const float edge = radius * way.length * unit + 0.25F * whole;
     const float apart = 0.25F * way.smaller * unit;
     half_ = rounded(0.5F * whole);
     outerLimit_ = rounded(edge + apart);
     innerLimit_ = rounded(edge - apart);
     most_ = rounded(whole * way.MostCovered(radius));
-  }
-
-  /// Distances for each pixel of a way along x or y: a ramp rises by one for one.
-  static float UnitOf(const SegmentWay& way, float full)
-  {
-    return 0.5F * full * quarters / way.larger;
   }
 
   /// Coverage at a distance across the line and one beyond its ends, neither below zero.
@@ -44,8 +40,6 @@ public:
   }
 
 private:
-  static constexpr float quarters = 4.0F;
-
   /// Length of the longest side of a triangle, up to 2 % less: the largest of three planes.
   static Eight Hypotenuse(Eight a, Eight b)
   {

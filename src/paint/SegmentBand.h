@@ -13,27 +13,21 @@ class SegmentBand {
 public:
   SegmentBand(const StrokeSegment& segment, const SegmentWay& way, float full)
       : middle_{segment.from.x + 0.5F * way.dx, segment.from.y + 0.5F * way.dy},
-        unit_(0.5F * full / way.larger),
-        pixel_(way.length * unit_),
-        alongX_(way.dx * unit_),
-        alongY_(way.dy * unit_),
+        pixel_(way.length * way.UnitOf(full)),
+        alongX_(way.dx * way.UnitOf(full)),
+        alongY_(way.dy * way.UnitOf(full)),
         flatFrom_(segment.flatFrom),
         flatTo_(segment.flatTo),
         half_(0.5F * full),
+        edge_(segment.radius * pixel_ + 0.25F * full),
+        apart_(0.25F * way.smaller * way.UnitOf(full)),
         most_(full * way.MostCovered(segment.radius)),
         halfLength_(0.5F * way.length * pixel_),
-        rowAlong_(alongY_),
-        rowAcross_(alongX_)
+        stepAlong_(Four::Steps() * Four(alongX_)),
+        stepAcross_(Four::Steps() * Four(-alongY_)),
+        nextAlong_(4.0F * alongX_),
+        nextAcross_(-4.0F * alongY_)
   {
-    constexpr float pixels = 4.0F;
-    const float edge = segment.radius * pixel_ + 0.25F * full;
-    const float apart = 0.25F * way.smaller * unit_;
-    outerLimit_ = Four(edge + apart);
-    innerLimit_ = Four(edge - apart);
-    stepAlong_ = Four::Steps() * Four(alongX_);
-    stepAcross_ = Four::Steps() * Four(-alongY_);
-    nextAlong_ = Four(pixels * alongX_);
-    nextAcross_ = Four(-pixels * alongY_);
   }
 
   /// Distances of four pixels from the middle, along the line and across it.
@@ -48,17 +42,19 @@ public:
     return {Four(dx * alongX_ + dy * alongY_) + stepAlong_,
             Four(dy * alongX_ - dx * alongY_) + stepAcross_};
   }
-  /// The next four pixels of the row; those of the next row.
+
+  /// The next four pixels of the row.
   void Advance(Distances& distances) const
   {
     distances.along = distances.along + nextAlong_;
     distances.across = distances.across + nextAcross_;
   }
 
+  /// Those of the next row.
   void MoveDown(Distances& distances) const
   {
-    distances.along = distances.along + rowAlong_;
-    distances.across = distances.across + rowAcross_;
+    distances.along = distances.along + Four(alongY_);
+    distances.across = distances.across + Four(alongX_);
   }
 
   /// For any pixels, where both ends are round.
@@ -88,8 +84,8 @@ public:
 private:
   Four CoverAt(Four distance) const
   {
-    const Four outer = (outerLimit_ - distance).Max(none_).Min(half_);
-    const Four inner = (innerLimit_ - distance).Max(none_).Min(half_);
+    const Four outer = (edge_ + apart_ - distance).Max(none_).Min(half_);
+    const Four inner = (edge_ - apart_ - distance).Max(none_).Min(half_);
     return (outer + inner).Min(most_);
   }
   Four CoverWithin(Four across, Four beyond) const
@@ -98,7 +94,6 @@ private:
   }
 
   PixelPosition middle_;
-  float unit_;    ///< distances for each pixel of the way along x or y
   float pixel_;   ///< a pixel as a distance
   float alongX_;  ///< change of the distance along the line from one pixel to the next
   float alongY_;
@@ -106,17 +101,15 @@ private:
   bool flatTo_;
 
   Four none_ = Four(0.0F);
-  Four half_;                     ///< what a ramp gives at most
-  Four outerLimit_ = Four(0.0F);  ///< distance from the line at which a ramp begins
-  Four innerLimit_ = Four(0.0F);
+  Four half_;   ///< what a ramp gives at most
+  Four edge_;   ///< distance from the line between those at which the ramps begin
+  Four apart_;  ///< that of a ramp from there
   Four most_;
   Four halfLength_;
-  Four stepAlong_ = Four(0.0F);
-  Four stepAcross_ = Four(0.0F);
-  Four nextAlong_ = Four(0.0F);
-  Four nextAcross_ = Four(0.0F);
-  Four rowAlong_;
-  Four rowAcross_;
+  Four stepAlong_;
+  Four stepAcross_;
+  Four nextAlong_;
+  Four nextAcross_;
 };
 
 }  // namespace hullwright

@@ -14,6 +14,19 @@ struct StrokeSegment {
   float radius = 0.5F;  ///< half the width, at least half a pixel
   bool flatFrom = false;
   bool flatTo = false;
+
+  bool HasFlatEnd() const { return flatFrom || flatTo; }
+
+  /// The rows and columns of the pixels whose centres come nearer to the line than a limit.
+  PixelArea ReachOf(float limit) const
+  {
+    // Truncated, so that one more may count; of those left of the picture, only that they are.
+    const float margin = limit - 0.5F;
+    return {static_cast<int>(std::min(from.y, to.y) - margin),
+            static_cast<int>(std::max(from.y, to.y) + margin),
+            static_cast<int>(std::min(from.x, to.x) - margin),
+            static_cast<int>(std::max(from.x, to.x) + margin)};
+  }
 };
 
 /// The way from the start of a segment to its end. One without length leads to the right.
@@ -35,6 +48,17 @@ struct SegmentWay {
 
   /// How far from the line the coverage of a stroke ends, in pixels.
   float LimitOf(float radius) const { return radius + (0.5F * larger + 0.25F * smaller) / length; }
+
+  /// The same for a way of any direction, or a little more.
+  static float MostLimitOf(float radius)
+  {
+    constexpr float most = 0.56F;  // the root of 0.5 times 0.5 and 0.25 times 0.25
+    return radius + most;
+  }
+
+  /// A pixel as a distance, where a ramp to half of `whole` rises by one for one, by the length of
+  /// the way: times dx or dy, what a pixel along x or y adds to the distance along the line.
+  float UnitOf(float whole) const { return 0.5F * whole / larger; }
 
   /// What a stroke covers of a pixel whose centre it runs through: not all of it where it is thin
   /// and slants, for the corners of the pixel reach out.
@@ -72,22 +96,11 @@ struct SegmentRuns {
     constexpr int worthwhile = 5;
     constexpr float level = 0.001F;
     const float limit = way.LimitOf(segment.radius);
-    reach = ReachOf(segment, limit);
+    reach = segment.ReachOf(limit);
     fromY = segment.from.y;
     // A short line, or one that is nearly level, meets each of its rows on its whole length.
     if (reach.Width() >= worthwhile && std::abs(way.dy) > level * way.length)
       Narrow(segment, way, limit);
-  }
-
-  /// The pixels whose centres a line comes nearer to than a limit.
-  static PixelArea ReachOf(const StrokeSegment& segment, float limit)
-  {
-    // Truncated, so that one more may count; of those left of the picture, only that they are.
-    const float margin = limit - 0.5F;
-    return {static_cast<int>(std::min(segment.from.y, segment.to.y) - margin),
-            static_cast<int>(std::max(segment.from.y, segment.to.y) + margin),
-            static_cast<int>(std::min(segment.from.x, segment.to.x) - margin),
-            static_cast<int>(std::max(segment.from.x, segment.to.x) + margin)};
   }
 
   /// Where in a row the first pixel begins, or up to one further left.

@@ -26,7 +26,7 @@ public:
   /// The first two rows of an area.
   RowPair FirstOf(const PixelArea& area, const SegmentRuns& runs) const;
 
-  /// Distances of four pixels in each of two rows, along the line and across it.
+  /// Distances of four pixels in each of two rows from the start, along the line and across it.
   struct Distances {
     Eight along;
     Eight across;
@@ -113,7 +113,7 @@ inline ThinBand::ThinBand(const StrokeSegment& segment, const SegmentWay& way, f
 {
   constexpr int pixels = 4;
   constexpr float half = 0.5F;
-  const float unit = EdgeRamp::UnitOf(way, full);
+  const float unit = way.UnitOf(EdgeRamp::quarters * full);
   const float pixel = way.length * unit;
   pixel_ = static_cast<int>(pixel);
   if (flatFrom_ || flatTo_) {

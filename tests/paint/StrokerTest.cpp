@@ -61,6 +61,21 @@ TEST_F(StrokerFixture, ACurveOfShortStepsIsAsWideAsOneOfLongSteps)
   }
 }
 
+TEST_F(StrokerFixture, ASmallCurveOfManyStepsIsAsWideAsOneOfFew)
+{
+  for (const float width : {1.0F, 2.0F}) {
+    for (const int steps : {30, 100}) {
+      Points circle;
+      for (int i = 0; i <= steps; ++i) {
+        const double angle = turn * 0.9 * i / steps;
+        circle.push_back({static_cast<float>(40.0 + 12.0 * std::cos(angle)),
+                          static_cast<float>(32.0 + 12.0 * std::sin(angle))});
+      }
+      ExpectExact(circle, width, {6.0, 128.0});
+    }
+  }
+}
+
 TEST_F(StrokerFixture, LongSegmentsCoverWhatTheyShould)
 {
   for (const float width : {1.0F, 2.0F, 3.0F}) {
@@ -71,6 +86,7 @@ TEST_F(StrokerFixture, LongSegmentsCoverWhatTheyShould)
   }
 }
 
+// The few pixels of a short segment are nearly all at an edge, a corner or a join.
 TEST_F(StrokerFixture, SegmentsOfAPixelOrTwoCoverWhatTheyShould)
 {
   std::mt19937 random(4);
@@ -150,6 +166,46 @@ TEST_F(StrokerFixture, OutlinesAreClosedAndHaveTheirCorners)
   EXPECT_EQ(Cover(7, 8), 0);
   EXPECT_EQ(Cover(20, 20), 0);
   EXPECT_EQ(Ink(), 24.0 * 24.0 - 16.0 * 16.0);
+}
+
+TEST_F(StrokerFixture, AnOutlineIsTheSameWhereverItBegins)
+{
+  // Corners too sharp for more than the round joins.
+  const Points triangle = {{15.0F, 40.0F}, {60.0F, 35.0F}, {60.0F, 45.0F}};
+  Draw(triangle, 6.0F, FigureKind::Outline);
+  const double ink = Ink();
+  EXPECT_EQ(Cover(13, 39), 255);
+  Draw({triangle[1], triangle[2], triangle[0]}, 6.0F, FigureKind::Outline);
+  EXPECT_NEAR(Ink(), ink, 0.2);
+  Draw({triangle[2], triangle[0], triangle[1]}, 6.0F, FigureKind::Outline);
+  EXPECT_NEAR(Ink(), ink, 0.2);
+}
+
+TEST_F(StrokerFixture, AnOutlineThatReturnsToItsFirstPointIsNoOther)
+{
+  const Points square = {{20.0F, 20.0F}, {50.0F, 20.0F}, {50.0F, 50.0F}, {20.0F, 50.0F}};
+  Draw(square, 8.0F, FigureKind::Outline);
+  const double ink = Ink();
+  Points closed = square;
+  closed.push_back(square.front());
+  Draw(closed, 8.0F, FigureKind::Outline);
+  EXPECT_EQ(Ink(), ink);
+}
+
+TEST_F(StrokerFixture, AnOutlineThatLeavesThePictureFarAwayIsClosed)
+{
+  const float far = 1e9F;
+  Draw({{10.5F, 10.5F}, {far, 10.5F}, {far, 50.5F}, {10.5F, 50.5F}}, 3.0F, FigureKind::Outline);
+  EXPECT_EQ(Cover(10, 30), 255);
+  EXPECT_EQ(Cover(40, 10), 255);
+  EXPECT_EQ(Cover(40, 50), 255);
+  EXPECT_EQ(Cover(40, 30), 0);
+}
+
+TEST_F(StrokerFixture, APictureNarrowerThanFourPixelsIsNotTaken)
+{
+  EXPECT_FALSE(Paper(3, 9).stroker.IsActive());
+  EXPECT_TRUE(Paper(4, 9).stroker.IsActive());
 }
 
 TEST_F(StrokerFixture, AnOutlineOfOneOrTwoPointsIsALine)
