@@ -128,6 +128,10 @@ def write(path, content):
         path.write_text(content, encoding="utf-8")
 
 
+# What no file may take, small or large: seconds of processor time, and megabytes. The sanitizers take a multiple.
+LONGEST, MOST = 60, 3000
+
+
 def run(program, path, folder):
     """Status, report, processor time in seconds and peak memory in MB of a look at a file."""
     report = folder / "report"
@@ -162,6 +166,9 @@ def main():
                 print(f"| {what} | {size} | {shown} | {seconds:.1f} s | {megabytes:.0f} MB |", flush=True)
             if status != wanted or words not in report:
                 print(f"{what}: status {status} in place of {wanted}, {report!r}", file=sys.stderr)
+                wrong += 1
+            if seconds > LONGEST or megabytes > MOST:
+                print(f"{what}: {seconds:.1f} s, {megabytes:.0f} MB", file=sys.stderr)
                 wrong += 1
             path.unlink()
     sys.exit(1 if wrong else 0)

@@ -252,7 +252,9 @@ TEST_F(Memory, ThatEndsInALayerOrABlockEndsTheImportThere)
         for (const auto& entry : Layers()) names += entry.first.back();
         names += " ";
         for (const auto& entry : file->Drawing().blocks) names += entry.first.back();
-        seen.insert(names + " " + Places());
+        const std::string got = names + " " + Places();
+        EXPECT_TRUE(got == "0ab ab 14" || Tally().withoutMemory > 0) << got;
+        seen.insert(got);
       });
   const std::set<std::string> whereItEnds = {
       "0  1",       // the first layer

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <tuple>
 
@@ -228,6 +229,20 @@ TEST_F(Document, SavingToAFullDiskIsReportedAndCountsAsSaved)
   EXPECT_TRUE(document.OnSaveDocument(u"/dev/full"));
   EXPECT_THAT(messages.shown, ElementsAre(u"Error writing config file!!!"));
   EXPECT_THAT(window.list, ElementsAre("clean"));
+}
+
+TEST_F(Document, SavingToAPipeThatNobodyReadsOrToAFolderReachesNobody)
+{
+  const auto pipe = folder.Path() / "pipe.xml";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  // Would wait for ever.
+  EXPECT_TRUE(document.OnSaveDocument(folder.File("pipe.xml")));
+  EXPECT_FALSE(document.SavedWhole());
+  std::filesystem::create_directory(folder.Path() / "folder.xml");
+  EXPECT_TRUE(document.OnSaveDocument(folder.File("folder.xml")));
+  EXPECT_FALSE(document.SavedWhole());
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "folder.xml"));
 }
 
 TEST_F(Document, TheLastSaveIsASaveAndEmptiesTheShapes)

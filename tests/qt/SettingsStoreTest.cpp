@@ -3,6 +3,8 @@
 
 #include <QThread>
 
+#include <random>
+
 #include "app/GridSettingsStore.h"
 #include "qt/QtSettingsStore.h"
 #include "support/ShellFixture.h"
@@ -78,6 +80,47 @@ TEST_F(SettingsStore, APipeIsLeftAloneAndGivesTheDefaults)
   store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
   store.Refresh();
   EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
+}
+
+TEST_F(SettingsStore, GarbageGivesTheDefaultsAndGivesWayToWhatIsStored)
+{
+  std::mt19937 random(5);
+  std::string garbage;
+  for (int i = 0; i < 20000; ++i) garbage.push_back(static_cast<char>(random() % 256));
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere");
+  folder.Write("config/Quillmere/Hullwright.ini", garbage);
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(LoadGridSettings(store).show, LoadGridSettings(QtSettingsStore()).show);
+  store.WriteInteger("Grid", "Show", 5);
+  store.File()->sync();
+  QtSettingsStore next;
+  next.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(next.ReadInteger("Grid", "Show", 1), 5);
+}
+
+TEST_F(SettingsStore, AFileThatCannotBeReadGivesTheDefaults)
+{
+  // Whoever may read everything can't read a folder as a file either.
+  std::filesystem::create_directories(folder.Path() / "config/Quillmere/Hullwright.ini");
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 3), 3);
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "config/Quillmere/Hullwright.ini"));
+}
+
+TEST_F(SettingsStore, WhereNothingCanBeWrittenASessionKeepsWhatItStores)
+{
+  // A file stands where the folder of the settings should be made.
+  std::filesystem::create_directories(folder.Path() / "config");
+  folder.Write("config/Quillmere", "precious");
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
+  store.WriteInteger("Grid", "Show", 5);
+  store.File()->sync();
+  EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 5);
+  EXPECT_EQ(folder.Read("config/Quillmere"), "precious");
 }
 
 /// Folders of the system's settings, while it lives.

@@ -103,6 +103,11 @@ void AddToLine(ReplayEditor& editor)
 }
 
 void OpenMenu(ReplayEditor& editor) { editor.view.OnRButtonDown(Vertex(editor)); }
+void OpenMenuOfAnchor(ReplayEditor& editor)
+{
+  editor.Answer({true});
+  editor.view.OnRButtonDown(PixelOf(editor, 0.0, -10.0));
+}
 
 auto Command(CommandId id)
 {
@@ -178,6 +183,10 @@ std::vector<Event> Events()
       {"add a vertex", Menu(CommandId::AddVertex), OpenMenu, Ok()},
       {"remove a vertex", Menu(CommandId::RemoveVertex), OpenMenu},
       {"add an anchor", Menu(CommandId::AddAnchor), OpenMenu},
+      {"edit an anchor", Menu(CommandId::EditVertex), OpenMenuOfAnchor, Ok()},
+      {"remove an anchor", Menu(CommandId::RemoveAnchor), OpenMenuOfAnchor},
+      {"center", Menu(CommandId::MenuCenter), OpenMenu},
+      {"zoom out", Menu(CommandId::MenuZoomOut), OpenMenu},
       {"tree: add a polyline", Tree(CommandId::AddPolyline), Select({0, 0})},
       {"tree: remove all", Tree(CommandId::RemoveAllPolylines), Select({0, 0})},
       {"tree: add an anchor", Tree(CommandId::AddAnchor), Select({1})},
@@ -187,12 +196,31 @@ std::vector<Event> Events()
       {"tree: edit a vertex", Tree(CommandId::EditVertex), Select(point), Ok()},
       {"tree: remove a vertex", Tree(CommandId::RemoveVertex), Select(point)},
       {"look", Command(CommandOf(Look::Silver))}};
-  for (const CommandId id :
-       {CommandId::Scale, CommandId::MirrorVertically, CommandId::MirrorHorizontally,
-        CommandId::RotateLeft, CommandId::RotateRight, CommandId::Offsets, CommandId::Move,
-        CommandId::ToggleGrid, CommandId::ToggleSnap, CommandId::CursorZoomIn, CommandId::ShowAll,
-        CommandId::DrawPolyline, CommandId::ViewRight, CommandId::ViewBottom, CommandId::Grid,
-        CommandId::About, CommandId::MenuZoomIn}) {
+  for (const CommandId id : {CommandId::Scale,
+                             CommandId::MirrorVertically,
+                             CommandId::MirrorHorizontally,
+                             CommandId::RotateLeft,
+                             CommandId::RotateRight,
+                             CommandId::Offsets,
+                             CommandId::Move,
+                             CommandId::ToggleGrid,
+                             CommandId::ToggleSnap,
+                             CommandId::CursorZoomIn,
+                             CommandId::CursorZoomOut,
+                             CommandId::CursorMove,
+                             CommandId::ShowAll,
+                             CommandId::DrawPolyline,
+                             CommandId::SelectView,
+                             CommandId::ViewTop,
+                             CommandId::ViewBottom,
+                             CommandId::ViewRight,
+                             CommandId::ViewLeft,
+                             CommandId::ViewFront,
+                             CommandId::ViewRear,
+                             CommandId::Grid,
+                             CommandId::About,
+                             CommandId::MenuZoomIn,
+                             CommandId::ViewStatusBar}) {
     events.push_back({"command", Command(id), {}, Ok()});
   }
   return events;
@@ -250,7 +278,7 @@ TEST_F(EventsShortOfMemory, ChangeTheDesignWhollyOrNotAtAll)
     }
     EXPECT_EQ(after, whole) << event.name;
   }
-  EXPECT_GT(changes, 15);
+  EXPECT_GT(changes, 22);
   EXPECT_GT(failures, 500);
 }
 

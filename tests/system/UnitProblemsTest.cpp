@@ -54,6 +54,14 @@ TEST_F(UnitProblems, AreReportedOnceWithTheirReasonAndThePlace)
   EXPECT_THAT(messages.shown, IsEmpty());
 }
 
+TEST_F(UnitProblems, ADatabaseOfAnotherSchemaIsOneAndReportedOnce)
+{
+  Make("CREATE TABLE lengths AS SELECT 9001 AS code, 'metre' AS name");
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());
+  EXPECT_THAT(reported, ElementsAre(HasSubstr("no such table: tblUnits")));
+}
+
 TEST_F(UnitProblems, OfADatabaseWithUnitsThereAreNone)
 {
   Make("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 'metre' AS strUnit, 1 AS numDimension");
