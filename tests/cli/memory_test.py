@@ -24,9 +24,9 @@ sys.exit(os.waitstatus_to_exitcode(status))
 class MemoryTest(CliTest):
     """What memory running out does to a file that is there already."""
 
-    def import_within(self, memory, drawing, design):
-        """Runs an import that may take so many bytes of address space."""
-        return subprocess.run([PROGRAM, "import", drawing, "-o", design], capture_output=True, check=False,
+    def run_within(self, memory, *arguments):
+        """Runs the program, which may take so many bytes of address space."""
+        return subprocess.run([PROGRAM, *arguments], capture_output=True, check=False,
                               env={**os.environ, **FOLDERS},
                               preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (memory, memory)))
 
@@ -41,7 +41,7 @@ class MemoryTest(CliTest):
         for memory in range(16 * MIB, 200 * MIB, 2 * MIB):
             with self.subTest(memory=memory // MIB):
                 design.write_bytes(b"<vessel/>")
-                done = self.import_within(memory, drawing, design)
+                done = self.run_within(memory, "import", drawing, "-o", design)
                 written = design.read_bytes()
                 if done.returncode in (0, 3):
                     self.assertNotIn(b"\0", written)
@@ -67,7 +67,7 @@ class MemoryTest(CliTest):
             memory += 2 * MIB
             with self.subTest(memory=memory // MIB):
                 design.write_bytes(b"<vessel/>")
-                done = self.import_within(memory, drawing, design)
+                done = self.run_within(memory, "import", drawing, "-o", design)
                 statuses.add(done.returncode)
                 if done.returncode not in (0, 3):
                     self.assertEqual(design.read_bytes(), b"<vessel/>")
@@ -77,6 +77,24 @@ class MemoryTest(CliTest):
                 polylines = design.read_bytes().count(b"<polyline>")
                 self.assertEqual(polylines, 20000 - (int(left_out[1]) if left_out else 0))
         self.assertTrue({0, 1, 3} <= statuses, statuses)
+
+    def test_a_design_that_did_not_open_whole_is_refused_with_its_reason(self):
+        vertices = "".join(f'<vertex x="{i}" y="{i}.5"/>' for i in range(200))
+        design = self.write("big.xml", "<vessel><shapes view='02'>" + f"<polyline>{vertices}</polyline>" * 300
+                            + "</shapes></vessel>")
+        statuses = set()
+        memory = 4 * MIB
+        while 0 not in statuses and memory < 400 * MIB:
+            memory += MIB
+            done = self.run_within(memory, "info", design)
+            statuses.add(done.returncode)
+            if done.returncode == 0:
+                self.assertIn(b"60000 vertices", done.stdout)
+            elif done.stderr.startswith(b"hullwright-cli: "):
+                self.assertRegex(done.stderr, b"out of memory|Cannot allocate memory")
+                self.assertEqual(done.stdout, b"")
+                statuses.add("a reason")
+        self.assertTrue({0, 1, "a reason"} <= statuses, statuses)
 
     def peak_of_import(self, drawing):
         """Bytes of memory that an import takes at most. A process counts what the one that started it takes, so that is a
