@@ -46,33 +46,29 @@ TEST_F(StrokerFixture, JoinsAreRoundAndLeaveNoSeam)
   }
 }
 
+/// Nine tenths of a circle in so many steps.
+Points Curve(double radius, int steps)
+{
+  Points curve;
+  for (int i = 0; i <= steps; ++i) {
+    const double angle = turn * 0.9 * i / steps;
+    curve.push_back({static_cast<float>(40.0 + radius * std::cos(angle)),
+                     static_cast<float>(32.0 + radius * std::sin(angle))});
+  }
+  return curve;
+}
+
 TEST_F(StrokerFixture, ACurveOfShortStepsIsAsWideAsOneOfLongSteps)
 {
   for (const float width : {1.0F, 2.0F, 6.0F}) {
-    for (const int steps : {12, 60, 400}) {
-      Points circle;
-      for (int i = 0; i <= steps; ++i) {
-        const double angle = turn * 0.9 * i / steps;
-        circle.push_back({static_cast<float>(40.0 + 25.0 * std::cos(angle)),
-                          static_cast<float>(32.0 + 25.0 * std::sin(angle))});
-      }
-      ExpectExact(circle, width, {5.0, 128.0});
-    }
+    for (const int steps : {12, 60, 400}) ExpectExact(Curve(25.0, steps), width, {5.0, 128.0});
   }
 }
 
 TEST_F(StrokerFixture, ASmallCurveOfManyStepsIsAsWideAsOneOfFew)
 {
   for (const float width : {1.0F, 2.0F}) {
-    for (const int steps : {30, 100}) {
-      Points circle;
-      for (int i = 0; i <= steps; ++i) {
-        const double angle = turn * 0.9 * i / steps;
-        circle.push_back({static_cast<float>(40.0 + 12.0 * std::cos(angle)),
-                          static_cast<float>(32.0 + 12.0 * std::sin(angle))});
-      }
-      ExpectExact(circle, width, {6.0, 128.0});
-    }
+    for (const int steps : {30, 100}) ExpectExact(Curve(12.0, steps), width, {6.0, 128.0});
   }
 }
 
