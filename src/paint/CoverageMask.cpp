@@ -34,9 +34,6 @@ constexpr auto flatCover = [](const SegmentBand& band, const SegmentBand::Distan
   return band.CoverFlat(at);
 };
 
-/// The picture is too large for the cache, and `Paint` comes soon.
-void FetchSoon(const std::uint32_t* pixels) { __builtin_prefetch(pixels, 1); }
-
 /// Blends into the last pixels of a picture, which are fewer than a block.
 void BlendLast(const PixelBlend& blend, std::span<std::uint32_t> pixels, const Covers& covers)
 {
@@ -65,11 +62,13 @@ void CoverageMask::Begin(const PixelView& picture, const PixelArea& area, float 
   const auto size = static_cast<std::size_t>(stride_) * static_cast<std::size_t>(area.Height());
   if (bytes_.size() < size) bytes_.resize(size);
   if (isDense_ && blocks_.size() < BlocksOf(area)) blocks_.resize(2 * BlocksOf(area));
-  // A dense line is narrow, so that the ends of its rows are most of them.
+  // The picture is too large for the cache, and `Paint` comes soon. A dense line is narrow, so that
+  // the ends of its rows are most of them. (A function around the fetch alone would be left out by
+  // the compiler, as one that has no effect.)
   for (int row = area.firstRow; isDense_ && row <= area.lastRow; ++row) {
     const std::uint32_t* const first = picture.pixels + row * picture.stride + area.firstX;
-    FetchSoon(first);
-    FetchSoon(first + area.Width());
+    __builtin_prefetch(first, 1);
+    __builtin_prefetch(first + area.Width(), 1);
   }
 }
 
@@ -158,8 +157,8 @@ inline __attribute__((always_inline)) void CoverageMask::AddPairs(ThinBand band,
     const int lower = byte + start.lowerX + stride_;
     const int upperPixel = pixel + start.upperX;
     const int lowerPixel = pixel + start.lowerX + pictureStride;
-    FetchSoon(picture_.pixels + upperPixel);
-    FetchSoon(picture_.pixels + lowerPixel);
+    __builtin_prefetch(picture_.pixels + upperPixel, 1);  // `Paint` comes soon
+    __builtin_prefetch(picture_.pixels + lowerPixel, 1);
     ThinBand::Distances distances{start.along, start.across};
     for (int x = 0; x < blocks * blockSize; x += blockSize) {
       band.Cover<isFlat>(distances).RaiseBytes(bytes + upper + x, bytes + lower + x);
@@ -289,7 +288,7 @@ void CoverageMask::AddRows(const SegmentBand& theBand, SegmentRuns runs, const P
     SegmentBand::Distances distances = band.At(static_cast<float>(x) + 0.5F, y);
     int byte = (row - area_.firstRow) * stride_ + x - area_.firstX;
     std::ptrdiff_t pixel = row * picture_.stride + x;
-    FetchSoon(picture_.pixels + pixel);
+    __builtin_prefetch(picture_.pixels + pixel, 1);  // `Paint` comes soon
     for (int left = blocks; left > 0; --left) {
       Four covered = cover(band, distances);
       if (x > lastWhole) covered = CutOff(covered, picture_.width - 1 - x);
