@@ -52,7 +52,7 @@ struct SegmentWay {
   /// The same for a way of any direction, or a little more.
   static float MostLimitOf(float radius)
   {
-    constexpr float most = 0.56F;  // the root of 0.5 times 0.5 and 0.25 times 0.25
+    constexpr float most = 0.56F;  // the root of 0.5 * 0.5 + 0.25 * 0.25, rounded up
     return radius + most;
   }
 
