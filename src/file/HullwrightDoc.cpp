@@ -1,6 +1,7 @@
 #include "file/HullwrightDoc.h"
 
 #include <cerrno>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -149,6 +150,17 @@ std::u16string CannotOpen(std::u16string_view path, const std::u16string& reason
   return u"The file \"" + std::u16string(path) + u"\" cannot be opened.\n" + reason + u".";
 }
 
+/// The file object of a save; null where there is no memory for it.
+std::unique_ptr<CFileVessel> NewFile(IMessageBoxes& messages, bool letsGo)
+{
+  try {
+    if (letsGo) return std::make_unique<LastFile>(messages);
+    return std::make_unique<CFileVessel>(messages);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 }  // namespace
 
 CHullwrightDoc::CHullwrightDoc(DesignState& design, IMainWindow& mainWindow,
@@ -234,31 +246,27 @@ void CHullwrightDoc::FillFile(CFileVessel& file) const
   });
 }
 
-std::u16string CHullwrightDoc::Write(std::u16string_view path, IMessageBoxes& messages) const
+std::u16string CHullwrightDoc::Write(CFileVessel& file, std::u16string_view path) const
 {
   try {
-    return letsGoAtSave_ ? WriteAs(LastFile(messages), path) : WriteAs(CFileVessel(messages), path);
+    FillFile(file);
+    if (file.Save(path, design_.shapeGroups) == 0) return {};
+    return Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
   } catch (const std::bad_alloc&) {
     // Nothing needs memory once the file is open.
     return Reason(ENOMEM, "");
   }
 }
 
-std::u16string CHullwrightDoc::WriteAs(CFileVessel&& file, std::u16string_view path) const
-{
-  FillFile(file);
-  if (file.Save(path, design_.shapeGroups) == 0) return {};
-  return Reason(file.LostBlock() ? ENOMEM : file.WriteError(), "There is nothing to write");
-}
-
 bool CHullwrightDoc::OnSaveDocument(std::u16string_view path)
 {
   MessageForLater message;
-  saveProblem_ = Write(path, message);
+  const std::unique_ptr<CFileVessel> file = NewFile(message, letsGoAtSave_);
+  saveProblem_ = file ? Write(*file, path) : Reason(ENOMEM, "");
   // Before anybody reads a message: the file may be torn until then.
   if (!SavedWhole() && onSaveFailed) onSaveFailed();
   message.ShowOn(messages_);
-  mainWindow_.SetModifiedFlag(false);
+  if (file) mainWindow_.SetModifiedFlag(false);
   return true;
 }
 

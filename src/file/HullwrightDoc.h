@@ -32,7 +32,8 @@ public:
   bool OnOpenDocument(std::u16string_view path);
 
   /// Writes the design to a file. Always true, and the design then counts as saved, also when the
-  /// writing failed; `CFileVessel` states what is reported to the user.
+  /// writing failed, unless there was no memory to begin with it; `CFileVessel` states what is
+  /// reported to the user.
   bool OnSaveDocument(std::u16string_view path);
 
   /// Whether the last save reached the disk whole. A design for whose text memory ended is not
@@ -82,8 +83,7 @@ private:
   void FillFile(CFileVessel& file) const;
 
   /// Saves the design; why that failed, empty when it did not.
-  std::u16string Write(std::u16string_view path, IMessageBoxes& messages) const;
-  std::u16string WriteAs(CFileVessel&& file, std::u16string_view path) const;
+  std::u16string Write(CFileVessel& file, std::u16string_view path) const;
 
   DesignState& design_;
   IMainWindow& mainWindow_;

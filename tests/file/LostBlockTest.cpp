@@ -8,6 +8,7 @@
 #include "headless/SilentWindow.h"
 #include "model/ShapePolyline.h"
 #include "support/FailingNew.h"
+#include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -149,6 +150,21 @@ TEST_F(LostBlock, IsNotAllThatASaveNeedsMemoryFor)
   EXPECT_GT(failures, 3);
   EXPECT_TRUE(document.SavedWhole());
   EXPECT_TRUE(folder.Read("boat.xml").ends_with("</vessel>\n"));
+}
+
+TEST_F(LostBlock, ForTheFileObjectItselfLeavesTheModifiedFlag)
+{
+  DesignState design;
+  test::RecordedNotifications window;
+  CHullwrightDoc document(design, window, messages);
+  const std::u16string path = folder.Write("boat.xml", "before");
+  const test::FailingNew memory(1);
+  const bool saved = document.OnSaveDocument(path);
+  ASSERT_TRUE(test::FailingNew::Stop());
+  EXPECT_TRUE(saved);
+  EXPECT_FALSE(document.SavedWhole());
+  EXPECT_TRUE(window.list.empty());
+  EXPECT_EQ(folder.Read("boat.xml"), "before");
 }
 
 }  // namespace
