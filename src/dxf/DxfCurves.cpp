@@ -54,14 +54,14 @@ BulgeArc ArcOfBulge(const DxfPoint& p, const DxfPoint& q, double bulge)
 }
 
 /// How many vertices they are flattened to, or a few more; some of more than `most`. An arc between
-/// vertices in the same place has hardly any.
+/// vertices in the same place has hardly any, one that leads straight up is a whole circle.
 std::size_t FlattenedCount(const std::vector<CFileDxfVertex>& vertices, std::size_t most)
 {
   std::size_t count = vertices.size();
   for (std::size_t i = 0; i + 1 < vertices.size() && count <= most; ++i) {
     const CFileDxfVertex& p = vertices[i];
     const CFileDxfVertex& q = vertices[i + 1];
-    if (p.bulge != 0.0 && (p.x != q.x || p.y != q.y)) count += mostArcVertices - 1;
+    if (p.bulge != 0.0 && (p.x != q.x || p.y != q.y || p.z != q.z)) count += mostArcVertices - 1;
   }
   return count;
 }

@@ -77,6 +77,15 @@ TEST_F(VertexLimitOfADrawing, LeavesOutAPolylineWhoseBulgesBecomeTooManyVertices
   EXPECT_FALSE(Tally().IsIncomplete());
 }
 
+TEST_F(VertexLimitOfADrawing, LeavesOutAPolylineWhoseBulgesLeadStraightUp)
+{
+  std::string heavy = Entity("POLYLINE");
+  for (int i = 0; i < 10; ++i) heavy += Entity("VERTEX", {{30, std::to_string(i)}, {42, "1"}});
+  Import(Entities(heavy + Entity("SEQEND")), {.mostVertices = 500});
+  EXPECT_EQ(ShapeCount(), 0U);
+  EXPECT_EQ(Tally().beyondLimit, 1U);
+}
+
 TEST_F(VertexLimitOfADrawing, HoldsForVerticesThatAreGatheredWithoutAnEnd)
 {
   Import(Entities(Entity("LWPOLYLINE") + Repeated(1000, Lines({{10, "1"}, {20, "2"}})) +
