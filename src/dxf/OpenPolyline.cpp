@@ -6,12 +6,6 @@
 
 namespace hullwright {
 
-void OpenPolyline::Begin()
-{
-  pendingPolyline_.reset();
-  polylineExtrusion_ = Extrusion();
-}
-
 std::unique_ptr<CShapePolyline> OpenPolyline::End(std::size_t mostVertices, bool& leftOut)
 {
   constexpr std::int32_t closed = 1;  // the whole value: 9, a closed line in space, stays open

@@ -16,7 +16,7 @@ namespace hullwright {
 class OpenPolyline {
 public:
   /// Forgets a polyline that has no end, for the next header. Its vertices stay for the next one.
-  void Begin();
+  void Begin() { pendingPolyline_.reset(); }
 
   /// Flags of the headers; one without flags has those of the one before.
   void SetFlags(std::int32_t flags) { polylineFlags_ = flags; }
