@@ -108,7 +108,6 @@ void CHullwrightApp::LoadLook()
 
 void CHullwrightApp::StoreLook(Look look)
 {
-  applicationLook = look;
   ports_.settings.WriteInteger(workspaceSection, lookKey, NumberOf(look));
 }
 
