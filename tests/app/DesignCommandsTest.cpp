@@ -187,6 +187,7 @@ TEST_F(Commands, AGroupOfAllSidesInFrontTakesEachSidesCommands)
     Run(CommandId::Scale, {.ok = true, .fields = {{ScaleControls::factor, u"-2"}}});
     EXPECT_EQ(wildcard.vertices[0]->x, 2.0) << NumberOf(side);
     Run(CommandId::Move, {.ok = true, .fields = {{MoveControls::directionX, u"-1"}}});
+    EXPECT_EQ(wildcard.vertices[0]->x, 1.0) << NumberOf(side);
     *wildcard.vertices[0] = CShapeVertex(1.0, 1.0, 0.0);
   }
 }
@@ -388,6 +389,14 @@ TEST_F(Commands, WithoutASideInViewARotationNotifiesEverybodyAndMakesNoGroup)
   Run(CommandId::RotateLeft, {.ok = true});
   EXPECT_THAT(notified.list, ElementsAreArray(all));
   EXPECT_TRUE(app.shapeGroups.empty());
+}
+
+TEST_F(Commands, ARotationWalksWithTheGroupsOwnCursor)
+{
+  AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
+  AddLine(ViewSide::Top, {{2.0, 0.0, 0.0}});
+  app.RotatePolylines(90.0);
+  EXPECT_EQ(FindViewGroup(app.shapeGroups, ViewSide::Top)->cursor, 3U);
 }
 
 }  // namespace

@@ -41,7 +41,8 @@ protected:
 
 TEST_F(Dialogs, TheGridDialogShowsTheSettingsWithTwoDecimals)
 {
-  settings.values = {{"Grid/Show", 0}, {"Grid/SpacingShowX", 114}, {"Grid/SpacingSnapY", 10000}};
+  settings.values = {
+      {"Grid/Show", 0}, {"Grid/Snap", 7}, {"Grid/SpacingShowX", 114}, {"Grid/SpacingSnapY", 10000}};
   Run(CommandId::Grid, {});
   EXPECT_FALSE(dialogs.startChecks[GridControls::showGrid]);
   EXPECT_TRUE(dialogs.startChecks[GridControls::snapToGrid]);

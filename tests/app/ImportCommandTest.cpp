@@ -45,6 +45,16 @@ TEST_F(ImportCommand, AsksForADrawingByItsExtension)
               ElementsAre(testing::Pair(u"dxf", u"AutoCad DXF Files (*.dxf)|*.dxf||")));
 }
 
+TEST_F(ImportCommand, WithoutASideInViewMakesAGroupForNone)
+{
+  app.activeView = ViewSide::None;
+  Run(CommandId::ImportDxf);
+  Run(CommandId::ImportDxf);
+  ASSERT_EQ(app.shapeGroups.size(), 1U);
+  EXPECT_EQ(app.shapeGroups[0]->viewCode, ViewSide::None);
+  EXPECT_EQ(ShapesOf(0).size(), 4U);
+}
+
 TEST_F(ImportCommand, GivenUpDoesNothing)
 {
   fileDialogs.answer.reset();

@@ -168,27 +168,34 @@ TEST_F(MainFrame, ALookIsShownThenStoredAndBearsTheMark)
   EXPECT_EQ(app.applicationLook, Look{213});
 }
 
-/// Looks into the settings at the moment that a look is shown.
+/// Looks at application and settings at the moment that a look is shown.
 class WatchingWidgets : public test::FakeWidgets {
 public:
-  explicit WatchingWidgets(const MemorySettings& settings) : settings_(settings) {}
+  WatchingWidgets(const CHullwrightApp& app, const MemorySettings& settings)
+      : app_(app), settings_(settings)
+  {
+  }
   void ApplyLook(Look look) override
   {
     FakeWidgets::ApplyLook(look);
+    lookThen = app_.applicationLook;
     storedBefore = settings_.written;
   }
+  std::optional<Look> lookThen;
   std::optional<std::vector<std::string>> storedBefore;
 
 private:
+  const CHullwrightApp& app_;
   const MemorySettings& settings_;
 };
 
 TEST_F(MainFrame, ALookIsStoredOnlyAfterItIsShown)
 {
-  WatchingWidgets watching(settings);
+  WatchingWidgets watching(app, settings);
   CMainFrame watched(app, watching);
   watched.OnApplicationLook(Look{206});
   EXPECT_THAT(watching.calls, ElementsAre("look 206"));
+  EXPECT_EQ(watching.lookThen, Look{206});
   EXPECT_EQ(watching.storedBefore, std::vector<std::string>());
   EXPECT_THAT(settings.written, ElementsAre("Workspace/ApplicationLook"));
   EXPECT_EQ(settings.values["Workspace/ApplicationLook"], 206);

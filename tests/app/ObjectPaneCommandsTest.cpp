@@ -88,6 +88,26 @@ TEST_F(ObjectPaneCommands, PointCommandsOnNodesThatAreNoPointsDoNothing)
   EXPECT_THAT(messages.asked, IsEmpty());
 }
 
+TEST_F(ObjectPaneCommands, PolylineCommandsOnNodesThatAreNoPolylinesDoNothing)
+{
+  const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 2.0, 3.0}});
+  app.anchors->items.push_back(app.anchors->NewAnchor());
+  pane.BuildTree();
+  control.rebuilds = 0;
+  messages.answer = true;
+  for (const TreeItem& item :
+       {TreeItem{}, At({0}), At({0, 0}), At({0, 0, 0, 0}), At({1}), At({1, 0})}) {
+    for (const CommandId id :
+         {CommandId::AddVertex, CommandId::RemovePolyline, CommandId::ZoomPolyline}) {
+      Command(id, item, {.ok = true});
+      EXPECT_FALSE(NotifiedAll()) << NumberOf(id);
+    }
+  }
+  EXPECT_THAT(dialogs.shown, IsEmpty());
+  EXPECT_THAT(messages.asked, IsEmpty());
+  EXPECT_EQ(line.vertices.size(), 1U);
+}
+
 TEST_F(ObjectPaneCommands, RemovePointAsksAndTakesItOut)
 {
   const CShapePolyline& line = AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}, {2.0, 0.0, 0.0}});

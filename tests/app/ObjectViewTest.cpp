@@ -65,6 +65,9 @@ TEST_F(ObjectPane, WithoutAnAnchorListThereIsNoAnchorsRoot)
   app.anchors.reset();
   pane.BuildTree();
   EXPECT_FALSE(pane.Tree().Anchors());
+  pane.OnContextMenu(At({0}));
+  EXPECT_THAT(control.menu, ElementsAre(Pair(CommandId{32791}, u"&Edit Point..."),
+                                        Pair(CommandId{32798}, u"&Remove Point...")));
 }
 
 TEST_F(ObjectPane, ItemsOfBeforeARebuildAreNoItems)
@@ -238,6 +241,32 @@ TEST_F(ObjectPane, ARebuildDoesNotPayForPoints)
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
   EXPECT_EQ(pane.Tree().ChildCount(At({0, 0, 0})), 1'000'000U);
   EXPECT_EQ(pane.Tree().Text(At({0, 0, 0, 999'999})), u"+999999.000,+0.000,+0.000");
+}
+
+TEST_F(ObjectPane, WithoutASideInViewAClickChangesNoMarkAndShowsThemAllTheSame)
+{
+  CShapePolyline& line = AddLine(ViewSide::Top, {});
+  line.editing = true;
+  pane.BuildTree();
+  app.activeView = ViewSide::None;
+  recorder.calls.clear();
+  pane.OnClick(At({0, 0}));
+  pane.OnClick(At({0, 0, 0}));
+  EXPECT_TRUE(line.editing);
+  EXPECT_THAT(Images(At({0, 0})), ElementsAre(7));
+  EXPECT_EQ(Frames(), 1);
+  EXPECT_EQ(app.shapeGroups.size(), 1U);
+}
+
+TEST_F(ObjectPane, TheMarksAreShownBeforeTheViewRepaints)
+{
+  AddLine(ViewSide::Top, {});
+  pane.BuildTree();
+  pane.OnClick(At({0, 0}));
+  std::vector<int> images;
+  notified.onNotification = [&] { images = Images(At({0, 0})); };
+  pane.OnClick(At({0, 0, 0}));
+  EXPECT_THAT(images, ElementsAre(7));
 }
 
 }  // namespace

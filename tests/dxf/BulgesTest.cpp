@@ -44,7 +44,7 @@ TEST_F(Bulges, ABulgeAboveOneHasItsCentreOnTheFarSide)
   // tan(theta/4) = 2: the sagitta is twice the half chord.
   EXPECT_NEAR(VerticesOf(0)[90][0], 1.0, 1e-9);
   EXPECT_NEAR(VerticesOf(0)[90][1], -2.0, 1e-9);
-  for (const auto& [bulge, sagitta] : {std::pair{"0.5", 0.5}, {"0.95", 0.95}}) {
+  for (const auto& [bulge, sagitta] : {std::pair{"0.5", 0.5}, {"0.95", 0.95}, {"1.01", 1.01}}) {
     ImportEntities(TwoVertices(bulge));
     EXPECT_NEAR(VerticesOf(0).at(90).at(1), -sagitta, 1e-9);
   }
@@ -104,29 +104,39 @@ Arc ArcBetween(double px, double py, double qx, double qy, double bulge)
           angleTo(cx, cy, qx, qy) * degrees * radians};
 }
 
+struct Chord {
+  double px;
+  double py;
+  double qx;
+  double qy;
+};
+
 TEST_F(Bulges, HaveTheBitsOfTheirFormulas)
 {
-  for (const double bulge : {0.37, -0.37}) {
-    ImportEntities(Entity("LWPOLYLINE", {{10, "1.1"},
-                                         {20, "2.3"},
-                                         {42, bulge > 0.0 ? "0.37" : "-0.37"},
-                                         {10, "-4.7"},
-                                         {20, "0.9"}}));
-    Arc arc = ArcBetween(1.1, 2.3, -4.7, 0.9, bulge);
-    const double turn = 2.0 * std::numbers::pi;
-    if (bulge > 0.0 && arc.end < arc.start) arc.end += turn;
-    if (bulge < 0.0 && arc.start < arc.end) arc.end -= turn;
-    const auto vertices = VerticesOf(0);
-    const auto expectAt = [&](std::size_t index, double t) {
-      EXPECT_EQ(vertices.at(index).at(0), arc.x + arc.radius * std::cos(t)) << bulge << index;
-      EXPECT_EQ(vertices.at(index).at(1), arc.y + arc.radius * std::sin(t)) << bulge << index;
-    };
-    double t = arc.start;
-    for (std::size_t i = 0; i < 180; ++i) {
-      expectAt(i, t);
-      t = bulge > 0.0 ? t + (arc.end - arc.start) / 180.0 : t - (arc.start - arc.end) / 180.0;
+  // Slanted, and straight along x, whose angle is nothing and not a whole turn.
+  for (const Chord& chord : {Chord{1.1, 2.3, -4.7, 0.9}, Chord{-1.3, 0.7, 4.9, 0.7}}) {
+    for (const double bulge : {0.37, -0.37}) {
+      ImportEntities(Entity("LWPOLYLINE", {{10, FormatShortest(chord.px)},
+                                           {20, FormatShortest(chord.py)},
+                                           {42, FormatShortest(bulge)},
+                                           {10, FormatShortest(chord.qx)},
+                                           {20, FormatShortest(chord.qy)}}));
+      Arc arc = ArcBetween(chord.px, chord.py, chord.qx, chord.qy, bulge);
+      const double turn = 2.0 * std::numbers::pi;
+      if (bulge > 0.0 && arc.end < arc.start) arc.end += turn;
+      if (bulge < 0.0 && arc.start < arc.end) arc.end -= turn;
+      const auto vertices = VerticesOf(0);
+      const auto expectAt = [&](std::size_t index, double t) {
+        EXPECT_EQ(vertices.at(index).at(0), arc.x + arc.radius * std::cos(t)) << bulge << index;
+        EXPECT_EQ(vertices.at(index).at(1), arc.y + arc.radius * std::sin(t)) << bulge << index;
+      };
+      double t = arc.start;
+      for (std::size_t i = 0; i < 180; ++i) {
+        expectAt(i, t);
+        t = bulge > 0.0 ? t + (arc.end - arc.start) / 180.0 : t - (arc.start - arc.end) / 180.0;
+      }
+      expectAt(vertices.size() - 2, arc.end);
     }
-    expectAt(vertices.size() - 2, arc.end);
   }
 }
 
@@ -209,8 +219,12 @@ TEST_F(Bulges, ABulgeBetweenEqualPointsGivesNumbersThatAreNone)
 
 TEST_F(Bulges, OfNegativeValuesBendToTheLeftByTheirSagitta)
 {
-  for (const auto& [bulge, sagitta] :
-       {std::pair{"-0.25", 0.25}, {"-0.5", 0.5}, {"-0.95", 0.95}, {"-2", 2.0}, {"-4", 4.0}}) {
+  for (const auto& [bulge, sagitta] : {std::pair{"-0.25", 0.25},
+                                       {"-0.5", 0.5},
+                                       {"-0.95", 0.95},
+                                       {"-1.01", 1.01},
+                                       {"-2", 2.0},
+                                       {"-4", 4.0}}) {
     ImportEntities(TwoVertices(bulge));
     const auto vertices = VerticesOf(0);
     EXPECT_NEAR(vertices.at(0).at(0), 0.0, 1e-9) << bulge;

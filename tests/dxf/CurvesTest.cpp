@@ -1,5 +1,8 @@
 #include <cmath>
+#include <numbers>
+#include <tuple>
 
+#include "base/Numbers.h"
 #include "dxf/DxfCurves.h"
 #include "support/DxfFixture.h"
 
@@ -29,7 +32,8 @@ TEST_F(Curves, ACircleRunsClockwiseFromTheWestAndIsFlat)
 TEST_F(Curves, ARadiusOfZeroOrLessIsTakenAsItIs)
 {
   ImportEntities(Entity("CIRCLE", {{10, "1"}, {40, "0"}}));
-  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 1.0);
+  ASSERT_EQ(VerticesOf(0).size(), 61U);
+  for (const auto& v : VerticesOf(0)) EXPECT_THAT(v, ElementsAre(1.0, 0.0, 0.0));
   ImportEntities(Entity("CIRCLE", {{40, "-2"}}));
   EXPECT_EQ(VerticesOf(0)[0][0], 2.0);
   ImportEntities(Entity("ARC", {{40, "-2"}, {50, "0"}, {51, "90"}}));
@@ -258,6 +262,12 @@ TEST_F(Curves, TheAxisOfAnEllipseIsMeasuredInSpaceAndExtruded)
   EXPECT_THAT(VerticesOf(0)[0], ElementsAre(5.0, 0.0, 0.0));
   ImportEntities(Entity("ELLIPSE", {{11, "3"}, {40, "1"}, {42, "6"}, {230, "-1"}}));
   EXPECT_NEAR(VerticesOf(0)[0][0], 3.0, 1e-12);  // turned by the extrusion, and turned back
+  // A normal of length 2 stretches what of the axis lies along it from 4 to 8.
+  ImportEntities(Entity("ELLIPSE", {{11, "6"}, {31, "4"}, {40, "1"}, {42, "6"}, {230, "2"}}));
+  EXPECT_THAT(VerticesOf(0)[0], ElementsAre(10.0, 0.0, 0.0));
+  // One that stands upright is not turned.
+  ImportEntities(Entity("ELLIPSE", {{31, "4"}, {40, "1"}, {42, "6"}}));
+  EXPECT_THAT(VerticesOf(0)[0], ElementsAre(4.0, 0.0, 0.0));
 }
 
 TEST_F(Curves, ASlantedEllipseCollapsesIntoALine)
@@ -268,8 +278,52 @@ TEST_F(Curves, ASlantedEllipseCollapsesIntoALine)
 
 TEST_F(Curves, AnEllipseWithoutAnAxisLiesInItsCentre)
 {
-  ImportEntities(Entity("ELLIPSE", {{10, "5"}, {31, "0"}, {40, "1"}, {42, "6"}}));
-  for (const auto& v : VerticesOf(0)) EXPECT_EQ(v[0], 5.0);
+  ImportEntities(Entity("ELLIPSE", {{10, "5"}, {20, "7"}, {31, "0"}, {40, "1"}, {42, "6"}}));
+  ASSERT_EQ(VerticesOf(0).size(), 61U);
+  for (const auto& v : VerticesOf(0)) EXPECT_THAT(v, ElementsAre(5.0, 7.0, 0.0));
+}
+
+TEST_F(Curves, TheTurnOfAnArcThatPassesZeroIsAddedInRadians)
+{
+  // Added in degrees it would give other last bits.
+  const double wholeTurn = 2.0 * std::numbers::pi;
+  for (const auto& [start, end, clockwise] :
+       {std::tuple{350.0, 60.0, false}, {100.0, 120.0, true}}) {
+    const auto arc = MakeArc({}, Extrusion(), 1.0, start, end, clockwise);
+    const double last = clockwise ? end * turn - wholeTurn : end * turn + wholeTurn;
+    EXPECT_EQ(arc->vertices.back()->x, std::cos(last)) << end;
+    EXPECT_EQ(arc->vertices.back()->y, std::sin(last)) << end;
+  }
+}
+
+TEST_F(Curves, AnEllipseOfADrawingHasTheBitsOfItsFormulas)
+{
+  constexpr double degrees = 57.29577951308232;  // of one radian
+  for (const char* end : {"5.5", "0.05"}) {      // the second lies before the start
+    ImportEntities(Entity("ELLIPSE", {{10, "10.1"},
+                                      {20, "20.2"},
+                                      {30, "3.3"},
+                                      {11, "4.1"},
+                                      {21, "-1.2"},
+                                      {31, "0.7"},
+                                      {40, "0.37"},
+                                      {41, "0.1"},
+                                      {42, end}}));
+    const double x = ParseDouble("4.1");
+    const double y = ParseDouble("-1.2");
+    const double start = ParseDouble("0.1") * degrees;
+    double last = ParseDouble(end) * degrees;
+    if (last < start) last += 360.0;
+    const double major = std::sqrt(x * x + y * y + 0.7 * 0.7);
+    const auto expected = MakeEllipse({10.1, 20.2, 3.3}, Extrusion(), -std::atan2(y, x) * degrees,
+                                      major, major * 0.37, start, last);
+    const auto vertices = VerticesOf(0);
+    ASSERT_EQ(vertices.size(), expected->vertices.size());
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+      const CShapeVertex& v = *expected->vertices[i];
+      EXPECT_THAT(vertices[i], ElementsAre(v.x, v.y, v.z)) << end << " " << i;
+    }
+  }
 }
 
 TEST_F(Curves, TheCentreOfAnEllipseIsExtrudedTwice)

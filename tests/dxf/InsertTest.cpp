@@ -39,6 +39,15 @@ TEST_F(Inserts, WithoutAHandleLeaveTheirCopiesWithoutATag)
   EXPECT_THAT(AttributesOf(0), ElementsAre("LAYER=part", "HANDLE=A1", "LAYER=deck", "HANDLE="));
 }
 
+TEST_F(Inserts, HaveTheirNamesInTheCodePage)
+{
+  Import(Blocks(Block("B", unitLine)) +
+         Entities(Insert("B", Lines({{5, "C3\xFC"}, {8, "Br\xFCgge"}}))));
+  EXPECT_EQ(At(0).tag, 0xC3);
+  EXPECT_THAT(AttributesOf(0),
+              ElementsAre("LAYER=part", "HANDLE=A1", "LAYER=Br\xC3\xBCgge", "HANDLE=C3\xC3\xBC"));
+}
+
 TEST_F(Inserts, ScaleThenTurnThenMove)
 {
   Import(Blocks(Block("B", unitLine)) + Entities(Insert("B", Lines({{50, "90"}, {10, "10"}}))));

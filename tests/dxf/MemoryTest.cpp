@@ -3,6 +3,7 @@
 #include <optional>
 #include <set>
 
+#include "dxf/OpenPolyline.h"
 #include "support/DxfFixture.h"
 #include "support/FailingNew.h"
 
@@ -117,6 +118,21 @@ TEST_F(Memory, IsNotTakenForSingleLines)
            Entities(lines + LineAt("1") + lines);
   };
   EXPECT_EQ(AllocationsOf(withLines(1000)), AllocationsOf(withLines(10)));
+}
+
+TEST_F(Memory, OfTheVerticesOfAPolylineServesTheNextOne)
+{
+  OpenPolyline polyline;
+  const auto gather = [&] {
+    for (int i = 0; i < 1000; ++i) polyline.AddVertex({});
+  };
+  gather();
+  polyline.Wait(std::make_unique<CShapePolyline>());
+  bool leftOut = false;
+  EXPECT_NE(polyline.End(VertexLimit::usual, leftOut), nullptr);
+  const FailingNew none(std::numeric_limits<std::size_t>::max());
+  gather();
+  EXPECT_EQ(FailingNew::Count(), 0U);
 }
 
 /// A window that has no memory to show how far an import is.

@@ -78,6 +78,12 @@ TEST_F(Polylines, TheClosingCopyKeepsItsHeight)
                                          ElementsAre(1.0, 2.0, 3.0)));
 }
 
+TEST_F(Polylines, AClosedOneOfOneVertexHasItTwice)
+{
+  ImportEntities(Header(Lines({{70, "1"}})) + Vertex(1, 2) + seqEnd);
+  EXPECT_THAT(VerticesOf(0), ElementsAre(ElementsAre(1.0, 2.0, 0.0), ElementsAre(1.0, 2.0, 0.0)));
+}
+
 TEST_F(Polylines, TheCurveTypeIsKeptAndNotUsed)
 {
   ImportEntities(Header(Lines({{75, "6"}})) + triangle + seqEnd);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <iterator>
+#include <set>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -71,6 +72,9 @@ TEST_F(Progress, PercentIsReckonedInSinglePrecision)
 {
   ReportAfterEach({29, 100});  // in double precision a hair below 29 per cent
   EXPECT_THAT(window.list, ElementsAre("29 %", "100 %"));
+  window.list.clear();
+  ReportAfterEach({53, 100});  // in single precision a hair below 53 per cent
+  EXPECT_THAT(window.list, ElementsAre("52 %", "100 %"));
 }
 
 TEST_F(Progress, AnImportThatFailsShowsNoProgress)
@@ -127,6 +131,35 @@ TEST_F(Progress, IsReportedBehindEveryLineAndEntityOfTheEntities)
   text.resize(100, 'x');
   Import(text);
   EXPECT_EQ(Percents(), expected);
+}
+
+/// A window that notes how many records the log has at each report.
+class WindowBesideALog : public RecordedNotifications {
+public:
+  explicit WindowBesideALog(const KeptTrace& log) : log_(log) {}
+  void StartProgress(std::string_view) override { atStart = log_.records.size(); }
+  void ShowProgress(int) override { atPercents.insert(log_.records.size()); }
+  void EndProgress() override { atEnd = log_.records.size(); }
+
+  std::size_t atStart = 0;
+  std::set<std::size_t> atPercents;
+  std::size_t atEnd = 0;
+
+private:
+  const KeptTrace& log_;
+};
+
+TEST_F(Progress, IsReportedBetweenTheRecordsOfTheLog)
+{
+  WindowBesideALog beside(log);
+  CLayer target;
+  CFileDxf reader(&beside, log);
+  const std::string text = Section("TABLES", "") + Blocks("") + Entities(aLine + aLine);
+  ASSERT_EQ(reader.Import(folder.Write("a.dxf", text), &target), 0);
+  EXPECT_EQ(beside.atStart, 2U);  // behind the opening of the file and the beginning of its walk
+  // In front of the tables, behind them, behind the blocks, among the entities, behind these.
+  EXPECT_THAT(beside.atPercents, ElementsAre(2U, 4U, 6U, 7U, 8U));
+  EXPECT_EQ(beside.atEnd, 8U);  // in front of the extents
 }
 
 }  // namespace

@@ -107,8 +107,10 @@ TEST_F(Texts, AnAttributeIsDroppedByTheLowestBitOfItsFlags)
       EXPECT_EQ(ShapeCount(), shapes) << keyword << flags;
     }
   }
-  ImportEntities(Entity("TEXT", {{1, "x"}, {70, "1"}}));
-  EXPECT_EQ(ShapeCount(), 1U);
+  for (const char* keyword : {"TEXT", "MTEXT"}) {
+    ImportEntities(Entity(keyword, {{1, "x"}, {70, "1"}}));
+    EXPECT_EQ(ShapeCount(), 1U) << keyword;
+  }
 }
 
 TEST_F(Texts, TagAndPromptOfADefinitionAreNotRead)

@@ -168,6 +168,18 @@ TEST_F(Document, NewKeepsOffsetsUnitAndSide)
   EXPECT_THAT(window.list, ElementsAre("repaint", "tree"));
 }
 
+TEST_F(Document, NewEmptiesTheDesignBeforeItNotifies)
+{
+  ASSERT_TRUE(Open(good));
+  using Seen = std::tuple<std::size_t, std::size_t>;
+  std::vector<Seen> seen;
+  window.onNotification = [&] {
+    seen.emplace_back(design.shapeGroups.size(), design.anchors->items.size());
+  };
+  document.OnNewDocument();
+  EXPECT_THAT(seen, ElementsAre(Seen(0, 0), Seen(0, 0)));
+}
+
 TEST_F(Document, BeforeThereIsAWindowEmptyingNotifiesNobody)
 {
   window.hasWindow = false;

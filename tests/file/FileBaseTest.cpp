@@ -59,11 +59,13 @@ TEST_F(FileBase, AFileOfTwoGibibytesFails)
   EXPECT_FALSE(file.buffer);
 }
 
-TEST_F(FileBase, AnEarlierBufferStaysWhenAFileWontOpen)
+TEST_F(FileBase, AnEarlierBufferStaysWhenAFileWontOpenOrIsEmpty)
 {
   ASSERT_EQ(file.Load(folder.Write("a.txt", "abc")), 0);
-  EXPECT_EQ(file.Load(folder.File("missing.txt")), -1);
-  EXPECT_EQ(TextOf(file), "abc");
+  for (const auto& path : {folder.File("missing.txt"), folder.Write("empty.txt", "")}) {
+    EXPECT_EQ(file.Load(path), -1);
+    EXPECT_EQ(TextOf(file), "abc");
+  }
 }
 
 }  // namespace

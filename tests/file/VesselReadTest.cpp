@@ -107,6 +107,20 @@ TEST_F(VesselRead, AnyRootAndAnyUnknownElementWillDo)
   EXPECT_EQ(groups.size(), 1U);
 }
 
+TEST_F(VesselRead, NamesInOtherCapitalsAreUnknown)
+{
+  ASSERT_EQ(Read("<Shapes view='02'/><shapes View='04'><polyline><Vertex x='1'/><vertex X='2'/>"
+                 "</polyline></shapes><GPS x='3'/><Units id='9002'/><anchor><ID>7</ID></anchor>"),
+            0);
+  ASSERT_EQ(groups.size(), 1U);
+  EXPECT_EQ(groups[0]->viewCode, ViewSide::Top);
+  ASSERT_EQ(Shape(0, 0).vertices.size(), 1U);
+  EXPECT_EQ(Shape(0, 0).vertices[0]->x, 0.0);
+  EXPECT_EQ(file.gps->x, 0.0);
+  EXPECT_EQ(file.unitCode, UnitCode::Metre);
+  EXPECT_EQ(Anchor(0).id, 0U);
+}
+
 TEST_F(VesselRead, AnchorsAreReadWithTheirVesselAndAnywhere)
 {
   ASSERT_EQ(Read("<anchor><id>7</id><name>Bow</name><vessel>65537</vessel>"

@@ -127,6 +127,17 @@ TEST_F(VesselWrite, CoordinatesHaveThreeDecimalsAndZeroKeepsItsSign)
             std::string::npos);
 }
 
+TEST_F(VesselWrite, PlacesOfAnchorsAreRoundedAsVerticesAre)
+{
+  auto anchor = file.anchors->NewAnchor();
+  anchor->attachmentX = 0.0625;
+  anchor->attachmentY = -0.0004;
+  file.anchors->items.push_back(std::move(anchor));
+  EXPECT_NE(Save().find("   <attachmentX>0.062</attachmentX>\n"
+                        "   <attachmentY>-0.000</attachmentY>\n"),
+            std::string::npos);
+}
+
 TEST_F(VesselWrite, ANullGroupEndsTheGroups)
 {
   AddLine(ViewSide::Top);

@@ -65,6 +65,23 @@ TEST(Layer, ABoxThatTouchesZeroIsComputedAgainEachTime)
   EXPECT_TRUE(grows(1.0, -2.0, 3.0, 0.0));
 }
 
+TEST(Layer, ABoxThatAlmostTouchesZeroCountsAsComputed)
+{
+  constexpr double tiny = 1e-300;
+  const auto grows = [](double x1, double y1, double x2, double y2) {
+    CLayer layer;
+    AddLine(layer, x1, y1, x2, y2);
+    layer.UpdateExtents();
+    AddLine(layer, 50.0, 50.0, 60.0, 60.0);
+    layer.UpdateExtents();
+    return layer.extents.maxX != x2;
+  };
+  EXPECT_FALSE(grows(tiny, 2.0, 3.0, 4.0));
+  EXPECT_FALSE(grows(1.0, -tiny, 3.0, 4.0));
+  EXPECT_FALSE(grows(-1.0, 2.0, -tiny, 4.0));
+  EXPECT_FALSE(grows(1.0, -2.0, 3.0, tiny));
+}
+
 TEST(Layer, ANullShapeEndsTheBoxWithTheCursorOfTheShapes)
 {
   CLayer layer;

@@ -83,9 +83,10 @@ TEST(Ring, EdgesAtANullEntryDoNotCount)
 {
   auto ring = Square(0.0, 10.0);
   ring->vertices.push_back(nullptr);
-  // The closing edge is missing, so the west side is open and every point to the east of it is
-  // counted by the east edge alone.
-  EXPECT_TRUE(ring->ContainsPoint(5.0, 10.0));
+  // The closing edge is missing: the west side is open, and what lies to the west of it is counted
+  // by the east edge alone.
+  EXPECT_TRUE(ring->ContainsPoint(-5.0, 5.0));
+  EXPECT_FALSE(Square(0.0, 10.0)->ContainsPoint(-5.0, 5.0));
   EXPECT_EQ(ring->DistanceTo(50.0, 50.0), 0.0);
 }
 
@@ -237,6 +238,9 @@ TEST(Polygon, AnIndexPastTheEndMakesOneRing)
   EXPECT_EQ(polygon.rings[0]->vertices.size(), 2U);
   polygon.AddVertex(std::make_unique<CShapeVertex>(7.0, 8.0, 9.0), 1);
   EXPECT_EQ(polygon.rings.size(), 2U);
+  polygon.AddVertex(std::make_unique<CShapeVertex>(10.0, 11.0, 12.0), 0);
+  EXPECT_EQ(polygon.rings[0]->vertices.size(), 3U);
+  EXPECT_EQ(polygon.rings[1]->vertices.size(), 1U);
 }
 
 TEST(Polygon, ANullRingTakesNothing)
@@ -244,7 +248,8 @@ TEST(Polygon, ANullRingTakesNothing)
   CShapePolygon polygon;
   polygon.rings.push_back(nullptr);
   polygon.AddVertex(std::make_unique<CShapeVertex>(), 0);
-  EXPECT_EQ(polygon.rings.size(), 1U);
+  ASSERT_EQ(polygon.rings.size(), 1U);
+  EXPECT_EQ(polygon.rings[0], nullptr);
   EXPECT_EQ(polygon.DistanceTo(0.0, 0.0), 1e24);
 }
 

@@ -149,11 +149,12 @@ TEST(Polyline, GetVerticesAppendsEveryPointerInOrder)
 {
   CShapePolyline line;
   line.AddVertex(1.0, 0.0, 0.0);
+  line.vertices.push_back(nullptr);
   line.AddVertex(2.0, 0.0, 0.0);
   std::vector<CShapeVertex*> list(1, nullptr);
   line.GetVertices(list);
-  EXPECT_EQ(list,
-            (std::vector<CShapeVertex*>{nullptr, line.vertices[0].get(), line.vertices[1].get()}));
+  EXPECT_EQ(list, (std::vector<CShapeVertex*>{nullptr, line.vertices[0].get(), nullptr,
+                                              line.vertices[2].get()}));
 }
 
 TEST(Polyline, TranslateAndScaleTouchAllThreeCoordinates)

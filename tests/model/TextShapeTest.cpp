@@ -125,6 +125,16 @@ TEST_F(LabelInView, TheBoxOfTheLastRepaintIsHitInWholePixels)
   EXPECT_FALSE(label.HitTest(&viewPort, -40.0, 38.5));
 }
 
+TEST_F(LabelInView, PixelsAreFoundByDividingByTheirSize)
+{
+  // Column 17 and row 42; multiplied by the pixels of a unit, the numbers end one pixel before.
+  viewPort.screenWidth = 102.0;
+  viewPort.screenHeight = 104.0;
+  label.screenBox = {{{17.0F, 60.0F}, {40.0F, 60.0F}, {40.0F, 42.0F}, {17.0F, 42.0F}}};
+  EXPECT_TRUE(label.HitTest(&viewPort, -66.666666666666671, 0.0));
+  EXPECT_TRUE(label.HitTest(&viewPort, -41.0, 19.230769230769241));
+}
+
 TEST_F(LabelInView, ATurnedViewIsNotTakenIntoAccount)
 {
   label.screenBox = {{{50.0F, 60.0F}, {80.0F, 60.0F}, {80.0F, 50.0F}, {50.0F, 50.0F}}};

@@ -121,6 +121,17 @@ TEST(Units, TheOriginAndEqualCodesAreNotConverted)
   EXPECT_EQ(vertex.x, 1.0);
 }
 
+TEST(Units, APlaceNextToTheOriginIsConverted)
+{
+  constexpr double tiny = 1e-300;
+  for (const CShapeVertex& place : {CShapeVertex(tiny, 0.0, 0.0), CShapeVertex(0.0, -tiny, 0.0),
+                                    CShapeVertex(0.0, 0.0, tiny)}) {
+    CShapeVertex vertex = place;
+    EXPECT_TRUE(vertex.ConvertUnits(UnitCode::Metre, UnitCode{9036}));
+    EXPECT_FALSE(vertex == place);
+  }
+}
+
 TEST(Units, AnUnknownCodeConvertsAsTheMetre)
 {
   CShapeVertex vertex(1.0, 0.0, 0.0);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <type_traits>
 
 #include "model/ShapeVertex.h"
@@ -115,6 +117,14 @@ TEST(DistanceToSegment, OfTwoEndsThatAreAboutAsNearTheSmallerDistanceCounts)
                     {-9.935469633848225, 91.0248164458643, 0.0},
                     {-394.8649971609564, 317.08686396187136, 0.0}, distance);
   EXPECT_EQ(distance, 446.4020502746063);
+}
+
+TEST(DistanceToSegment, APointBesideTheEndIsMeasuredFromWhereStartAndLengthLead)
+{
+  // A start so far away that its way to the end misses it by one.
+  double distance = 0.0;
+  EXPECT_TRUE(DistanceToSegment({1e16, 0.0, 0.0}, {1.0, 0.0, 0.0}, {1.0, 5.0, 0.0}, distance));
+  EXPECT_EQ(distance, std::sqrt(26.0));
 }
 
 TEST(DistanceToSegment, StatesWhetherThereIsADistance)

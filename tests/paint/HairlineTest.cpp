@@ -114,5 +114,31 @@ TEST_F(Strokes, APolylineFromWhichNoSegmentCanBePaintedIsAnOrderAllTheSame)
   EXPECT_GT(orders(std::array{start, PixelPoint{none, none}}).size(), orders({}).size());
 }
 
+TEST_F(Strokes, OnAPageOutlinesAreClosedJoinsAreRoundAndNothingIsFilled)
+{
+  QImage page(60, 40, QImage::Format_RGB888);  // a format that is left to the painter, as pages are
+  PaintSurface surface(60, 40);
+  PaintTarget target(surface);
+  surface.SetDevice(&page);
+  constexpr std::array<PixelPoint, 3> corner = {{{10.0F, 30.5F}, {30.5F, 30.5F}, {30.5F, 10.0F}}};
+  constexpr std::array<std::size_t, 1> end = {corner.size()};
+  constexpr Colour black{0.0F, 0.0F, 0.0F, 1.0F};
+  target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+  target.DrawFigures({FigureKind::Outline, corner, end}, {black, 1.0F});
+  EXPECT_EQ(target.EndFrame().code, 0);
+  EXPECT_LT(qGray(page.pixel(20, 20)), 200);  // on the edge that closes it
+  target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+  target.DrawFigures({FigureKind::Line, corner, end}, {black, 10.0F});
+  target.DrawEllipse({46.0F, 12.0F}, 8.0F, 8.0F, {black, 1.0F});
+  target.DrawFigures({FigureKind::Line, corner, end}, {black, 10.0F});
+  target.DrawRectangle({40.5F, 24.5F, 54.5F, 34.5F}, {black, 1.0F});
+  EXPECT_EQ(target.EndFrame().code, 0);
+  EXPECT_EQ(qGray(page.pixel(20, 20)), 255);
+  EXPECT_EQ(qGray(page.pixel(32, 32)), 0);    // the join
+  EXPECT_GT(qGray(page.pixel(34, 34)), 200);  // which has no corner
+  EXPECT_EQ(qGray(page.pixel(46, 12)), 255);
+  EXPECT_EQ(qGray(page.pixel(47, 29)), 255);
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -39,6 +39,38 @@ TEST_F(Desk, TheMenuBarHasItsMenus)
                          QStringLiteral("Cursor"), QStringLiteral("&Help")}));
 }
 
+/// What a menu shows: the texts of its entries, "|" for a separator.
+std::string Entries(const QMenu& menu)
+{
+  QStringList texts;
+  for (const QAction* entry : menu.actions()) {
+    texts.append(entry->isSeparator() ? QStringLiteral("|") : entry->text());
+  }
+  return texts.join(QLatin1Char('\n')).toStdString();
+}
+
+TEST_F(Desk, TheMenusHaveTheirSeparatorsAndTheMenusInsideThem)
+{
+  const auto menu = [this](int number) -> const QMenu& {
+    return *Window().menuBar()->actions().at(number)->menu();
+  };
+  EXPECT_EQ(Entries(menu(0)),
+            "&New Design\n&Open Design...\n&Save Design\nSave Design &As...\n|\n"
+            "Import DXF File...\n|\nRecent File\n|\nE&xit");
+  EXPECT_EQ(Entries(menu(1)), "&Toolbars and Docking Windows\n&Status Bar\n&Application Look");
+  const QMenu& looks = *menu(1).actions().constLast()->menu();
+  EXPECT_EQ(Entries(looks),
+            "Windows &2000\nOffice &XP\n&Windows XP\nOffice 200&3\nVisual Studio 200&5\n"
+            "Visual Studio 200&8\nOffice 200&7");
+  EXPECT_EQ(Entries(*looks.actions().constLast()->menu()),
+            "&Blue Style\nB&lack Style\n&Silver Style\n&Aqua Style");
+  EXPECT_EQ(Entries(menu(3)),
+            "Mirror Vertically\nMirror Horizontally\n|\nRotate Right...\nRotate Left...\n|\n"
+            "Scale...\n|\nMove...\n|\nOffsets...");
+  EXPECT_EQ(Entries(menu(4)), "Grid...\n|\n&Units...");
+  EXPECT_EQ(Entries(menu(5)), "Zoom &In\nZoom &Out\n|\n&Move\n|\nDraw &Polyline");
+}
+
 TEST_F(Desk, CommandsWithoutAHandlerAreGrey)
 {
   ASSERT_NE(Action("Undo"), nullptr);
@@ -164,9 +196,7 @@ TEST_F(Desk, TheMouseIsAHandOverAnItemAndACrossElsewhere)
                        View().height() / 2);
   EXPECT_EQ(View().cursor().shape(), Qt::CrossCursor);
   Move(antenna);
-  Move(antenna);  // the cursor goes by what the move before has found
   EXPECT_EQ(View().cursor().shape(), Qt::PointingHandCursor);
-  Move({5, 5});
   Move({5, 5});
   EXPECT_EQ(View().cursor().shape(), Qt::CrossCursor);
 }

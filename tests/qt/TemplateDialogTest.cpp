@@ -166,5 +166,13 @@ TEST_F(TemplateDialogs, AboutHasNoCancel)
   EXPECT_EQ(dialog->findChildren<QPushButton*>().size(), 1);
 }
 
+TEST_F(TemplateDialogs, TheTextOfAUnitIsReadAsItIsShown)
+{
+  Open(DialogId::Move);
+  EXPECT_EQ(dialog->GetText(MoveControls::directionXUnit), u"meters");
+  dialog->SetText(MoveControls::directionXUnit, u"ft");
+  EXPECT_EQ(dialog->GetText(MoveControls::directionXUnit), u"ft");
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -100,5 +100,17 @@ TEST_F(UnitsDesk, ADoubleClickOnAnEntryTakesItsUnit)
   EXPECT_EQ(PaneText(1), QStringLiteral("Units: foot"));
 }
 
+TEST_F(UnitsDesk, OpensWithTheUnitOfTheDesignSelectedInAListThatIsPainted)
+{
+  shell->App().unitCode = UnitCode{9036};
+  WhenAsked<TemplateDialog>([](TemplateDialog& dialog) {
+    EXPECT_EQ(dialog.SelectedListData(), 9036);
+    EXPECT_TRUE(dialog.findChild<QListWidget*>()->updatesEnabled());
+    dialog.reject();
+  });
+  Action("Units...")->trigger();
+  EXPECT_EQ(dialogs, 1);
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -136,7 +136,16 @@ TEST_F(CanvasTest, AFailedSecondInitializeKeepsWhatTheFirstGave)
   other.failingStep = TargetStep::Imaging;
   EXPECT_FALSE(canvas.Initialize(&other));
   EXPECT_EQ(canvas.Target(), &recorder);
+  EXPECT_TRUE(
+      std::ranges::all_of(heldSteps, [this](TargetStep step) { return canvas.Holds(step); }));
   EXPECT_EQ(canvas.window, &other);
+}
+
+TEST_F(CanvasTest, TheTargetIsMadeAtTheResolutionOfTheCanvas)
+{
+  canvas.resolution = {120.0F, 144.0F};
+  EXPECT_TRUE(canvas.Initialize(&recorder));
+  EXPECT_EQ(recorder.Lines().at(1), "target 800 600 120 144");
 }
 
 TEST_F(CanvasTest, ASecondInitializeReplacesWhatTheFirstGave)
@@ -218,14 +227,21 @@ TEST_F(CanvasTest, AFrameThatSucceededChangesNothing)
   ASSERT_TRUE(canvas.Initialize(&recorder));
   canvas.EndFrame({});
   EXPECT_EQ(canvas.errorText, "");
+  canvas.errorText = "kept";
+  recorder.calls.clear();
+  canvas.EndFrame({});
+  EXPECT_EQ(canvas.errorText, "kept");
+  EXPECT_TRUE(recorder.Lines().empty());
 }
 
 TEST_F(CanvasTest, AFailedFrameKeepsItsTextAndItsTarget)
 {
   ASSERT_TRUE(canvas.Initialize(&recorder));
+  recorder.calls.clear();
   canvas.EndFrame({static_cast<ResultCode>(0x8007000EU), "Not enough memory\r\n"});
   EXPECT_EQ(canvas.errorText, "Error 0x8007000E (Not enough memory)");
   EXPECT_EQ(canvas.Target(), &recorder);
+  EXPECT_TRUE(recorder.Lines().empty());  // only a lost device is made anew
 }
 
 TEST_F(CanvasTest, AFrameIsAFailureWithAnyCodeButZero)

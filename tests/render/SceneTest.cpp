@@ -315,5 +315,22 @@ TEST_F(Grid, SpacingsAndViewsThatAreNoNumbersDoNotHang)
   EXPECT_EQ(recorder.Count("rect"), 0);
 }
 
+TEST_F(Grid, TheLimitGoesByTheHeightThatWasKept)
+{
+  viewPort.screenWidth = 1013.0;
+  viewPort.screenHeight = 599.0;
+  viewPort.left = -35.4;
+  viewPort.bottom = -8.1;
+  viewPort.right = 9.8;
+  viewPort.top = 47.4;
+  viewPort.KeepAspect();
+  ASSERT_GT(viewPort.height, viewPort.top - viewPort.bottom);  // in the last bit
+  grid.spacingShowX = 100.0;
+  grid.spacingShowY = (viewPort.top - viewPort.bottom) / 40.0;
+  Draw();
+  EXPECT_EQ(recorder.Count("line"), 2);
+  EXPECT_EQ(recorder.Count("rect"), 0);
+}
+
 }  // namespace
 }  // namespace hullwright

@@ -134,6 +134,37 @@ TEST_F(ViewPortBits, TheHeightThatWasKeptCountsAndNotTheDistanceOfTheEdges)
   EXPECT_EQ(viewPort.top, 10.822477360931433);
 }
 
+TEST_F(ViewPortBits, TheHeightThatWasKeptCountsForZoomingOutAndForPixels)
+{
+  Show({{-17.0, -43.2, 18.0, 9.3}, 773.0, 701.0});
+  viewPort.KeepAspect();
+  ASSERT_NE(viewPort.top - viewPort.bottom, viewPort.height);
+  EXPECT_EQ(viewPort.WorldToScreenFlat(0.0, -12.5).y, 252.21857142857147);
+  EXPECT_EQ(viewPort.WorldToScreen(0.0, -12.5).y, 252.21857142857147);
+  viewPort.ZoomOut(100.0, 0.0);
+  EXPECT_EQ(viewPort.top, 20.079969814575243);
+}
+
+TEST_F(ViewPortBits, ABoxIsWidenedByTheHeightThatWasKept)
+{
+  Show({{-100.0, -75.0, 100.0, 75.0}, 797.0, 613.0});
+  viewPort.ZoomToExtents({-17.1, -15.7, 7.9, 3.2});
+  Expect({-33.492514047489578, -28.472222222222221, 24.292514047489576, 15.972222222222223},
+         57.785028094979154, 44.444444444444443);
+}
+
+TEST_F(ViewPortBits, APointGoesThroughTheCentreAndBackToTheLastBit)
+{
+  Show({{-12.9, -20.7, 28.2, 31.7}, 1013.0, 599.0});
+  viewPort.KeepAspect();
+  const ScreenPoint p = viewPort.WorldToScreen(-6.4, 1.1);
+  EXPECT_EQ(p.x, 160.20681265206809);
+  EXPECT_EQ(p.y, 407.94768856447683);
+  const ScreenPoint flat = viewPort.WorldToScreenFlat(-6.4, 1.1);
+  EXPECT_EQ(flat.x, 160.20681265206812);
+  EXPECT_EQ(flat.y, 407.94768856447689);
+}
+
 TEST_F(ViewPortBits, ATallBoxIsFramedWithTheHeightAsItStood)
 {
   Show({{-100.0, -75.0, 100.0, 75.0}, 800.0, 600.0});

@@ -173,6 +173,7 @@ TEST_F(SqliteBinding, UnloadingShutsTheLibraryDownOnceAndFreesIt)
     CSQLite sqlite(library, messages);
     ASSERT_EQ(sqlite.Load(), 0);
     sqlite.Unload();
+    EXPECT_EQ(sqlite.Open(u"geo.db"), -1);
     EXPECT_THAT(library.calls, ElementsAre("load", "initialize", "shutdown", "free"));
   }
   EXPECT_THAT(library.calls, ElementsAre("load", "initialize", "shutdown", "free"));
@@ -270,6 +271,19 @@ TEST_F(SqliteBinding, BehindTheLastRowTheLibraryIsNotAskedAgain)
   EXPECT_THAT(library.calls, ElementsAre("step", "finalize"));
   EXPECT_FALSE(sqlite.Next());
   EXPECT_EQ(library.calls.size(), 2U);
+}
+
+TEST_F(SqliteBinding, AQueryThatIsStillOpenIsFinalisedBeforeItsDatabaseCloses)
+{
+  library.rows = {{9001, "metre", "m"}, {9002, "foot", "ft"}};
+  {
+    CSQLite sqlite(library, messages);
+    ASSERT_EQ(sqlite.Load(), 0);
+    ASSERT_EQ(sqlite.Open(u"geo.db"), 0);
+    ASSERT_EQ(sqlite.SelectUnits(), 1);
+    library.calls.clear();
+  }
+  EXPECT_THAT(library.calls, ElementsAre("finalize", "close", "shutdown", "free"));
 }
 
 TEST_F(SqliteBinding, TheQueryIsPassedWithItsLength)

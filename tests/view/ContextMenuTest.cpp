@@ -63,6 +63,33 @@ TEST_F(ContextMenu, DuringADragNothingIsHit)
   EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32789, 32815));
 }
 
+TEST_F(ContextMenu, DuringTheDragOfAnAnchorNothingIsHitEither)
+{
+  design.activeView = ViewSide::Top;
+  AddAnchor(50.0, 50.0);
+  view.OnMouseMove(false, {600, 100});
+  view.OnMouseMove(true, {620, 100});
+  ASSERT_TRUE(view.dragging);
+  view.OnRButtonDown({620, 100});
+  EXPECT_EQ(view.hitKind, HitKind::Anchor);
+  EXPECT_THAT(Offered(), ElementsAre(32790, 32792, 32793, 0, 32789, 32815));
+}
+
+TEST_F(ContextMenu, WithoutAnItemOrASideNothingIsRemoved)
+{
+  view.hitKind = HitKind::Vertex;
+  view.OnMenuCommand(CommandId::RemoveVertex);
+  EXPECT_THAT(host.events, IsEmpty());
+  design.activeView = ViewSide::Top;
+  AddAnchor(50.0, 50.0);
+  view.OnRButtonDown({600, 100});
+  ASSERT_EQ(view.hitKind, HitKind::Anchor);
+  design.activeView = ViewSide::None;
+  view.OnMenuCommand(CommandId::RemoveAnchor);
+  EXPECT_EQ(design.anchors->items.size(), 1U);
+  EXPECT_THAT(host.events, IsEmpty());
+}
+
 TEST_F(ContextMenu, TheRightPressMakesTheGroupAndWhileDrawingOpensNoMenu)
 {
   view.OnRButtonDown({1, 1});

@@ -221,5 +221,20 @@ TEST_F(Picking, ItemsThatAreStillThereSurviveARebuild)
   EXPECT_EQ(view.dragVertex, PickedItem(line.vertices[0].get()));
 }
 
+TEST_F(Picking, ADragWithoutAKindOrAnItemWritesNothingAndNotifiesNobody)
+{
+  const CShapePolyline& line = AddLine({{0.0, 0.0, 0.0}});
+  Hover(400, 300);
+  view.hitKind = HitKind::None;
+  Drag(440, 300);
+  view.OnLButtonUp({480, 300});
+  EXPECT_EQ(line.vertices[0]->x, 0.0);
+  view.dragging = true;
+  view.hitKind = HitKind::Vertex;
+  view.OnLButtonUp({480, 300});
+  EXPECT_TRUE(host.events.empty());
+  EXPECT_EQ(Frames(), 0);
+}
+
 }  // namespace
 }  // namespace hullwright
