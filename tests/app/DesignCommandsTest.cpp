@@ -391,13 +391,5 @@ TEST_F(Commands, WithoutASideInViewARotationNotifiesEverybodyAndMakesNoGroup)
   EXPECT_TRUE(app.shapeGroups.empty());
 }
 
-TEST_F(Commands, ARotationWalksWithTheGroupsOwnCursor)
-{
-  AddLine(ViewSide::Top, {{1.0, 0.0, 0.0}});
-  AddLine(ViewSide::Top, {{2.0, 0.0, 0.0}});
-  app.RotatePolylines(90.0);
-  EXPECT_EQ(FindViewGroup(app.shapeGroups, ViewSide::Top)->cursor, 3U);
-}
-
 }  // namespace
 }  // namespace hullwright

@@ -7,8 +7,9 @@ line. A break that does not compile counts for nothing.
 """
 
 import dataclasses
+import hashlib
+import itertools
 import pathlib
-import random
 import re
 
 
@@ -44,7 +45,9 @@ FRACTION = re.compile(r"(?<![\w.'])\d+\.\d*(?:[eE][-+]?\d+)?(?!\w)")
 NEGATION = re.compile(r"(?<=[(\s])!(?=[\w(])")
 MINUS = re.compile(r"(?<=[(\s,])-(?=[\w(.])(?<!- -)")
 CONDITION = re.compile(r"\b(?:if|while) \((?!constexpr)(.*)\)(?= \{$| [^()]*;$|$)")
-CAST = re.compile(r"\b(?:static_cast|std::bit_cast)<[^<>]*(?:<[^<>]*>)?[^<>]*>(?=\()|\bstd::move(?=\()")
+CAST = re.compile(r"\b(?:static_cast|std::bit_cast)<[^<>]*(?:<[^<>]*>)?[^<>]*>(?=(\((?:[^()]|\((?:[^()]|\([^()]*\))*\))*\)))")
+OPERATOR_BEFORE, OPERATOR_BEHIND = re.compile(r"(?:[-+*/%<>=!|&^]|\bauto \w+ =) $"), re.compile(r" [-+*/%<>=!|&^]")
+SIZE = re.compile(r"\bstd::array<[^<>]*, $|\breserve\([^()]*$")
 # A call, an assignment or a jump that stands by itself.
 STATEMENT = re.compile(r"^\s+(?!return\b|using\b|else\b|case\b|default\b|delete\b|static_assert|friend\b|typedef\b"
                        r"|throw\b|goto\b|public|private|protected|[\w:<>,*& ]+ (?!=)\w+( =|\(|;|\{|\[))"
@@ -72,7 +75,8 @@ def boundaries(code):
     yield from replaced(MOVED)(code)
     for found in WHOLE.finditer(code):
         number = int(re.sub("^0(?=[0-9])", "0o", found[0]), 0)
-        yield found.start(), found.end(), str(number + 1)
+        if not SIZE.search(code[:found.start()]):  # what has room for one more is as good
+            yield found.start(), found.end(), str(number + 1)
         if number > 0:
             yield found.start(), found.end(), str(number - 1)
 
@@ -100,8 +104,11 @@ def logic(code):
 
 
 def casts(code):
-    """Casts dropped."""
-    yield from ((found.start(), found.end(), "") for found in CAST.finditer(code))
+    """Casts dropped from operands; elsewhere the compiler makes the same conversion without them."""
+    for found in CAST.finditer(code):
+        before = re.sub(r"(?<![=!<>]) = $", "", code[:found.start()]) if " auto " not in code else code[:found.start()]
+        if OPERATOR_BEFORE.search(before) or OPERATOR_BEHIND.match(code[found.end(1):]):
+            yield found.start(), found.end(), ""
 
 
 RULES = {
@@ -133,11 +140,27 @@ def breaks_of_line(file, number, line, code):
         yield Break(file, number, 0, rule, line, f"{indent};")
 
 
+def names(code):
+    """The names of a statement that are no names of functions; `this` stands for the object of a call without one."""
+    found = {name[0] for name in re.finditer(r"(?<![\w:])(?!std\b)[A-Za-z_]\w*(?!\w|::|\()", code)}
+    return found | {"this"} if re.match(r"\s*\w+\(", code) else found
+
+
+def depend(first, second):
+    """Whether the order of two statements can matter: of two assignments one must have what the other one changes."""
+    if any("=" not in code.split("(")[0] for code in (first, second)):
+        return bool(names(first) & names(second))
+    targets = [re.match(r"\s*([^=]*?) [-+*/|&^%<>]*= ", code)[1] for code in (first, second)]
+    return targets[0] in second or targets[1] in first
+
+
 def swaps(file, lines, codes):
-    """Statements of one line each that follow each other at one depth, swapped."""
+    """Statements of one line each that follow each other at one depth, swapped where their order can matter."""
     for number, (first, second) in enumerate(zip(codes, codes[1:]), 1):
         depth = [len(code) - len(code.lstrip()) for code in (first, second)]
         if depth[0] == depth[1] and first.strip() != second.strip() and is_statement(first) and is_statement(second):
+            if not depend(first, second):
+                continue
             if number > 1 and codes[number - 2].rstrip().endswith((")", "else")):
                 continue  # the first belongs to a condition
             pair = lines[number - 1:number + 1]
@@ -165,16 +188,17 @@ def all_breaks(project):
 
 
 def sample(by_line, seed):
-    """All breaks in an order of chance that depends on the seed alone: one of every line before the second of any.
+    """All breaks in an order of chance that depends on the seed: one of every line before the second of any.
 
-    So the first N are a sample of N, in which a room has the weight of its lines."""
-    chance = random.Random(seed)
-    queues = [chance.sample(by_line[key], len(by_line[key])) for key in sorted(by_line)]
-    while queues:
-        chance.shuffle(queues)
-        for queue in queues:
-            yield queue.pop()
-        queues = [queue for queue in queues if queue]
+    So the first N are a sample of N, in which a room has the weight of its lines. The order of two breaks does not change when
+    other lines do."""
+    def rank(*texts):
+        return hashlib.sha256("\t".join((str(seed), *texts)).encode()).digest()
+
+    lines = sorted(by_line.values(), key=lambda line: rank(line[0].file, line[0].before))
+    queues = [sorted(line, key=lambda found: rank(found.identity)) for line in lines]
+    for turn in itertools.zip_longest(*queues):
+        yield from filter(None, turn)
 
 
 def broken(text, change):

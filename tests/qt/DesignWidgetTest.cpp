@@ -7,7 +7,6 @@
 #include <QImage>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <cmath>
@@ -387,34 +386,6 @@ TEST_F(PixelRatio, APositionBetweenPixelsCountsAsThePixelThatItLiesIn)
   EXPECT_EQ(view.menuPoint, (ClientPoint{123, 45}));
   ASSERT_NE(OpenMenu(), nullptr);
   OpenMenu()->close();
-}
-
-TEST_F(DesignPane, AContextMenuGoesWhenItCloses)
-{
-  Press({123, 45}, Qt::RightButton);
-  ASSERT_NE(OpenMenu(), nullptr);
-  OpenMenu()->close();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_TRUE(widget.findChildren<QMenu*>().isEmpty());
-}
-
-TEST_F(DesignPane, NoKeyEndsAPolylineOrADrag)
-{
-  const auto press = [this] {
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Delete}) {
-      QTest::keyClick(&widget, key);
-    }
-  };
-  BeginLineAt({200, 250});
-  press();
-  ASSERT_TRUE(view.drawing);
-  EXPECT_EQ(view.newShape->vertices.size(), 1U);
-  Press({300, 250}, Qt::RightButton);
-  Move({200, 250});  // the vertex that is now in the design
-  Move({240, 250}, Qt::LeftButton);
-  press();
-  EXPECT_TRUE(view.dragging);
-  EXPECT_EQ(design.shapeGroups.at(0)->shapes.at(0)->vertices.at(0)->x, -40.0);
 }
 
 }  // namespace

@@ -13,7 +13,6 @@
 #include "qt/Shell.h"
 #include "resources/CommandIds.h"
 #include "resources/ToolBarButtons.h"
-#include "support/PaintCounter.h"
 #include "support/ShellFixture.h"
 
 namespace hullwright {
@@ -394,15 +393,6 @@ TEST_F(Frame, TheKeysF6AndShiftF6MoveTheFocusBetweenViewAndTree)
   EXPECT_EQ(Window().focusWidget(), tree);
   Window().RunCommand(CommandId::PreviousPane);
   EXPECT_EQ(Window().focusWidget(), view);
-}
-
-TEST_F(Frame, AnInvalidToolBarIsPaintedWhole)
-{
-  QToolBar& bar = *Bars().first();
-  test::PaintCounter paints(bar);
-  Window().InvalidateToolBar();
-  paints.Settle();
-  EXPECT_EQ(paints.painted.boundingRect(), bar.rect());
 }
 
 }  // namespace
