@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "app/FiniteNumbers.h"
+#include "app/NonFiniteNumbers.h"
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "resources/Strings.h"

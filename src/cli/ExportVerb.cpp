@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "app/FiniteNumbers.h"
+#include "app/NonFiniteNumbers.h"
 #include "base/Code.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"

@@ -2,7 +2,7 @@
 #include <array>
 #include <cstdio>
 
-#include "app/FiniteNumbers.h"
+#include "app/NonFiniteNumbers.h"
 #include "app/ImportText.h"
 #include "base/Pages.h"
 #include "base/Text.h"

@@ -5,7 +5,7 @@
 #include <limits>
 #include <new>
 
-#include "app/FiniteNumbers.h"
+#include "app/NonFiniteNumbers.h"
 #include "model/ShapePoint.h"
 #include "support/AppFixture.h"
 #include "support/FailingNew.h"

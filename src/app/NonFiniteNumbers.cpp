@@ -1,4 +1,4 @@
-#include "app/FiniteNumbers.h"
+#include "app/NonFiniteNumbers.h"
 
 #include <algorithm>
 #include <variant>
