@@ -1,7 +1,6 @@
 #include "app/DocumentLife.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "app/NonFiniteNumbers.h"
 #include "base/Paths.h"
@@ -21,17 +20,6 @@ std::u16string FolderOf(std::u16string_view path)
 std::u16string NameOf(std::u16string_view path)
 {
   return std::u16string(path.substr(path.rfind(u'/') + 1));
-}
-
-std::u16string Absolute(const std::u16string& path)
-{
-  // The folder as the system finds it, behind links too; the name as the user knows it.
-  namespace fs = std::filesystem;
-  std::error_code failed;
-  const fs::path whole = fs::absolute(PathOf(path), failed);
-  if (failed) return path;
-  const fs::path folder = fs::weakly_canonical(whole.parent_path(), failed);
-  return failed ? path : WideFromUtf8(TextOf(folder / whole.filename()));
 }
 
 std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }
@@ -65,7 +53,7 @@ bool DocumentLife::Open(std::u16string path)
     if (!answer) return false;
     path = *answer;
   }
-  path = Absolute(path);
+  path = AbsolutePath(path);
   if (!MayLeave()) return false;
   emptied_ = false;
   if (document_.OnOpenDocument(path)) {
@@ -99,7 +87,7 @@ bool DocumentLife::SaveAs()
   const std::u16string name =
       path_.empty() ? Name() + std::u16string(Strings::fileExtension) : NameOf(path_);
   const auto path = ports_.dialogs.AskDesignToSave(Folder(), name);
-  return path && SaveTo(Absolute(*path));
+  return path && SaveTo(AbsolutePath(*path));
 }
 
 bool DocumentLife::SaveTo(const std::u16string& path)

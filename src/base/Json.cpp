@@ -77,11 +77,9 @@ void JsonWriter::Text(std::u16string_view text)
   out_.push_back('"');
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];
-    const bool high = unit >= 0xD800 && unit < 0xDC00;
-    const bool pair = high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000;
-    if (pair) {
+    if (IsPairAt(text, i)) {
       out_ += Utf8FromWide(text.substr(i++, 2));
-    } else if (unit < 0x20 || (unit >= 0xD800 && unit < 0xE000)) {
+    } else if (unit < 0x20 || IsHighSurrogate(unit) || IsLowSurrogate(unit)) {
       Escape(unit);
     } else {
       if (unit == u'"' || unit == u'\\') out_.push_back('\\');

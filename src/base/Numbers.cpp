@@ -11,18 +11,19 @@
 #include <limits>
 #include <optional>
 
+#include "base/Text.h"
+
 namespace hullwright {
 namespace {
 
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
 /// Value of a digit of any base up to 36; 36 for a character that is no digit.
 constexpr int DigitValue(char c)
 {
   if (IsDigit(c)) return c - '0';
-  const char lower = Lower(c);
+  const char lower = LowerAscii(c);
   return lower >= 'a' && lower <= 'z' ? lower - 'a' + 10 : 36;
 }
 
@@ -51,7 +52,7 @@ bool StartsWithNoCase(std::string_view text, std::string_view lower)
 {
   if (text.size() < lower.size()) return false;
   for (std::size_t i = 0; i < lower.size(); ++i) {
-    if (Lower(text[i]) != lower[i]) return false;
+    if (LowerAscii(text[i]) != lower[i]) return false;
   }
   return true;
 }
@@ -66,7 +67,7 @@ bool IsHuge(std::string_view number, char exponentMark, int digitsPerExponent)
   bool significant = false;
   bool point = false;
   std::size_t i = 0;
-  for (; i < number.size() && Lower(number[i]) != exponentMark; ++i) {
+  for (; i < number.size() && LowerAscii(number[i]) != exponentMark; ++i) {
     if (number[i] == '.') {
       point = true;
       continue;
@@ -138,7 +139,7 @@ std::optional<double> ParseShortDecimal(std::string_view text)
     digits += decimals;
   }
   if (digits == 0 || digits > mostDigits || integer > mostInteger) return std::nullopt;
-  if (at != end && (Lower(*at) == 'e' || Lower(*at) == 'x')) return std::nullopt;
+  if (at != end && (LowerAscii(*at) == 'e' || LowerAscii(*at) == 'x')) return std::nullopt;
   static constexpr std::array<double, mostDigits + 1> powersOfTen = {
       1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
       1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};

@@ -19,4 +19,14 @@ std::string TextOf(const std::filesystem::path& path)
   return {bytes.begin(), bytes.end()};
 }
 
+std::u16string AbsolutePath(const std::u16string& path)
+{
+  namespace fs = std::filesystem;
+  std::error_code failed;
+  const fs::path whole = fs::absolute(PathOf(path), failed);
+  if (failed) return path;
+  const fs::path folder = fs::weakly_canonical(whole.parent_path(), failed);
+  return failed ? path : WideFromUtf8(TextOf(folder / whole.filename()));
+}
+
 }  // namespace hullwright

@@ -15,4 +15,8 @@ std::filesystem::path PathOf(std::u16string_view text);
 /// The text of a path.
 std::string TextOf(const std::filesystem::path& path);
 
+/// The path from the root: its folder as the system finds it, behind links too, its name as the
+/// user knows it. The path itself where the system does not tell.
+std::u16string AbsolutePath(const std::u16string& path);
+
 }  // namespace hullwright

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 
 namespace hullwright {
 namespace {
@@ -14,9 +13,6 @@ constexpr std::array<char16_t, 32> ansiUpperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-constexpr bool IsHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-constexpr bool IsLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
 void AppendUtf8(std::string& out, char32_t code)
 {
@@ -108,7 +104,7 @@ std::string Utf8FromWide(std::u16string_view text)
   out.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char32_t unit = text[i];
-    if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+    if (IsPairAt(text, i)) {
       AppendUtf8(out, 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00U));
     } else {
       AppendUtf8(out, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? replacement : unit);
@@ -176,6 +172,11 @@ void TrimSpace(std::u16string& text)
       u"\u2009\u200A\u2028\u2029\u202F\u205F\u3000";
   text.erase(text.find_last_not_of(spaces) + 1);
   text.erase(0, text.find_first_not_of(spaces));
+}
+
+bool EqualButForCase(std::string_view a, std::string_view b)
+{
+  return std::ranges::equal(a, b, {}, LowerAscii, LowerAscii);
 }
 
 std::u16string WideFromAscii(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }

@@ -15,9 +15,6 @@ bool CanNotBeSeen(char16_t unit)
   return isControl || isMark || unit == 0xFEFF;
 }
 
-bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
 }  // namespace
 
 std::string VisibleText(std::u16string_view text, std::u16string_view marked)
@@ -25,8 +22,7 @@ std::string VisibleText(std::u16string_view text, std::u16string_view marked)
   std::string visible;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char16_t unit = text[i];
-    const bool pair = IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
-    if (pair) {
+    if (IsPairAt(text, i)) {
       visible += Utf8FromWide(text.substr(i++, 2));
     } else if (CanNotBeSeen(unit) || IsHighSurrogate(unit) || IsLowSurrogate(unit)) {
       visible += "\\u" + FormatHex(unit, 4);

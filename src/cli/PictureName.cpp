@@ -3,15 +3,14 @@
 #include <algorithm>
 
 #include "base/Paths.h"
+#include "base/Text.h"
 
 namespace hullwright {
 
 std::string PictureEnding(const std::string& path)
 {
   std::string ending = path == "-" ? ".png" : TextOf(PathOf(path).extension());
-  std::ranges::transform(ending, ending.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-  });
+  std::ranges::transform(ending, ending.begin(), LowerAscii);
   return ending;
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/RealText.h"
+#include "base/Text.h"
 
 namespace hullwright {
 namespace {
@@ -16,8 +17,6 @@ std::string EscapedUnit(char16_t unit)
   if (unit < u'\x7F' && unit != u'\\') return {static_cast<char>(unit)};
   return "\\U+" + FormatHex(unit, 4);
 }
-
-bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 
 }  // namespace
 

@@ -149,10 +149,7 @@ private:
   /// The ANSI code page is the one encoding beyond the parser's own that files come in.
   static int DescribeEncoding(void*, const XML_Char* name, XML_Encoding* encoding)
   {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    if (!std::ranges::equal(std::string_view(name), std::string_view("windows-1252"), {}, lower)) {
-      return XML_STATUS_ERROR;
-    }
+    if (!EqualButForCase(name, "windows-1252")) return XML_STATUS_ERROR;
     for (int byte = 0; byte < 256; ++byte) {
       encoding->map[byte] = WideFromAnsiByte(static_cast<unsigned char>(byte));
     }

@@ -1,7 +1,5 @@
 #include "system/Sqlite.h"
 
-#include <algorithm>
-
 #include "base/Text.h"
 #include "system/SharedLibraries.h"
 
@@ -44,12 +42,6 @@ std::u16string StepProblem(int result)
     case resultTooLong: return u"it holds a value that is too long";
     default: return u"SQLite ERROR #" + WideFromAscii(std::to_string(result));
   }
-}
-
-bool SameName(std::string_view a, std::string_view b)
-{
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-  return std::ranges::equal(a, b, {}, lower, lower);
 }
 
 }  // namespace
@@ -209,7 +201,7 @@ std::optional<int> CSQLite::FindColumn(std::string_view column) const
   const int count = call_.columnCount(statement_);
   for (int i = 0; i < count; ++i) {
     const char* const name = call_.columnName(statement_, i);
-    if (name == nullptr || !SameName(name, column)) continue;
+    if (name == nullptr || !EqualButForCase(name, column)) continue;
     return call_.columnType(statement_, i) == typeNull ? std::nullopt : std::optional(i);
   }
   return std::nullopt;

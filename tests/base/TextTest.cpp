@@ -67,5 +67,24 @@ TEST(Ansi, EveryByteComesBack)
   EXPECT_EQ(AnsiFromWide(WideFromAnsi(bytes)), bytes);
 }
 
+TEST(Case, CountsForEveryCharacterThatIsNoLetterOfAscii)
+{
+  EXPECT_TRUE(EqualButForCase("Windows-1252", "wINDOWS-1252"));
+  EXPECT_TRUE(EqualButForCase("AZaz", "azAZ"));
+  EXPECT_TRUE(EqualButForCase("", ""));
+  EXPECT_FALSE(EqualButForCase("@[", "`{"));
+  EXPECT_FALSE(EqualButForCase("\xC4", "\xE4"));
+  EXPECT_FALSE(EqualButForCase("ab", "abc"));
+}
+
+TEST(Pair, IsAHighHalfWithALowOneBehindIt)
+{
+  const std::u16string text = {0xD800, 0xDC00, 0xDBFF, 0xDFFF, 0xD7FF,
+                               0xDC00, 0xD800, 0xE000, 0xD800};
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    EXPECT_EQ(IsPairAt(text, at), at == 0 || at == 2) << at;
+  }
+}
+
 }  // namespace
 }  // namespace hullwright
