@@ -5,18 +5,19 @@
 
 #include <array>
 
-#include "headless/DrawingLines.h"
+#include "support/DrawingLines.h"
 
 namespace hullwright {
 namespace {
 
+using test::FrameLines;
 using testing::ElementsAre;
 
 constexpr Stroke thin{{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F};
 
 class Recorder : public testing::Test {
 protected:
-  std::vector<std::string> Lines() const { return LinesOf(recorder.calls); }
+  std::vector<std::string> Lines() const { return test::LinesOf(recorder.calls); }
 
   /// One call of each kind that has a colour.
   void DrawAll()

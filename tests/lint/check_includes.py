@@ -12,7 +12,7 @@ ROOMS = {
     "base": "",
     "platform": "model resources",
     "system": "base model platform",
-    "headless": "base model platform resources",
+    "headless": "platform resources",
     "model": "base",
     "render": "base model platform",
     "resources": "base model",
@@ -22,9 +22,9 @@ ROOMS = {
     "exchange": "base model resources dxf",
     "view": "base model platform render resources",
     "app": "base model platform render resources file dxf view",
-    "paint": "base model platform render",
-    "qt": "base model platform system render resources file dxf view app paint",
-    "cli": "base model platform system headless render resources file dxf compare exchange view app paint",
+    "paint": "platform render",
+    "qt": "base model platform system resources file view app paint",
+    "cli": "base model system headless render resources file dxf compare exchange app paint",
 }
 
 # where the programs start, which alone give the rooms what the system has for them

@@ -105,6 +105,8 @@ def link_problems(project):
         for other in sorted((linked[room] & may) - included[room]):
             if (room, other) not in LINKED_BACK:
                 yield f"{LINK_FILES[0]}: {room} links {other}, but includes nothing of it"
+        for other in sorted(set(allowed.split()) - included[room] - linked[room]):
+            yield f"tests/lint/check_includes.py: {room} may include {other}, but does not"
 
 
 def problems(project):
@@ -149,6 +151,13 @@ def self_test(_):
         changed = sound[name].replace(old, new, 1)
         if changed == sound[name] or len(checking.found_with(problems, sound, name, changed)) != 1:
             sys.exit(f"the check of the rooms does not find a wrong {name}: {old!r} as {new!r}")
+    # The table allows what is neither included nor linked.
+    unused = {**sound, "src/dxf/A.cpp": sound["src/dxf/A.cpp"].replace('#include "file/A.h"\n', "")}
+    line = "add_room(dxf ROOMS base model platform"
+    links_less = sound["src/CMakeLists.txt"].replace(f"{line} file", line)
+    found = checking.found_with(problems, unused, "src/CMakeLists.txt", links_less)
+    if found != ["tests/lint/check_includes.py: dxf may include file, but does not"]:
+        sys.exit("the check of the rooms does not find what is allowed and not used")
     # The table alone changes.
     for room, below in ROOMS.items():
         if below and drawing({**ROOMS, room: " ".join(below.split()[1:])}) == drawing(ROOMS):

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "headless/DrawingLines.h"
 #include "headless/DrawingRecorder.h"
+#include "support/DrawingLines.h"
 
 namespace hullwright::test {
 

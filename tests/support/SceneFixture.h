@@ -41,12 +41,7 @@ protected:
 
   CAnchor& AddAnchor(std::uint32_t id, double x, double y)
   {
-    design.anchors->items.push_back(std::make_unique<CAnchor>());
-    CAnchor& anchor = *design.anchors->items.back();
-    anchor.id = id;
-    anchor.attachmentX = x;
-    anchor.attachmentY = y;
-    return anchor;
+    return test::AddAnchor(design, id, x, y);
   }
 
   RecordedDrawing recorder;

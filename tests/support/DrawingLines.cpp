@@ -1,11 +1,11 @@
-#include "headless/DrawingLines.h"
+#include "support/DrawingLines.h"
 
 #include <utility>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
 
-namespace hullwright {
+namespace hullwright::test {
 namespace {
 
 std::string PointText(PixelPoint p) { return Exact(p.x) + "," + Exact(p.y); }
@@ -127,4 +127,4 @@ std::string Exact(const Colour& colour)
          Exact(colour.alpha);
 }
 
-}  // namespace hullwright
+}  // namespace hullwright::test

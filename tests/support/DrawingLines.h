@@ -6,7 +6,7 @@
 
 #include "headless/DrawingRecorder.h"
 
-namespace hullwright {
+namespace hullwright::test {
 
 /// Calls as lines of text, one or several for each. Numbers are printed so that they read back to
 /// the same 32-bit float.
@@ -21,4 +21,4 @@ std::string Exact(float value);
 /// "red green blue alpha".
 std::string Exact(const Colour& colour);
 
-}  // namespace hullwright
+}  // namespace hullwright::test
