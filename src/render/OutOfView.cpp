@@ -7,7 +7,7 @@
 namespace hullwright {
 namespace {
 
-/// Wider lines, of which there are few, are always drawn. The highlight of a selected one is not.
+/// Wider lines, of which there are few, are always drawn. A highlight, of 4 pixels, is no wider.
 constexpr float widest = 8.0F;
 
 std::optional<SeenStretch> StretchOf(const CViewPort& view, const IDrawingTarget* target)

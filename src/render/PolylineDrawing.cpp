@@ -3,6 +3,7 @@
 #include <span>
 #include <vector>
 
+#include "model/ShapeColours.h"
 #include "model/ShapePolyline.h"
 #include "render/Canvas.h"
 #include "render/ScreenMapping.h"
@@ -42,7 +43,8 @@ void CShapePolyline::Draw(const CViewPort* viewPort)
                [&](const CShapeVertex& v) { room[count++] = Narrowed(mapping.Map(v.x, v.y)); });
   const std::span<const PixelPoint> points(room.data(), count);
   if (selected) canvas->DrawPolyline(points, {Colours::highlight, highlightWidth});
-  canvas->DrawPolyline(points, {LineColour(style.get()), style ? style->lineWidth : 1.0F});
+  const ShapeStyle& stroke = StyleOf(*this);
+  canvas->DrawPolyline(points, {LineColour(stroke), stroke.lineWidth});
 }
 
 bool CShapePolyline::HitTest(const CViewPort* viewPort, double x, double y) const

@@ -1,7 +1,7 @@
 #include "render/ShapeDrawing.h"
 
 #include "model/Shape.h"
-#include "model/ShapeStyle.h"
+#include "model/ShapeColours.h"
 #include "render/Canvas.h"
 
 namespace hullwright {
@@ -23,13 +23,11 @@ double HitTolerance(const CViewPort& viewPort)
   return viewPort.width / viewPort.screenWidth * tolerancePixels;
 }
 
-Colour LineColour(const ShapeStyle* style)
+Colour LineColour(const ShapeStyle& style)
 {
-  if (style == nullptr) return Colours::black;
-  const auto part = [style](unsigned shift) {
-    return static_cast<float>(((style->lineColour >> shift) & 0xFFU) / 255.0);
-  };
-  return {part(0), part(8), part(16), 1.0F};
+  const auto part = [](int value) { return static_cast<float>(value / 255.0); };
+  const std::uint32_t colour = style.lineColour;
+  return {part(RedOf(colour)), part(GreenOf(colour)), part(BlueOf(colour)), 1.0F};
 }
 
 void CShape::Draw(const CViewPort*) {}

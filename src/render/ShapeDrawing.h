@@ -29,7 +29,7 @@ inline PixelPoint Narrowed(const ScreenPoint& point)
 /// Ten pixels in world units, measured along x for both axes.
 double HitTolerance(const CViewPort& viewPort);
 
-/// Colour of a shape's line; black without a style.
-Colour LineColour(const ShapeStyle* style);
+/// Colour of a shape's line.
+Colour LineColour(const ShapeStyle& style);
 
 }  // namespace hullwright

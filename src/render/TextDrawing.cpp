@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "model/Angle.h"
 #include "model/RingTest.h"
+#include "model/ShapeColours.h"
 #include "model/ShapeText.h"
 #include "render/Canvas.h"
 #include "render/ShapeDrawing.h"
@@ -56,7 +57,7 @@ void CShapeText::Draw(const CViewPort* viewPort)
   screenBox = BoxOf(p, *measured, angle);
 
   TextBlock block{text, face, {p.x, p.y - measured->height, p.x + measured->width, p.y}};
-  block.colour = LineColour(style.get());
+  block.colour = LineColour(StyleOf(*this));
   if (selected) block.ground = Colours::highlight;
   block.turn = Turn{static_cast<float>(angle + viewPort->rotation), p};
   canvas->Target()->DrawText(block);

@@ -40,31 +40,21 @@ void CViewPort::MeasureEdges()
   height = std::abs(top - bottom);
 }
 
-void CViewPort::ZoomIn(double sx, double sy)
-{
-  const double w = width;
-  const double h = height;
-  const WorldPoint centre = ScreenToWorld(sx, sy);
-  const double newLeft = centre.x - w * 0.5;
-  const double newBottom = centre.y - h * 0.5;
-  left = newLeft + w * 0.125;
-  right = (newLeft + w) - w * 0.125;
-  bottom = newBottom + h * 0.125;
-  top = (newBottom + h) - h * 0.125;
-  MeasureEdges();
-}
+void CViewPort::ZoomIn(double sx, double sy) { ZoomAbout(sx, sy, -0.125); }
 
-void CViewPort::ZoomOut(double sx, double sy)
+void CViewPort::ZoomOut(double sx, double sy) { ZoomAbout(sx, sy, sixth); }
+
+void CViewPort::ZoomAbout(double sx, double sy, double share)
 {
   const double w = width;
   const double h = height;
   const WorldPoint centre = ScreenToWorld(sx, sy);
   const double newLeft = centre.x - w * 0.5;
   const double newBottom = centre.y - h * 0.5;
-  left = newLeft - w * sixth;
-  right = (newLeft + w) + w * sixth;
-  bottom = newBottom - h * sixth;
-  top = (newBottom + h) + h * sixth;
+  left = newLeft - w * share;
+  right = (newLeft + w) + w * share;
+  bottom = newBottom - h * share;
+  top = (newBottom + h) + h * share;
   MeasureEdges();
 }
 

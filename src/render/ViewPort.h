@@ -27,7 +27,8 @@ public:
   CViewPort& operator=(const CViewPort&) = delete;
   virtual ~CViewPort() = default;
 
-  /// View rotation in degrees, stored normalised to 0 (inclusive) to 360 (exclusive).
+  /// Turns the picture about its centre: degrees, clockwise on the screen, stored from 0
+  /// (inclusive) to 360 (exclusive).
   void SetRotation(double degrees);
 
   /// Makes the pixel the centre and shrinks the view rectangle to three quarters.
@@ -85,6 +86,8 @@ public:
   double height = 2.0 * initialReach;  ///< |top - bottom|
   double screenWidth = 0.0;            ///< client size in pixels
   double screenHeight = 0.0;
+
+  /// Degrees, clockwise on the screen; set by `SetRotation` with the four below.
   double rotation = 0.0;
   double cosRotation = 1.0;
   double sinRotation = 0.0;
@@ -97,6 +100,9 @@ private:
   double CentreX() const { return (left + right) * 0.5; }
   double CentreY() const { return (bottom + top) * 0.5; }
   void MeasureEdges();
+
+  /// Makes the pixel the centre and moves each edge outwards by a share of the extent.
+  void ZoomAbout(double sx, double sy, double share);
   void WidenBySixth();
   void MoveCentreTo(const WorldPoint& centre);
 
