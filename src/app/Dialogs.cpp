@@ -48,9 +48,8 @@ double& OffsetOf(DesignState& design)
 
 constexpr bool HasFields(const DialogTemplate& dialog, const auto& fields)
 {
-  return std::ranges::all_of(fields, [&dialog](const auto& row) {
-    return std::ranges::find(dialog.rows, row.field, FieldOf) != dialog.rows.end();
-  });
+  return std::ranges::all_of(
+      fields, [&dialog](const auto& row) { return FindField(dialog, row.field) != nullptr; });
 }
 
 /// Whether every edit field of the template has a row that binds it.
@@ -76,9 +75,8 @@ constexpr bool BindsAllButtons(const DialogTemplate& dialog, const auto&... tabl
 
 constexpr bool HasButtons(const DialogTemplate& dialog, const auto& buttons)
 {
-  return std::ranges::all_of(buttons, [&dialog](const auto& row) {
-    return std::ranges::find(dialog.rows, row.button, ButtonOf) != dialog.rows.end();
-  });
+  return std::ranges::all_of(
+      buttons, [&dialog](const auto& row) { return FindButton(dialog, row.button) != nullptr; });
 }
 
 double ReadNumber(const IDialogControls& controls, ControlId field)

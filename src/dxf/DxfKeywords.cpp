@@ -1,9 +1,9 @@
 #include "dxf/DxfKeywords.h"
 
-#include <algorithm>
 #include <array>
 #include <new>
 
+#include "base/FindOrNull.h"
 #include "dxf/DxfReaders.h"
 
 namespace hullwright {
@@ -51,8 +51,8 @@ const Keyword* FindKeyword(std::string_view line, DxfPlace place)
       {"OLE2FRAME", false, skipped},
       {"IMAGE", false, skipped},
   });
-  const auto* const found = std::ranges::find(keywords, line, &Keyword::word);
-  if (found == keywords.end()) return nullptr;
+  const Keyword* const found = FindOrNull(keywords, line, &Keyword::word);
+  if (found == nullptr) return nullptr;
   return place == DxfPlace::Block && !found->inBlocks ? nullptr : found;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "base/FindOrNull.h"
 #include "file/DesignElement.h"
 
 namespace hullwright {
@@ -73,33 +74,27 @@ constexpr const DesignElement& FieldOf(Value CAnchor::*member)
 /// The element that the reader of designs takes a tag for; null for a name that it passes over.
 constexpr const DesignElement* FindElement(std::string_view name)
 {
-  const auto* const found =
-      std::ranges::find_if(designElements, [name](const DesignElement& element) {
-        return element.name == name && element.use != ElementUse::OnlyInLists;
-      });
-  return found == designElements.end() ? nullptr : found;
+  return FindIfOrNull(designElements, [name](const DesignElement& element) {
+    return element.name == name && element.use != ElementUse::OnlyInLists;
+  });
 }
 
 /// The element of a design that stands in another; null for one that belongs elsewhere.
 constexpr const DesignElement* FindElement(std::string_view name, std::string_view parent)
 {
-  const auto* const found =
-      std::ranges::find_if(designElements, [name, parent](const DesignElement& element) {
-        return element.name == name && element.parent == parent &&
-               element.use != ElementUse::OnlyInLists;
-      });
-  return found == designElements.end() ? nullptr : found;
+  return FindIfOrNull(designElements, [name, parent](const DesignElement& element) {
+    return element.name == name && element.parent == parent &&
+           element.use != ElementUse::OnlyInLists;
+  });
 }
 
 /// The field of an anchor that a name stands for, also one that only anchor lists have; null for
 /// any other name.
 constexpr const DesignElement* FindAnchorField(std::string_view name)
 {
-  const auto* const found =
-      std::ranges::find_if(designElements, [name](const DesignElement& element) {
-        return element.name == name && element.kind == ElementKind::AnchorField;
-      });
-  return found == designElements.end() ? nullptr : found;
+  return FindIfOrNull(designElements, [name](const DesignElement& element) {
+    return element.name == name && element.kind == ElementKind::AnchorField;
+  });
 }
 
 }  // namespace hullwright

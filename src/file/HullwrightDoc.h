@@ -15,8 +15,8 @@ namespace hullwright {
 
 class CFileVessel;
 
-/// Moves the design between the design state and files. It owns no data of its own but the modified
-/// flag.
+/// Moves the design between the design state and files. Of the design it owns nothing; it keeps the
+/// modified flag and what came of the last open and the last save.
 class CHullwrightDoc {
 public:
   CHullwrightDoc(DesignState& design, IMainWindow& mainWindow, IMessageBoxes& messages);
@@ -32,7 +32,7 @@ public:
   bool OnOpenDocument(std::u16string_view path);
 
   /// Writes the design to a file. Always true, and the design then counts as saved, also when the
-  /// writing failed, unless there was no memory to begin with it; `CFileVessel` states what is
+  /// writing failed, unless there was no memory to begin with it; `CFileSax::Flush` states what is
   /// reported to the user.
   bool OnSaveDocument(std::u16string_view path);
 

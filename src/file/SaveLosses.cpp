@@ -51,10 +51,11 @@ constexpr const DesignElement& numberField = FieldOf(&CAnchor::id);
 constexpr const DesignElement& nameField = FieldOf(&CAnchor::name);
 
 /// The place of an attribute's value.
-LossPlace AttributePlace(const DesignElement& element, std::string_view text)
+LossPlace AttributePlace(const DesignElement& element, std::string_view attribute,
+                         std::string_view text)
 {
   return {.element = std::string(element.name),
-          .attribute = std::string(element.attribute),
+          .attribute = std::string(attribute),
           .text = std::string(text)};
 }
 
@@ -100,9 +101,7 @@ void CSaveLosses::CheckAttributes(const DesignElement& element, SaxAttributes at
   std::map<std::u16string, LossPlace> unknown;
   for (const auto& [attribute, value] : attributes) {
     if (HasAttribute(element, attribute)) continue;
-    unknown[WideFromUtf8(attribute)] = {.element = std::string(element.name),
-                                        .attribute = std::string(attribute),
-                                        .text = std::string(value)};
+    unknown[WideFromUtf8(attribute)] = AttributePlace(element, attribute, value);
   }
   for (const auto& [name, place] : unknown) Add(LossKind::UnknownAttribute, place);
   if (HasCoordinates(element)) {
@@ -120,7 +119,7 @@ void CSaveLosses::CheckAttributes(const DesignElement& element, SaxAttributes at
 
 void CSaveLosses::CheckUnit(const DesignElement& element, std::string_view text)
 {
-  const LossPlace place = AttributePlace(element, text);
+  const LossPlace place = AttributePlace(element, element.attribute, text);
   if (Utf8FromWide(MemberText(element, static_cast<const CFileVessel&>(*this))) != text) {
     Add(LossKind::UnitChanges, place);
   }
@@ -131,7 +130,7 @@ void CSaveLosses::CheckView(const DesignElement& element, std::string_view text)
 {
   CShapes group;
   ReadMember(element, group, text);
-  const LossPlace place = AttributePlace(element, text);
+  const LossPlace place = AttributePlace(element, element.attribute, text);
   if (group.viewCode == ViewSide::None) {
     Add(LossKind::GroupWithoutView, place);
     group.viewCode = ViewSide::Top;
@@ -154,11 +153,9 @@ void CSaveLosses::CheckCoordinate(const DesignElement& element, std::string_view
   if (saved == text) return;
   const bool number = IsNumber(text);
   if (number && (ParseDouble(saved) == value || std::isnan(value))) return;
-  Add(number ? LossKind::Decimals : LossKind::CoordinateIsNoNumber,
-      {.element = std::string(element.name),
-       .attribute = std::string(attribute),
-       .text = std::string(text),
-       .saved = std::string(saved)});
+  LossPlace place = AttributePlace(element, attribute, text);
+  place.saved = saved;
+  Add(number ? LossKind::Decimals : LossKind::CoordinateIsNoNumber, place);
 }
 
 void CSaveLosses::EndElement(std::string_view name)

@@ -1,5 +1,6 @@
 #include "view/PickedItem.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
@@ -85,10 +86,8 @@ Pick FindVertex(const CShapes& group, const PickBox& box)
 
 bool HoldsVertex(const DesignState& design, const CShapeVertex* vertex)
 {
-  if (vertex == design.offsetGps.get() || vertex == design.offsetTransducer.get() ||
-      vertex == design.offsetPivot.get()) {
-    return true;
-  }
+  const auto isIt = [&](const OffsetPoint& point) { return (design.*point.place).get() == vertex; };
+  if (std::ranges::any_of(offsetPoints, isIt)) return true;
   return AnyEntry(design.shapeGroups, [vertex](const CShapes& group) {
     return AnyEntry(group.shapes,
                     [vertex](const CShape& shape) { return HoldsEntry(shape.vertices, vertex); });

@@ -15,9 +15,9 @@
 namespace hullwright {
 namespace {
 
-class PickBoxFixture : public test::SceneFixture {
+class PickBoxOfTheMouse : public test::SceneFixture {
 protected:
-  PickBoxFixture() { design.activeView = ViewSide::Right; }
+  PickBoxOfTheMouse() { design.activeView = ViewSide::Right; }
 
   bool IsInBox(const CShapeVertex& vertex, std::int32_t x, std::int32_t y) const
   {
@@ -41,7 +41,7 @@ protected:
   int found = 0;
 };
 
-TEST_F(PickBoxFixture, TakesWhatIsMappedIntoIt)
+TEST_F(PickBoxOfTheMouse, TakesWhatIsMappedIntoIt)
 {
   std::mt19937_64 random(5);
   std::uniform_real_distribution<double> near(-7.0, 7.0);
@@ -57,7 +57,7 @@ TEST_F(PickBoxFixture, TakesWhatIsMappedIntoIt)
   EXPECT_GT(found, 2000);
 }
 
-TEST_F(PickBoxFixture, TakesWhatIsMappedIntoItFarFromTheOrigin)
+TEST_F(PickBoxOfTheMouse, TakesWhatIsMappedIntoItFarFromTheOrigin)
 {
   std::mt19937_64 random(6);
   std::uniform_real_distribution<double> near(-7.0, 7.0);
@@ -73,7 +73,7 @@ TEST_F(PickBoxFixture, TakesWhatIsMappedIntoItFarFromTheOrigin)
   EXPECT_GT(found, 500);
 }
 
-TEST_F(PickBoxFixture, TakesWhatIsTooLargeForAPixelAtTheLowestOne)
+TEST_F(PickBoxOfTheMouse, TakesWhatIsTooLargeForAPixelAtTheLowestOne)
 {
   constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
   constexpr double infinite = std::numeric_limits<double>::infinity();
