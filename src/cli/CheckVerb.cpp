@@ -71,6 +71,6 @@ int Run(int argc, char** argv)
 
 }  // namespace
 
-const Verb checkVerb = {"check", help, Run};
+const Verb checkVerb = {"check", help, Run, exitUnreadable};
 
 }  // namespace hullwright

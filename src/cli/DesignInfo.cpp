@@ -12,8 +12,6 @@
 namespace hullwright {
 namespace {
 
-bool HasBox(const GroupContent& content) { return content.box.minX <= content.box.maxX; }
-
 void WriteAnchor(JsonWriter& json, const CAnchor& anchor)
 {
   json.BeginObject();
@@ -32,7 +30,7 @@ void WriteGroup(JsonWriter& json, const CShapes& group)
   json.Key("polylines").Integer(static_cast<std::int64_t>(content.polylines));
   json.Key("vertices").Integer(static_cast<std::int64_t>(content.vertices));
   json.Key("extents");
-  if (HasBox(content)) {
+  if (!content.box.IsEmpty()) {
     json.Doubles({content.box.minX, content.box.minY, content.box.maxX, content.box.maxY});
   } else {
     json.Null();
@@ -61,7 +59,7 @@ void PrintDesign(HeadlessEditor& editor, const std::string& name)
     const GroupContent content = ContentOf(group);
     std::printf("  %-12s  %zu polylines, %zu vertices", GroupName(group.viewCode).c_str(),
                 content.polylines, content.vertices);
-    if (HasBox(content)) {
+    if (!content.box.IsEmpty()) {
       std::printf(", from %s to %s", PlaceText(content.box.minX, content.box.minY).c_str(),
                   PlaceText(content.box.maxX, content.box.maxY).c_str());
     }

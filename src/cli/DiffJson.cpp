@@ -11,7 +11,7 @@ namespace {
 
 void WritePlace(JsonWriter& json, const Place& place) { json.Doubles({place.x, place.y, place.z}); }
 
-/// What was reckoned from coordinates, without the bits that only reckoning brings.
+/// What was computed from coordinates, without the bits that only computing brings.
 double Rounded(double value, const DiffSubject& subject)
 {
   return std::isfinite(value) ? ParseDouble(FormatWithin(value, subject.tolerance)) + 0.0 : value;

@@ -4,6 +4,7 @@
 #include <QPicture>
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <set>
 #include <tuple>

@@ -81,7 +81,7 @@ void PrintDrawing(const DrawingSummary& summary, const std::string& name)
   PrintCounts("entities", summary.entities);
   PrintCounts("ignored", summary.ignored);
   std::printf("  imported: %zu shapes", summary.shapes);
-  if (summary.extents.minX <= summary.extents.maxX && summary.shapes != 0) {
+  if (!summary.extents.IsEmpty()) {
     std::printf(", from %s to %s", PlaceText(summary.extents.minX, summary.extents.minY).c_str(),
                 PlaceText(summary.extents.maxX, summary.extents.maxY).c_str());
   }

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -15,6 +16,7 @@
 #include "exchange/CsvExport.h"
 #include "exchange/DxfExport.h"
 #include "exchange/GeoJsonExport.h"
+#include "resources/ViewSides.h"
 #include "system/InputFile.h"
 #include "system/OutputFile.h"
 
@@ -144,6 +146,16 @@ std::u16string Counted(std::size_t count, const std::string& thing)
   return WideFromAscii(std::to_string(count) + " " + thing + (count == 1 ? "" : "s"));
 }
 
+/// A drawing, with a remark on the names that it has no room for.
+std::string MakeDrawing(const DxfForm& form, const std::string& name, const ExportedDesign& design)
+{
+  DxfDrawing drawing = MakeDxf(design, form);
+  if (drawing.shortenedNames != 0) {
+    Remark(name, u"shortened: " + Counted(drawing.shortenedNames, "name"));
+  }
+  return std::move(drawing.bytes);
+}
+
 /// The bytes of the export, with remarks on what is not in them.
 std::string MakeBytes(const Options& options, const std::string& name, const ExportedDesign& design)
 {
@@ -151,13 +163,13 @@ std::string MakeBytes(const Options& options, const std::string& name, const Exp
     Remark(name,
            u"left out: " + Counted(design.leftOut, "polyline") + u" of fewer than two vertices");
   }
-  if (*options.format == Format::GeoJson) return MakeGeoJson(design);
-  if (*options.format == Format::Csv) return MakeCsv(design);
-  DxfDrawing drawing = MakeDxf(design, options.form);
-  if (drawing.shortenedNames != 0) {
-    Remark(name, u"shortened: " + Counted(drawing.shortenedNames, "name"));
+  switch (*options.format) {
+    case Format::Dxf: return MakeDrawing(options.form, name, design);
+    case Format::GeoJson: return MakeGeoJson(design);
+    case Format::Csv: return MakeCsv(design);
+    case Format::Svg: break;  // drawn, not written
   }
-  return std::move(drawing.bytes);
+  return {};
 }
 
 std::string WriteBytes(const Options& options, const std::string& bytes)

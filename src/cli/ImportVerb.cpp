@@ -2,8 +2,8 @@
 #include <array>
 #include <cstdio>
 
-#include "app/NonFiniteNumbers.h"
 #include "app/ImportText.h"
+#include "app/NonFiniteNumbers.h"
 #include "base/Pages.h"
 #include "base/Text.h"
 #include "cli/CommandLine.h"

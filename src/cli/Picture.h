@@ -9,6 +9,7 @@
 
 namespace hullwright {
 
+/// Which sides are drawn to which files, and how.
 struct PictureRequest {
   std::string input;   ///< path of a design or a drawing; "-" for standard input
   std::string output;  ///< path to write; its ending decides the format: .png, .svg or .pdf

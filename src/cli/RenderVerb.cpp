@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
 
 #include "base/Numbers.h"

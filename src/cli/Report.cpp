@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHashSeed>
-#include <array>
 #include <filesystem>
 #include <optional>
 

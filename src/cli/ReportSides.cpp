@@ -1,7 +1,7 @@
 #include "cli/ReportSides.h"
 
 #include <QPicture>
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 #include "base/RoundNumbers.h"

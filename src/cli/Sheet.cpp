@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 
 #include "app/HullwrightApp.h"
 #include "base/Code.h"
@@ -87,7 +86,6 @@ SheetFacts FactsOf(CHullwrightApp& design, const QString& file)
     const CShapeVertex* const place = (design.*point.place).get();
     if (place != nullptr) facts.rows.append(RowOf(point.name, *place));
   }
-  if (design.anchors == nullptr) return facts;
   ForEachEntry(design.anchors->items,
                [&facts](const CAnchor& anchor) { facts.rows.append(RowOf(anchor)); });
   return facts;

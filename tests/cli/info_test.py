@@ -35,6 +35,18 @@ class InfoTest(CliTest):
                 {"view": 1, "side": "top", "polylines": 1, "vertices": 1, "extents": [1.0, 2.0, 1.0, 2.0]},
                 {"view": 3, "side": "view 03", "polylines": 0, "vertices": 0, "extents": None}]})
 
+    def test_a_side_whose_coordinates_of_one_axis_are_no_numbers_has_no_extents(self):
+        for old, new in (('x="1.000"', 'x="nan"'), ('y="2.000"', 'y="nan"')):
+            design = self.write("a.xml", HEAD + GROUP.replace(old, new) + TAIL)
+            self.assertEqual(json.loads(self.succeed("info", design, "--json"))["groups"], [
+                {"view": 1, "side": "top", "polylines": 1, "vertices": 1, "extents": None}])
+            self.assertIn("  top           1 polylines, 1 vertices\n", self.succeed("info", design).decode())
+
+    def test_a_drawing_whose_coordinates_of_one_axis_are_no_numbers_is_listed_without_extents(self):
+        for x, y in (("nan", "2"), ("1", "nan")):
+            drawing = self.drawing("a.dxf", "0", "LINE", "10", x, "20", y, "11", x, "21", y)
+            self.assertIn("imported: 1 shapes\n", self.succeed("info", drawing).decode())
+
     def test_an_unknown_unit_is_listed_by_its_code(self):
         design = self.write("b.xml", HEAD.replace("9001", "4711") + TAIL)
         self.assertIn("unknown (EPSG 4711)", self.succeed("info", design).decode())

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What export, diff and report write: into pipes, onto full disks, over other files, and up to a signal"""
+"""What export, diff, report and check write: into pipes, onto full disks, over other files, and up to a signal"""
 
 import contextlib
 import os
@@ -79,6 +79,13 @@ class OutputsTest(CliTest):
                                       check=False, env=ENVIRONMENT)
             self.assertEqual((done.returncode, done.stderr),
                              (trouble, b"hullwright-cli: standard output: No space left on device\n"))
+
+    def test_a_lost_standard_output_of_check_is_not_taken_for_a_finding(self):
+        design = self.write("odd.xml", BOAT.read_text().replace("</vessel>", "<engine /></vessel>"))
+        self.assertEqual(run("check", design).returncode, 1)
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([PROGRAM, "check", design], stdout=full, stderr=subprocess.PIPE, check=False, env=ENVIRONMENT)
+        self.assertEqual((done.returncode, done.stderr), (2, b"hullwright-cli: standard output: it can't be written\n"))
 
     def test_a_pipe_with_a_name_gets_the_whole_file(self):
         for verb, ending, _, out in self.cases():
