@@ -5,7 +5,6 @@
 
 #include "qt/Icons.h"
 #include "qt/QtText.h"
-#include "resources/Commands.h"
 
 namespace hullwright {
 

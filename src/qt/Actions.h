@@ -23,7 +23,7 @@ public:
   /// The action of a command; made on first use.
   QAction* Get(CommandId command);
 
-  /// Fills a menu bar or a menu from its rows, and hands each menu that it makes to `onMenu`.
+  /// Fills a menu bar or a menu from its rows, and hands each menu that it fills to `onMenu`.
   void FillMenuBar(QMenuBar& bar, std::span<const MenuItem> rows);
   void FillMenu(QMenu& menu, std::span<const MenuItem> rows);
 
@@ -48,10 +48,10 @@ private:
 /// A label of the resources on one line, with a blank where a carriage return marks its line break.
 QString OneLine(std::u16string_view label);
 
-/// A command's label with its key, and below it what the command does.
-QString ToolTip(const CommandEntry& command);
-
 /// The same label on two lines.
 QString TwoLines(std::u16string_view label);
+
+/// A command's label with its key, and below it what the command does.
+QString ToolTip(const CommandEntry& command);
 
 }  // namespace hullwright

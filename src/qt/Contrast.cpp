@@ -27,20 +27,20 @@ double Contrast(const QColor& a, const QColor& b)
   return (lighter + strayLight) / (darker + strayLight);
 }
 
-QColor Between(const QColor& from, const QColor& to, double part)
+QColor Mix(const QColor& from, const QColor& to, double part)
 {
   const auto channel = [part](int a, int b) { return a + static_cast<int>((b - a) * part); };
   return {channel(from.red(), to.red()), channel(from.green(), to.green()),
           channel(from.blue(), to.blue())};
 }
 
-QColor Seen(const QColor& wanted, const QColor& background, double contrast)
+QColor WithContrast(const QColor& wanted, const QColor& background, double contrast)
 {
   constexpr int steps = 20;
   const bool dark = Contrast(background, Qt::white) > Contrast(background, Qt::black);
   const QColor end = dark ? Qt::white : Qt::black;
   for (int step = 0; step < steps; ++step) {
-    const QColor colour = Between(wanted, end, static_cast<double>(step) / steps);
+    const QColor colour = Mix(wanted, end, static_cast<double>(step) / steps);
     if (Contrast(colour, background) >= contrast) return colour;
   }
   return end;

@@ -12,11 +12,12 @@ inline constexpr double textContrast = 4.5;
 /// 21.0 for black and white.
 double Contrast(const QColor& a, const QColor& b);
 
-/// A colour `part` of the way from one to another.
-QColor Between(const QColor& from, const QColor& to, double part);
+/// A mix of two colours, `part` of the way from the first to the second.
+QColor Mix(const QColor& from, const QColor& to, double part);
 
 /// The colour next to `wanted` that has at least this contrast to a background, darker on a light
 /// one and lighter on a dark one; black or white where none has it.
-QColor Seen(const QColor& wanted, const QColor& background, double contrast = shapeContrast);
+QColor WithContrast(const QColor& wanted, const QColor& background,
+                    double contrast = shapeContrast);
 
 }  // namespace hullwright

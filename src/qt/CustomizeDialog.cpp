@@ -7,12 +7,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <optional>
 
 #include "base/Code.h"
 #include "qt/DialogButtons.h"
+#include "qt/ScreenSize.h"
 
 namespace hullwright {
 namespace {
@@ -54,25 +54,55 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
       deleteBar_(MakeButton(tr("&Delete"), &CustomizeDialog::DeleteToolBar))
 {
   setWindowTitle(tr("Customize Toolbars"));
+  LayOut();
+  SetButtonImages(*this);
+  ResizeOnScreen(*this, QSize(860, 560));
+  for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
+  FillAvailable();
+  ShowToolBar(0);
+  connect(bars_, &QComboBox::currentIndexChanged, this, [this](int index) {
+    TakeOver();
+    ShowToolBar(index);
+  });
+}
+
+void CustomizeDialog::LayOut()
+{
+  const auto labelOf = [this](const QString& text, QWidget* field) {
+    auto* const label = new QLabel(text, this);
+    label->setBuddy(field);
+    return label;
+  };
   auto* const grid = new QGridLayout(this);
-  auto* const barLabel = new QLabel(tr("&Toolbar:"), this);
-  barLabel->setBuddy(bars_);
-  auto* const availableLabel = new QLabel(tr("&Commands:"), this);
-  availableLabel->setBuddy(available_);
-  available_->setAccessibleName(tr("Commands"));
-  auto* const shownLabel = new QLabel(tr("&Buttons:"), this);
-  shownLabel->setBuddy(shown_);
-  shown_->setAccessibleName(tr("Buttons"));
   auto* const bar = new QHBoxLayout;
-  bar->addWidget(barLabel);
+  bar->addWidget(labelOf(tr("&Toolbar:"), bars_));
   bar->addWidget(bars_, 1);
+  bars_->setMinimumWidth(160);
   grid->addLayout(bar, 0, 0);
   grid->addWidget(newBar_, 0, 1);
   grid->addWidget(deleteBar_, 0, 2, Qt::AlignLeft);
-  grid->addWidget(availableLabel, 1, 0);
-  grid->addWidget(shownLabel, 1, 2);
+  grid->addWidget(labelOf(tr("&Commands:"), available_), 1, 0);
+  grid->addWidget(labelOf(tr("&Buttons:"), shown_), 1, 2);
   grid->addWidget(available_, 2, 0);
   grid->addWidget(shown_, 2, 2);
+  available_->setAccessibleName(tr("Commands"));
+  shown_->setAccessibleName(tr("Buttons"));
+  for (QListWidget* const list : {available_, shown_}) {
+    list->setMinimumSize(160, 120);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
+  grid->addLayout(ButtonColumn(), 2, 1);
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+    TakeOver();
+    accept();
+  });
+  connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+  grid->addWidget(buttons, 3, 0, 1, 3);
+}
+
+QVBoxLayout* CustomizeDialog::ButtonColumn()
+{
   auto* const column = new QVBoxLayout;
   column->addStretch();
   column->addWidget(MakeButton(tr("&Add"), &CustomizeDialog::Add));
@@ -81,31 +111,7 @@ CustomizeDialog::CustomizeDialog(const ToolBars& toolBars, Actions& actions, QWi
   column->addWidget(MakeButton(tr("Move Do&wn"), &CustomizeDialog::MoveDown));
   column->addWidget(MakeButton(tr("R&eset"), &CustomizeDialog::Reset));
   column->addStretch();
-  grid->addLayout(column, 2, 1);
-  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-    TakeOver();
-    accept();
-  });
-  connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
-  grid->addWidget(buttons, 3, 0, 1, 3);
-  SetButtonImages(*this);
-  bars_->setMinimumWidth(160);
-  for (QListWidget* const list : {available_, shown_}) {
-    list->setMinimumSize(160, 120);
-    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  }
-  constexpr QSize comfortable(860, 560);
-  constexpr double mostOfTheScreen = 0.9;
-  resize(comfortable.boundedTo(screen()->availableSize() * mostOfTheScreen));
-
-  for (const ToolBarSpec& spec : specs_) bars_->addItem(spec.title);
-  FillAvailable();
-  ShowToolBar(0);
-  connect(bars_, &QComboBox::currentIndexChanged, this, [this](int index) {
-    TakeOver();
-    ShowToolBar(index);
-  });
+  return column;
 }
 
 QPushButton* CustomizeDialog::MakeButton(const QString& text, void (CustomizeDialog::*act)())

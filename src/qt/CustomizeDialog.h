@@ -8,6 +8,7 @@ class QComboBox;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
+class QVBoxLayout;
 
 namespace hullwright {
 
@@ -23,6 +24,8 @@ public:
 private:
   QListWidgetItem* MakeItem(CommandId command);
   QPushButton* MakeButton(const QString& text, void (CustomizeDialog::*act)());
+  void LayOut();
+  QVBoxLayout* ButtonColumn();  ///< what acts on the lists, between them
   void FillAvailable();
   void ShowToolBar(int index);
   void TakeOver();

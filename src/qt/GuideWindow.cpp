@@ -7,9 +7,10 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QTextTable>
 #include <QVBoxLayout>
+
+#include "qt/ScreenSize.h"
 
 namespace hullwright {
 namespace {
@@ -106,9 +107,7 @@ GuideWindow::GuideWindow(const QString& folder, QWidget* parent)
   auto* const column = new QVBoxLayout(this);
   column->addLayout(row);
   column->addWidget(page_, 1);
-  constexpr QSize comfortable(960, 760);
-  constexpr double mostOfTheScreen = 0.9;
-  resize(comfortable.boundedTo(screen()->availableSize() * mostOfTheScreen));
+  ResizeOnScreen(*this, QSize(960, 760));
   page_->setSource(contents);
   page_->setFocus();
 }

@@ -24,7 +24,7 @@ QIcon FromFile(std::string_view name, const IconColours& normal,
 QIcon ThemedIcon(std::string_view name, const QPalette& palette)
 {
   const QColor window = palette.color(QPalette::Window);
-  const auto seen = [window](QRgb colour) { return Seen(QColor(colour), window).rgb(); };
+  const auto seen = [window](QRgb colour) { return WithContrast(QColor(colour), window).rgb(); };
   const IconColours normal = {palette.color(QPalette::WindowText).rgb(),
                               window.lightness() < 128 ? lightAccent : drawnColours.accent,
                               seen(drawnColours.good), seen(drawnColours.bad)};

@@ -16,8 +16,8 @@ bool IsEnabled(const QStyleOption& option) { return option.state.testFlag(QStyle
 /// A colour for a shape on a background; paler where the option is disabled.
 QColor ShapeColour(const QStyleOption& option, const QColor& wanted, const QColor& background)
 {
-  const QColor seen = Seen(wanted, background);
-  return IsEnabled(option) ? seen : Between(seen, background, disabledPart);
+  const QColor seen = WithContrast(wanted, background);
+  return IsEnabled(option) ? seen : Mix(seen, background, disabledPart);
 }
 
 /// The largest square in the middle of a rectangle, on the middles of pixels.
@@ -33,7 +33,7 @@ QPen Edge(const QStyleOption& option)
 {
   const QColor window = option.palette.color(QPalette::Window);
   // Darker than it must be: what smoothing leaves of a thin line at its edges is paler.
-  const QColor grey = Between(option.palette.color(QPalette::WindowText), window, 0.25);
+  const QColor grey = Mix(option.palette.color(QPalette::WindowText), window, 0.25);
   return {ShapeColour(option, grey, window), 1.2};
 }
 
@@ -54,7 +54,7 @@ void DrawDownButton(QPainter& painter, const QStyleOption& option)
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(ShapeColour(option, highlight, window), 1.0));
-  painter.setBrush(Between(window, highlight, tint));
+  painter.setBrush(Mix(window, highlight, tint));
   painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), roundness, roundness);
   painter.restore();
 }
@@ -103,9 +103,8 @@ void DrawFieldEdge(QPainter& painter, const QStyleOption& option)
   constexpr double roundness = 2.0;
   const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
   const QColor window = option.palette.color(QPalette::Window);
-  const QColor wanted = hasFocus
-                            ? option.palette.color(QPalette::Highlight)
-                            : Between(window, option.palette.color(QPalette::WindowText), 0.35);
+  const QColor wanted = hasFocus ? option.palette.color(QPalette::Highlight)
+                                 : Mix(window, option.palette.color(QPalette::WindowText), 0.35);
   const double width = hasFocus ? 2.0 : 1.0;
   const double inset = width / 2;
   painter.save();
@@ -127,8 +126,8 @@ void DrawSlider(QPainter& painter, const QStyleOption& option, const QRect& plac
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(
-      Seen(Between(window, option.palette.color(QPalette::WindowText), 0.45), window, contrast));
+  painter.setBrush(WithContrast(Mix(window, option.palette.color(QPalette::WindowText), 0.45),
+                                window, contrast));
   painter.drawRoundedRect(QRectF(place).adjusted(inset, inset, -inset, -inset), roundness,
                           roundness);
   painter.restore();
@@ -143,7 +142,7 @@ void DrawBranch(QPainter& painter, const QStyleOption& option)
   const QPoint middle = place.center();
   const bool isItem = option.state.testFlag(QStyle::State_Item);
   painter.save();
-  painter.setPen(Between(text, base, 0.5));
+  painter.setPen(Mix(text, base, 0.5));
   if (isItem || option.state.testFlag(QStyle::State_Sibling)) {
     const bool goesOn = option.state.testFlag(QStyle::State_Sibling);
     painter.drawLine(middle.x(), place.top(), middle.x(), goesOn ? place.bottom() : middle.y());
@@ -151,7 +150,7 @@ void DrawBranch(QPainter& painter, const QStyleOption& option)
   if (isItem) painter.drawLine(middle.x(), middle.y(), place.right(), middle.y());
   if (option.state.testFlag(QStyle::State_Children)) {
     const QRect box(middle.x() - boxSide / 2, middle.y() - boxSide / 2, boxSide - 1, boxSide - 1);
-    painter.setPen(ShapeColour(option, Between(text, base, 0.4), base));
+    painter.setPen(ShapeColour(option, Mix(text, base, 0.4), base));
     painter.setBrush(base);
     painter.drawRect(box);
     painter.setPen(text);

@@ -13,14 +13,14 @@
 namespace hullwright {
 namespace {
 
-constexpr const char* closeProperty = "closeTogether";
+constexpr const char* compactProperty = "compact";
 
-bool IsClose(const QWidget* widget)
+bool IsCompact(const QWidget* widget)
 {
   if (widget == nullptr) return false;
   const QWidget* const bar =
       qobject_cast<const QToolBar*>(widget) != nullptr ? widget : widget->parentWidget();
-  return bar != nullptr && bar->property(closeProperty).toBool();
+  return bar != nullptr && bar->property(compactProperty).toBool();
 }
 
 /// A sign on the button of a pane, drawn in the colour that the palette has at the time.
@@ -141,11 +141,11 @@ QIcon LookStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                            const QWidget* widget) const
 {
-  constexpr int closeSeparator = 4;
+  constexpr int compactSeparator = 4;
   const int own = QProxyStyle::pixelMetric(metric, option, widget);
-  if (!IsClose(widget)) return own;
+  if (!IsCompact(widget)) return own;
   switch (metric) {
-    case PM_ToolBarSeparatorExtent: return qMin(own, closeSeparator);
+    case PM_ToolBarSeparatorExtent: return qMin(own, compactSeparator);
     case PM_ToolBarItemSpacing: return 0;
     default: return own;
   }
@@ -154,16 +154,16 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                   const QWidget* widget) const
 {
-  constexpr int closeMargin = 2;
+  constexpr int compactMargin = 2;
   const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
-  if (type != CT_ToolButton || !IsClose(widget)) return own;
-  return {qMin(own.width(), size.width() + closeMargin), own.height()};
+  if (type != CT_ToolButton || !IsCompact(widget)) return own;
+  return {qMin(own.width(), size.width() + compactMargin), own.height()};
 }
 
-void SetClose(QWidget& toolBar, bool close)
+void SetCompact(QWidget& toolBar, bool compact)
 {
-  if (toolBar.property(closeProperty).toBool() == close) return;
-  toolBar.setProperty(closeProperty, close);
+  if (toolBar.property(compactProperty).toBool() == compact) return;
+  toolBar.setProperty(compactProperty, compact);
   // Buttons and layout keep what they have measured until the style is another.
   for (auto* const button : toolBar.findChildren<QAbstractButton*>()) {
     QEvent change(QEvent::StyleChange);

@@ -36,7 +36,7 @@ private:
   QString base_;
 };
 
-/// Brings the contents of a toolbar closer together or back to the style's own distances.
-void SetClose(QWidget& toolBar, bool close);
+/// Makes the contents of a toolbar compact, or gives them the style's own distances back.
+void SetCompact(QWidget& toolBar, bool compact);
 
 }  // namespace hullwright

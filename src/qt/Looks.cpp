@@ -8,7 +8,6 @@
 
 #include "qt/Contrast.h"
 #include "qt/LookStyle.h"
-#include "resources/CommandIds.h"
 
 namespace hullwright {
 namespace {
@@ -46,7 +45,7 @@ QPalette PaletteOf(const LookColours& look)
 {
   QPalette palette = QPalette(QColor(look.window));
   palette.setColor(QPalette::Highlight,
-                   Seen(QColor(look.highlight), Qt::white, smoothTextContrast));
+                   WithContrast(QColor(look.highlight), Qt::white, smoothTextContrast));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   // What is chosen in a list that has not the keyboard.
   palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x6b, 0x70, 0x75));

@@ -13,8 +13,12 @@ class ProgressPane : public QWidget {
 public:
   explicit ProgressPane(QWidget* parent);
 
+  /// Shows the pane and the wait cursor, at 0; each start needs its end.
   void Start(const QString& text);
+
+  /// From 0 to 100.
   void SetPercent(int percent);
+
   void End();
 
 private:

@@ -22,6 +22,7 @@ public:
                            std::int32_t fallback) const override;
   void WriteInteger(std::string_view section, std::string_view key, std::int32_t value) override;
 
+  /// Null until the store is open, and where it was not opened; every caller asks.
   QSettings* File() const { return file_.get(); }
 
 private:

@@ -15,7 +15,7 @@ namespace {
 
 void Apply(QToolBar& bar, Density density)
 {
-  const bool hasLabels = density == Density::Wide || density == Density::Close;
+  const bool hasLabels = density == Density::Wide || density == Density::Compact;
   const Qt::ToolButtonStyle style =
       hasLabels ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly;
   if (bar.toolButtonStyle() != style) bar.setToolButtonStyle(style);
@@ -26,7 +26,7 @@ void Apply(QToolBar& bar, Density density)
   if (auto* const customize = bar.findChild<QToolButton*>(QLatin1String(customizeButtonName))) {
     customize->setToolButtonStyle(Qt::ToolButtonIconOnly);
   }
-  SetClose(bar, density == Density::Close || density == Density::CloseIcons);
+  SetCompact(bar, density == Density::Compact || density == Density::CompactIcons);
 }
 
 }  // namespace
@@ -107,10 +107,10 @@ int ToolBarFit::Needed(QToolBar& bar, Density density)
 void ToolBarFit::FitLine(const Line& line)
 {
   for (const Density density :
-       {Density::Wide, Density::Close, Density::Icons, Density::CloseIcons}) {
+       {Density::Wide, Density::Compact, Density::Icons, Density::CompactIcons}) {
     int needed = 0;
     for (QToolBar* const bar : line.bars) needed += Needed(*bar, density);
-    if (needed > line.length && density != Density::CloseIcons) continue;
+    if (needed > line.length && density != Density::CompactIcons) continue;
     for (QToolBar* const bar : line.bars) Apply(*bar, density);
     return;
   }

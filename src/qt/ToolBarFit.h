@@ -10,12 +10,12 @@ class QToolBar;
 
 namespace hullwright {
 
-/// How tightly the buttons of a toolbar stand: as the style has them or close together, first with
-/// their labels, then without.
-enum class Density { Wide, Close, Icons, CloseIcons };
+/// How tightly the buttons of a toolbar stand: as the style has them or compact, first with their
+/// labels, then without.
+enum class Density { Wide, Compact, Icons, CompactIcons };
 
 /// Keeps every button of the toolbars in sight: a line of toolbars that is longer than the window
-/// gets closer together, and back as soon as there is room.
+/// gets compact, and wide again as soon as there is room.
 class ToolBarFit : public QObject {
 public:
   explicit ToolBarFit(QMainWindow& window);

@@ -350,9 +350,9 @@ TEST(Contrasts, AreThoseOfTheLuminances)
   EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21.0, 1e-9);
   EXPECT_NEAR(Contrast(Qt::white, QColor(0x76, 0x76, 0x76)), 4.54, 0.01);
   EXPECT_EQ(Contrast(Qt::red, Qt::red), 1.0);
-  EXPECT_GE(Contrast(Seen(QColor(240, 240, 240), Qt::white), Qt::white), shapeContrast);
-  EXPECT_GE(Contrast(Seen(QColor(30, 30, 30), Qt::black), Qt::black), shapeContrast);
-  EXPECT_EQ(Seen(Qt::blue, Qt::white), QColor(Qt::blue));
+  EXPECT_GE(Contrast(WithContrast(QColor(240, 240, 240), Qt::white), Qt::white), shapeContrast);
+  EXPECT_GE(Contrast(WithContrast(QColor(30, 30, 30), Qt::black), Qt::black), shapeContrast);
+  EXPECT_EQ(WithContrast(Qt::blue, Qt::white), QColor(Qt::blue));
 }
 
 }  // namespace
