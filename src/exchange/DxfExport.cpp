@@ -1,7 +1,6 @@
 #include "exchange/DxfExport.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "base/Code.h"
@@ -66,7 +65,7 @@ public:
     WriteDxfHeader(drawing, design_.unit, box_, isR12_ ? 0 : nextHandle_);
     if (!isR12_) {
       drawing.Records(DxfRecords::classesToViewports);
-      WriteDxfWindow(drawing, box_);
+      WriteActiveViewport(drawing, box_);
     }
     drawing.Records(isR12_ ? DxfRecords::linetypesToLayersR12 : DxfRecords::linetypesToLayers);
     drawing.Append(layers);

@@ -17,7 +17,8 @@ void Variable(DxfText& text, std::string_view name, int code, std::string_view v
   text.Group(code, value);
 }
 
-/// The window as high as the box, or its share of the width of a usual screen.
+/// Height of the view that shows the whole box in any window no higher than it is wide: the longer
+/// side of the box, with a margin.
 double HeightOf(const DxfBox& box)
 {
   constexpr double margin = 1.2;
@@ -93,7 +94,7 @@ void WriteDxfHeader(DxfText& text, UnitCode unit, const DxfBox& box, std::uint32
   text.Records("0 ENDSEC");
 }
 
-void WriteDxfWindow(DxfText& text, const DxfBox& box)
+void WriteActiveViewport(DxfText& text, const DxfBox& box)
 {
   text.Records(
       "0 VPORT|5 23|330 8|100 AcDbSymbolTableRecord|100 AcDbViewportTableRecord|2 *Active|70 0"

@@ -29,7 +29,7 @@ DxfBox BoxOf(const ExportedDesign& design);
 /// drawing; 0 makes the header of R12, which knows fewer variables.
 void WriteDxfHeader(DxfText& text, UnitCode unit, const DxfBox& box, std::uint32_t nextHandle);
 
-/// Writes the record of the window that shows the whole box.
-void WriteDxfWindow(DxfText& text, const DxfBox& box);
+/// Writes the record of the active viewport (VPORT), which shows the whole box.
+void WriteActiveViewport(DxfText& text, const DxfBox& box);
 
 }  // namespace hullwright

@@ -10,12 +10,10 @@ namespace hullwright {
 namespace DxfRecords {
 
 inline constexpr std::uint32_t firstFreeHandle = 0x40;
-inline constexpr std::uint32_t layerTable = 0x1;
-inline constexpr std::uint32_t viewportTable = 0x8;
 inline constexpr std::uint32_t modelSpace = 0x17;
 
-// Of R2000, in the order in which they come: between the first two the window, between the second
-// and third the layers, and between the last two the entities.
+// Of R2000, in the order in which they come: between the first two the active viewport, between the
+// second and third the layers, and between the last two the entities.
 extern const std::string_view classesToViewports;
 extern const std::string_view linetypesToLayers;
 extern const std::string_view stylesToBlocks;

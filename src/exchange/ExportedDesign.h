@@ -16,18 +16,18 @@ struct ExportedPolyline {
   const CShape* shape;
 };
 
+inline constexpr const char* offsetKind = "offset";
+inline constexpr const char* anchorKind = "anchor";
+
 /// An offset or an anchor. Both lie on the top side.
 struct ExportedPlace {
-  const char* kind;
+  const char* kind;  ///< `offsetKind` or `anchorKind`
   std::u16string name;
   std::optional<std::uint32_t> number;  ///< of an anchor
   double x;
   double y;
   std::optional<double> z;  ///< of an offset
 };
-
-inline constexpr const char* offsetKind = "offset";
-inline constexpr const char* anchorKind = "anchor";
 
 /// What of a design goes to other programs. All numbers are finite.
 struct ExportedDesign {

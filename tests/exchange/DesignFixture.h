@@ -20,12 +20,7 @@ protected:
 
   void AddAnchor(std::uint32_t id, std::u16string name, double x, double y)
   {
-    auto anchor = std::make_unique<CAnchor>();
-    anchor->id = id;
-    anchor->name = std::move(name);
-    anchor->attachmentX = x;
-    anchor->attachmentY = y;
-    design.anchors->items.push_back(std::move(anchor));
+    test::AddAnchor(design, id, x, y, std::move(name));
   }
 
   /// Gives a polyline a colour (0x00BBGGRR) and a width.

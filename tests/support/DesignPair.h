@@ -31,13 +31,7 @@ protected:
   static CAnchor& AddAnchor(DesignState& design, std::uint32_t id, std::u16string name, double x,
                             double y)
   {
-    design.anchors->items.push_back(std::make_unique<CAnchor>());
-    CAnchor& anchor = *design.anchors->items.back();
-    anchor.id = id;
-    anchor.name = std::move(name);
-    anchor.attachmentX = x;
-    anchor.attachmentY = y;
-    return anchor;
+    return test::AddAnchor(design, id, x, y, std::move(name));
   }
 
   Differences Compare() const { return CompareDesigns(former, current, options); }
