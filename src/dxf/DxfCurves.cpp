@@ -107,15 +107,17 @@ std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion&
 
 std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrusion& toWorld,
                                             double rotationDegrees, double majorLength,
-                                            double minorLength, double start, double end)
+                                            double minorLength, double startDegrees,
+                                            double endDegrees)
 {
   constexpr int lastVertex = 60;
   auto ellipse = std::make_unique<CShapePolyline>();
   const double c = std::cos(rotationDegrees * radiansPerDegree);
   const double s = std::sin(rotationDegrees * radiansPerDegree);
-  const double step = (start * radiansPerDegree - end * radiansPerDegree) / lastVertex;
+  const double step =
+      (startDegrees * radiansPerDegree - endDegrees * radiansPerDegree) / lastVertex;
   for (int i = 0; i <= lastVertex; ++i) {
-    const double t = i * step + start;  // the start in degrees, among steps in radians
+    const double t = i * step + startDegrees;  // the start in degrees, among steps in radians
     const double major = majorLength * std::cos(t);
     const double minor = minorLength * std::sin(t);
     AddWorldVertex(*ellipse,

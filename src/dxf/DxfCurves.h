@@ -29,10 +29,13 @@ std::unique_ptr<CShapePolyline> MakeArc(const DxfPoint& centre, const Extrusion&
                                         double radius, double startDegrees, double endDegrees,
                                         bool clockwise);
 
-/// An ellipse of 61 vertices. Only a whole one along the axes comes out as drawn.
+/// An ellipse of 61 vertices. Rotation and parameters are in degrees; the vertices are found by the
+/// start in degrees and steps in radians, so that only a whole one along the axes comes out as
+/// drawn.
 std::unique_ptr<CShapePolyline> MakeEllipse(const DxfPoint& centre, const Extrusion& toWorld,
                                             double rotationDegrees, double majorLength,
-                                            double minorLength, double start, double end);
+                                            double minorLength, double startDegrees,
+                                            double endDegrees);
 
 /// Whether vertices with their bulges become no more vertices than `most`.
 bool FlattensWithin(std::size_t most, const std::vector<CFileDxfVertex>& vertices);

@@ -15,7 +15,8 @@ namespace hullwright {
 /// Reader of AutoCAD drawings in their ASCII form: one pass over the text in memory. Layers, blocks
 /// and entities become shapes of a layer; what it does not understand it walks past. Numbers are
 /// parsed leniently, and below the file level nothing is reported but counted in the tally. An
-/// object lives for one import, which leaves of the text what it reads last.
+/// object lives for one import; what has been read of the text is given back on the way, so that
+/// afterwards `buffer` holds the last part of it alone.
 class CFileDxf : public CFileBase {
 public:
   /// `frame` is notified of the progress and may be null, for which an import fails.

@@ -23,10 +23,15 @@ struct DesignState {
   CViewPortDesigner* viewPort = nullptr;
 
   std::unique_ptr<CAnchors> anchors = std::make_unique<CAnchors>();
+
+  // Places of equipment, in the design's unit: GNSS antenna, echo sounder's transducer, and the
+  // pivot point, for dredging. The program starts with these values; a new design keeps those that
+  // it finds.
   std::unique_ptr<CShapeVertex> offsetGps = std::make_unique<CShapeVertex>(10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetTransducer = std::make_unique<CShapeVertex>(-10.0, 0.0, 0.0);
   std::unique_ptr<CShapeVertex> offsetPivot = std::make_unique<CShapeVertex>(0.0, 10.0, 0.0);
-  UnitCode unitCode = UnitCode::Metre;
+
+  UnitCode unitCode = UnitCode::Metre;  ///< of all lengths of the design
   ViewSide activeView = ViewSide::Top;  ///< the side shown and edited
 
   /// Vertices that have changed since the object tree was built, as they were then: the tree goes

@@ -34,7 +34,8 @@ public:
   /// it with its own cursor. Null does nothing.
   void AppendVertices(const CShapePolyline* source);
 
-  /// Appends 61 vertices, whatever the radius and sweep. Zero degrees lies at cx - radius.
+  /// Appends 61 vertices, whatever the radius and sweep. Zero degrees lies at cx - radius, and a
+  /// positive sweep runs clockwise.
   void AddArc(double cx, double cy, double radius, double startDegrees, double sweepDegrees);
 };
 

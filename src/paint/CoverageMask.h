@@ -20,7 +20,8 @@ public:
   /// never painted, because memory ended in it, is forgotten.
   void Begin(const PixelView& picture, const PixelArea& area, float alpha, std::size_t segments);
 
-  /// Adds the segments of a line, closed or with flat ends.
+  /// Adds the segments of a line, in pixels of the picture: closed (its last point is its first
+  /// one), or with flat ends.
   void AddLine(std::span<const PixelPosition> line, float radius, bool isClosed);
 
   /// Adds a segment, whose ends lie within some ten thousand pixels of the area.

@@ -11,7 +11,7 @@
 
 namespace hullwright {
 
-/// Numbers of four neighbouring pixels, reckoned with at once, on any machine.
+/// Numbers of four neighbouring pixels, computed with at once, on any machine.
 class PlainFour {
 public:
   explicit PlainFour(float all) { lanes_.fill(all); }

@@ -2,7 +2,6 @@
 
 #include <QFontMetricsF>
 #include <QLineF>
-#include <QPen>
 #include <algorithm>
 #include <array>
 #include <cmath>

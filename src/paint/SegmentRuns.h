@@ -56,8 +56,9 @@ struct SegmentWay {
     return radius + most;
   }
 
-  /// A pixel as a distance, where a ramp to half of `whole` rises by one for one, by the length of
-  /// the way: times dx or dy, what a pixel along x or y adds to the distance along the line.
+  /// Distances are scaled so that the ramp at an edge, which is `larger / length` pixels wide and
+  /// rises to half of `whole`, rises by one for one: a pixel is then `length` times this. Times dx
+  /// or dy it is what a step of one pixel along x or y adds to the distance along the line.
   float UnitOf(float whole) const { return 0.5F * whole / larger; }
 
   /// What a stroke covers of a pixel whose centre it runs through: not all of it where it is thin

@@ -6,7 +6,6 @@
 #include <cstring>
 
 #include "paint/Fours.h"
-#include "render/ClipPolyline.h"
 
 namespace hullwright {
 namespace {

@@ -18,7 +18,7 @@ class Stroker {
 public:
   struct Pen {
     std::uint32_t colour = 0xff000000U;  ///< 0xffRRGGBB
-    float alpha = 1.0F;
+    float alpha = 1.0F;                  ///< from 0, which paints nothing, to 1
     float width = 1.0F;  ///< in client pixels, more than 0; below a pixel the line gets paler
   };
 

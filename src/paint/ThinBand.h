@@ -88,9 +88,11 @@ private:
   }
 
   PixelPosition from_;
-  int pixel_;         ///< a pixel as a distance
-  int perPixel_ = 0;  ///< a pixel's distance is the whole, in parts of 65536 of 32 times it
-  float perPixelX_;   ///< change of the distance along the line from one pixel to the next
+  int pixel_;  ///< a pixel as a distance
+  /// Where an end is flat 65536 * 32 / `pixel_`, rounded up: `Part` of it behind `Product`, which
+  /// divide by 65536 and 32, divides by `pixel_`.
+  int perPixel_ = 0;
+  float perPixelX_;  ///< change of the distance along the line from one pixel to the next
   float perPixelY_;
   int alongX_;  ///< the same in small parts
   int alongY_;

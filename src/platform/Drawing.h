@@ -33,8 +33,8 @@ enum class FigureKind {
   Outline  ///< closed, with plain joins
 };
 
-/// Figures that are stroked as one path. The points are the caller's and stand for the length of
-/// the call; each figure has at least one.
+/// Figures of one kind that share a stroke, each of which is painted by itself. The points are the
+/// caller's and stand for the length of the call; each figure has at least one.
 struct Figures {
   FigureKind kind = FigureKind::Line;
   std::span<const PixelPoint> points;      ///< of all figures, one after the other

@@ -17,7 +17,8 @@ class ITrace {
 public:
   virtual ~ITrace() = default;
 
-  /// Adds a record to the log of a category. `text` is the formatted message.
+  /// Adds a record to the log of a category. `elapsedSeconds` counts from the beginning of 1970
+  /// (UTC), in steps of a millisecond. `text` is the formatted message.
   virtual void Trace(double elapsedSeconds, TraceLevel level, std::u16string_view category,
                      std::u16string_view text) const = 0;
 };

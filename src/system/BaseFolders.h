@@ -9,7 +9,7 @@ namespace hullwright {
 /// An environment variable; `fallback` where it is missing or empty.
 std::string Environment(const char* name, std::string fallback);
 
-/// A folder of the user's by the desktop's base folder rules: what `variable` names, else
+/// A folder of the user's as the XDG base directories have it: what `variable` names, else
 /// `belowHome` in the user's home, on Windows the folder of local data in its place. Folders that
 /// are not absolute are ignored; empty where neither is left.
 std::filesystem::path BaseFolder(const char* variable, const char* belowHome);

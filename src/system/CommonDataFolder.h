@@ -24,7 +24,7 @@ struct DataFolderCandidates {
   std::string besideProgram;        ///< the one that came with the program
 };
 
-/// The candidates of this user and this program, by the desktop's base folder rules.
+/// The candidates of this user and this program, by the XDG base directories.
 DataFolderCandidates FindDataFolderCandidates();
 
 /// The common data folder to use for one thing: the first candidate that has it, the user's first,

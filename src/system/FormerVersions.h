@@ -31,8 +31,8 @@ private:
   bool isDamaged_ = false;            ///< its bytes could not be put back
 };
 
-/// The program's folder in the user's state folder, by the desktop's base folder rules; empty for a
-/// user without a home.
+/// The program's folder in the user's state folder, by the XDG base directories; empty for a user
+/// without a home.
 std::filesystem::path StateFolder();
 
 }  // namespace hullwright
