@@ -9,6 +9,8 @@
 namespace hullwright {
 namespace {
 
+using test::Exact;
+
 /// The frame of a sample, worked out once more from the design's numbers alone: each coordinate by
 /// the mapping of world to pixels, narrowed to a float.
 class ExpectedFrame {

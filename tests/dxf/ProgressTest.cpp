@@ -68,7 +68,7 @@ TEST_F(Progress, PercentIsTruncatedAndReportedOnce)
   EXPECT_THAT(window.list, ElementsAre("1 %", "2 %", "49 %", "100 %"));
 }
 
-TEST_F(Progress, PercentIsReckonedInSinglePrecision)
+TEST_F(Progress, PercentIsComputedInSinglePrecision)
 {
   ReportAfterEach({29, 100});  // in double precision a hair below 29 per cent
   EXPECT_THAT(window.list, ElementsAre("29 %", "100 %"));

@@ -17,7 +17,7 @@ namespace {
 using Bytes = std::array<std::uint8_t, 4>;
 
 template <class Lanes>
-Bytes Reckon(float a, float b, Bytes bytes)
+Bytes Compute(float a, float b, Bytes bytes)
 {
   const Lanes x = Lanes::Steps() * Lanes(a) + Lanes(b);
   const Lanes y = (x - Lanes(40.0F)).Abs();
@@ -26,7 +26,7 @@ Bytes Reckon(float a, float b, Bytes bytes)
   return bytes;
 }
 
-TEST(FourPixels, AreReckonedAlikeOnEveryMachine)
+TEST(FourPixels, AreComputedAlikeOnEveryMachine)
 {
   std::mt19937 random(3);
   std::uniform_real_distribution<float> anything(-120.0F, 120.0F);
@@ -34,7 +34,7 @@ TEST(FourPixels, AreReckonedAlikeOnEveryMachine)
     const float a = anything(random);
     const float b = anything(random);
     const Bytes bytes = {0, 255, 17, 100};
-    EXPECT_EQ(Reckon<Four>(a, b, bytes), Reckon<PlainFour>(a, b, bytes)) << a << ' ' << b;
+    EXPECT_EQ(Compute<Four>(a, b, bytes), Compute<PlainFour>(a, b, bytes)) << a << ' ' << b;
   }
 }
 
@@ -48,7 +48,7 @@ Rows Bytes8(const auto& lanes)
 }
 
 template <class Lanes>
-std::array<Rows, 3> ReckonRows(int a, int b, int step)
+std::array<Rows, 3> ComputeRows(int a, int b, int step)
 {
   const Lanes none(0);
   const Lanes most(1020);
@@ -59,7 +59,7 @@ std::array<Rows, 3> ReckonRows(int a, int b, int step)
           Bytes8(product.Part(2000))};
 }
 
-TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
+TEST(EightPixels, AreComputedAlikeOnEveryMachine)
 {
   std::mt19937 random(4);
   for (int i = 0; i < 20000; ++i) {
@@ -67,7 +67,7 @@ TEST(EightPixels, AreReckonedAlikeOnEveryMachine)
     const int a = static_cast<int>(random()) >> shift;
     const int b = static_cast<int>(random()) >> shift;
     const int step = static_cast<int>(random() % 8000U) - 4000;
-    ASSERT_EQ(ReckonRows<Eight>(a, b, step), ReckonRows<PlainEight>(a, b, step))
+    ASSERT_EQ(ComputeRows<Eight>(a, b, step), ComputeRows<PlainEight>(a, b, step))
         << a << ' ' << b << ' ' << step;
   }
 }
@@ -83,7 +83,7 @@ TEST(EightPixels, SumsStopAtTheEndsOfTheirRange)
 
 /// Where two rows begin after some moves, and the distances there, as far as bytes tell.
 template <class Pair>
-std::array<Rows, 3> ReckonStarts(const BandRow& first, const BandRow& change, int slope)
+std::array<Rows, 3> ComputeStarts(const BandRow& first, const BandRow& change, int slope)
 {
   Pair rows(first, change);
   for (int i = 0; i < 3; ++i) rows.Move();
@@ -109,8 +109,8 @@ TEST(RowPairs, BeginAlikeOnEveryMachine)
     const BandRow change = {number(3 << BandRow::pixelBits), number(700 << BandRow::distanceBits),
                             number(700 << BandRow::distanceBits)};
     const int slope = number(720 << BandRow::distanceBits);
-    ASSERT_EQ((ReckonStarts<RowPair>(first, change, slope)),
-              (ReckonStarts<PlainRowPair>(first, change, slope)))
+    ASSERT_EQ((ComputeStarts<RowPair>(first, change, slope)),
+              (ComputeStarts<PlainRowPair>(first, change, slope)))
         << i;
   }
 }

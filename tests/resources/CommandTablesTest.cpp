@@ -43,7 +43,7 @@ std::vector<std::pair<int, std::u16string>> Rows(std::u16string_view menu)
 
 using MenuRows = std::vector<std::pair<int, std::u16string>>;
 
-TEST(Menus, FileMenu)
+TEST(Menus, TheFileMenuHasItsEntriesInOrderWithTheirKeys)
 {
   EXPECT_EQ(Rows(u"&File"), (MenuRows{{57600, u"&New Design\tCtrl+N"},
                                       {57601, u"&Open Design...\tCtrl+O"},
@@ -57,7 +57,7 @@ TEST(Menus, FileMenu)
                                       {57665, u"E&xit"}}));
 }
 
-TEST(Menus, ModifyOptionsCursorAndHelp)
+TEST(Menus, EditModifyOptionsCursorAndHelpHaveTheirEntriesInOrder)
 {
   EXPECT_EQ(Rows(u"Modify"), (MenuRows{{32776, u"Mirror Vertically"},
                                        {32777, u"Mirror Horizontally"},
@@ -101,7 +101,7 @@ TEST(Menus, ViewMenuHasTheLooks)
                                       {0, u""}}));
 }
 
-TEST(Menus, SideDropDown)
+TEST(Menus, TheSideDropDownOffersTheSixSidesUnderATitleOfTwoLines)
 {
   MenuRows rows;
   for (const MenuItem& item : viewMenu) rows.emplace_back(NumberOf(item.id), TextOf(item));
@@ -114,7 +114,7 @@ TEST(Menus, SideDropDown)
   EXPECT_EQ(viewButtonText, u"Select\rView");
 }
 
-TEST(Menus, OfTheObjectTree)
+TEST(Menus, EachKindOfTreeItemHasItsOwnEntries)
 {
   std::map<TreeMenuKind, MenuRows> menus;
   for (const TreeMenu& menu : treeMenus) {
@@ -295,7 +295,7 @@ TEST(ViewSides, CodesAndCommandsBelongTogether)
   EXPECT_EQ(FindViewSideByCommand(CommandId::SelectView), nullptr);
 }
 
-TEST(Strings, TheWindowsOwnTexts)
+TEST(Strings, TheTextsOfPanesAndToolbarStandWordForWord)
 {
   EXPECT_EQ(Strings::ready, u"Ready");
   EXPECT_EQ(Strings::paneEmpty, u"N/A");

@@ -38,7 +38,7 @@ Rows RowsOf(int id, std::u16string_view title)
   return {found->rows.begin(), found->rows.end()};
 }
 
-TEST(DialogTemplates, Grid)
+TEST(DialogTemplates, TheGridDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(310, u"Grid"),
             (Rows{{Kind::Group, Id::None, u"Display"},
@@ -51,14 +51,14 @@ TEST(DialogTemplates, Grid)
                   {Kind::Field, Id{1012}, u"Y-Spacing:", Id{1011}, Id{1013}, u"meters"}}));
 }
 
-TEST(DialogTemplates, Move)
+TEST(DialogTemplates, TheMoveDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(322, u"Move Design"),
             (Rows{{Kind::Field, Id{1024}, u"X-Direction:", Id::None, Id{1004}, u"meters"},
                   {Kind::Field, Id{1025}, u"Y-Direction:", Id::None, Id{1005}, u"meters"}}));
 }
 
-TEST(DialogTemplates, Offsets)
+TEST(DialogTemplates, TheOffsetsDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(323, u"Modify Offsets"),
             (Rows{{Kind::Group, Id::None, u"GNSS Antenna Offset"},
@@ -77,7 +77,7 @@ TEST(DialogTemplates, Offsets)
                    u"point offset is used for dredging only !"}}));
 }
 
-TEST(DialogTemplates, Rotate)
+TEST(DialogTemplates, TheRotateDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(319, u"Rotate Design"),
             (Rows{{Kind::Group, Id::None, u"Angle"},
@@ -90,13 +90,13 @@ TEST(DialogTemplates, Rotate)
                   {Kind::Radio, Id{1022}, u"Rotate Left (Counter Clockwise)"}}));
 }
 
-TEST(DialogTemplates, Scale)
+TEST(DialogTemplates, TheScaleDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(317, u"Scale Design"),
             (Rows{{Kind::Field, Id{1011}, u"Scale Factor:", Id::None, Id::None, u"unity"}}));
 }
 
-TEST(DialogTemplates, Vertex)
+TEST(DialogTemplates, TheVertexDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(313, u"Edit Vertex Coordinates"),
             (Rows{{Kind::Field, Id{1008}, u"Coordinate-X:", Id::None, Id{1004}, u"meters"},
@@ -104,12 +104,12 @@ TEST(DialogTemplates, Vertex)
                   {Kind::Field, Id{1023}, u"Coordinate-Z:", Id::None, Id{1010}, u"meters"}}));
 }
 
-TEST(DialogTemplates, Units)
+TEST(DialogTemplates, TheUnitsDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(RowsOf(314, u"Switch Units"), (Rows{{Kind::List, Id{1018}, u"Length units"}}));
 }
 
-TEST(DialogTemplates, About)
+TEST(DialogTemplates, TheAboutDialogHasItsRowsAndControls)
 {
   EXPECT_EQ(
       RowsOf(100, u"About Sondaris"),
