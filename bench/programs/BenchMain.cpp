@@ -1,7 +1,5 @@
 #include "BenchMain.h"
 
-#include <benchmark/benchmark.h>
-
 #include <cstdio>
 
 #include "Checks.h"

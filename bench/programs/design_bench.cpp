@@ -123,31 +123,23 @@ void Print(benchmark::State& state, const fs::path& design)
   });
 }
 
-template <class Work>
-benchmark::internal::Benchmark* Add(const std::string& name, Work work)
-{
-  return benchmark::RegisterBenchmark(name.c_str(),
-                                      [=](benchmark::State& state) { work(state, name); })
-      ->MeasureProcessCPUTime()
-      ->Unit(benchmark::kMillisecond);
-}
-
 void AddDesigns(const fs::path& inputs)
 {
   for (const std::string file : {"design", "design-10th", "design-100th"}) {
     const fs::path design = inputs / (file + ".xml");
-    Add("open/" + file + "/ours", [=](auto& state, auto& name) { Open(state, name, design); });
-    Add("save/" + file + "/ours", [=](auto& state, auto&) { Save(state, design); });
+    AddBenchmark("open/" + file + "/ours",
+                 [=](auto& state, auto& name) { Open(state, name, design); });
+    AddBenchmark("save/" + file + "/ours", [=](auto& state, auto&) { Save(state, design); });
   }
   const fs::path design = inputs / "design.xml";
-  Add("open/design/expat",
-      [=](auto& state, auto& name) { Parse(state, name, design, ReadWithExpat); });
+  AddBenchmark("open/design/expat",
+               [=](auto& state, auto& name) { Parse(state, name, design, ReadWithExpat); });
 #ifdef HULLWRIGHT_BENCH_PUGIXML
-  Add("open/design/pugixml",
-      [=](auto& state, auto& name) { Parse(state, name, design, ReadWithPugixml); });
+  AddBenchmark("open/design/pugixml",
+               [=](auto& state, auto& name) { Parse(state, name, design, ReadWithPugixml); });
 #endif
-  Add("save/design/fprintf", [=](auto& state, auto&) { Print(state, design); });
-  Add("memory/vertex/ours", [=](auto& state, auto& name) {
+  AddBenchmark("save/design/fprintf", [=](auto& state, auto&) { Print(state, design); });
+  AddBenchmark("memory/vertex/ours", [=](auto& state, auto& name) {
     Weigh(state, name, design);
   })->Iterations(1);
 }

@@ -1,7 +1,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QGuiApplication>
-#include <memory>
 #include <string>
 
 #include "BenchMain.h"
@@ -199,10 +198,7 @@ void Pass(benchmark::State& state, const std::string& name, const Shot& shot)
 template <class Work>
 void Add(const std::string& name, Work work, const Shot& shot)
 {
-  benchmark::RegisterBenchmark(name.c_str(),
-                               [=](benchmark::State& state) { work(state, name, shot); })
-      ->MeasureProcessCPUTime()
-      ->Unit(benchmark::kMillisecond);
+  AddBenchmark(name, [=](auto& state, auto& own) { work(state, own, shot); });
 }
 
 void AddFrames(const std::string& name, Shot shot)

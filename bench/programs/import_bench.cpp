@@ -82,21 +82,15 @@ void ReadAll(benchmark::State& state, const std::string& name, const Drawings& d
 
 void AddOurs(const std::string& work, const Drawings& drawings)
 {
-  const std::string name = "import/" + work + "/ours";
-  benchmark::RegisterBenchmark(name.c_str(),
-                               [=](benchmark::State& state) { Import(state, name, drawings); })
-      ->MeasureProcessCPUTime()
-      ->Unit(benchmark::kMillisecond);
+  AddBenchmark("import/" + work + "/ours",
+               [=](auto& state, auto& name) { Import(state, name, drawings); });
 }
 
 void AddPeer(const std::string& work, const std::string& peer, const Drawings& drawings,
              Reader* read)
 {
-  const std::string name = "import/" + work + "/" + peer;
-  benchmark::RegisterBenchmark(
-      name.c_str(), [=](benchmark::State& state) { ReadAll(state, name, drawings, read); })
-      ->MeasureProcessCPUTime()
-      ->Unit(benchmark::kMillisecond);
+  AddBenchmark("import/" + work + "/" + peer,
+               [=](auto& state, auto& name) { ReadAll(state, name, drawings, read); });
 }
 
 void AddGdal([[maybe_unused]] const std::string& work, [[maybe_unused]] const Drawings& drawings)

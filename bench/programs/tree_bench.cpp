@@ -183,10 +183,7 @@ template <class Work>
 void Add(const std::string& name, Work work, std::size_t polylines)
 {
   const Scene scene{polylines, 1600.0, 1000.0};
-  benchmark::RegisterBenchmark(name.c_str(),
-                               [=](benchmark::State& state) { work(state, name, scene); })
-      ->MeasureProcessCPUTime()
-      ->Unit(benchmark::kMillisecond);
+  AddBenchmark(name, [=](auto& state, auto& own) { work(state, own, scene); });
 }
 
 void AddAll(const std::filesystem::path& inputs)
