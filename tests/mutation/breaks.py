@@ -31,8 +31,8 @@ class Break:
 
     @property
     def identity(self):
-        """What names the break as long as its line stays, wherever the line moves within its file."""
-        return f"{self.file}\t{self.rule}\t{self.before.strip()}\t{self.after.strip()}"
+        """What names the break as long as its line stays, wherever the line moves within its file; one line."""
+        return "\t".join((self.file, self.rule, " ".join(self.before.split()), " ".join(self.after.split())))
 
 
 TURNED = {" < ": " >= ", " <= ": " > ", " > ": " <= ", " >= ": " < ", " == ": " != ", " != ": " == "}
@@ -177,10 +177,10 @@ def breaks_of(file, text):
 
 
 def all_breaks(project):
-    """The breaks of all sources of a checkout, a list for each line that has any."""
+    """The breaks of all sources of a checkout that this system builds, a list for each line that has any."""
     by_line = {}
     for path in sorted(pathlib.Path(project, "src").rglob("*")):
-        if path.suffix in (".cpp", ".h", ".def"):
+        if path.suffix in (".cpp", ".h", ".def") and "windows" not in path.parts:
             file = str(path.relative_to(project))
             for found in breaks_of(file, path.read_text(encoding="utf-8")):
                 by_line.setdefault((file, found.line), []).append(found)

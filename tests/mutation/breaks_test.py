@@ -67,6 +67,11 @@ class Rules(unittest.TestCase):
     def test_two_statements_are_swapped(self):
         self.assertEqual(after("order swapped", "  First();\n  Second();"), ["  Second();\n  First();"])
 
+    def test_the_name_of_a_break_is_one_line(self):
+        names = [found.identity for found in breaks.breaks_of("src/room/File.cpp", "  a.Set(b);\n  b.Clear();")]
+        self.assertIn("src/room/File.cpp\torder swapped\ta.Set(b); b.Clear();\tb.Clear(); a.Set(b);", names)
+        self.assertIn("src/room/File.cpp\tstatement left out\tb.Clear();\t;", names)
+
     def test_statements_without_a_common_name_are_not_swapped(self):
         def is_swapped(*lines):
             return after("order swapped", "\n".join(lines)) != []
