@@ -55,18 +55,18 @@ bool Holds(const fs::path& path, std::string_view bytes)
     return false;
   std::ifstream file(path, std::ios::binary);
   std::array<char, 1U << 14U> part{};
-  while (file && !bytes.empty()) {
+  while (!bytes.empty()) {
     const std::size_t length = std::min(part.size(), bytes.size());
     file.read(part.data(), static_cast<std::streamsize>(length));
     if (!file || bytes.substr(0, length) != std::string_view(part.data(), length)) return false;
     bytes.remove_prefix(length);
   }
-  return bytes.empty() && file.is_open();
+  return true;
 }
 
 bool WriteWhole(const fs::path& path, std::string_view bytes)
 {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  std::ofstream file(path, std::ios::binary);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   return file.good();
