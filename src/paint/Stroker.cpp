@@ -69,7 +69,7 @@ struct PixelBounds {
   float top;
   float right;
   float bottom;
-  bool isWild = false;
+  bool isWild;
 };
 
 float SquaredDistance(PixelPosition a, PixelPosition b)

@@ -91,9 +91,6 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option)
     painter.translate(box.topLeft());
     painter.drawPolyline(QPolygonF(
         {{0.22 * side, 0.52 * side}, {0.42 * side, 0.74 * side}, {0.78 * side, 0.26 * side}}));
-  } else if (option.state.testFlag(QStyle::State_NoChange)) {
-    painter.drawLine(QPointF(box.left() + side / 4, box.center().y()),
-                     QPointF(box.right() - side / 4, box.center().y()));
   }
   painter.restore();
 }

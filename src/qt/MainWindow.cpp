@@ -279,7 +279,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     file->setValue(QLatin1String(layoutKey), saveState());
     file->setValue(QLatin1String(statusBarKey), !statusBar()->isHidden());
   }
-  event->accept();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -119,10 +119,8 @@ void ToolBarFit::FitLine(const Line& line)
 void ToolBarFit::Fit()
 {
   // What is not seen yet has no size that counts.
-  if (fitting_ || !window_.isVisible()) return;
-  fitting_ = true;
+  if (!window_.isVisible()) return;
   for (const Line& line : Lines()) FitLine(line);
-  fitting_ = false;
 }
 
 }  // namespace hullwright

@@ -48,7 +48,6 @@ private:
   QMainWindow& window_;
   QList<QToolBar*> bars_;
   QHash<const QToolBar*, std::array<int, 4>> needed_;
-  bool fitting_ = false;
 };
 
 /// The names of the buttons that are not those of one command.
