@@ -66,6 +66,10 @@ class DiffDrawingsTest(CliTest):
             "  unit          metre (EPSG 9001) -> foot ($INSUNITS 2); all numbers are the same, so that every length changed"])
         # A unit that drawings lack is another one than any that they state.
         self.assertEqual(len(self.differ(self.small(9005), self.line("a.dxf", 2))), 1)
+        # Behind a long header the unit is found as well.
+        late = self.line("late.dxf", 2)
+        late.write_text(late.read_text().replace("9\n$INSUNITS", "9\n$MENU\n1\n.\n" * 50 + "9\n$INSUNITS"))
+        self.assertEqual(len(self.differ(self.small(), late)), 1)
 
     def test_a_design_does_not_differ_from_its_export(self):
         designs = [*sorted(SAMPLES.glob("*.xml")), *(self.write(f"{i}.xml", random_design(i)) for i in range(200, 212))]

@@ -75,6 +75,12 @@ class DiffTest(CliTest):
                         "reversed": False, "changedVertices": []}]})
         equal = json.loads(self.succeed("diff", "-j", files[0], files[0]))
         self.assertEqual((equal["equal"], equal["shapes"]), (True, []))
+        self.assertEqual([*equal], ["former", "current", "tolerance", "equal", "unit", "offsets", "anchors", "shapes"])
+        files = self.pair(design(SQUARE), design(((0, 0.25), *SQUARE[1:], (9, 8))))
+        self.assertEqual(json.loads(run("diff", "-j", *files).stdout)["shapes"][0]["changedVertices"],
+                         [{"former": {"number": 1, "place": [0.0, 0.0, 0.0]},
+                           "current": {"number": 1, "place": [0.0, 0.25, 0.0]}, "distance": 0.25},
+                          {"former": None, "current": {"number": 5, "place": [9.0, 8.0, 0.0]}}])
 
     def test_distances_in_json_have_the_decimals_of_the_text_and_places_all_digits(self):
         files = self.pair(design(SQUARE, gps="0.1"), design(tuple((x + 0.1, y + 0.2) for x, y in SQUARE), gps="0.40000001",
@@ -236,6 +242,32 @@ class DiffPictureTest(CliTest):
 
     def test_what_was_removed_is_grey(self):
         self.assertEqual(self.colours(self.former, self.write("empty.xml", design()), 1), {GREY})
+
+    def strokes(self, former, current, colour):
+        """What a picture has of a colour, as SVG."""
+        out = self.folder / "out.svg"
+        self.draw(former, current, "-o", out)
+        return "".join(re.findall(rf'<g [^>]*stroke="{colour}"[^>]*>(.*?)</g>', out.read_text(encoding="utf-8"), re.S))
+
+    def lines(self, former, current, colour):
+        """The ends of the lines of a colour in a picture."""
+        return re.findall(r'[M"]([\d.]+,[\d.]+) L?([\d.]+,[\d.]+)', self.strokes(former, current, colour))
+
+    def test_rings_around_offsets_and_anchors_are_wider_than_around_vertices(self):
+        current = self.write("changed.xml", design(((0, 0), (4, 0.5), (4, 3), (0, 3)), gps="2.000", anchors=((1, "Bow", 1, 2),)))
+        self.assertEqual(re.findall(r' r="(\d+)"', self.strokes(self.former, current, RED)), ["7", "20", "20"])
+
+    def test_a_side_stands_in_the_middle_with_a_margin_and_a_cross_where_an_offset_stood(self):
+        # The margins are a sixth of the width of 4, so that the height of 3 takes 9 parts in 13 of 1000 pixels.
+        self.assertEqual(self.lines(self.former, self.current, GREY)[0], ("338.462,846.154", "1261.54,846.154"))
+        moved = self.write("moved.xml", design(SQUARE, gps="2.000"))
+        self.assertEqual(self.lines(self.former, moved, "#969696"),
+                         [("557.231,834.154", "581.231,858.154"), ("557.231,858.154", "581.231,834.154")])
+
+    def test_a_former_design_of_another_unit_is_drawn_in_the_new_one(self):
+        metres = self.write("metres.xml", design(tuple((x * 0.3048, y * 0.3048) for x, y in SQUARE), gps="0.3048"))
+        feet = self.write("feet.xml", design(SQUARE, unit=9002))
+        self.assertEqual(self.lines(metres, feet, GREY), self.lines(self.former, self.current, GREY))
 
     def test_svg_and_pdf_show_the_sides_that_differ(self):
         changed = self.write("boat.xml", re.sub(r' <shapes view="(08|20)" >.*?</shapes>\n', "", BOAT.read_text(), flags=re.S))

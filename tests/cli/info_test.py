@@ -34,6 +34,7 @@ class InfoTest(CliTest):
             "groups": [
                 {"view": 1, "side": "top", "polylines": 1, "vertices": 1, "extents": [1.0, 2.0, 1.0, 2.0]},
                 {"view": 3, "side": "view 03", "polylines": 0, "vertices": 0, "extents": None}]})
+        self.assertEqual([*info["groups"][0]], ["view", "side", "polylines", "vertices", "extents"])
 
     def test_a_side_whose_coordinates_of_one_axis_are_no_numbers_has_no_extents(self):
         for old, new in (('x="1.000"', 'x="nan"'), ('y="2.000"', 'y="nan"')):
@@ -64,8 +65,10 @@ class InfoTest(CliTest):
         info = json.loads(self.succeed("info", "-j", drawing))
         self.assertEqual(info["entities"], {"HATCH": 1, "LINE": 1, "OTHER": 1, "SPLINE": 2})
         self.assertEqual(info["ignored"], {"HATCH": 1, "OTHER": 1, "SPLINE": 2})
+        self.assertEqual([*info], ["file", "kind", "layers", "blocks", "entities", "ignored", "shapes", "extents"])
         self.assertEqual((info["kind"], info["shapes"], info["layers"]),
                          ("drawing", 1, {"": {"colour": 256, "off": False, "frozen": False}}))
+        self.assertEqual([*info["layers"][""]], ["colour", "off", "frozen"])
 
     def test_keywords_beyond_the_first_forty_are_counted_together(self):
         kinds = [word for number in range(45) for word in ("0", f"K{number}")]
@@ -89,9 +92,10 @@ class InfoTest(CliTest):
         self.fail_with(1, ("b.dxf: a binary drawing",), "info", self.write("b.dxf", "AutoCAD Binary DXF\n\x1a"))
 
     def test_several_files_are_listed_in_their_order_and_so_is_standard_input(self):
-        out = self.succeed("info", "--json", "-", SAMPLES / "dredger.xml", data=(HEAD + TAIL).encode())
+        plan = self.drawing("plan.dxf", "0", "LINE")
+        out = self.succeed("info", "--json", "-", plan, SAMPLES / "dredger.xml", data=(HEAD + TAIL).encode())
         self.assertEqual([json.loads(line)["file"] for line in out.splitlines()],
-                         ["standard input", str(SAMPLES / "dredger.xml")])
+                         ["standard input", str(plan), str(SAMPLES / "dredger.xml")])
 
     def test_a_failure_does_not_keep_the_others_back(self):
         done = run("info", self.folder / "missing.xml", SAMPLES / "dredger.xml")

@@ -21,7 +21,9 @@ class RenderTest(CliTest):
     def test_one_side_at_the_size_asked_for(self):
         out = self.folder / "right side.png"
         self.assertEqual(self.succeed("render", BOAT, "--side", "right", "--size", "320x200", "-o", out), b"")
-        self.assertEqual(size_of(out.read_bytes()), (320, 200))
+        data = out.read_bytes()
+        self.assertEqual(size_of(data), (320, 200))
+        self.assertEqual(data[data.index(b"IDAT") + 5] >> 6, 0)  # packed by the fastest method
 
     def test_all_sides_each_to_its_file(self):
         self.succeed("render", SAMPLES / "dredger.xml", "--side=all", "-z", "160x100", "-o", self.folder / "b.png")
@@ -56,6 +58,8 @@ class RenderTest(CliTest):
         self.assertEqual(on, self.picture(design, "-y", "on"))
         self.assertNotEqual(on, off)
         self.assertEqual(off, self.picture(design, "-s", "left"))  # a side that never has symbols
+        far = self.write("far.xml", design.read_text().replace('<gps x="', '<gps x="9'))
+        self.assertEqual(off, self.picture(far, "-s", "left"))  # nor room for them
         for choice, labels in (("on", ["1", "2", "GPS", "PIV", "TXD"]), ("off", [])):
             self.succeed("render", design, "--symbols", choice, "-o", self.folder / "a.svg")
             shown = {node.firstChild.data.strip() for node in
@@ -156,8 +160,28 @@ class RenderTest(CliTest):
             for shown in rows[at + 1:at + 4]:
                 self.assertRegex(shown, r"^-?\d+\.\d{3}$")
         self.assertEqual(sum(row.startswith("Anchor ") for row in rows), text.count("<anchor>"))
+        self.assertIn("Anchor 1 (Bow Port)", rows)
         bars = [shown for shown in texts if re.fullmatch(r"[125]0* m", shown)]
         self.assertEqual(len(bars), len(SIDES))
+
+    def test_a_sheet_has_two_rows_of_sides_and_a_line_below_the_head_of_its_table(self):
+        out = self.folder / "sheet.svg"
+        self.succeed("render", BOAT, "--sheet", "-z", "500x320", "-o", out)
+        nodes = xml.dom.minidom.parse(str(out)).getElementsByTagName("text")
+        heights = {node.firstChild.data.strip(): float(node.getAttribute("y")) for node in nodes}
+        self.assertAlmostEqual(heights["left"] - heights["top"], 320 + 40 + 24 + 24, delta=0.01)  # with caption, bar and gap
+        # The table begins at 880 with a head of 24; its first column has 762 pixels from 24 on.
+        self.assertRegex(out.read_text(), r'M24,903 L785,903\b|points="24,903 785,903\b')
+
+    def test_each_coordinate_in_the_table_of_a_sheet_takes_a_fifth_of_its_row(self):
+        out = self.folder / "sheet.svg"
+        self.succeed("render", BOAT, "--sheet", "-z", "500x320", "-o", out)
+        nodes = xml.dom.minidom.parse(str(out)).getElementsByTagName("text")
+        row = [node.firstChild.data.strip() for node in nodes].index("GNSS antenna")
+        y, z = nodes[row + 2:row + 4]
+        self.assertEqual((y.firstChild.data.strip(), z.firstChild.data.strip()), ("0.000", "0.000"))
+        # Equal texts at the right of their cells; the two columns of the sheet have 762 pixels each.
+        self.assertAlmostEqual(float(z.getAttribute("x")) - float(y.getAttribute("x")), 762 // 5, delta=0.01)
 
     def test_a_scale_bar_of_a_huge_design_is_labelled_without_an_exponent(self):
         huge = self.write("huge.xml", '<vessel><units id="9001"/><shapes view="04"><polyline><vertex x="0"/>'
@@ -172,8 +196,15 @@ class RenderTest(CliTest):
     def test_a_scale_bar_is_as_long_as_it_says(self):
         out = self.folder / "sheet.svg"
         self.succeed("render", BOAT, "--sheet", "-z", "500x320", "--view=-15,-10,15,9.2", "-o", out)
-        # 30 m on 500 pixels: a third is 10 m, which takes 166.7 pixels.
-        self.assertRegex(out.read_text(), r'M24\.5,\d+\.5 L191\.167,|points="24\.5,\d+\.5 191\.167,')
+        # 30 m on 500 pixels: a third is 10 m, which takes 166.7 pixels, in the middle of the 24 from 424 on.
+        self.assertRegex(out.read_text(), r'M24\.5,435\.5 L191\.167,|points="24\.5,435\.5 191\.167,')
+
+    def test_a_stretch_of_the_world_fills_the_picture(self):
+        plan = self.drawing("a.dxf", "0", "LINE", "10", "-8", "20", "-4", "11", "8", "21", "4")
+        out = self.folder / "a.svg"
+        self.succeed("render", plan, "-z", "256x128", "--view=-16,-8,16,8", "--grid=off", "-o", out)
+        # 8 pixels a unit, from the left and from above.
+        self.assertRegex(out.read_text(), r'M64,96 L192,32\b|points="64,96 192,32\b')
 
     def test_the_stretch_of_the_world_and_the_grid(self):
         pictures = set()
@@ -276,6 +307,7 @@ class RenderTest(CliTest):
             ("render", BOAT, "--size", "5x5x5", "-o", out), ("render", BOAT, "--fast", "-o", out),
             ("render", BOAT, "--view", "1,2,3", "-o", out), ("render", BOAT, "--view", "1,2,3,4,5", "-o", out),
             ("render", BOAT, "--view", "5,0,1,4", "-o", out), ("render", BOAT, "--view", "a,0,1,4", "-o", out),
+            ("render", BOAT, "--view", "1,0,1,4", "-o", out), ("render", BOAT, "--view", "0,4,1,4", "-o", out),
             ("render", BOAT, "--grid", "maybe", "-o", out), ("render", BOAT, "-s", "all", "-o", "-"), ("render", BOAT, "-o"),
             ("render", BOAT, "--symbols", "maybe", "-o", out), ("render", BOAT, "--symbols", "-o", out))
 

@@ -8,6 +8,7 @@ import re
 import shutil
 import subprocess
 import unittest
+import zlib
 
 from cli import FOLDERS, PROGRAM, SAMPLES, SIDES, CliTest
 
@@ -38,6 +39,20 @@ class ReportTest(CliTest):
                               text=True).stdout
         return text.split("\f")[:-1]
 
+    def boxes(self, page):
+        """The words of a page of the last document, each with its left, upper, right and lower edge in tenths of a millimetre."""
+        listed = subprocess.run(["pdftotext", "-bbox", "-f", str(page), "-l", str(page), self.folder / "report.pdf", "-"],
+                                check=True, capture_output=True, text=True).stdout
+        found = re.findall(r'xMin="(\S+)" yMin="(\S+)" xMax="(\S+)" yMax="(\S+)">(\S+)</word>', listed)
+        return [(word, *(float(edge) / 72 * 254 for edge in edges)) for *edges, word in found]
+
+    def grey_page(self, page):
+        """The width of a page of the last document, and its pixels, each a tenth of a millimetre."""
+        subprocess.run(["pdftoppm", "-gray", "-r", "254", "-f", str(page), "-l", str(page), "-singlefile",
+                        self.folder / "report.pdf", self.folder / "page"], check=True)
+        _, size, _, pixels = (self.folder / "page.pgm").read_bytes().split(b"\n", 3)
+        return int(size.split()[0]), pixels
+
     def test_the_text_can_be_searched(self):
         first, *others = self.pages(BOAT)
         words = " ".join(first.split())
@@ -52,6 +67,14 @@ class ReportTest(CliTest):
         self.assertIn("38 polylines, 421 vertices, from -12.750, -3.500 to 12.000, 3.500", sides)
         self.assertIn("GPS", sides)
 
+    def test_numbers_stand_at_the_right_edge_of_their_columns(self):
+        self.report(BOAT)
+        titles = sorted((round(upper), right) for word, _, upper, right, _ in self.boxes(1) if word in ("X", "Y", "Z"))
+        edges = (1088, 1488, 1888, 1538, 1888)  # of the offsets, then of the anchors
+        self.assertEqual(len(titles), len(edges))
+        for (_, right), edge in zip(titles, edges):
+            self.assertAlmostEqual(right, edge, delta=3)
+
     def test_pages_are_a4_and_their_fonts_are_embedded(self):
         self.report(BOAT)
         facts = subprocess.run(["pdfinfo", self.folder / "report.pdf"], check=True, capture_output=True, text=True).stdout
@@ -62,6 +85,13 @@ class ReportTest(CliTest):
         self.assertTrue(fonts)
         for font in fonts:
             self.assertRegex(font, r"yes +(yes|no) +yes +\d+ +\d+$")  # embedded, known as Unicode
+
+    def test_the_lines_of_a_table_run_from_edge_to_edge(self):
+        data = self.report(self.write("nothing.xml", EMPTY))
+        streams = re.findall(rb"stream\r?\n(.*?)\r?\nendstream", data, re.DOTALL)
+        pages = b"\n".join(zlib.decompress(stream) for stream in streams if stream.startswith(b"\x78"))
+        # Below the titles and below each of the three offsets, over the 170 mm between the margins.
+        self.assertEqual(len(re.findall(rb"(?m)^0 (\S+) m\n1700 \1 l\nS$", pages)), 4)
 
     def test_the_same_time_gives_the_same_bytes(self):
         fixed = {"SOURCE_DATE_EPOCH": "1000000000"}
@@ -103,6 +133,9 @@ class ReportTest(CliTest):
         self.assertIn("foot (EPSG 9002)", text)
         self.assertIn("The design has no anchors.", text)
         self.assertEqual(text.count("Nothing is drawn on this side."), len(SIDES) - 1)  # on the top there are offsets
+        # A line follows its heading at once, the titles of a table stand 6 lower.
+        tops = {word: upper for word, _, upper, _, _ in self.boxes(1)}
+        self.assertAlmostEqual(tops["offset"] - tops["Offsets"] - (tops["The"] - tops["Anchors"]), 6, delta=0.4)
 
     def test_numbers_that_are_hard_to_draw(self):
         def side(view, *places):
@@ -121,9 +154,38 @@ class ReportTest(CliTest):
 
     def test_units_set_the_scale(self):
         line = '<shapes view="04"><polyline><vertex x="0"/><vertex x="100"/></polyline></shapes>'
-        for unit, scale in (("9001", "1000"), ("9002", "200"), ("9036", "1000000")):
+        for unit, scale, field in (("9001", "1000", 20), ("9002", "200", 10), ("9036", "1000000", 20)):
             text = "\n".join(self.pages(self.write("a.xml", f"<vessel><units id='{unit}'/>{line}</vessel>")))
             self.assertRegex(text, rf"right +scale 1:{scale}\n")
+            self.assertRegex(text, r"\b" + " +".join(str(field * i) for i in range(5)) + r"\b")  # the numbers of its bar
+
+    def test_a_bar_has_black_and_white_fields_and_small_numbers(self):
+        self.report(BOAT)
+        width, pixels = self.grey_page(2)
+        # Behind the margin of 200 the bar begins at 1000, with fields of 2 m at 1:200.
+        row = 1206 * width
+        self.assertEqual([pixels[row + 200 + x] < 128 for x in (50, 150, 250, 350)], [True, False, True, False])
+        heights = {word: lower - upper for word, _, upper, _, lower in self.boxes(2)}
+        self.assertAlmostEqual(heights["metre"] / heights["scale"], 26 / 34, delta=0.01)
+
+    def test_the_frame_of_a_side_begins_below_its_caption(self):
+        self.report(BOAT)
+        width, pixels = self.grey_page(2)
+        # Behind the margin of 200 and the caption of 60, with a line of 2 around its edge.
+        self.assertEqual([pixels[y * width + 1000] < 200 for y in range(258, 263)], [False, False, True, True, False])
+
+    def test_a_side_stands_in_the_middle_of_its_frame_with_symbols_of_one_size(self):
+        offsets = "".join(f'<{name} x="{x}" y="5" z="0"/>' for name, x in (("gps", 0), ("txd", 20), ("piv", 10)))
+        self.report(self.write("offsets.xml", f"<vessel><units id='9001'/>{offsets}</vessel>"))
+        left, upper, right, lower = next(edges for word, *edges in self.boxes(2) if word == "PIV")
+        # The frame's middle is at 1050, 720. A label's is 25 pixels of 2.5 above that of its symbol.
+        self.assertAlmostEqual((left + right) / 2, 1050, delta=10)
+        self.assertAlmostEqual((upper + lower) / 2, 720 - 25 * 2.5, delta=10)
+
+    def test_the_foot_is_smaller_than_the_text(self):
+        self.report(BOAT)
+        heights = {word: lower - upper for word, _, upper, _, lower in self.boxes(1)}
+        self.assertAlmostEqual(heights["page"] / heights["metre"], 28 / 34, delta=0.01)
 
     def test_a_pipe_and_an_odd_name(self):
         done = self.succeed("report", "-", "-o", "-", data=BOAT.read_bytes())

@@ -68,6 +68,14 @@ class UsageTest(CliTest):
                 self.assertEqual((done.returncode, done.stdout), (2, b""))
                 self.assertEqual({path: path.read_bytes() for path in self.folder.iterdir()}, before)
 
+    def test_of_an_unknown_option_nothing_else_is_said(self):
+        for verb in VERBS:
+            if WITH_PICTURES or verb not in ("render", "report"):
+                done = run(verb, "--wrong")
+                option, *others = done.stderr.decode().splitlines()
+                self.assertIn("wrong", option)
+                self.assertEqual((done.returncode, others), (2, [f"Try 'hullwright-cli {verb} --help'."]))
+
     @unittest.skipUnless(WITH_PICTURES, "this program makes no documents")
     def test_a_report_does_not_overwrite_its_design(self):
         self.write("boat.pdf", "<vessel/>")
