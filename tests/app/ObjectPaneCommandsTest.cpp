@@ -1,5 +1,8 @@
 #include <gmock/gmock.h>
 
+#include <functional>
+
+#include "platform/DialogPort.h"
 #include "resources/CommandIds.h"
 #include "resources/VertexDialog.h"
 #include "support/ObjectPaneFixture.h"
@@ -71,6 +74,36 @@ TEST_F(ObjectPaneCommands, EditPointWritesTheVertexAndCancelledNotifiesNobody)
   EXPECT_TRUE(NotifiedAll());
   EXPECT_EQ(line.vertices[0]->x, 9.0);
   EXPECT_THAT(Texts(At({0, 0, 0})), ElementsAre("+9.000,+2.000,+3.000"));
+}
+
+/// Accepts each dialog, after what happens while it is open.
+class InterruptedDialogs : public IDialogRunner {
+public:
+  DialogEnd Run(IDialog&) override
+  {
+    whileOpen();
+    return DialogEnd::Ok;
+  }
+  std::function<void()> whileOpen;
+};
+
+TEST_F(ObjectPaneCommands, ADesignReplacedUnderTheDialogIsNotWritten)
+{
+  InterruptedDialogs interrupted;
+  const Ports others{settings, messages, interrupted, fileDialogs, commonData.units, commonData.log,
+                     widgets,  control,  pointer,     pointer,     pointer,          &notified};
+  Editor other(others);
+  test::AddLine(other.app, ViewSide::Top, {{1.0, 2.0, 3.0}});
+  other.objects.BuildTree();
+  const CObjectTree& tree = other.objects.Tree();
+  other.objects.selectedItem = tree.Child(tree.Child(tree.Child(tree.Root(), 0), 0), 0);
+  interrupted.whileOpen = [&other] {
+    ClearGroups(other.app.shapeGroups);
+    other.objects.BuildTree();
+  };
+  other.objects.OnCommand(CommandId::EditVertex);
+  EXPECT_EQ(control.rebuilds, 2);
+  EXPECT_THAT(notified.list, IsEmpty());
 }
 
 TEST_F(ObjectPaneCommands, PointCommandsOnNodesThatAreNoPointsDoNothing)

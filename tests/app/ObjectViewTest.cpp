@@ -17,6 +17,15 @@ using testing::Pair;
 
 class ObjectPane : public test::ObjectPaneFixture {};
 
+TEST(ObjectTree, HasNoAnchorsBeforeItIsBuilt)
+{
+  DesignState design;
+  CObjectTree tree(design);
+  EXPECT_FALSE(tree.Anchors());
+  tree.Rebuild();
+  EXPECT_TRUE(tree.Anchors());
+}
+
 TEST_F(ObjectPane, ANewDesignShowsSevenEmptySidesAndNoAnchors)
 {
   EXPECT_EQ(pane.Tree().Text(At({0})), u"Vessel Design");

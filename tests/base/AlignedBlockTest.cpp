@@ -4,6 +4,8 @@
 
 #include <cstdint>
 #include <cstring>
+#include <limits>
+#include <new>
 #include <vector>
 
 #include "support/System.h"
@@ -36,6 +38,14 @@ TEST(AlignedBlock, HasNoMoreThanTheBytesAskedFor)
   EXPECT_LT(test::BytesOf(block), size + 32);
   GiveBackAligned(block);
 }
+
+#ifndef HULLWRIGHT_SINGLE_ALLOCATIONS  // what watches them ends the program instead
+TEST(AlignedBlock, ThatDoesNotFitIntoTheMemoryThrows)
+{
+  constexpr std::size_t most = std::numeric_limits<std::size_t>::max() / 2;
+  EXPECT_THROW(TakeAligned(most, alignment), std::bad_alloc);
+}
+#endif
 
 }  // namespace
 }  // namespace hullwright

@@ -68,6 +68,7 @@ TEST(ParseDouble, TooLargeIsInfiniteAndTooSmallIsZero)
   EXPECT_EQ(ParseDouble(u"1e99999999999999999999"), infinity);
   EXPECT_EQ(ParseDouble(std::string(400, '9')), infinity);
   EXPECT_EQ(ParseDouble("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_EQ(ParseDouble("0." + std::string(400, '0') + "1e10"), 0.0);
   EXPECT_EQ(ParseDouble(u"5e-324"), std::numeric_limits<double>::denorm_min());
 }
 

@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 #include <random>
 #include <set>
 #include <utility>
 #include <vector>
+
+#include "support/System.h"
 
 namespace hullwright {
 namespace {
@@ -71,6 +74,23 @@ TEST(SlabPool, SurvivesTakingAndGivingBackInAnyOrder)
   }
   for (std::uint64_t* const place : held) pool.GiveBack(place);
 }
+
+// What watches single allocations keeps what was given back, and sees by itself what was not.
+#ifndef HULLWRIGHT_SINGLE_ALLOCATIONS
+TEST(SlabPool, ASlabThatNobodyUsesGoes)
+{
+  constexpr std::size_t large = 8192;  // a slab has room for three
+  constexpr long mostKilobytes = 50 << 10;
+  SlabPool<large> pool;
+  const long before = test::MostMemory();
+  for (int round = 0; round < 30'000; ++round) {
+    std::array<void*, 3> places{};
+    for (void*& place : places) place = pool.Take();
+    for (void* const place : places) pool.GiveBack(place);
+  }
+  EXPECT_LT(test::MostMemory() - before, mostKilobytes);
+}
+#endif
 
 TEST(SlabPool, NothingIsGivenBackForNull)
 {

@@ -13,6 +13,14 @@ TEST(Utf8, TakesEveryWidthThereAndBack)
   EXPECT_EQ(WideFromUtf8(""), u"");
 }
 
+TEST(Utf8, TakesTheFirstAndTheLastCodeOfEveryWidthThereAndBack)
+{
+  const std::u16string text = u"\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF";
+  EXPECT_EQ(Utf8FromWide(text),
+            "\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(WideFromUtf8(Utf8FromWide(text)), text);
+}
+
 TEST(Utf8, TakesALetterAtAnyPlaceAmongOthers)
 {
   for (std::size_t length = 0; length < 40; ++length) {
@@ -53,6 +61,13 @@ TEST(Utf8, RecognisesWhatIsWellFormed)
   EXPECT_FALSE(IsUtf8("\xC3"));
 }
 
+TEST(Utf8, ACharacterEndsWithTheTextWhateverLiesBehind)
+{
+  const std::string_view cut("a\xC3\xA8", 2);
+  EXPECT_FALSE(IsUtf8(cut));
+  EXPECT_EQ(WideFromUtf8(cut), u"a\uFFFD");
+}
+
 TEST(Ansi, IsWindows1252)
 {
   EXPECT_EQ(WideFromAnsi("A\x80\xE4\x9F"), u"A\u20AC\u00E4\u0178");
@@ -65,6 +80,18 @@ TEST(Ansi, EveryByteComesBack)
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
   EXPECT_EQ(AnsiFromWide(WideFromAnsi(bytes)), bytes);
+}
+
+TEST(TrimSpace, TakesEveryWhiteSpaceOffBothEndsAndNoneFromBetween)
+{
+  constexpr std::u16string_view spaces =
+      u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008"
+      u"\u2009\u200A\u2028\u2029\u202F\u205F\u3000";
+  for (const char16_t space : spaces) {
+    std::u16string text = {space, space, u'a', space, u'b', space, space};
+    TrimSpace(text);
+    EXPECT_EQ(text, (std::u16string{u'a', space, u'b'})) << static_cast<int>(space);
+  }
 }
 
 TEST(Case, CountsForEveryCharacterThatIsNoLetterOfAscii)

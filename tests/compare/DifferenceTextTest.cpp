@@ -59,6 +59,15 @@ TEST_F(DifferenceText, ListsVerticesThatChanged)
       "                  vertex 5: added at 4.000, 0.000, 0.000\n");
 }
 
+TEST_F(DifferenceText, ListsVerticesThatWereRemovedByTheirFormerNumbers)
+{
+  AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {3, 0, 0}});
+  EXPECT_EQ(Text(),
+            "  top           polyline 1 changed: 1 vertex removed, 4 -> 3\n"
+            "                  vertex 3 of before: removed from 2.000, 0.000, 0.000\n");
+}
+
 TEST_F(DifferenceText, ShowsTheFirstDozenVerticesOnly)
 {
   CShapePolyline& formerLine = AddFormer(ViewSide::Top, {{0, 0, 0}});

@@ -112,6 +112,10 @@ TEST_F(OutlineMeasuredAnew, IsNoneWithoutASizeOrAFiniteNumber)
     AddCurrent(ViewSide::Top, {{1, 0, 0}, {odd == 0.0 ? 1.1 : odd, 2, 0}});
     EXPECT_EQ(Compare().shapes.size(), 2U) << odd;
   }
+  ClearGroups(former.shapeGroups);
+  ClearGroups(current.shapeGroups);
+  AddCurrent(ViewSide::Top, {});
+  EXPECT_EQ(OnlyShape().change, ShapeChange::Added);
 }
 
 TEST_F(OutlineMeasuredAnew, IsFoundAlsoAcrossAPowerOfTwoInSize)

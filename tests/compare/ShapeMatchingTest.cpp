@@ -46,6 +46,32 @@ TEST_F(MatchedShapes, GoTheWayThatMostOfThemWent)
   EXPECT_EQ(differences.shapes[8].number.former, 5U);
 }
 
+TEST_F(MatchedShapes, GoThatWayAlsoWhereOthersAreNearer)
+{
+  for (const double z : {0.0, 1.0, 3.0, 7.0}) {  // of which no two are as far apart as others
+    AddFormer(ViewSide::Top, {{0, 0, z}, {1, 0, z}, {1, 1, z}});
+    AddCurrent(ViewSide::Top, {{0, 0, z + 1.75}, {1, 0, z + 1.75}, {1, 1, z + 1.75}});
+  }
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 4U);
+  for (const ShapeDifference& shape : differences.shapes) {
+    EXPECT_EQ(shape.change, ShapeChange::Moved);
+    EXPECT_EQ(shape.by, (Place{0.0, 0.0, 1.75}));
+  }
+}
+
+TEST_F(MatchedShapes, AreMovedBeforeTheyAreChanged)
+{
+  AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 1, 0}});
+  AddCurrent(ViewSide::Top, {{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {5, 1, 0}});
+  AddCurrent(ViewSide::Top, {{0, 9, 0}, {1, 9, 0}, {2, 9, 0}, {3, 9, 0}, {4, 10, 0}});
+  const Differences differences = Compare();
+  ASSERT_EQ(differences.shapes.size(), 2U);
+  EXPECT_EQ(differences.shapes[0].change, ShapeChange::Added);
+  EXPECT_EQ(differences.shapes[1].change, ShapeChange::Moved);
+  EXPECT_EQ(differences.shapes[1].number, (FormerAndCurrent<std::size_t>{1, 2}));
+}
+
 TEST_F(MatchedShapes, ThatAreAllAlikeAreFoundInAnyOrder)
 {
   constexpr int count = 100;

@@ -48,7 +48,14 @@ TEST(ComparedVertices, AddedAndRemovedLeaveTheOthersAlone)
   EXPECT_EQ(Changes(Outline({1, 2, 3}), Outline({1, 2, 7, 3})), "+3");
   EXPECT_EQ(Changes(Outline({1, 2, 3}), Outline({2, 3})), "-1");
   EXPECT_EQ(Changes(Outline({1, 2, 3, 4, 5}), Outline({0, 1, 3, 4, 6, 7})), "+1 -2 5>5 +6");
+  EXPECT_EQ(Changes(Outline({1, 2, 3, 4, 0}), Outline({0, 9, 1, 2, 3, 4})), "+1 +2 -5");
   EXPECT_EQ(Changes({}, Outline({1, 2})), "+1 +2");
+}
+
+TEST(ComparedVertices, OfTwoThatChangedPlacesTheSameOneStaysInBothDirections)
+{
+  EXPECT_EQ(Changes(Outline({1, 2}), Outline({2, 1})), "-1 +2");
+  EXPECT_EQ(Changes(Outline({2, 1}), Outline({1, 2})), "+1 -2");
 }
 
 TEST(ComparedVertices, OfOutlinesTooLongToAlignGoByTheirOrder)

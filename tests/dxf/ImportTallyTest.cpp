@@ -167,12 +167,24 @@ TEST_F(Tallies, KeywordsAreFewShortAndPrintable)
   EXPECT_EQ(Ignored().count("?[2J?"), 1U);
 }
 
+TEST(KeywordCounts, TakeAKeywordWithALetterOfEitherCase)
+{
+  KeywordCounts counts;
+  for (const char* keyword : {"A", "Z", "a", "z", "@", "[", "`", "{", "7", ""}) {
+    counts.Count(keyword);
+  }
+  EXPECT_THAT(counts.ByKeyword(),
+              ElementsAre(Pair("A", 1), Pair("Z", 1), Pair("a", 1), Pair("z", 1)));
+}
+
 TEST_F(Tallies, ABinaryDrawingIsKnownByItsFirstWords)
 {
   EXPECT_EQ(Import(std::string("AutoCAD Binary DXF\r\n\x1A\0SECTION\n", 30)), 0);
   EXPECT_TRUE(Tally().isBinary);
   EXPECT_FALSE(Tally().IsDrawing());
   ImportEntities(Lines({{999, "AutoCAD Binary DXF"}}));
+  EXPECT_FALSE(Tally().isBinary);
+  EXPECT_EQ(Import(""), -1);
   EXPECT_FALSE(Tally().isBinary);
 }
 

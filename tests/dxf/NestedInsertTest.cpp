@@ -39,12 +39,12 @@ std::ptrdiff_t FailuresIn(const std::vector<std::string>& records)
 
 TEST_F(NestedInserts, StopCopyingAtABudgetAndReportThatOnce)
 {
-  const std::string inserts = unitLine + Insert("b30") + Insert("b0") + unitLine;
+  const std::string inserts = unitLine + Insert("b30") + Insert("b0") + Insert("b0") + unitLine;
   EXPECT_EQ(Import(Multiplying(30) + Entities(inserts), {.copyBudget = 1000000}), 0);
   EXPECT_GT(ShapeCount(), 100U);  // copies made before stay, and so do the lines
   EXPECT_LT(ShapeCount(), 1000U);
   EXPECT_EQ(AttributesOf(ShapeCount() - 1).size(), 2U);
-  EXPECT_EQ(Tally().cutInserts, 2U);
+  EXPECT_EQ(Tally().cutInserts, 3U);
   EXPECT_TRUE(Tally().IsIncomplete());
   EXPECT_EQ(FailuresIn(Records()), 1);
   EXPECT_THAT(Records(),

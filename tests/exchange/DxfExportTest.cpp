@@ -117,6 +117,18 @@ TEST_F(DxfExportTest, EachSideHasALayerOrAllHaveOne)
   }
 }
 
+TEST_F(DxfExportTest, EntitiesAndLayersBeginWithWhatTheyAre)
+{
+  RemoveOffsets();
+  AddLine(design, ViewSide::Top, {{0, 0, 0}, {1, 0, 0}});
+  EXPECT_THAT(Bytes(r12), HasSubstr("\n0\nPOLYLINE\n8\ntop\n62\n"));
+  EXPECT_THAT(Bytes(), HasSubstr("\n0\nLWPOLYLINE\n5\n40\n330\n17\n100\nAcDbEntity\n8\ntop\n62\n"));
+  EXPECT_THAT(Bytes(),
+              HasSubstr("\n2\nLAYER\n5\n1\n330\n0\n100\nAcDbSymbolTable\n70\n2\n0\nLAYER\n5\n41\n"
+                        "330\n1\n100\nAcDbSymbolTableRecord\n100\nAcDbLayerTableRecord\n2\n0\n"
+                        "70\n0\n62\n7\n6\nContinuous\n"));
+}
+
 TEST_F(DxfExportTest, AColourIsTheNearestIndexAndBesideItItself)
 {
   CShapePolyline& line = AddLine(design, ViewSide::Top, {{0, 0, 0}, {1, 0, 0}});
@@ -154,13 +166,16 @@ TEST_F(DxfExportTest, OffsetsAndAnchorsArePointsWithTexts)
     EXPECT_EQ(At<CShapeText>(3).text, u"12 Bow \u00E4");
     EXPECT_EQ(At<CShapeText>(5).text, u"13");
   }
+  // A text has the mark of its class twice, before its place and behind its words.
+  EXPECT_THAT(Bytes(), HasSubstr("\n100\nAcDbText\n10\n"));
+  EXPECT_THAT(Bytes(), HasSubstr("\n1\nGNSS antenna\n100\nAcDbText\n"));
 }
 
 TEST_F(DxfExportTest, TheHeaderHasVersionUnitAndExtents)
 {
   AddLine(design, ViewSide::Top, {{-20, 2, 5}, {30, -4, -6}});
   EXPECT_THAT(Bytes(), HasSubstr("\n9\n$ACADVER\n1\nAC1015\n"));
-  EXPECT_THAT(Bytes(), HasSubstr("\n9\n$INSUNITS\n70\n6\n"));
+  EXPECT_THAT(Bytes(), HasSubstr("\n9\n$INSUNITS\n70\n6\n9\n$MEASUREMENT\n70\n1\n"));
   EXPECT_THAT(Bytes(r12), HasSubstr("\n9\n$ACADVER\n1\nAC1009\n"));
   EXPECT_THAT(Bytes(r12), Not(HasSubstr("$INSUNITS")));
   for (const DxfForm& form : {r12, r2000}) {
@@ -186,6 +201,8 @@ TEST_F(DxfExportTest, TheWindowShowsTheWholeBoxAndTextsCanBeReadInIt)
   AddLine(design, ViewSide::Top, {{-20, 2, 5}, {30, -4, -6}});  // with the offsets 50 by 14
   EXPECT_THAT(Bytes(), HasSubstr("\n12\n5.0\n22\n3.0\n"));
   EXPECT_THAT(Bytes(), HasSubstr("\n40\n60.0\n41\n1.34\n"));
+  EXPECT_THAT(Bytes(), HasSubstr("\n0\nTABLE\n2\nVPORT\n5\n8\n330\n0\n100\nAcDbSymbolTable\n70\n1\n"
+                                 "0\nVPORT\n5\n23\n330\n8\n"));
   for (const DxfForm& form : {r12, r2000}) {
     EXPECT_THAT(Bytes(form), HasSubstr("$PDMODE\n70\n3\n9\n$PDSIZE\n40\n0.5\n"));
     ASSERT_EQ(Import(Bytes(form)), 0);

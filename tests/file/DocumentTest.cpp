@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <tuple>
+#include <utility>
 
 #include "file/HullwrightDoc.h"
 #include "headless/KeptMessages.h"
@@ -347,6 +348,28 @@ TEST_F(Document, TheFingerprintIsThatOfEveryVertexOfALargeDesign)
   EXPECT_EQ(document.Fingerprint(), before);
   outline.vertices.pop_back();
   EXPECT_NE(document.Fingerprint(), before);
+}
+
+TEST_F(Document, TheFingerprintIsThatOfAllASaveWritesButGroupsWithoutPolylines)
+{
+  ASSERT_TRUE(Open(good));
+  auto last = document.Fingerprint();
+  ASSERT_TRUE(last.has_value());
+  const auto changes = [&] {
+    const auto before = std::exchange(last, document.Fingerprint());
+    return last != before;
+  };
+  design.shapeGroups.push_back(std::make_unique<CShapes>(ViewSide::Rear));
+  design.shapeGroups[1]->shapes.push_back(std::make_unique<CShapePoint>());
+  EXPECT_FALSE(changes());
+  design.shapeGroups[1]->shapes.push_back(std::make_unique<CShapePolyline>());
+  EXPECT_TRUE(changes());
+  design.unitCode = UnitCode::Metre;
+  EXPECT_TRUE(changes());
+  design.offsetPivot->x = 6.0;
+  EXPECT_TRUE(changes());
+  design.anchors->items.clear();
+  EXPECT_TRUE(changes());
 }
 
 class SampleRoundTrip : public Document, public testing::WithParamInterface<const char*> {};

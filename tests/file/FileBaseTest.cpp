@@ -42,6 +42,7 @@ TEST_F(FileBase, AControlZEndsTheText)
 {
   ASSERT_EQ(file.Load(folder.Write("a.txt", std::string("ab\x1A") + "cd")), 0);
   EXPECT_EQ(TextOf(file), "ab");
+  EXPECT_EQ(file.buffer[2], '\0');
 }
 
 TEST_F(FileBase, AFileThatIsMissingEmptyOrAFolderFails)

@@ -10,6 +10,7 @@
 #include "headless/KeptMessages.h"
 #include "headless/SilentWindow.h"
 #include "support/FailingNew.h"
+#include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 namespace hullwright {
@@ -137,6 +138,24 @@ TEST_F(OpenShortOfMemory, LeavesOutWhatMemoryEndsForAndCountsIt)
   EXPECT_TRUE(sizes.contains(1U) && sizes.contains(2U) && sizes.contains(41U) &&
               sizes.contains(126U))
       << testing::PrintToString(sizes);
+}
+
+TEST(OpenWithoutMemory, SaysWhyBeforeItNotifies)
+{
+  const test::TempFolder folder;
+  DesignState design;
+  test::RecordedNotifications window;
+  KeptMessages messages;
+  CHullwrightDoc document(design, window, messages);
+  std::u16string problem;
+  window.onNotification = [&] { problem = document.OpenProblem(); };
+  const std::u16string path = folder.Write("new.xml", formerDesign);
+  for (std::size_t which = 1; !document.OpenError().outOfMemory; ++which) {
+    const test::FailingNew memory(which);
+    document.OnOpenDocument(path);
+    ASSERT_TRUE(test::FailingNew::Stop());
+  }
+  EXPECT_EQ(problem, u"out of memory");
 }
 
 }  // namespace

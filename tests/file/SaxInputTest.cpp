@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <new>
 
 #include "base/Text.h"
 #include "file/FileSax.h"
@@ -49,6 +50,13 @@ public:
   int errorLine = -1;
   int errorColumn = -1;
   int errorCode = -1;
+};
+
+/// Has no memory for any element.
+class OutOfMemory : public CFileSax {
+public:
+  using CFileSax::CFileSax;
+  void StartElement(std::string_view, SaxAttributes) override { throw std::bad_alloc(); }
 };
 
 class SaxInput : public testing::Test {
@@ -132,6 +140,15 @@ TEST_F(SaxInput, AnErrorIsReportedWithItsPlaceAndEndsTheReading)
   EXPECT_EQ(listener.errorLine, 3);
   EXPECT_EQ(listener.errorColumn, 3);
   EXPECT_EQ(listener.errorCode, 7);  // the parser's own number of a mismatched tag
+}
+
+TEST_F(SaxInput, MemoryThatEndsInACallbackEndsTheReadingAndIsNoFaultOfTheText)
+{
+  OutOfMemory file(messages);
+  EXPECT_EQ(file.Read(folder.Write("in.xml", "<a/>")), -1);
+  EXPECT_TRUE(file.LastReadError().outOfMemory);
+  EXPECT_EQ(file.LastReadError().message, u"out of memory");
+  EXPECT_EQ(file.LastReadError().line, 0);
 }
 
 TEST_F(SaxInput, ADocumentTypeIsRefused)

@@ -201,6 +201,17 @@ TEST_F(VesselRead, WithoutATargetTheGroupsAreDropped)
   EXPECT_TRUE(groups.empty());
 }
 
+TEST_F(VesselRead, GoesOnWithoutAnythingButTheUnitOrAnOffset)
+{
+  for (const char* name : {"vessel", "shapes", "polyline", "vertex", "anchor", "id", "other", ""}) {
+    EXPECT_TRUE(file.GoOnWithout(name)) << name;
+  }
+  for (const char* name : {"units", "gps", "txd", "piv"}) {
+    EXPECT_FALSE(file.GoOnWithout(name)) << name;
+  }
+  EXPECT_EQ(file.LeftOutParts(), 8U);
+}
+
 TEST_F(VesselRead, WhatTheDesignHasNoPlaceForIsPassedOver)
 {
   file.gps.reset();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 
 #include "render/ViewPort.h"
 
@@ -303,6 +304,25 @@ TEST(Polygon, RemoveVertexReleasesItOnce)
   polygon->RemoveVertex(new CShapeVertex);
   EXPECT_EQ(polygon->rings[2]->vertices.size(), 4U);
 }
+
+// What watches single allocations sees by itself what is not released.
+#ifndef HULLWRIGHT_SINGLE_ALLOCATIONS
+TEST(Polygon, RemoveVertexLeavesItsPlaceToAnother)
+{
+  constexpr std::size_t enough = 10'000;  // places that are free already come first
+  const auto polygon = SquareWithHoleAndIsland();
+  const CShapeVertex* const vertex = polygon->rings[1]->vertices[0].get();
+  const auto place = reinterpret_cast<std::uintptr_t>(vertex);
+  polygon->RemoveVertex(vertex);
+  std::vector<std::unique_ptr<CShapeVertex>> others;
+  bool isTaken = false;
+  while (!isTaken && others.size() < enough) {
+    others.push_back(std::make_unique<CShapeVertex>());
+    isTaken = reinterpret_cast<std::uintptr_t>(others.back().get()) == place;
+  }
+  EXPECT_TRUE(isTaken);
+}
+#endif
 
 TEST(Polygon, RemoveVertexTakesItOutOfEveryRingThatHasIt)
 {

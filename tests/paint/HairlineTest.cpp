@@ -58,6 +58,14 @@ protected:
   {
     return OrdersOf([width](CCanvas& canvas) { Paint(canvas, width); });
   }
+  static QByteArray OrdersOfLine(std::span<const PixelPoint> points)
+  {
+    return OrdersOf([points](CCanvas& canvas) {
+      canvas.Target()->BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+      canvas.DrawPolyline(points, {{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F});
+      EXPECT_EQ(canvas.Target()->EndFrame().code, 0);
+    });
+  }
 };
 
 TEST_F(Strokes, AStrokeWithoutWidthIsALineOfOnePixel)
@@ -102,16 +110,19 @@ TEST_F(Strokes, WidthsBelowNothingOrThatAreNoNumbersPaintNothing)
 
 TEST_F(Strokes, APolylineFromWhichNoSegmentCanBePaintedIsAnOrderAllTheSame)
 {
-  const auto orders = [](std::span<const PixelPoint> points) {
-    return OrdersOf([points](CCanvas& canvas) {
-      canvas.Target()->BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
-      canvas.DrawPolyline(points, {{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F});
-      EXPECT_EQ(canvas.Target()->EndFrame().code, 0);
-    });
-  };
   constexpr PixelPoint start{5.5F, 5.5F};
   const float none = std::nanf("");
-  EXPECT_GT(orders(std::array{start, PixelPoint{none, none}}).size(), orders({}).size());
+  EXPECT_GT(OrdersOfLine(std::array{start, PixelPoint{none, none}}).size(),
+            OrdersOfLine({}).size());
+}
+
+TEST_F(Strokes, OnAPageAPointCountsUnlessItLiesOnTheOneBefore)
+{
+  constexpr PixelPoint start{5.5F, 5.5F};
+  constexpr PixelPoint end{40.5F, 5.5F};
+  const QByteArray straight = OrdersOfLine(std::array{start, end});
+  EXPECT_EQ(OrdersOfLine(std::array{start, PixelPoint{5.6F, 5.6F}, end}), straight);
+  EXPECT_NE(OrdersOfLine(std::array{start, PixelPoint{6.5F, 6.5F}, end}), straight);
 }
 
 TEST_F(Strokes, OnAPageOutlinesAreClosedJoinsAreRoundAndNothingIsFilled)

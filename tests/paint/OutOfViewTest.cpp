@@ -181,6 +181,20 @@ TEST_F(OutOfViewFixture, ALineThatMayCrossTheViewIsDrawn)
   EXPECT_FALSE(IsOut(wide));
 }
 
+TEST_F(OutOfViewFixture, LinesOnTheEdgesOfTheDeepestViewAreSeen)
+{
+  // So small a view that the margin around it is lost in the rounding of its edges.
+  viewPort.left = viewPort.bottom = viewPort.top = 500000.0;
+  viewPort.right = 500000.0 + 1e-10;
+  viewPort.KeepAspect();
+  const QImage blank = Frame<PaintTarget>();
+  for (const double x : {viewPort.left, viewPort.right}) {
+    ClearGroups(design.shapeGroups);
+    AddLine(ViewSide::Right, {{x, 0.0, 0.0}, {x, 1000000.0, 0.0}});
+    EXPECT_NE(Frame<PaintTarget>(), blank) << "right of the edge by " << x - viewPort.left;
+  }
+}
+
 TEST_F(OutOfViewFixture, InATurnedViewNothingIsLeftOut)
 {
   ShowWidth(200.0);

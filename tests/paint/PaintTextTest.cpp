@@ -6,6 +6,7 @@
 
 #include "paint/PaintSurface.h"
 #include "paint/PaintTarget.h"
+#include "paint/PaintText.h"
 
 namespace hullwright {
 namespace {
@@ -111,6 +112,11 @@ TEST_F(PaintedText, OfAnyLengthIsSeen)
   }
 }
 
+TEST_F(PaintedText, IsCutBehindTenThousandUnits)
+{
+  EXPECT_EQ(Drawable(std::u16string(10001, u'W')).size(), 10000);
+}
+
 TEST_F(PaintedText, ControlCharactersAreBlanks)
 {
   Draw(u"abc def", 20.0F);
@@ -176,6 +182,27 @@ TEST_F(PaintedText, HasNoStyleWithoutASize)
     Draw(u"W", size);
     EXPECT_EQ(ink, 0);
   }
+}
+
+int complaints = 0;  ///< of the toolkit
+
+void CountComplaint(QtMsgType, const QMessageLogContext&, const QString&) { ++complaints; }
+
+TEST(PaintTargets, WithoutAPictureTakeLinesAndTextsInSilence)
+{
+  PaintSurface surface(0, 0);
+  PaintTarget target(surface);
+  TextBlock block{u"W", {u"Consolas", 20.0F}, {0.0F, 0.0F, 2.0F, 2.0F}};
+  block.turn = Turn{90.0F, {1.0F, 1.0F}};
+  complaints = 0;
+  const QtMessageHandler before = qInstallMessageHandler(CountComplaint);
+  target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+  target.DrawLine({0.0F, 0.0F}, {2.0F, 2.0F}, {{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F});
+  EXPECT_EQ(complaints, 0);
+  target.DrawText(block);
+  EXPECT_EQ(complaints, 0);
+  EXPECT_EQ(target.EndFrame().code, 0);
+  qInstallMessageHandler(before);
 }
 
 }  // namespace

@@ -234,6 +234,20 @@ TEST_F(StrokerFixture, WhatLeavesThePictureIsCutAtItsEdges)
   }
 }
 
+TEST_F(StrokerFixture, ALineThatJustFitsAPictureIsTheSameAsInAWiderOne)
+{
+  // The last four pixels that it may cover in a row end where the row does.
+  const Points line = {{4.8F, 5.0F}, {23.6F, 7.3F}};
+  Paper narrow(27, paper.height);
+  narrow.Draw(line, FigureKind::Line, {0xff000000U, 1.0F, 2.0F});
+  Draw(line, 2.0F);
+  for (int y = 0; y < narrow.height; ++y) {
+    for (int x = 0; x < narrow.width; ++x) {
+      ASSERT_EQ(narrow.Blue(x, y), paper.Blue(x, y)) << x << ' ' << y;
+    }
+  }
+}
+
 TEST_F(StrokerFixture, CoordinatesBeyondAllMeasureAreCut)
 {
   for (const float far : {1e5F, 1e10F, 1e38F}) {
@@ -265,6 +279,15 @@ TEST_F(StrokerFixture, WhatATransparentLineCoversTwiceIsNotDarker)
   EXPECT_EQ(Cover(30, 30), 128);
   EXPECT_EQ(Cover(50, 50), 128);
   EXPECT_EQ(Cover(20, 20), 128);
+}
+
+TEST_F(StrokerFixture, ATransparentLineLeavesNothingBehindItsEnd)
+{
+  paper.Clear();
+  paper.Draw({{10.0F, 20.5F}, {30.0F, 20.5F}}, FigureKind::Line,
+             {0xff000000U, 128.0F / 255.0F, 2.0F});
+  EXPECT_EQ(Cover(20, 20), 128);
+  EXPECT_EQ(Cover(31, 20), 0);
 }
 
 TEST_F(StrokerFixture, LinesPaintedOneAfterTheOtherDoCoverEachOther)

@@ -40,6 +40,7 @@ TEST_P(SamePicture, TheCommandLineDrawsWhatTheWindowShows)
   QApplication::processEvents();
   auto& widget = *shell.Window()->findChild<DesignWidget*>();
   widget.clearFocus();  // its mark lies over the picture
+  const QCoreApplication* const toolkit = QCoreApplication::instance();
   for (const ViewSideEntry& side : viewSides) {
     shell.App().SetViewSide(side.code);
     const QImage window = widget.grab().toImage();
@@ -54,6 +55,7 @@ TEST_P(SamePicture, TheCommandLineDrawsWhatTheWindowShows)
     bool isIncomplete = true;
     ASSERT_EQ(WritePictures(request, isIncomplete), "");
     EXPECT_FALSE(isIncomplete);
+    EXPECT_EQ(QCoreApplication::instance(), toolkit);  // no second one is made beside it
     const QImage picture(QString::fromStdString(request.output));
     ASSERT_EQ(picture.size(), window.size()) << side.name;
     EXPECT_LE(DifferentPixels(window, picture), picture.width() * picture.height() / 10000)

@@ -2,93 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QContextMenuEvent>
-#include <QImage>
-#include <QMenu>
-#include <QMouseEvent>
+#include <QTest>
 #include <QVBoxLayout>
-#include <QWheelEvent>
-#include <cmath>
 #include <set>
 
-#include "resources/CommandIds.h"
+#include "support/DesignPaneFixture.h"
 #include "support/PaintCounter.h"
-#include "support/ViewFixture.h"
 
 namespace hullwright {
 namespace {
 
 constexpr QRgb paper = qRgb(255, 255, 224);
 
-/// The widget alone, 800 by 600 client pixels of a view 200 wide, with a view that works in it.
-/// Snapping and grid are off.
-class DesignPane : public testing::Test {
-protected:
-  DesignPane()
-  {
-    host.viewPort = std::make_unique<CViewPortDesigner>();
-    design.viewPort = host.viewPort.get();
-    design.activeView = ViewSide::Right;
-    host.grid.snap = 0;
-    host.grid.show = 0;
-    widget.Attach(view);
-    widget.resize(800, 600);
-    widget.show();
-    QApplication::processEvents();
-  }
-  ~DesignPane() override { widget.Detach(); }
+class DesignPane : public test::DesignPaneFixture {};
 
-  /// Adds a polyline to the side in view.
-  CShapePolyline& AddLine(std::initializer_list<CShapeVertex> vertices)
-  {
-    return test::AddLine(design, design.activeView, vertices);
-  }
-
-  void Mouse(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
-  {
-    QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-  }
-  void Move(QPointF at, Qt::MouseButtons held = Qt::NoButton)
-  {
-    Mouse(QEvent::MouseMove, at, Qt::NoButton, held);
-  }
-  void Press(QPointF at, Qt::MouseButton button)
-  {
-    Mouse(QEvent::MouseButtonPress, at, button, button);
-  }
-  void Release(QPointF at, Qt::MouseButton button, Qt::MouseButtons held = Qt::NoButton)
-  {
-    Mouse(QEvent::MouseButtonRelease, at, button, held);
-  }
-  void Turn(QPoint angle)
-  {
-    QWheelEvent event(QPointF(200, 200), widget.mapToGlobal(QPointF(200, 200)), QPoint(), angle,
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
-  }
-
-  /// Begins a polyline at a pixel.
-  void BeginLineAt(QPointF at)
-  {
-    view.OnCommand(CommandId::DrawPolyline);
-    Move(at);
-    Press(at, Qt::LeftButton);
-    Release(at, Qt::LeftButton);
-  }
-
-  QImage Shown() { return widget.grab().toImage().convertToFormat(QImage::Format_RGB32); }
-
-  /// The context menu that is open; null when there is none.
-  static QMenu* OpenMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
-
-  KeptMessages messages;
-  test::FakeHost host;
-  DesignState design;
-  DesignWidget widget;
-  CHullwrightView view{design, host, {messages, widget, widget, widget}};
-};
+TEST_F(DesignPane, IsNeverTooSmallToWorkIn)
+{
+  widget.resize(1, 1);
+  EXPECT_EQ(widget.size(), QSize(120, 90));
+}
 
 TEST_F(DesignPane, TheBandIsADashedLineOfOnePixelThatInvertsWhatIsUnderIt)
 {
@@ -297,95 +230,32 @@ TEST_F(DesignPane, TheMenuKeyOpensTheMenuButEndsNoPolyline)
   OpenMenu()->close();
 }
 
-/// Runs at the ratio of the environment, which a second run of these tests makes fractional.
-class PixelRatio : public DesignPane {
-protected:
-  PixelRatio() : ratio(widget.devicePixelRatioF()) {}
-
-  double ratio;
-};
-
-TEST_F(PixelRatio, IsTheOneThatTheRunIsFor)
+TEST_F(DesignPane, AContextMenuGoesWhenItCloses)
 {
-  const QByteArray expected = qgetenv("HULLWRIGHT_EXPECT_RATIO");
-  EXPECT_EQ(ratio, expected.isEmpty() ? 1.0 : expected.toDouble());
-}
-
-TEST_F(PixelRatio, ThePictureIsPaintedInThePixelsOfTheMonitor)
-{
-  AddLine({{-50.0, -20.0, 0.0}, {-20.0, 30.0, 0.0}, {45.5, -31.0, 0.0}});
-  design.activeView = ViewSide::Top;
-  AddLine({{-50.0, -20.0, 0.0}, {-20.0, 30.0, 0.0}, {45.5, -31.0, 0.0}});
-  view.Repaint();
-  widget.clearFocus();  // its mark lies over the picture
-  const QImage shown = Shown();
-  // The same frame painted at once in a picture of that many pixels.
-  PaintSurface surface(800, 600, ratio);
-  PaintTarget target(surface);
-  CCanvas canvas;
-  ASSERT_TRUE(canvas.Initialize(&target));
-  CCanvas* const before = std::exchange(view.viewPort->canvas, &canvas);
-  view.Repaint();
-  view.viewPort->canvas = before;
-  QImage sharp = surface.Picture();
-  sharp.setDevicePixelRatio(shown.devicePixelRatio());
-  ASSERT_EQ(shown.width(), static_cast<int>(std::ceil(800 * ratio)));
-  EXPECT_EQ(shown, sharp);
-}
-
-TEST_F(PixelRatio, TheMouseMeetsWhatIsSeenUnderIt)
-{
-  design.activeView = ViewSide::Top;
-  *design.offsetGps = CShapeVertex(60.25, -40.5, 0.0);
-  view.Repaint();
-  // The middle of the crossed circle, in pixels of the monitor.
-  const QImage shown = Shown();
-  long long sumX = 0;
-  long long sumY = 0;
-  int count = 0;
-  for (int y = 0; y < shown.height(); ++y) {
-    for (int x = 0; x < shown.width(); ++x) {
-      if (shown.pixel(x, y) != qRgb(255, 0, 0)) continue;
-      sumX += x;
-      sumY += y;
-      ++count;
-    }
-  }
-  ASSERT_GT(count, 20);
-  const double left = static_cast<double>(sumX) / count / ratio;
-  const double middle = 400.0 + 60.25 * 4.0;
-  EXPECT_NEAR(left, middle, 1.0);
-  EXPECT_NEAR(static_cast<double>(sumY) / count / ratio, 300.0 + 40.5 * 4.0, 12.0);  // and its name
-  Move({left, 300.0 + 40.5 * 4.0});
-  EXPECT_EQ(view.hitKind, HitKind::Gps);
-}
-
-TEST_F(PixelRatio, TheBandIsAPixelOfTheMonitorWide)
-{
-  BeginLineAt({200, 250});
-  const QImage clean = Shown();
-  Move({600, 250});
-  const QImage picture = Shown();
-  std::set<int> rows;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      if (picture.pixel(x, y) != clean.pixel(x, y)) rows.insert(y);
-    }
-  }
-  ASSERT_EQ(rows.size(), 1U);
-  EXPECT_NEAR(*rows.begin(), 250.0 * ratio, 1.0);
-}
-
-TEST_F(PixelRatio, APositionBetweenPixelsCountsAsThePixelThatItLiesIn)
-{
-  Move({406.7, 309.4});
-  EXPECT_EQ(view.statusText, u"X: +01.50 Y: -02.25");
-  Move({-0.3, -0.3});
-  EXPECT_EQ(view.statusText, u"X: -100.25 Y: +75.25");
-  Press({123.9, 45.6}, Qt::RightButton);
-  EXPECT_EQ(view.menuPoint, (ClientPoint{123, 45}));
+  Press({123, 45}, Qt::RightButton);
   ASSERT_NE(OpenMenu(), nullptr);
   OpenMenu()->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(widget.findChildren<QMenu*>().isEmpty());
+}
+
+TEST_F(DesignPane, NoKeyEndsAPolylineOrADrag)
+{
+  const auto press = [this] {
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Delete}) {
+      QTest::keyClick(&widget, key);
+    }
+  };
+  BeginLineAt({200, 250});
+  press();
+  ASSERT_TRUE(view.drawing);
+  EXPECT_EQ(view.newShape->vertices.size(), 1U);
+  Press({300, 250}, Qt::RightButton);
+  Move({200, 250});  // the vertex that is now in the design
+  Move({240, 250}, Qt::LeftButton);
+  press();
+  EXPECT_TRUE(view.dragging);
+  EXPECT_EQ(design.shapeGroups.at(0)->shapes.at(0)->vertices.at(0)->x, -40.0);
 }
 
 }  // namespace

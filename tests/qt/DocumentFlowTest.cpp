@@ -18,6 +18,7 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::Not;
 
 constexpr const char* oneLine =
@@ -122,7 +123,11 @@ TEST_F(DocumentFlow, AFileThatIsMissingOrNoDesignEndsTheStart)
   EXPECT_FALSE(Start(Path("missing.xml")));
   EXPECT_EQ(dialogs, 1);
   EXPECT_TRUE(lastQuestion.contains(Path("missing.xml")));
+  testing::internal::CaptureStderr();
   EXPECT_FALSE(Start(Design("bad.xml", "<vessel>")));
+  EXPECT_THAT(testing::internal::GetCapturedStderr(),
+              HasSubstr("hullwright: cannot open the design '" + Path("bad.xml").toStdString() +
+                        "': line 1, column 9: no element found\n"));
   EXPECT_EQ(dialogs, 1);
 }
 
@@ -334,6 +339,7 @@ TEST_F(DocumentFlow, TheListOfFilesSurvivesARestart)
 TEST_F(DocumentFlow, ADroppedFileOpens)
 {
   ASSERT_TRUE(Start());
+  Window().ShowNote(u"of before");
   EXPECT_EQ(Drop({QUrl(QStringLiteral("https://example.org/x.xml")),
                   QUrl::fromLocalFile(Design("a.xml"))}),
             Qt::CopyAction);
@@ -360,6 +366,22 @@ TEST_F(DocumentFlow, ADropWithoutAFileIsRefused)
   enter.ignore();
   QApplication::sendEvent(&Window(), &enter);
   EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(DocumentFlow, MessagesAndTheQuestionForADrawingStandOverTheWindow)
+{
+  ASSERT_TRUE(Start());
+  WhenAsked<QMessageBox>([this](QMessageBox& box) {
+    EXPECT_EQ(box.parentWidget(), &Window());
+    box.accept();
+  });
+  shell->App().ShowMessage(u"Note");
+  WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.parentWidget(), &Window());
+    dialog.reject();
+  });
+  Window().RunCommand(CommandId::ImportDxf);
+  EXPECT_EQ(dialogs, 2);
 }
 
 }  // namespace

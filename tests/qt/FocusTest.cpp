@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -84,6 +85,21 @@ TEST_F(Focus, ShiftF10OpensTheMenuOfThePaneThatHasTheKeyboard)
   Tree().setCurrentIndex(Tree().model()->index(0, 0, Tree().model()->index(0, 0)));
   QTest::keyClick(&Tree(), Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_EQ(firstEntry(), QStringLiteral("&Add Polyline..."));
+}
+
+TEST_F(Focus, TheKeysThatOpenMenusAreUsedUpAndOthersAreLeftToWhoWantsThem)
+{
+  View().setFocus();
+  const auto isUsedUp = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QKeyEvent press(QEvent::KeyPress, key, modifiers);
+    QApplication::sendEvent(&Window(), &press);
+    if (QWidget* const menu = QApplication::activePopupWidget()) menu->close();
+    return press.isAccepted();
+  };
+  EXPECT_TRUE(isUsedUp(Qt::Key_F10, Qt::ShiftModifier));
+  EXPECT_TRUE(isUsedUp(Qt::Key_F10, Qt::NoModifier));
+  EXPECT_FALSE(isUsedUp(Qt::Key_F10, Qt::ControlModifier));
+  EXPECT_FALSE(isUsedUp(Qt::Key_F11, Qt::NoModifier));
 }
 
 TEST_F(Focus, TheObjectPaneDoesNotStayASliverAfterTheWindowWasTiny)

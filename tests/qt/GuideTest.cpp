@@ -97,6 +97,32 @@ TEST_F(Guide, IsNotMadeBeforeItIsAskedForAndOpensOnce)
   EXPECT_EQ(Open(), first);
 }
 
+/// Counts how often a window is brought to the front of those that it shares the screen with.
+class RaiseCounter : public QObject {
+public:
+  explicit RaiseCounter(QWidget& window) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override
+  {
+    count += event->type() == QEvent::ZOrderChange ? 1 : 0;
+    return false;
+  }
+
+  int count = 0;
+};
+
+TEST_F(Guide, ComesToTheFrontWhenItIsAskedForAgain)
+{
+  GuideWindow* const window = Open();
+  ASSERT_NE(window, nullptr);
+  const RaiseCounter raises(*window);
+  Window().activateWindow();
+  QApplication::processEvents();
+  EXPECT_EQ(raises.count, 0);
+  Open();
+  EXPECT_EQ(raises.count, 1);
+}
+
 TEST_F(Guide, EveryLinkOpensAPageAndEveryPictureIsThere)
 {
   GuideWindow* const window = Open();
@@ -159,6 +185,20 @@ TEST_F(Guide, IsReadByTheKeyboard)
   EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(Guide, ItsButtonsStandSideBySideAboveThePage)
+{
+  GuideWindow* const window = Open();
+  ASSERT_NE(window, nullptr);
+  const auto buttons = window->findChildren<QPushButton*>();
+  ASSERT_EQ(buttons.size(), 3);
+  int right = 0;
+  for (const QPushButton* const button : buttons) {
+    EXPECT_GT(button->x(), right);
+    EXPECT_LT(button->geometry().bottom(), window->findChild<GuidePage*>()->y());
+    right = button->geometry().right();
+  }
+}
+
 TEST_F(Guide, WhereItIsMissingAMessageNamesTheFile)
 {
   Window().guideFolder = QString::fromStdString((folder.Path() / "none").string());
@@ -199,7 +239,9 @@ TEST_F(About, NamesTheLibrariesWithTheVersionsThatRun)
         QStringLiteral("Runs on Qt %1, Expat %2, SQLite %3.")
             .arg(QString::fromLatin1(qVersion()), QString::fromStdString(XmlLibraryVersion()),
                  QString::fromStdString(SqliteVersion()));
-    EXPECT_NE(LabelWith(dialog, expected), nullptr) << expected.toStdString();
+    const QLabel* const libraries = LabelWith(dialog, expected);
+    ASSERT_NE(libraries, nullptr) << expected.toStdString();
+    EXPECT_EQ(libraries->textFormat(), Qt::PlainText);
     EXPECT_NE(LabelWith(dialog, QStringLiteral("MIT licence")), nullptr);
     EXPECT_NE(LabelWith(dialog, QStringLiteral(HULLWRIGHT_VERSION)), nullptr);
   });

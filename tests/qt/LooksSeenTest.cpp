@@ -112,6 +112,22 @@ TEST_F(LooksSeen, RadioButtonsAndCheckBoxesAndTheirMarksAreSeen)
   });
 }
 
+TEST_F(LooksSeen, TheEdgeOfADisabledCheckBoxIsPalerButThere)
+{
+  ForEachLook([](int look) {
+    QCheckBox check(QStringLiteral("Show Grid"));
+    check.resize(check.sizeHint());
+    const QRect place = Indicator(check, QStyle::SE_CheckBoxIndicator);
+    const QPoint edge(place.center().x(), place.top());
+    const QColor window = Colour(QPalette::Window);
+    const double enabled = Contrast(Picture(check).pixelColor(edge), window);
+    check.setEnabled(false);
+    const double disabled = Contrast(Picture(check).pixelColor(edge), window);
+    EXPECT_LT(disabled, enabled) << look;
+    EXPECT_GT(disabled, 1.25) << look;
+  });
+}
+
 TEST_F(LooksSeen, TheEdgesOfAnEditFieldAreSeenWithAndWithoutTheKeyboard)
 {
   ForEachLook([](int look) {
@@ -175,6 +191,26 @@ TEST_F(LooksSeen, TheButtonsOfAPaneAreSeen)
       EXPECT_GE(PixelsSeen(image, image.rect(), image.pixelColor(0, 0)), 18) << look << name;
     }
   });
+}
+
+TEST_F(LooksSeen, TheCrossOfAPanesButtonStandsInTheMiddle)
+{
+  const auto& pane = *Window().findChild<QDockWidget*>();
+  const QIcon icon = pane.style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, &pane);
+  const QImage cross = icon.pixmap(15).toImage();
+  double ink = 0.0;
+  QPointF moment;
+  for (int y = 0; y < cross.height(); ++y) {
+    for (int x = 0; x < cross.width(); ++x) {
+      const double alpha = cross.pixelColor(x, y).alphaF();
+      ink += alpha;
+      moment += alpha * QPointF(x + 0.5, y + 0.5);
+    }
+  }
+  ASSERT_GT(ink, 0.0);
+  EXPECT_LT(ink, 60.0);  // two thin lines
+  EXPECT_NEAR(moment.x() / ink, 7.5, 0.2);
+  EXPECT_NEAR(moment.y() / ink, 7.5, 0.2);
 }
 
 TEST_F(LooksSeen, TextsCanBeReadOnWhatTheyStandOn)

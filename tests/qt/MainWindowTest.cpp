@@ -92,6 +92,7 @@ TEST_F(Desk, TheSideDropDownSelectsTheSideAndBearsItsImage)
   auto* const button = Window().findChild<QToolButton*>(QStringLiteral("SideButton"));
   ASSERT_NE(button, nullptr);
   EXPECT_EQ(button->text(), QStringLiteral("Select\nView"));
+  EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
   QStringList entries;
   for (const QAction* entry : button->menu()->actions()) entries.append(entry->text());
   EXPECT_EQ(entries,
@@ -295,6 +296,9 @@ TEST_F(Desk, ButtonsHaveNamesOnOneLineAndCanBeReachedByKey)
     EXPECT_FALSE(button->accessibleName().isEmpty());
     EXPECT_FALSE(button->accessibleName().contains(QLatin1Char('\n')));
     EXPECT_TRUE((button->focusPolicy() & Qt::TabFocus) != 0);
+    const QAction* const action = button->defaultAction();  // the side drop-down has none
+    EXPECT_EQ(button->accessibleDescription(),
+              action == nullptr ? QStringLiteral("Top") : action->statusTip());
   }
   EXPECT_EQ(View().accessibleName(), QStringLiteral("Design view"));
 }
@@ -341,8 +345,11 @@ TEST_F(Desk, AnEventThatMemoryEndsInIsLeftAndThatIsSaid)
   const auto& prompt = *Window().findChild<PromptPane*>();
   EXPECT_FALSE(deliver(false));
   EXPECT_EQ(prompt.Text(), QStringLiteral("Ready"));
+  shell->App().SetModifiedFlag(true);
+  ASSERT_FALSE(Window().isWindowModified());
   EXPECT_TRUE(deliver(true));
   EXPECT_EQ(prompt.Text(), QStringLiteral("There is not enough memory for that"));
+  EXPECT_TRUE(Window().isWindowModified());  // what was done before memory ended is shown
   EXPECT_TRUE(Application::Deliver([]() -> bool { throw std::bad_alloc(); },
                                    [] { throw std::bad_alloc(); }));
 }

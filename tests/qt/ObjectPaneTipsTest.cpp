@@ -83,6 +83,21 @@ TEST_F(PaneTips, CoordinatesThatAreNotSeenWholeStandInTheTooltipAndOthersDoNot)
   EXPECT_EQ(TipAt(point), QString());
 }
 
+TEST_F(PaneTips, ARowThatEndsWithThePaneIsSeenWhole)
+{
+  Tree().expand(At({0, 0}));
+  Tree().expand(At({0, 0, 0}));
+  SetPaneWidth(500);
+  const QModelIndex point = At({0, 0, 0, 0});
+  const auto& pane = *Window().findChild<QDockWidget*>();
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    const int spare = Tree().viewport()->rect().right() - Tree().visualRect(point).right();
+    SetPaneWidth(pane.width() - spare);
+    return spare == 0;
+  }));
+  EXPECT_EQ(TipAt(point), QString());
+}
+
 TEST_F(PaneTips, ScrollBarsAreThereOnlyWhereTheyAreNeeded)
 {
   Window().resize(1280, 860);

@@ -235,6 +235,8 @@ TEST_F(ObjectPane, RowsAreAsLargeAsTheToolkitMeasuresThem)
   ExpectSizesOfTheToolkit();
   QApplication::processEvents();
   EXPECT_GE(Tree().columnWidth(0), Measured(*Tree().itemDelegate(), At({0, 0, 0})).width());
+  Tree().setFont(QFont());
+  ExpectSizesOfTheToolkit();
 }
 
 TEST_F(ObjectPane, TheKeysForCopyingLeaveTheClipboardAlone)

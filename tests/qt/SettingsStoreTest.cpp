@@ -6,6 +6,7 @@
 #include <random>
 
 #include "app/GridSettingsStore.h"
+#include "qt/QtRecentFiles.h"
 #include "qt/QtSettingsStore.h"
 #include "support/ShellFixture.h"
 
@@ -19,6 +20,14 @@ TEST_F(SettingsStore, BeforeItIsOpenItGivesTheDefaults)
   QtSettingsStore store;
   store.WriteInteger("Grid", "Show", 0);
   EXPECT_EQ(store.ReadInteger("Grid", "Show", 1), 1);
+}
+
+TEST_F(SettingsStore, BeforeItIsOpenItKeepsNoRecentFiles)
+{
+  QtSettingsStore store;
+  QtRecentFiles files(store);
+  files.Write({u"/boats/boat.xml"});
+  EXPECT_TRUE(files.Read().empty());
 }
 
 TEST_F(SettingsStore, KeepsIntegersInAnIniFileOfTheMakers)
@@ -56,6 +65,19 @@ TEST_F(SettingsStore, ARefreshTakesInWhatAnotherProgramHasWritten)
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 1);
   first.Refresh();
   EXPECT_EQ(first.ReadInteger("Grid", "Show", 5), 0);
+}
+
+TEST_F(SettingsStore, ARefreshLeavesAFileAloneThatIsAsItWasRead)
+{
+  QtSettingsStore store;
+  store.Open(QStringLiteral("Quillmere"), QStringLiteral("Hullwright"));
+  store.WriteInteger("Grid", "Show", 1);
+  store.File()->sync();
+  store.Refresh();
+  // What is stored goes into the file with the events that follow.
+  store.WriteInteger("Grid", "Show", 2);
+  store.Refresh();
+  EXPECT_EQ(folder.Read("config/Quillmere/Hullwright.ini"), "[Grid]\nShow=1\n");
 }
 
 TEST_F(SettingsStore, TheGridIsReadAsAnotherProgramHasLeftIt)

@@ -147,6 +147,18 @@ TEST_F(TemplateDialogs, FieldsStateTheirUnitToAssistiveTechnology)
   EXPECT_EQ(dialog->findChild<QLineEdit*>()->accessibleDescription(), QStringLiteral("ft"));
 }
 
+TEST_F(TemplateDialogs, UnitsHaveRoomForLongerOnes)
+{
+  Open(DialogId::Move);
+  int units = 0;
+  for (const QLabel* label : dialog->findChildren<QLabel*>()) {
+    if (label->text() != QStringLiteral("meters")) continue;
+    ++units;
+    EXPECT_EQ(label->minimumWidth(), 56);
+  }
+  EXPECT_EQ(units, 2);
+}
+
 TEST_F(TemplateDialogs, IdsThatADialogLacksReadAsEmptyAndTakeNothing)
 {
   Open(DialogId::Scale);

@@ -43,6 +43,14 @@ protected:
     return bar.toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
   }
 
+  static int SeparatorWidth(const QToolBar& bar)
+  {
+    for (QAction* const action : bar.actions()) {
+      if (action->isSeparator()) return bar.widgetForAction(action)->sizeHint().width();
+    }
+    return 0;
+  }
+
   QToolButton& SideButton()
   {
     return *Window().findChild<QToolButton*>(QStringLiteral("SideButton"));
@@ -85,8 +93,10 @@ TEST_F(ToolBarRow, GetsCloserTogetherBeforeTheLabelsGo)
   SetWidth(1600);
   const int wide = Bar().sizeHint().width();
   ASSERT_TRUE(HasLabels(Bar()));
+  EXPECT_GT(SeparatorWidth(Bar()), 4);
   SetWidth(wide - 1);
   EXPECT_TRUE(HasLabels(Bar()));
+  EXPECT_EQ(SeparatorWidth(Bar()), 4);
   const int close = Bar().sizeHint().width();
   EXPECT_LT(close, wide - 40);
   EXPECT_EQ(Hidden(Bar()), QStringList());
@@ -131,6 +141,33 @@ TEST_F(ToolBarRow, AStyleOfAnotherLookIsMeasuredAnew)
   }
 }
 
+TEST_F(ToolBarRow, AnotherFontIsFittedWithTheEventsThatFollow)
+{
+  SetWidth(1600);
+  ASSERT_TRUE(HasLabels(Bar()));
+  Bar().setToolButtonStyle(Qt::ToolButtonIconOnly);
+  QEvent change(QEvent::FontChange);
+  QApplication::sendEvent(&Window(), &change);
+  EXPECT_FALSE(HasLabels(Bar()));
+  QApplication::processEvents();
+  EXPECT_TRUE(HasLabels(Bar()));
+}
+
+TEST_F(ToolBarRow, AToolBarThatComesBackFromTheSideIsMeasuredAnew)
+{
+  SetWidth(1600);
+  const int wide = Bar().sizeHint().width();
+  const auto comeBack = [this](int width) {
+    Window().addToolBar(Qt::LeftToolBarArea, &Bar());
+    SetWidth(width);  // by which it is measured there
+    Window().addToolBar(Qt::TopToolBarArea, &Bar());
+    QApplication::processEvents();
+    return Bar().sizeHint().width();
+  };
+  EXPECT_EQ(comeBack(wide), wide);
+  EXPECT_LT(comeBack(wide - 1), wide);
+}
+
 TEST_F(ToolBarRow, AToolBarOfOnesOwnStartsARowOfItsOwn)
 {
   AddBars(2);
@@ -151,6 +188,11 @@ TEST_F(ToolBarRow, ToolBarsThatShareARowShareItsRoom)
   SetWidth(1201);
   ASSERT_EQ(bars.at(0)->y(), bars.at(1)->y());
   for (const QToolBar* const bar : bars) EXPECT_EQ(Hidden(*bar), QStringList());
+  // Room for each of them by itself is not room for both.
+  SetWidth(2000);
+  SetWidth(Bar().sizeHint().width() + 1);
+  ASSERT_EQ(bars.at(0)->y(), bars.at(1)->y());
+  for (const QToolBar* const bar : bars) EXPECT_EQ(Hidden(*bar), QStringList());
 }
 
 TEST_F(ToolBarRow, TheDropDownMarksTheSideInViewAndItsTooltipNamesIt)
@@ -167,6 +209,9 @@ TEST_F(ToolBarRow, TheDropDownMarksTheSideInViewAndItsTooltipNamesIt)
     EXPECT_EQ(SideButton().toolTip(),
               QStringLiteral("View Mode: %1\nSelect the current view mode").arg(marked.first()));
   }
+  const QString last = SideButton().toolTip();
+  AddBars(1);  // which makes all buttons anew
+  EXPECT_EQ(SideButton().toolTip(), last);
 }
 
 TEST_F(ToolBarRow, NoTwoButtonsHaveTheSameTooltip)

@@ -98,6 +98,7 @@ TEST_F(UnitsDesk, ADoubleClickOnAnEntryTakesItsUnit)
   EXPECT_EQ(shell->App().unitCode, UnitCode{9002});
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(PaneText(1), QStringLiteral("Units: foot"));
+  EXPECT_TRUE(Window().isWindowModified());
 }
 
 TEST_F(UnitsDesk, OpensWithTheUnitOfTheDesignSelectedInAListThatIsPainted)
@@ -110,6 +111,7 @@ TEST_F(UnitsDesk, OpensWithTheUnitOfTheDesignSelectedInAListThatIsPainted)
   });
   Action("Units...")->trigger();
   EXPECT_EQ(dialogs, 1);
+  EXPECT_FALSE(Window().isWindowModified());
 }
 
 }  // namespace

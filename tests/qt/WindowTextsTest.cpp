@@ -75,6 +75,13 @@ TEST_F(WindowTexts, TheDataPanesAre250WideAndTheUnitsStandRightmost)
   EXPECT_LT(panes.at(0)->x(), panes.at(1)->x());
 }
 
+TEST_F(WindowTexts, NamesInTheDataPanesStandThereAsTheyAreWritten)
+{
+  for (const StatusPane* pane : Window().statusBar()->findChildren<StatusPane*>()) {
+    EXPECT_EQ(pane->textFormat(), Qt::PlainText);
+  }
+}
+
 TEST_F(WindowTexts, TheObjectPaneStandsAtTheLeftUnderItsCaption)
 {
   auto* const pane = Window().findChild<QDockWidget*>();
@@ -168,12 +175,15 @@ TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAButton)
   EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
 }
 
-TEST_F(WindowTexts, WhatCameOfACommandIsSeenThoughTheMouseIsStillOnItsButton)
+TEST_F(WindowTexts, WhatCameOfACommandIsSeenThoughTheMouseIsOnItsButtonUntilTheNextCommand)
 {
   Enter(Button("Mirror\nVert"));
   Window().ShowNote(u"20 polylines");
   EXPECT_EQ(Window().statusBar()->currentMessage(), QString());
-  EXPECT_EQ(Window().findChild<PromptPane*>()->Text(), QStringLiteral("20 polylines"));
+  const auto& prompt = *Window().findChild<PromptPane*>();
+  EXPECT_EQ(prompt.Text(), QStringLiteral("20 polylines"));
+  Window().RunCommand(CommandId::ToggleGrid);
+  EXPECT_EQ(prompt.Text(), QStringLiteral("Ready"));
 }
 
 TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAnEntry)

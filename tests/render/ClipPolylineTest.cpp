@@ -26,6 +26,10 @@ TEST(ClipPolyline, ASegmentThatLeavesIsCutAtTheEdge)
   ASSERT_EQ(runs.size(), 1U);
   EXPECT_EQ(runs[0][1].x, 100.0);
   EXPECT_EQ(runs[0][1].y, 25.0);
+  const auto slanting = ClipPolyline(Points{{50, 10}, {250, 50}}, clip);
+  ASSERT_EQ(slanting.size(), 1U);
+  EXPECT_EQ(slanting[0][1].x, 100.0);
+  EXPECT_EQ(slanting[0][1].y, 20.0);
 }
 
 TEST(ClipPolyline, ALineThatComesBackIsTwoRuns)

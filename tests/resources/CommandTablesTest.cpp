@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <ostream>
 #include <span>
 
 #include "base/Code.h"
 #include "base/Text.h"
+#include "resources/CommandHandler.h"
 #include "resources/Commands.h"
 #include "resources/Menus.h"
 #include "resources/Strings.h"
@@ -293,6 +295,35 @@ TEST(ViewSides, CodesAndCommandsBelongTogether)
   EXPECT_EQ(FindViewSide(ViewSide::All), nullptr);
   EXPECT_EQ(FindViewSideByCommand(CommandId::ViewRight)->code, ViewSide::Right);
   EXPECT_EQ(FindViewSideByCommand(CommandId::SelectView), nullptr);
+}
+
+TEST(ViewSides, ACodeThatIsNoSidesIsCalledByItsTwoDigits)
+{
+  EXPECT_EQ(SideName(ViewSide::Rear, "all", "view "), "rear");
+  EXPECT_EQ(SideName(ViewSide::All, "all", "view "), "all");
+  EXPECT_EQ(SideName(ViewSide{5}, "all", "view "), "view 05");
+}
+
+constexpr auto handlers = std::to_array<CommandHandler<int>>({
+    {CommandId::FileNew, [](int& runs) { ++runs; }},
+    {CommandId::FileOpen, [](int& runs) { ++runs; }},
+});
+
+TEST(CommandHandlers, ATableHasThoseOfItsRowsAlone)
+{
+  EXPECT_TRUE(HasHandler(handlers, CommandId::FileNew));
+  EXPECT_TRUE(HasHandler(handlers, CommandId::FileOpen));
+  EXPECT_FALSE(HasHandler(handlers, CommandId::FileSave));
+}
+
+TEST(CommandHandlers, BearNoMarkWhereNothingCanBeOn)
+{
+  for (const CommandId id : {CommandId::FileNew, CommandId::FileSave}) {
+    const CommandState state = StateOf(handlers, 0, id);
+    EXPECT_EQ(state.enabled, id == CommandId::FileNew);
+    EXPECT_FALSE(state.checked);
+    EXPECT_FALSE(state.checkable);
+  }
 }
 
 TEST(Strings, TheTextsOfPanesAndToolbarStandWordForWord)

@@ -143,13 +143,23 @@ TEST_F(Former, CopiesAreInTheOrderOfTheirMakingWhateverTheClockSays)
   EXPECT_THAT(Copies(), ElementsAre("3", "4", "5", "6", "7"));
 }
 
+TEST_F(Former, TheCountOfACopyStaysOneOfSixDigits)
+{
+  SaveOver("boat.xml", "1");
+  const fs::path first = PathOf(SaveOver("boat.xml", "2"));
+  const std::regex count("\\.000001\\.");
+  fs::rename(first, state / std::regex_replace(TextOf(first.filename()), count, ".999999."));
+  const std::string next = TextOf(PathOf(SaveOver("boat.xml", "3")));
+  EXPECT_NE(next.find(".000000."), std::string::npos) << next;
+}
+
 TEST_F(Former, AFileThatLostItsBytesGetsThemBack)
 {
-  SaveOver("boat.xml", "good");
+  SaveOver("boat.xml", "good\n\x1A\r\n");
   versions.Keep(folder.File("boat.xml"));
   folder.Write("boat.xml", "");
   EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
-  EXPECT_EQ(folder.Read("boat.xml"), "good");
+  EXPECT_EQ(folder.Read("boat.xml"), "good\n\x1A\r\n");
   EXPECT_EQ(versions.PutBack(), Restored::AsBefore);
 }
 
@@ -233,6 +243,9 @@ TEST_F(Former, AnEndingThatIsTooLongForANameIsLeftOff)
   const fs::path copy = Utf8FromWide(versions.Keep(folder.File(name)));
   EXPECT_EQ(copy.extension().string().back(), 'Z');
   EXPECT_THAT(Copies(), ElementsAre("long"));
+  const std::string longest = "." + std::string(15, 'x');
+  folder.Write("boat" + longest, "long");
+  EXPECT_EQ(TextOf(PathOf(versions.Keep(folder.File("boat" + longest))).extension()), longest);
 }
 
 /// Gives an environment variable its value back.

@@ -208,7 +208,10 @@ TEST_F(SessionBus, ASilentBusIsSwitchedOffForThisRunAndAnyOtherStaysNamed)
   EXPECT_EQ(std::getenv(variable), elsewhere);
   const Listener bus(path);
   setenv(variable, Address().c_str(), 1);
+  testing::internal::CaptureStderr();
   LeaveSilentSessionBus(patience);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "hullwright: the session bus does not answer; going on without it\n");
   EXPECT_STREQ(std::getenv(variable), "disabled:");
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -50,7 +51,9 @@ public:
   int openResult = 0;
   bool opensAHandle = true;
   bool givesAStatement = true;
-  int stepResult = 101;  ///< behind the rows
+  bool worksForEver = false;  ///< in its first step, unless it is told to stop
+  int piecesOfWork = 0;       ///< in that step
+  int stepResult = 101;       ///< behind the rows
   std::vector<Row> rows;
   std::vector<std::string> calls;
   std::vector<std::int64_t> heapLimits;
@@ -81,6 +84,11 @@ private:
   }
   static int Step(sqlite3_stmt*)
   {
+    constexpr int interrupted = 9;
+    if (one_->worksForEver) {
+      while (!one_->isToldToStop_()) ++one_->piecesOfWork;
+      return Said("step", interrupted);
+    }
     return Said("step", one_->next_++ < one_->rows.size() ? 100 : one_->stepResult);
   }
   static int Finalize(sqlite3_stmt*) { return Said("finalize", 0); }
@@ -103,7 +111,10 @@ private:
     return reinterpret_cast<const unsigned char*>(texts.at(static_cast<std::size_t>(column) - 1));
   }
   static int ColumnInt(sqlite3_stmt*, int) { return Current().code.value_or(0); }
-  static void LimitWork(sqlite3*, int, int (*)(void*), void*) {}
+  static void LimitWork(sqlite3*, int, int (*isTooMuch)(void*), void* program)
+  {
+    one_->isToldToStop_ = [=] { return isTooMuch(program) != 0; };
+  }
   static int Limit(sqlite3*, int, int former) { return former; }
   static std::int64_t LimitHeap(std::int64_t bytes)
   {
@@ -149,6 +160,7 @@ private:
   }
 
   static inline FakeLibrary* one_ = nullptr;
+  std::function<bool()> isToldToStop_;
   std::size_t next_ = 0;
 };
 
@@ -189,6 +201,17 @@ TEST_F(SqliteBinding, TheMemoryOfTheLibraryIsBoundedWhileADatabaseIsOpen)
   EXPECT_THAT(library.heapLimits, ElementsAre(64 << 20, 5000));
   sqlite.Unload();
   EXPECT_THAT(library.heapLimits, ElementsAre(64 << 20, 5000));
+}
+
+TEST_F(SqliteBinding, ALibraryThatWorksWithoutAnEndIsToldToStop)
+{
+  library.worksForEver = true;
+  CSQLite sqlite(library, messages);
+  ASSERT_EQ(sqlite.Load(), 0);
+  ASSERT_EQ(sqlite.Open(u"geo.db"), 0);
+  EXPECT_EQ(sqlite.SelectUnits(), -1);
+  EXPECT_EQ(library.piecesOfWork, 20'000);
+  EXPECT_EQ(sqlite.Problem(), u"it gives no end of rows");
 }
 
 TEST_F(SqliteBinding, ALibraryWithoutBoundsGivesItsUnits)

@@ -1,9 +1,13 @@
 #include "system/TemporaryFiles.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <utility>
+#include <vector>
 
 #include "support/TempFolder.h"
 #include "system/OutputFile.h"
@@ -56,6 +60,88 @@ TEST_F(TemporaryFiles, ThatWereKeptStayAtASignal)
   };
   EXPECT_EXIT(run(), testing::KilledBySignal(SIGTERM), "");
   EXPECT_EQ(folder.Read("boat.xml"), "<vessel/>");
+}
+
+TEST_F(TemporaryFiles, ThatAreGoneLeaveTheirPlacesToThoseThatASignalTakesAlong)
+{
+  const auto run = [this] {
+    RemoveTemporaryFilesAtSignals();
+    for (int i = 0; i < 20; ++i) {
+      RemoveTemporary(MakeTemporary(folder.Path()));
+      KeepTemporary(MakeTemporary(folder.Path()), (folder.Path() / "boat.xml").string());
+    }
+    EndBy(SIGTERM, folder.Path());
+  };
+  EXPECT_EXIT(run(), testing::KilledBySignal(SIGTERM), "");
+  EXPECT_TRUE(std::filesystem::remove(folder.Path() / "boat.xml"));
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(TemporaryFiles, ThatAreKeptTakeThePlaceOfWhatALinkNamesWithItsMode)
+{
+  namespace fs = std::filesystem;
+  constexpr fs::perms forOwner = fs::perms::owner_read | fs::perms::owner_write;
+  folder.Write("boat.xml", "former");
+  fs::permissions(folder.Path() / "boat.xml", forOwner);
+  fs::create_symlink(folder.Path() / "boat.xml", folder.Path() / "link.xml");
+  OutputFile output((folder.Path() / "link.xml").string());
+  ASSERT_TRUE(output.Write("new") && output.Commit()) << output.Problem();
+  EXPECT_TRUE(fs::is_symlink(folder.Path() / "link.xml"));
+  EXPECT_EQ(folder.Read("boat.xml"), "new");
+  EXPECT_EQ(fs::status(folder.Path() / "boat.xml").permissions(), forOwner);
+  EXPECT_EQ(OutputFile(folder.Path().string()).Path(), "");  // a folder is no output
+}
+
+TEST_F(TemporaryFiles, ThatCanNotTakeTheirPlaceAreReportedAndGo)
+{
+  const std::string path = (folder.Path() / "boat.xml").string();
+  {
+    OutputFile output(path);
+    ASSERT_TRUE(output.Write("<vessel/>"));
+    std::filesystem::create_directory(path);
+    EXPECT_FALSE(output.Commit());
+    EXPECT_EQ(output.Problem(), path + ": Is a directory");
+    std::filesystem::remove(path);
+  }
+  EXPECT_TRUE(IsEmpty());
+}
+
+/// For as long as it lives the program runs for a user who may not write everything.
+class PlainUser {
+public:
+  PlainUser() { EXPECT_TRUE(!isRoot_ || setresuid(nobody, nobody, 0) == 0); }
+  PlainUser(const PlainUser&) = delete;
+  PlainUser& operator=(const PlainUser&) = delete;
+  ~PlainUser() { EXPECT_TRUE(!isRoot_ || setresuid(0, 0, 0) == 0); }
+
+private:
+  static constexpr uid_t nobody = 65534;
+  bool isRoot_ = geteuid() == 0;
+};
+
+TEST_F(TemporaryFiles, AreMadeNeitherForAFileNorInAFolderThatMayNotBeWritten)
+{
+  namespace fs = std::filesystem;
+  constexpr fs::perms toRead{0555};
+  const fs::path path = folder.Path() / "boat.xml";
+  folder.Write("boat.xml", "kept");
+  for (const auto& [ofFolder, ofFile] :
+       {std::pair(fs::perms::all, toRead), std::pair(toRead, fs::perms::all)}) {
+    fs::permissions(folder.Path(), ofFolder);
+    fs::permissions(path, ofFile);
+    const PlainUser user;
+    const OutputFile output(path.string());
+    EXPECT_EQ(output.Path(), "");
+    EXPECT_TRUE(output.Problem().ends_with("boat.xml: Permission denied")) << output.Problem();
+  }
+}
+
+TEST_F(TemporaryFiles, HaveTheModeOfAnyNewFileAndChangeThatOfNoOther)
+{
+  const mode_t before = umask(0027);
+  const std::string path = MakeTemporary(folder.Path());
+  EXPECT_EQ(umask(before), mode_t{0027});
+  EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms{0640});
 }
 
 TEST_F(TemporaryFiles, AreRemovedEachByItsOwnName)

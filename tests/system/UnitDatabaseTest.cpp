@@ -8,6 +8,7 @@
 #include "headless/KeptMessages.h"
 #include "support/SqliteConnection.h"
 #include "support/TempFolder.h"
+#include "system/LibraryVersions.h"
 #include "system/SharedLibraries.h"
 #include "system/Sqlite.h"
 
@@ -82,6 +83,11 @@ TEST(DatabasePath, JoinsItsComponentsWithoutDoublingSeparators)
   EXPECT_EQ(GetDatabasePath(u"/data"), u"/data/Sondaris/Database/geo.db");
   EXPECT_EQ(GetDatabasePath(u"/data/"), u"/data/Sondaris/Database/geo.db");
   EXPECT_EQ(GetDatabasePath(u""), u"Sondaris/Database/geo.db");
+}
+
+TEST(SqliteVersion, IsThatOfTheLibraryThatIsFound)
+{
+  EXPECT_THAT(SqliteVersion(), testing::StartsWith("3."));
 }
 
 TEST_F(Units, LengthsAreReadInTheOrderOfTheirCodes)

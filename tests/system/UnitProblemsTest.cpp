@@ -167,6 +167,9 @@ TEST_F(UnitProblems, ViewsThatMultiplyEndAtTheBoundOfTheMemory)
   EXPECT_THAT(units.ReadUnits(), IsEmpty());
   EXPECT_THAT(reported, ElementsAre(HasSubstr(": SQLite ERROR #7 (out of memory)")));
   EXPECT_LT(test::MostMemory() - before, mostKilobytes);
+  std::filesystem::remove(Path());
+  Make("CREATE TABLE tblUnits AS SELECT 9001 AS numId, 1 AS numDimension");
+  EXPECT_THAT(units.ReadUnits(), IsEmpty());  // the database is not asked again
 }
 
 }  // namespace

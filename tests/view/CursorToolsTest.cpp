@@ -66,6 +66,7 @@ TEST_F(View, WithoutAViewPortThereIsNoCanvasAndNothingHappens)
   blind.OnCreate(&recorder);
   blind.OnSize(800, 600);
   blind.OnMouseMove(false, {1, 1});
+  EXPECT_EQ(blind.statusText, u"X: +00.00 Y: +00.00");
   blind.OnLButtonDown({1, 1});
   blind.OnMouseWheel(-120, {1, 1});
   blind.OnCommand(CommandId::ShowAll);
