@@ -48,8 +48,9 @@ double& OffsetOf(DesignState& design)
 
 constexpr bool HasFields(const DialogTemplate& dialog, const auto& fields)
 {
-  return std::ranges::all_of(
-      fields, [&dialog](const auto& row) { return FindField(dialog, row.field) != nullptr; });
+  return std::ranges::all_of(fields, [&dialog](const auto& row) {
+    return std::ranges::find(dialog.rows, row.field, FieldOf) != dialog.rows.end();
+  });
 }
 
 /// Whether every edit field of the template has a row that binds it.
@@ -75,8 +76,9 @@ constexpr bool BindsAllButtons(const DialogTemplate& dialog, const auto&... tabl
 
 constexpr bool HasButtons(const DialogTemplate& dialog, const auto& buttons)
 {
-  return std::ranges::all_of(
-      buttons, [&dialog](const auto& row) { return FindButton(dialog, row.button) != nullptr; });
+  return std::ranges::all_of(buttons, [&dialog](const auto& row) {
+    return std::ranges::find(dialog.rows, row.button, ButtonOf) != dialog.rows.end();
+  });
 }
 
 double ReadNumber(const IDialogControls& controls, ControlId field)
