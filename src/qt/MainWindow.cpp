@@ -191,7 +191,6 @@ void MainWindow::SetViewButtonImage(CommandId command)
 
 void MainWindow::InvalidateToolBar()
 {
-  if (toolBars_ == nullptr) return;
   for (QToolBar* const bar : toolBars_->Bars()) bar->update();
 }
 
