@@ -34,5 +34,16 @@ TEST_F(PathFromTheRoot, FollowsALinkToTheFolderAndKeepsTheNameOfALinkToTheFile)
   EXPECT_TRUE(found.ends_with(u"/there/named.xml"));
 }
 
+TEST_F(PathFromTheRoot, IsThePathItselfInAFolderThatIsGone)
+{
+  const fs::path before = fs::current_path();
+  fs::create_directory(folder.Path() / "there");
+  fs::current_path(folder.Path() / "there");
+  fs::remove(folder.Path() / "there");
+  const std::u16string found = AbsolutePath(u"none/../boat.xml");
+  fs::current_path(before);
+  EXPECT_EQ(found, u"none/../boat.xml");
+}
+
 }  // namespace
 }  // namespace hullwright

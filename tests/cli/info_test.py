@@ -58,6 +58,8 @@ class InfoTest(CliTest):
                      "blocks and their shapes: *Model_Space 0 *Paper_Space 0 BOLLARD 3", "LWPOLYLINE 4",
                      "ignored: none", "imported: 70 shapes, from -11.600, -5.200 to 12.000, 4.100"):
             self.assertIn(line, text)
+        self.assertEqual([line.split(":")[0] for line in text.splitlines()[1:] if not line.startswith("  layer ")],
+                         ["  blocks and their shapes", "  entities", "  ignored", "  imported"])
 
     def test_the_json_of_a_drawing_counts_what_is_ignored(self):
         drawing = self.drawing("a.dxf", "0", "LINE", "1", "HATCH", "0", "HATCH", "2", "SOLID", "0", "OTHER",

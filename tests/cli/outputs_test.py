@@ -167,21 +167,30 @@ class OutputsTest(CliTest):
                 self.assertEqual((done.returncode, done.stderr.decode().splitlines()[0]), (2, f"hullwright-cli: {words[verb]}"))
             self.assertEqual(same.read_text(), self.other.read_text())
 
+    def shown_on_terminal(self, *arguments):
+        """What a command writes to a terminal in the place of standard error."""
+        master, terminal = pty.openpty()
+        done = subprocess.run([PROGRAM, *arguments], stdout=subprocess.DEVNULL, stderr=terminal, check=False, env=ENVIRONMENT)
+        os.close(terminal)
+        shown = b""
+        with contextlib.suppress(OSError):  # at the end of what a terminal was given
+            while block := os.read(master, 65536):
+                shown += block
+        os.close(master)
+        self.assertIn(done.returncode, (0, 1))
+        return shown
+
     def test_the_steps_are_named_on_a_terminal_and_removed(self):
         for verb, ending, _, out in self.cases():
-            master, terminal = pty.openpty()
-            done = subprocess.run([PROGRAM, *self.command(verb, ending, out)], stdout=subprocess.DEVNULL, stderr=terminal,
-                                  check=False, env=ENVIRONMENT)
-            os.close(terminal)
-            shown = b""
-            with contextlib.suppress(OSError):  # at the end of what a terminal was given
-                while block := os.read(master, 65536):
-                    shown += block
-            os.close(master)
-            self.assertIn(done.returncode, (0, 1))
+            shown = self.shown_on_terminal(*self.command(verb, ending, out))
             steps = re.findall(r"([^\r\033]+) \.\.\.", shown.decode().replace("\033[K", ""))
             self.assertEqual([step for step in steps if step in STEPS[verb]], list(STEPS[verb]))
             self.assertTrue(shown.endswith(b"\r\033[K"), shown)
+
+    def test_a_remark_takes_the_place_of_the_step_on_a_terminal(self):
+        point = self.write("point.xml", '<vessel><shapes view="04"><polyline><vertex x="1"/></polyline></shapes></vessel>')
+        shown = self.shown_on_terminal("export", point, "-o", self.folder / "point.dxf")
+        self.assertIn(f"making the export ...\r\033[Khullwright-cli: {point}: left out: 1 polyline", shown.decode())
 
 
 if __name__ == "__main__":

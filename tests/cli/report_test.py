@@ -177,10 +177,14 @@ class ReportTest(CliTest):
     def test_a_side_stands_in_the_middle_of_its_frame_with_symbols_of_one_size(self):
         offsets = "".join(f'<{name} x="{x}" y="5" z="0"/>' for name, x in (("gps", 0), ("txd", 20), ("piv", 10)))
         self.report(self.write("offsets.xml", f"<vessel><units id='9001'/>{offsets}</vessel>"))
-        left, upper, right, lower = next(edges for word, *edges in self.boxes(2) if word == "PIV")
+        places = {word: edges for word, *edges in self.boxes(2)}
+        left, upper, right, lower = places["PIV"]
         # The frame's middle is at 1050, 720. A label's is 25 pixels of 2.5 above that of its symbol.
         self.assertAlmostEqual((left + right) / 2, 1050, delta=10)
         self.assertAlmostEqual((upper + lower) / 2, 720 - 25 * 2.5, delta=10)
+        # The others lie 10 m to its left and right, which are 500 at 1:200.
+        for word, middle in (("GPS", 550), ("TXD", 1550)):
+            self.assertAlmostEqual((places[word][0] + places[word][2]) / 2, middle, delta=10)
 
     def test_the_foot_is_smaller_than_the_text(self):
         self.report(BOAT)

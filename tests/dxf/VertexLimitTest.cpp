@@ -77,6 +77,18 @@ TEST_F(VertexLimitOfADrawing, LeavesOutAPolylineWhoseBulgesBecomeTooManyVertices
   EXPECT_FALSE(Tally().IsIncomplete());
 }
 
+TEST_F(VertexLimitOfADrawing, CountsTheVertexThatClosesAPolyline)
+{
+  const std::string closed = Entity("POLYLINE", {{70, "1"}}) +
+                             Repeated(3, Entity("VERTEX", {{10, "1"}})) + Entity("SEQEND");
+  Import(Entities(closed), {.mostVertices = 3});
+  EXPECT_EQ(ShapeCount(), 0U);
+  EXPECT_EQ(Tally().beyondLimit, 1U);
+  Import(Entities(closed), {.mostVertices = 4});
+  EXPECT_EQ(Vertices(), 4U);
+  EXPECT_FALSE(Tally().IsIncomplete());
+}
+
 TEST_F(VertexLimitOfADrawing, LeavesOutAPolylineWhoseBulgesLeadStraightUp)
 {
   std::string heavy = Entity("POLYLINE");

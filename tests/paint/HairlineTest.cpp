@@ -145,6 +145,7 @@ TEST_F(Strokes, OnAPageOutlinesAreClosedJoinsAreRoundAndNothingIsFilled)
   target.DrawRectangle({40.5F, 24.5F, 54.5F, 34.5F}, {black, 1.0F});
   EXPECT_EQ(target.EndFrame().code, 0);
   EXPECT_EQ(qGray(page.pixel(20, 20)), 255);
+  EXPECT_LT(qGray(page.pixel(20, 27)), 10);   // as wide as its own stroke
   EXPECT_EQ(qGray(page.pixel(32, 32)), 0);    // the join
   EXPECT_GT(qGray(page.pixel(34, 34)), 200);  // which has no corner
   EXPECT_EQ(qGray(page.pixel(46, 12)), 255);

@@ -236,14 +236,23 @@ TEST_F(StrokerFixture, WhatLeavesThePictureIsCutAtItsEdges)
 
 TEST_F(StrokerFixture, ALineThatJustFitsAPictureIsTheSameAsInAWiderOne)
 {
-  // The last four pixels that it may cover in a row end where the row does.
-  const Points line = {{4.8F, 5.0F}, {23.6F, 7.3F}};
-  Paper narrow(27, paper.height);
-  narrow.Draw(line, FigureKind::Line, {0xff000000U, 1.0F, 2.0F});
-  Draw(line, 2.0F);
-  for (int y = 0; y < narrow.height; ++y) {
-    for (int x = 0; x < narrow.width; ++x) {
-      ASSERT_EQ(narrow.Blue(x, y), paper.Blue(x, y)) << x << ' ' << y;
+  struct Fit {
+    Points line;
+    float thickness;
+    int width;
+  };
+  // The last four pixels that it may cover in a row end where the row does. The steep line reaches
+  // over five columns, and in no row over more than four.
+  const Fit level = {{{4.8F, 5.0F}, {23.6F, 7.3F}}, 2.0F, 27};
+  const Fit steep = {{{4.7F, 5.0F}, {8.2F, 25.3F}}, 1.0F, 9};
+  for (const Fit& fit : {level, steep}) {
+    Paper narrow(fit.width, paper.height);
+    narrow.Draw(fit.line, FigureKind::Line, {0xff000000U, 1.0F, fit.thickness});
+    Draw(fit.line, fit.thickness);
+    for (int y = 0; y < narrow.height; ++y) {
+      for (int x = 0; x < narrow.width; ++x) {
+        ASSERT_EQ(narrow.Blue(x, y), paper.Blue(x, y)) << x << ' ' << y;
+      }
     }
   }
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QImage>
 #include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
@@ -316,6 +317,17 @@ TEST_F(Customizing, FieldsStandAtTheLabelsWhoseKeysLeadToThem)
   });
 }
 
+TEST_F(Customizing, TheButtonsThatMakeAndDeleteAToolBarStandSideBySide)
+{
+  Customize([](QDialog& dialog) {
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    ASSERT_GE(buttons.size(), 2);
+    EXPECT_EQ(buttons.at(0)->text(), QStringLiteral("&New..."));
+    EXPECT_EQ(buttons.at(1)->text(), QStringLiteral("&Delete"));
+    EXPECT_LT(buttons.at(0)->geometry().right(), buttons.at(1)->x());
+  });
+}
+
 TEST_F(Customizing, ARowThatIsCutCanBeReadInItsTooltip)
 {
   Customize([](QDialog& dialog) {
@@ -325,6 +337,20 @@ TEST_F(Customizing, ARowThatIsCutCanBeReadInItsTooltip)
       const QListWidgetItem& item = *available.item(row);
       EXPECT_EQ(item.toolTip(), item.text().toHtmlEscaped()) << row;
     }
+  });
+}
+
+TEST_F(Customizing, TheTextOfARowWithoutAnImageStandsInLineWithTheOthers)
+{
+  Customize([](QDialog& dialog) {
+    const auto& available = *dialog.findChildren<QListWidget*>().at(0);
+    ASSERT_GT(available.count(), 30);
+    for (int row = 0; row < available.count(); ++row) {
+      EXPECT_FALSE(available.item(row)->icon().isNull()) << row;
+    }
+    const QImage separator = available.item(0)->icon().pixmap(16).toImage();
+    ASSERT_FALSE(separator.isNull());
+    EXPECT_EQ(separator.pixelColor(8, 8).alpha(), 0);
   });
 }
 

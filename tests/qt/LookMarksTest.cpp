@@ -64,6 +64,30 @@ TEST_F(LookMarks, TheEdgeOfAFieldIsAPixelWideAndTwoWithTheKeyboard)
   EXPECT_EQ(Down(), (Pixels{10, 11, 38, 39}));
 }
 
+TEST_F(LookMarks, TheEdgeOfABoxIsDarkerThanItMustBeAndNotBlack)
+{
+  Paint([this](QPainter& painter) { DrawCheckBox(painter, option); });
+  const Pixels across = Across();
+  ASSERT_FALSE(across.empty());
+  const QColor edge = picture.pixelColor(across.front(), picture.height() / 2);
+  EXPECT_GT(Contrast(edge, window), 2.0 * shapeContrast);
+  EXPECT_LT(Contrast(edge, window), 4.0 * shapeContrast);
+}
+
+TEST_F(LookMarks, TheBoxOfABranchHoldsAMinusWhereItIsOpenAndElseAPlus)
+{
+  option.rect = QRect(11, 11, 39, 29);  // whose middle is that of the picture
+  option.state = QStyle::State_Enabled | QStyle::State_Children | QStyle::State_Open;
+  const auto draw = [this](QPainter& painter) { DrawBranch(painter, option); };
+  Paint(draw);
+  EXPECT_EQ(Across(), (Pixels{26, 28, 29, 30, 31, 32, 34}));
+  EXPECT_EQ(Down(), (Pixels{21, 25, 29}));
+  option.state.setFlag(QStyle::State_Open, false);
+  Paint(draw);
+  EXPECT_EQ(Across(), (Pixels{26, 28, 29, 30, 31, 32, 34}));
+  EXPECT_EQ(Down(), (Pixels{21, 23, 24, 25, 26, 27, 29}));
+}
+
 TEST_F(LookMarks, ASliderLeavesItsGrooveFreeAroundIt)
 {
   Paint([this](QPainter& painter) { DrawSlider(painter, option, option.rect); });

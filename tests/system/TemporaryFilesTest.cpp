@@ -9,7 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/Text.h"
 #include "support/TempFolder.h"
+#include "system/InputFile.h"
 #include "system/OutputFile.h"
 
 namespace hullwright {
@@ -156,6 +158,25 @@ TEST_F(TemporaryFiles, AreRemovedEachByItsOwnName)
   RemoveTemporary({});
   EXPECT_TRUE(IsEmpty());
   EXPECT_EQ(MakeTemporary(folder.Path() / "none"), "");
+}
+
+TEST_F(TemporaryFiles, StandForInputsWhoseNamesAreNotUtf8AndGoWithThem)
+{
+  namespace fs = std::filesystem;
+  const fs::path odd = folder.Path() / "b\xFFt.xml";
+  folder.Write("boat.xml", "<vessel/>");
+  fs::rename(folder.Path() / "boat.xml", odd);
+  fs::path copy;
+  {
+    const InputFile input(odd.string());
+    copy = input.Path();
+    EXPECT_TRUE(IsUtf8(input.Path()));
+    EXPECT_EQ(input.Name(), odd.string());
+    EXPECT_EQ(input.Problem(), "");
+    EXPECT_TRUE(input.IsDesign());
+  }
+  EXPECT_FALSE(fs::exists(copy));
+  EXPECT_TRUE(fs::exists(odd));
 }
 
 TEST_F(TemporaryFiles, MayBeMoreThanASignalWouldRemove)
