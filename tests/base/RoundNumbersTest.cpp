@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace hullwright {
@@ -30,6 +31,7 @@ TEST(RoundDown, ARoundNumberStaysAndAnyOtherBecomesTheOneBefore)
   EXPECT_EQ(RoundDown(25.0), 20.0);
   EXPECT_EQ(RoundDown(99.0), 50.0);
   EXPECT_EQ(RoundDown(0.3), 0.2);
+  EXPECT_EQ(RoundDown(std::nextafter(1000.0, 0.0)), 500.0);  // its logarithm is rounded to 3
 }
 
 TEST(RoundDown, NothingIsRoundBelowZeroOrWithoutEnd)

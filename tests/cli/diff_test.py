@@ -145,6 +145,8 @@ class DiffTest(CliTest):
         self.assertEqual(self.differ(*files), [
             "  drawing       polyline 1 changed, colour #FF0000 -> #0000FF",
             '  drawing       text 1 "Crane" changed, was "Winch"'])
+        self.assertEqual(json.loads(run("diff", "-j", *files).stdout)["shapes"][0]["look"],
+                         {"former": {"line": 0x0000FF, "width": 1.0}, "current": {"line": 0xFF0000, "width": 1.0}})
 
     def test_one_side_alone(self):
         text = BOAT.read_text()
@@ -275,6 +277,9 @@ class DiffPictureTest(CliTest):
         self.draw(BOAT, changed, "-o", out)
         captions = re.findall(r">(\w+): the former grey", out.read_text())
         self.assertEqual(captions, ["left", "rear"])
+        # Side by side, 1600 wide, with gaps of 24.
+        corners = set(re.findall(rf'stroke="{GREY}"[^>]* transform="matrix\(1,0,0,1,(\d+,\d+)\)"', out.read_text()))
+        self.assertEqual(corners, {"24,24", "1648,24"})
         self.draw(BOAT, changed, "-s", "left", "-o", out)
         self.assertEqual(re.findall(r">(\w+): the former grey", out.read_text()), ["left"])
         self.draw(BOAT, changed, "--output", self.folder / "out.PDF")

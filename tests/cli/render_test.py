@@ -183,6 +183,15 @@ class RenderTest(CliTest):
         # Equal texts at the right of their cells; the two columns of the sheet have 762 pixels each.
         self.assertAlmostEqual(float(z.getAttribute("x")) - float(y.getAttribute("x")), 762 // 5, delta=0.01)
 
+    def test_the_unit_stands_at_the_right_edge_of_a_sheet(self):
+        out = self.folder / "sheet.pdf"
+        self.succeed("render", BOAT, "--sheet", "-z", "500x320", "-o", out)
+        listed = subprocess.run(["pdftotext", "-bbox", out, "-"], check=True, capture_output=True, text=True).stdout
+        edge = re.search(r'xMax="(\S+)" yMax="\S+">metre</word>', listed)
+        self.assertIsNotNone(edge)
+        # Three pictures and four gaps of 24 are 1596 pixels, each three quarters of a point.
+        self.assertAlmostEqual(float(edge[1]), (1596 - 24) * 0.75, delta=1)
+
     def test_a_scale_bar_of_a_huge_design_is_labelled_without_an_exponent(self):
         huge = self.write("huge.xml", '<vessel><units id="9001"/><shapes view="04"><polyline><vertex x="0"/>'
                                       '<vertex x="9e9"/></polyline></shapes></vessel>')

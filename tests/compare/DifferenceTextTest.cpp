@@ -99,7 +99,11 @@ TEST_F(DifferenceText, GivesWaysTheirSignAndNoneToWhatIsShownAsZero)
 {
   AddFormer(ViewSide::Top, {{0, 0, 0}, {1, 2, 0}});
   AddCurrent(ViewSide::Top, {{-0.0004, -0.25, 0.0004}, {0.9996, 1.75, 0.0004}});
-  EXPECT_EQ(Text(), "  top           polyline 1 moved by 0.250 (dX 0.000, dY -0.250, dZ 0.000)\n");
+  AddFormer(ViewSide::Bottom, {{0, 0, 0}, {3, 0, 0}});
+  AddCurrent(ViewSide::Bottom, {{0.25, 0, 0}, {3.25, 0, 0}});
+  EXPECT_EQ(Text(),
+            "  top           polyline 1 moved by 0.250 (dX 0.000, dY -0.250, dZ 0.000)\n"
+            "  other         polyline 1 moved by 0.250 (dX +0.250, dY 0.000, dZ 0.000)\n");
 }
 
 TEST_F(DifferenceText, OfNumbersAsTheyStandSaysSo)

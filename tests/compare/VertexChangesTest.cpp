@@ -52,6 +52,11 @@ TEST(ComparedVertices, AddedAndRemovedLeaveTheOthersAlone)
   EXPECT_EQ(Changes({}, Outline({1, 2})), "+1 +2");
 }
 
+TEST(ComparedVertices, AllRemovedBetweenTheCommonEndsThoughOneStandsWhereAnEndDoes)
+{
+  EXPECT_EQ(Changes(Outline({1, 7, 3, 8, 3}), Outline({1, 3})), "-2 -3 -4");
+}
+
 TEST(ComparedVertices, OfTwoThatChangedPlacesTheSameOneStaysInBothDirections)
 {
   EXPECT_EQ(Changes(Outline({1, 2}), Outline({2, 1})), "-1 +2");

@@ -43,9 +43,12 @@ TEST_F(AnchorList, ReadsEveryKey)
 
 TEST_F(AnchorList, AnythingButZeroIsVisible)
 {
-  ASSERT_EQ(Read("<anchor><visible>2</visible></anchor><anchor><visible>x</visible></anchor>"), 0);
+  ASSERT_EQ(Read("<anchor><visible>2</visible></anchor><anchor><visible>x</visible></anchor>"
+                 "<anchor><visible>9</visible></anchor>"),
+            0);
   EXPECT_TRUE(anchors.items.at(0)->visible);
   EXPECT_FALSE(anchors.items.at(1)->visible);
+  EXPECT_TRUE(anchors.items.at(2)->visible);
 }
 
 TEST_F(AnchorList, WhatStandsOutsideAnAnchorLeavesTheListAsItIs)

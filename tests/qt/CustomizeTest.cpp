@@ -134,6 +134,15 @@ TEST_F(Customizing, HasListsWithNamesThatCutTheirTextsInsteadOfScrollingThem)
   });
 }
 
+TEST_F(Customizing, ListsAreNeverTooSmallToWorkIn)
+{
+  Customize([](QDialog& dialog) {
+    const auto lists = dialog.findChildren<QListWidget*>();
+    ASSERT_EQ(lists.size(), 2);
+    for (const QListWidget* const list : lists) EXPECT_EQ(list->minimumSize(), QSize(160, 120));
+  });
+}
+
 TEST_F(Customizing, ToolBarsKeepPlaceAndVisibilityWhenTheyAreCustomized)
 {
   MakeBar("Mine");

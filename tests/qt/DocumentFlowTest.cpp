@@ -223,6 +223,7 @@ TEST_F(DocumentFlow, SavingAnUntitledDesignAsksForANameAndAddsTheSuffix)
   ASSERT_TRUE(Start());
   Modify();
   WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
     EXPECT_EQ(dialog.nameFilters(), (QStringList{QStringLiteral("Hullwright Files(*.xml)"),
                                                  QStringLiteral("All Files(*)")}));
     dialog.selectFile(Path("new boat"));

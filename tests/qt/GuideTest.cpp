@@ -93,6 +93,7 @@ TEST_F(Guide, IsNotMadeBeforeItIsAskedForAndOpensOnce)
   const GuideWindow* const first = Open();
   ASSERT_NE(first, nullptr);
   EXPECT_TRUE(first->isVisible());
+  EXPECT_EQ(first->windowTitle(), QStringLiteral("Guide"));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_EQ(Open(), first);
 }

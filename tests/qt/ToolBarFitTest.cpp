@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QInputDialog>
+#include <QLayout>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
@@ -97,6 +98,7 @@ TEST_F(ToolBarRow, GetsCloserTogetherBeforeTheLabelsGo)
   SetWidth(wide - 1);
   EXPECT_TRUE(HasLabels(Bar()));
   EXPECT_EQ(SeparatorWidth(Bar()), 4);
+  EXPECT_EQ(Bar().layout()->spacing(), 0);
   const int close = Bar().sizeHint().width();
   EXPECT_LT(close, wide - 40);
   EXPECT_EQ(Hidden(Bar()), QStringList());

@@ -208,6 +208,17 @@ TEST_F(Former, WithoutAFolderToCopyToTheBytesCanStillBePutBack)
   EXPECT_EQ(folder.Read("boat.xml"), "good");
 }
 
+TEST_F(Former, ACopyThatTheDiskHasNoRoomForIsTakenAway)
+{
+  folder.Write("boat.xml", std::string(10'000, 'x'));
+  {
+    const test::FileSizeLimit limit(4096);
+    EXPECT_EQ(versions.Keep(folder.File("boat.xml")), u"");
+  }
+  EXPECT_TRUE(fs::exists(state));
+  EXPECT_THAT(Copies(), IsEmpty());
+}
+
 TEST_F(Former, FilesTooLargeForADesignAreNotRead)
 {
   folder.Write("large.xml", "");
