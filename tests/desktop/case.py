@@ -44,8 +44,8 @@ class DeskTest(unittest.TestCase):
             except BaseException:
                 if self.desk is not None:
                     evidence.leave(self.desk, folder)
-                    print(f"{self.desk.output()}The screen, the windows, the output and the stacks of "
-                          f"{self.id()} are in {folder}", file=sys.stderr)
+                    print(f"{self.desk.output()}{evidence.windows(folder)}The screen, the windows, the output "
+                          f"and the stacks of {self.id()} are in {folder}", file=sys.stderr)
                 raise
         return reported
 

@@ -64,9 +64,9 @@ class Desk:
     def _open_display(self, size):
         read, write = os.pipe()
         # Its scheduler for many clients has a timer of 5 ms that at times goes on when there is nothing to do:
-        # such a display never rests.
+        # such a display never rests. Keys do not repeat: a busy machine may release them late.
         server = self._spawn(["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten",
-                              "tcp", "-noreset", "-dumbSched", "-fbdir", self._top.name], pass_fds=[write],
+                              "tcp", "-noreset", "-dumbSched", "-r", "-fbdir", self._top.name], pass_fds=[write],
                              stdout=subprocess.DEVNULL)
         self._display.append(server)
         os.close(write)
@@ -296,11 +296,33 @@ class Desk:
     def answer(self, title, key):
         """Waits for a dialog and presses the key that closes it; again where the key came too early."""
         self.dialog(title)
+        self._close(title, lambda: self.keys(key))
+
+    def open_file(self, title, path):
+        """Waits for a dialog that opens a file, types the name and accepts it; the whole name again where a letter
+        got lost, which the dialog answers with a box of the same title."""
+        self.dialog(title)
+
+        def accept():
+            if len(self._shown(title)) > 1:
+                self.keys("Return")
+            self.keys("ctrl+a")
+            self.type(str(path))
+            self.keys("Return")
+
+        self._close(title, accept)
+
+    def _shown(self, title):
+        """The windows of exactly this title that can be seen."""
+        return self.find(f"^{title}$", only_visible=True)
+
+    def _close(self, title, act):
+        """Does what closes a dialog, again after three seconds each, until the dialog is gone."""
         for _ in range(PATIENCE // 3):
-            self.keys(key)
+            act()
             deadline = time.monotonic() + 3
             while time.monotonic() < deadline:
-                if not self.find(f"^{title}$", only_visible=True):
+                if not self._shown(title):
                     self.settle()
                     return
                 time.sleep(2 * TICK)

@@ -19,6 +19,12 @@ def leave(desk, folder):
             (folder / name).with_suffix(".missing.txt").write_text(f"{error!r}\n")
 
 
+def windows(folder):
+    """The windows of the evidence in a folder, for a log that outlives the folder."""
+    listed = folder / "windows.txt"
+    return listed.read_text(encoding="utf-8") if listed.exists() else ""
+
+
 def _picture(desk, path):
     desk.screen().save(path)
 

@@ -38,9 +38,7 @@ class ImportTest(DeskTest):
     def import_drawing(self):
         """Runs "Import DXF File...", the fifth entry of the first menu, and names the drawing."""
         self.desk.keys("alt+f", *["Down"] * 4, "Return")
-        self.desk.dialog("Import DXF File")
-        self.desk.type(str(self.drawing))
-        self.desk.answer("Import DXF File", "Return")
+        self.desk.open_file("Import DXF File", self.drawing)
 
     def test_an_imported_outline_is_seen_saved_and_opened_again(self):
         self.start()
