@@ -75,6 +75,16 @@ class ReportTest(CliTest):
         for (_, right), edge in zip(titles, edges):
             self.assertAlmostEqual(right, edge, delta=3)
 
+    def test_a_side_s_scale_ends_where_the_frame_below_it_does(self):
+        self.report(BOAT)
+        for page in (2, 3):
+            boxes = self.boxes(page)
+            left = min(left for _, left, *_ in boxes)
+            rights = [right for word, _, _, right, _ in boxes if word == "1:200"]
+            self.assertEqual(len(rights), 2)
+            for right in rights:
+                self.assertAlmostEqual(right - left, 1700, delta=0.5)
+
     def test_pages_are_a4_and_their_fonts_are_embedded(self):
         self.report(BOAT)
         facts = subprocess.run(["pdfinfo", self.folder / "report.pdf"], check=True, capture_output=True, text=True).stdout

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
+#include <string_view>
 
+#include "qt/Icons.h"
 #include "qt/QtFileDialogs.h"
 #include "qt/QtText.h"
 #include "resources/CommandIds.h"
@@ -45,6 +49,24 @@ TEST_F(FileDialogs, AnImportOffersDrawingsAndTheirEndingNeedNotBeTyped)
   EXPECT_EQ(answer("hull"), drawing);
   const std::u16string namesake = folder.Write("hull", "");
   EXPECT_EQ(answer("hull"), namesake);
+}
+
+TEST_F(FileDialogs, TheButtonsForDesignsHaveTheProgramsImages)
+{
+  const auto expectImage = [this](CommandId command, QDialogButtonBox::StandardButton button,
+                                  std::string_view icon) {
+    WhenAsked<QFileDialog>([button, icon](QFileDialog& dialog) {
+      const auto picture = [](const QIcon& of) { return of.pixmap(16, 16).toImage(); };
+      EXPECT_EQ(picture(dialog.findChild<QDialogButtonBox*>()->button(button)->icon()),
+                picture(ThemedIcon(icon, dialog.palette())))
+          << icon;
+      dialog.reject();
+    });
+    Window().RunCommand(command);
+  };
+  expectImage(CommandId::FileOpen, QDialogButtonBox::Open, "file-open");
+  expectImage(CommandId::FileSaveAs, QDialogButtonBox::Save, "file-save");
+  EXPECT_EQ(dialogs, 2);
 }
 
 TEST_F(FileDialogs, TheCursorWaitsWhileTheDesignThatWasChosenIsRead)

@@ -53,6 +53,18 @@ TEST_F(LookColours, TheBlackLookHasGreyTextsWhereNothingCanBeDone)
   }
 }
 
+TEST_F(LookColours, TheBlackLookHasDarkerListsWhoseRowsAlternate)
+{
+  ApplyLook(Look::Black);
+  const QPalette palette = QApplication::palette();
+  const auto lightness = [&palette](QPalette::ColorRole role) {
+    return palette.color(role).lightness();
+  };
+  EXPECT_LT(lightness(QPalette::Base), lightness(QPalette::AlternateBase));
+  EXPECT_LT(lightness(QPalette::AlternateBase), lightness(QPalette::Window));
+  EXPECT_EQ(lightness(QPalette::ToolTipBase), lightness(QPalette::Base));
+}
+
 TEST_F(LookColours, WhatIsChosenHasWhiteLettersWhateverTheDesktopPrefers)
 {
   ApplyLook(Look::Silver);

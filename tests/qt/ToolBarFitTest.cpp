@@ -95,7 +95,9 @@ TEST_F(ToolBarRow, GetsCloserTogetherBeforeTheLabelsGo)
   const int wide = Bar().sizeHint().width();
   ASSERT_TRUE(HasLabels(Bar()));
   EXPECT_GT(SeparatorWidth(Bar()), 4);
+  const int wideButton = SideButton().sizeHint().width();
   SetWidth(wide - 1);
+  EXPECT_LT(SideButton().sizeHint().width(), wideButton);
   EXPECT_TRUE(HasLabels(Bar()));
   EXPECT_EQ(SeparatorWidth(Bar()), 4);
   EXPECT_EQ(Bar().layout()->spacing(), 0);
