@@ -33,7 +33,6 @@ QString ToolTip(const CommandEntry& command)
 Actions::Actions(QWidget* window, std::function<void(CommandId)> run)
     : QObject(window), window_(window), looks_(new QActionGroup(this)), run_(std::move(run))
 {
-  looks_->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
 }
 
 QAction* Actions::Get(CommandId command)

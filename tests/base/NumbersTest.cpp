@@ -31,6 +31,12 @@ TEST(ParseDouble, StopsAtTheFirstCharacterThatDoesNotBelong)
   EXPECT_EQ(ParseDouble(u"1..2"), 1.0);
 }
 
+TEST(ParseDouble, ControlCharactersBehindThePointAreNoDigits)
+{
+  EXPECT_EQ(ParseDouble("1.\t\t\t\t"), 1.0);
+  EXPECT_EQ(ParseDouble(std::string_view("1.\0\1\2\3", 6)), 1.0);
+}
+
 TEST(ParseDouble, TextWithoutANumberIsZero)
 {
   for (const char16_t* text : {u"", u"abc", u".", u"-", u"+-1", u"--1", u"e5", u"\u00E41"}) {

@@ -259,6 +259,13 @@ class DiffPictureTest(CliTest):
         current = self.write("changed.xml", design(((0, 0), (4, 0.5), (4, 3), (0, 3)), gps="2.000", anchors=((1, "Bow", 1, 2),)))
         self.assertEqual(re.findall(r' r="(\d+)"', self.strokes(self.former, current, RED)), ["7", "20", "20"])
 
+    def test_an_anchor_of_the_new_design_is_shown_above_a_caption_of_half_its_line(self):
+        out = self.folder / "out.svg"
+        self.draw(self.former, self.write("anchored.xml", design(SQUARE, anchors=((7, "Bow", 1, 2),))), "-o", out)
+        texts = re.findall(r'<text [^>]*font-size="(\d+)"[^>]*>([^<]+)<', out.read_text(encoding="utf-8"))
+        self.assertEqual([(size, text.split(":")[0]) for size, text in texts],
+                         [("14", "GPS"), ("14", "TXD"), ("14", "PIV"), ("16", "7"), ("20", "top")])
+
     def test_a_side_stands_in_the_middle_with_a_margin_and_a_cross_where_an_offset_stood(self):
         # The margins are a sixth of the width of 4, so that the height of 3 takes 9 parts in 13 of 1000 pixels.
         self.assertEqual(self.lines(self.former, self.current, GREY)[0], ("338.462,846.154", "1261.54,846.154"))
