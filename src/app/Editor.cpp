@@ -22,9 +22,6 @@ Editor::~Editor()
 {
   // A part that is released must not be notified of the release of the next one.
   app.mainFrame = nullptr;
-  frame.objectView = nullptr;
-  frame.view = nullptr;
-  frame.document = nullptr;
 }
 
 void Editor::Recover()

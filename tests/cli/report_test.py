@@ -184,6 +184,7 @@ class ReportTest(CliTest):
         width, pixels = self.grey_page(2)
         # Behind the margin of 200 and the caption of 60, with a line of 2 around its edge.
         self.assertEqual([pixels[y * width + 1000] < 200 for y in range(258, 263)], [False, False, True, True, False])
+        self.assertEqual([pixels[300 * width + x] < 200 for x in range(198, 203)], [False, False, True, True, False])
 
     def test_a_side_stands_in_the_middle_of_its_frame_with_symbols_of_one_size(self):
         offsets = "".join(f'<{name} x="{x}" y="5" z="0"/>' for name, x in (("gps", 0), ("txd", 20), ("piv", 10)))

@@ -171,6 +171,7 @@ TEST_F(StrokerFixture, AnOutlineIsTheSameWhereverItBegins)
   Draw(triangle, 6.0F, FigureKind::Outline);
   const double ink = Ink();
   EXPECT_EQ(Cover(13, 39), 255);
+  EXPECT_EQ(Cover(10, 40), 0);  // no spike
   Draw({triangle[1], triangle[2], triangle[0]}, 6.0F, FigureKind::Outline);
   EXPECT_NEAR(Ink(), ink, 0.2);
   Draw({triangle[2], triangle[0], triangle[1]}, 6.0F, FigureKind::Outline);
