@@ -146,7 +146,9 @@ class ImportTest(CliTest):
             shown += os.read(master, 65536)
         os.close(master)
         self.assertEqual(done.returncode, 0)
-        self.assertIn(b"importing [########", shown)
+        bars = re.findall(rb"importing \[(#*\.*)\]", shown)
+        self.assertEqual({len(bar) for bar in bars}, {40})
+        self.assertIn(b"#" * 20 + b"." * 20, bars)
         self.assertIn(b" 50 %", shown)
 
     def test_failures_are_reported_and_leave_nothing(self):

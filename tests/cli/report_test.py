@@ -129,6 +129,15 @@ class ReportTest(CliTest):
         for number, page in enumerate(pages, 1):
             self.assertIn(f"page {number} of {len(pages)}", page)
 
+    def test_titles_never_stand_alone_at_the_foot_of_a_page(self):
+        for words in (20, 40, 60):
+            pages = self.pages(self.write("high.xml", anchors_of(["Poller " * words] * 60)))
+            tables = [page.split() for page in pages if "Poller" in page]
+            self.assertGreater(len(tables), 2)
+            for page in tables:
+                titles = len(page) - 1 - page[::-1].index("Y")
+                self.assertIn("Poller", page[titles:])
+
     def test_long_and_odd_names(self):
         long = "Poller " * 40
         pages = self.pages(self.write("odd.xml", anchors_of([long, "a&#x202E;b", "x" * 5000, "\u00c4\u03a9\u0416"])))

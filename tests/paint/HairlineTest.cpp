@@ -116,6 +116,29 @@ TEST_F(Strokes, APolylineFromWhichNoSegmentCanBePaintedIsAnOrderAllTheSame)
             OrdersOfLine({}).size());
 }
 
+TEST_F(Strokes, WhatLiesBesideAPageIsNoOrder)
+{
+  const auto orders = [](bool paints, float left) {
+    return OrdersOf([=](CCanvas& canvas) {
+      IDrawingTarget& target = *canvas.Target();
+      constexpr Colour black{0.0F, 0.0F, 0.0F, 1.0F};
+      target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+      if (paints) {
+        const PixelRect place{left, 5.0F, left + 20.0F, 25.0F};
+        target.DrawRectangle(place, {black, 1.0F});
+        target.FillRectangle(place, black);
+        target.DrawEllipse({left + 10.0F, 15.0F}, 8.0F, 6.0F, {black, 1.0F});
+        target.DrawText({u"W", {u"Consolas", 10.0F}, place});
+      }
+      EXPECT_EQ(target.EndFrame().code, 0);
+    });
+  };
+  const QByteArray none = orders(false, 0.0F);
+  EXPECT_EQ(orders(true, -100.0F), none);
+  EXPECT_EQ(orders(true, 200.0F), none);
+  EXPECT_GT(orders(true, 10.0F).size(), none.size());
+}
+
 TEST_F(Strokes, OnAPageAPointCountsUnlessItLiesOnTheOneBefore)
 {
   constexpr PixelPoint start{5.5F, 5.5F};

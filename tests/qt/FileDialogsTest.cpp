@@ -40,6 +40,7 @@ TEST_F(FileDialogs, AnImportOffersDrawingsAndTheirEndingNeedNotBeTyped)
     WhenAsked<QFileDialog>([this, typed](QFileDialog& dialog) {
       EXPECT_EQ(dialog.nameFilters(), (QStringList{QStringLiteral("AutoCad DXF Files (*.dxf)"),
                                                    QStringLiteral("All Files (*)")}));
+      EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
       Enter(dialog, typed);
     });
     return asker.AskOpen(Strings::drawingExtension, Strings::drawingFilter);

@@ -186,6 +186,20 @@ TEST_F(WindowTexts, WhatCameOfACommandIsSeenThoughTheMouseIsOnItsButtonUntilTheN
   EXPECT_EQ(prompt.Text(), QStringLiteral("Ready"));
 }
 
+TEST_F(WindowTexts, APromptIsCutInTheMiddleWhereItsPaneGetsTooNarrow)
+{
+  PromptPane prompt(QString(), nullptr);
+  prompt.resize(400, 20);
+  prompt.Show(QStringLiteral("Saved <b>.xml"));
+  EXPECT_EQ(prompt.text(), QStringLiteral("Saved <b>.xml"));
+  EXPECT_EQ(prompt.toolTip(), QString());
+  prompt.show();
+  prompt.resize(40, 20);
+  EXPECT_LT(prompt.text().size(), 10);
+  EXPECT_TRUE(prompt.text().contains(QChar(0x2026)));
+  EXPECT_EQ(prompt.toolTip(), QStringLiteral("Saved &lt;b&gt;.xml"));
+}
+
 TEST_F(WindowTexts, PromptsAppearInTheStatusBarWhenTheMouseIsOnAnEntry)
 {
   QAction* const title = Window().menuBar()->actions().at(3);
