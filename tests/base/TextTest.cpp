@@ -59,6 +59,8 @@ TEST(Utf8, RecognisesWhatIsWellFormed)
   EXPECT_TRUE(IsUtf8("m\xC3\xA8tre \xF0\x9F\x98\x80 \xEF\xBF\xBD"));
   EXPECT_FALSE(IsUtf8("m\xE8tre"));
   EXPECT_FALSE(IsUtf8("\xC3"));
+  EXPECT_TRUE(IsUtf8("\xE2\x82\xBF"));
+  EXPECT_FALSE(IsUtf8("\xE2\x82\xC0"));
 }
 
 TEST(Utf8, ACharacterEndsWithTheTextWhateverLiesBehind)

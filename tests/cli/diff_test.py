@@ -259,6 +259,12 @@ class DiffPictureTest(CliTest):
         current = self.write("changed.xml", design(((0, 0), (4, 0.5), (4, 3), (0, 3)), gps="2.000", anchors=((1, "Bow", 1, 2),)))
         self.assertEqual(re.findall(r' r="(\d+)"', self.strokes(self.former, current, RED)), ["7", "20", "20"])
 
+    def test_there_is_no_grid_behind_what_changed(self):
+        out = self.folder / "out.svg"
+        self.draw(self.former, self.current, "-o", out)
+        shown = {colour.lower() for colour in re.findall(r'stroke="(#\w+)"', out.read_text(encoding="utf-8"))}
+        self.assertEqual(shown, {"#000000", GREY, BLUE, RED, "#ff0000", "#0000ff", "#008000"})  # with those of the offsets
+
     def test_an_anchor_of_the_new_design_is_shown_above_a_caption_of_half_its_line(self):
         out = self.folder / "out.svg"
         self.draw(self.former, self.write("anchored.xml", design(SQUARE, anchors=((7, "Bow", 1, 2),))), "-o", out)

@@ -183,6 +183,14 @@ class RenderTest(CliTest):
         # Equal texts at the right of their cells; the two columns of the sheet have 762 pixels each.
         self.assertAlmostEqual(float(z.getAttribute("x")) - float(y.getAttribute("x")), 762 // 5, delta=0.01)
 
+    def test_the_last_coordinate_stands_at_the_right_of_its_row(self):
+        out = self.folder / "sheet.pdf"
+        self.succeed("render", BOAT, "--sheet", "-z", "500x320", "-o", out)
+        listed = subprocess.run(["pdftotext", "-bbox", out, "-"], check=True, capture_output=True, text=True).stdout
+        edges = [float(edge) for edge in re.findall(r'xMax="(\S+)" yMax="\S+">0\.000</word>', listed)]
+        # The first column has five parts of 152 pixels from 24 on, each pixel three quarters of a point.
+        self.assertAlmostEqual(max(edge for edge in edges if edge < 786 * 0.75), (24 + 5 * 152) * 0.75, delta=1)
+
     def test_the_unit_stands_at_the_right_edge_of_a_sheet(self):
         out = self.folder / "sheet.pdf"
         self.succeed("render", BOAT, "--sheet", "-z", "500x320", "-o", out)

@@ -164,6 +164,19 @@ TEST_F(StrokerFixture, OutlinesAreClosedAndHaveTheirCorners)
   EXPECT_EQ(Ink(), 24.0 * 24.0 - 16.0 * 16.0);
 }
 
+TEST_F(StrokerFixture, TheCornersOfAnOutlineHaveBothTheirSides)
+{
+  // A regular hexagon: outer edges meet 29.2 from its middle, round joins reach no more than 28.
+  const float up = 32.0F - 10.0F * std::sqrt(3.0F);
+  const float down = 64.0F - up;
+  Draw({{60.0F, 32.0F}, {50.0F, down}, {30.0F, down}, {20.0F, 32.0F}, {30.0F, up}, {50.0F, up}},
+       16.0F, FigureKind::Outline);
+  for (const int x : {11, 68}) {
+    EXPECT_GT(Cover(x, 31), 150) << x;
+    EXPECT_EQ(Cover(x, 32), Cover(x, 31)) << x;
+  }
+}
+
 TEST_F(StrokerFixture, AnOutlineIsTheSameWhereverItBegins)
 {
   // Corners too sharp for more than the round joins.

@@ -289,6 +289,15 @@ TEST_F(Desk, TheStatusBarHidesAndItsStateSurvivesARestart)
   EXPECT_TRUE(Window().statusBar()->isHidden());
 }
 
+TEST_F(Desk, TheWindowsSizeSurvivesARestart)
+{
+  Window().resize(700, 610);
+  Window().close();
+  shell = std::make_unique<Shell>(QString());
+  ASSERT_TRUE(shell->App().InitInstance(*shell));
+  EXPECT_EQ(Window().size(), QSize(700, 610));
+}
+
 TEST_F(Desk, ButtonsHaveNamesOnOneLineAndCanBeReachedByKey)
 {
   for (const QToolButton* button : Window().findChildren<QToolButton*>()) {

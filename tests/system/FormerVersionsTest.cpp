@@ -131,6 +131,14 @@ TEST_F(Former, AFileReachedThroughALinkIsTheFileThatTheLinkNames)
   EXPECT_THAT(Copies(), ElementsAre("2", "3", "4", "5", "6"));
 }
 
+TEST_F(Former, TheFolderIsForItsOwnerAloneFromTheFirstCopyOn)
+{
+  SaveOver("boat.xml", "1");
+  SaveOver("boat.xml", "2");
+  EXPECT_THAT(Copies(), ElementsAre("1"));
+  EXPECT_EQ(fs::status(state).permissions(), fs::perms::owner_all);
+}
+
 TEST_F(Former, CopiesAreInTheOrderOfTheirMakingWhateverTheClockSays)
 {
   SaveOver("boat.xml", "1");

@@ -11,8 +11,10 @@
 
 #include "base/Text.h"
 #include "support/TempFolder.h"
+#include "system/Descriptors.h"
 #include "system/InputFile.h"
 #include "system/OutputFile.h"
+#include "system/SystemFiles.h"
 
 namespace hullwright {
 namespace {
@@ -144,6 +146,15 @@ TEST_F(TemporaryFiles, HaveTheModeOfAnyNewFileAndChangeThatOfNoOther)
   const std::string path = MakeTemporary(folder.Path());
   EXPECT_EQ(umask(before), mode_t{0027});
   EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms{0640});
+}
+
+TEST_F(TemporaryFiles, AFileThatIsMadeBesideThemIsForAllToReadAndWriteButNotToRun)
+{
+  const std::string path = (folder.Path() / "log").string();
+  const mode_t before = umask(0);
+  const Descriptor file(OpenDescriptor(path, Access::MakeOrWrite));
+  umask(before);
+  EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms{0666});
 }
 
 TEST_F(TemporaryFiles, AreRemovedEachByItsOwnName)
