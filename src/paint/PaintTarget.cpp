@@ -281,8 +281,8 @@ void PaintTarget::PaintText(const TextBlock& block)
   const QRectF scaled(box.topLeft() / scale, box.size() / scale);
   QString shown = Drawable(block.text);
   if (!centred) {
-    // From a start in the picture nothing reaches further than its diagonal; beyond some ten
-    // thousand pixels the toolkit loses the whole line.
+    // From a start in the picture nothing reaches further than its diagonal. The rest would take
+    // time to shape, and room in a page.
     const double diagonal = std::hypot(surface_.Width(), surface_.Height());
     shown = FirstColumns(shown, static_cast<qsizetype>(4.0 * diagonal / face->Size()) + 2);
   }

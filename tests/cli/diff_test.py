@@ -82,6 +82,11 @@ class DiffTest(CliTest):
                            "current": {"number": 1, "place": [0.0, 0.25, 0.0]}, "distance": 0.25},
                           {"former": None, "current": {"number": 5, "place": [9.0, 8.0, 0.0]}}])
 
+    def test_a_polyline_of_one_design_has_no_look_or_form_in_json(self):
+        for files in (self.pair(design(), design(SQUARE)), self.pair(design(SQUARE), design())):
+            self.assertEqual([*json.loads(run("diff", "-j", *files).stdout)["shapes"][0]],
+                             ["side", "type", "change", "number", "vertices", "reversed", "changedVertices"])
+
     def test_distances_in_json_have_the_decimals_of_the_text_and_places_all_digits(self):
         files = self.pair(design(SQUARE, gps="0.1"), design(tuple((x + 0.1, y + 0.2) for x, y in SQUARE), gps="0.40000001",
                                                             anchors=((1, "Bow", 1, 2),)))
@@ -124,6 +129,7 @@ class DiffTest(CliTest):
         same = json.loads(run("diff", *self.pair(design(SQUARE), design(SQUARE, unit=4711)), "-j").stdout)
         self.assertEqual(same["unit"], {"former": {"code": 9001, "name": "metre"},
                                         "current": {"code": 4711, "name": "unknown"}, "sameNumbers": True, "converted": True})
+        self.assertEqual([*same["unit"]], ["former", "current", "sameNumbers", "converted"])
         self.assertFalse(same["equal"])
 
     def test_a_drawing_is_compared_with_the_design_that_it_became(self):

@@ -212,6 +212,13 @@ class ReportTest(CliTest):
         heights = {word: lower - upper for word, _, upper, _, lower in self.boxes(1)}
         self.assertAlmostEqual(heights["page"] / heights["metre"], 28 / 34, delta=0.01)
 
+    def test_a_long_name_in_the_foot_ends_five_millimetres_before_the_page(self):
+        self.report(shutil.copyfile(BOAT, self.folder / ("i" * 240)))
+        lefts, rights = ([box[side] for box in self.boxes(1) if box[4] > 2650] for side in (1, 3))
+        lefts, rights = sorted(lefts), sorted(rights)
+        self.assertGreater(lefts[1] - rights[0], 50)
+        self.assertLess(lefts[1] - rights[0], 80)  # a letter more would not fit
+
     def test_a_pipe_and_an_odd_name(self):
         done = self.succeed("report", "-", "-o", "-", data=BOAT.read_bytes())
         self.assertTrue(done.startswith(b"%PDF-") and done.rstrip().endswith(b"%%EOF"))

@@ -2,7 +2,10 @@
 
 #include <cmath>
 #include <ctime>
+#include <limits>
+#include <vector>
 
+#include "compare/NearPairs.h"
 #include "support/DesignPair.h"
 
 namespace hullwright::test {
@@ -17,6 +20,20 @@ protected:
             {{x, y, 0.0}, {x + 1.0, y, 0.0}, {x + 1.0, y + 1.0, 0.0}, {x, y + 1.0, 0.0}});
   }
 };
+
+TEST(NearPairs, LeaveOutWhatIsAtNoFinitePlace)
+{
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  constexpr double far = std::numeric_limits<double>::infinity();
+  const std::vector<GridItem> items = {
+      {0, 1.0, none}, {0, none, 1.0}, {0, far, 1.0}, {0, 1.0, 1.0}};
+  std::vector<std::size_t> visited;
+  ForEachNearPair(items, items, 10.0, [&](std::size_t i, std::size_t k) {
+    EXPECT_EQ(i, k);
+    visited.push_back(i);
+  });
+  EXPECT_EQ(visited, std::vector<std::size_t>{3});
+}
 
 TEST_F(MatchedShapes, AreEqualBeforeTheyAreMoved)
 {

@@ -148,6 +148,30 @@ TEST_F(Strokes, OnAPageAPointCountsUnlessItLiesOnTheOneBefore)
   EXPECT_NE(OrdersOfLine(std::array{start, PixelPoint{6.5F, 6.5F}, end}), straight);
 }
 
+TEST_F(Strokes, OnAPageTheLinesOfOneCallAreNotJoined)
+{
+  const auto orders = [](bool together) {
+    return OrdersOf([together](CCanvas& canvas) {
+      constexpr std::array<PixelPoint, 4> points = {
+          {{5.5F, 5.5F}, {20.5F, 5.5F}, {5.5F, 30.5F}, {20.5F, 30.5F}}};
+      constexpr std::array<std::size_t, 2> both = {2, 4};
+      const std::span<const PixelPoint> all(points);
+      const std::span<const std::size_t> end = std::span(both).first(1);
+      const Stroke black{{0.0F, 0.0F, 0.0F, 1.0F}, 1.0F};
+      IDrawingTarget& target = *canvas.Target();
+      target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+      if (together) {
+        target.DrawFigures({FigureKind::Line, all, both}, black);
+      } else {
+        target.DrawFigures({FigureKind::Line, all.first(2), end}, black);
+        target.DrawFigures({FigureKind::Line, all.last(2), end}, black);
+      }
+      EXPECT_EQ(target.EndFrame().code, 0);
+    });
+  };
+  EXPECT_EQ(orders(true), orders(false));
+}
+
 TEST_F(Strokes, OnAPageOutlinesAreClosedJoinsAreRoundAndNothingIsFilled)
 {
   QImage page(60, 40, QImage::Format_RGB888);  // a format that is left to the painter, as pages are

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPicture>
 #include <chrono>
 #include <limits>
 #include <string>
@@ -110,6 +111,22 @@ TEST_F(PaintedText, OfAnyLengthIsSeen)
     Draw(std::u16string(length, u'W'), 20.0F);
     EXPECT_EQ(ink, line) << length;
   }
+}
+
+TEST_F(PaintedText, OnAPageEndsSoonBehindItsEdge)
+{
+  const auto orders = [this](std::size_t length) {
+    QPicture page;
+    surface.SetDevice(&page);
+    target.BeginFrame({1.0F, 1.0F, 1.0F, 1.0F});
+    const std::u16string text(length, u'W');
+    target.DrawText({text, {u"Consolas", 20.0F}, {0.0F, 0.0F, 200.0F, 100.0F}});
+    EXPECT_EQ(target.EndFrame().code, 0);
+    surface.SetDevice(nullptr);
+    return page.size();
+  };
+  EXPECT_LT(orders(5), orders(30));
+  EXPECT_EQ(orders(500), orders(5000));
 }
 
 TEST_F(PaintedText, IsCutBehindTenThousandUnits)

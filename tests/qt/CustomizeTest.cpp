@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QImage>
 #include <QInputDialog>
 #include <QLabel>
@@ -308,6 +309,17 @@ TEST_F(Customizing, TheFirstButtonGoesNoFurtherUpNorTheLastDown)
   });
 }
 
+TEST_F(Customizing, AButtonIsAddedBehindTheChosenOne)
+{
+  Customize([](QDialog& dialog) {
+    auto* const shown = dialog.findChildren<QListWidget*>().at(1);
+    shown->setCurrentRow(0);
+    AddButton(dialog, "Zoom In");
+    EXPECT_EQ(shown->currentRow(), 1);
+    EXPECT_TRUE(shown->item(1)->text().startsWith(QStringLiteral("Zoom In")));
+  });
+}
+
 TEST_F(Customizing, FieldsStandAtTheLabelsWhoseKeysLeadToThem)
 {
   Customize([](QDialog& dialog) {
@@ -334,6 +346,9 @@ TEST_F(Customizing, TheButtonsThatMakeAndDeleteAToolBarStandSideBySide)
     EXPECT_EQ(buttons.at(0)->text(), QStringLiteral("&New..."));
     EXPECT_EQ(buttons.at(1)->text(), QStringLiteral("&Delete"));
     EXPECT_LT(buttons.at(0)->geometry().right(), buttons.at(1)->x());
+    // Those that end the dialog stand below everything, as wide as it.
+    EXPECT_EQ(dialog.findChild<QDialogButtonBox*>()->geometry().right(),
+              dialog.findChildren<QListWidget*>().at(1)->geometry().right());
   });
 }
 

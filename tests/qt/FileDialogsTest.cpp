@@ -52,6 +52,25 @@ TEST_F(FileDialogs, AnImportOffersDrawingsAndTheirEndingNeedNotBeTyped)
   EXPECT_EQ(answer("hull"), namesake);
 }
 
+TEST_F(FileDialogs, AnImportBeginsInTheFolderOfTheOneBefore)
+{
+  folder.Write("hull.dxf", "");
+  QtSettingsStore settings;
+  settings.Open(QStringLiteral("maker"), QStringLiteral("program"));
+  QtFileDialogs asker(settings);
+  WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory(), QDir::current());
+    Enter(dialog, "hull.dxf");
+  });
+  asker.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
+  WhenAsked<QFileDialog>([this](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory(), QDir(QString::fromStdString(folder.Path().string())));
+    dialog.reject();
+  });
+  asker.AskOpen(Strings::drawingExtension, Strings::drawingFilter);
+  EXPECT_EQ(dialogs, 2);
+}
+
 TEST_F(FileDialogs, TheButtonsForDesignsHaveTheProgramsImages)
 {
   const auto expectImage = [this](CommandId command, QDialogButtonBox::StandardButton button,

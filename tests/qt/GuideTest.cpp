@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextFragment>
+#include <QTextTable>
 
 #include "file/SaxParser.h"
 #include "qt/Icons.h"
@@ -75,6 +76,21 @@ TEST_F(Guide, HelpStandsBehindAboutAndHasTheKeyF1)
   EXPECT_EQ(entries.at(1)->text(), QStringLiteral("&Help"));
   EXPECT_EQ(entries.at(1)->shortcut(), QKeySequence(Qt::Key_F1));
   EXPECT_FALSE(entries.at(1)->icon().isNull());
+  EXPECT_EQ(entries.at(1)->statusTip(), QStringLiteral("Read the guide"));
+}
+
+TEST_F(Guide, TheTablesOfAPageHaveRoomAndOneLineBetweenTheirCells)
+{
+  GuideWindow* const window = Open();
+  ASSERT_NE(window, nullptr);
+  const auto frames = window->findChild<GuidePage*>()->document()->rootFrame()->childFrames();
+  ASSERT_FALSE(frames.isEmpty());
+  for (QTextFrame* const frame : frames) {
+    const auto* const table = qobject_cast<QTextTable*>(frame);
+    ASSERT_NE(table, nullptr);
+    EXPECT_TRUE(table->format().borderCollapse());
+    EXPECT_EQ(table->format().cellPadding(), 4.0);
+  }
 }
 
 TEST_F(Guide, TheImageOfItsEntryFollowsTheLook)

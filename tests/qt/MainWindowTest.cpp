@@ -295,7 +295,7 @@ TEST_F(Desk, TheWindowsSizeSurvivesARestart)
   Window().close();
   shell = std::make_unique<Shell>(QString());
   ASSERT_TRUE(shell->App().InitInstance(*shell));
-  EXPECT_EQ(Window().size(), QSize(700, 610));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Window().size() == QSize(700, 610); }));
 }
 
 TEST_F(Desk, ButtonsHaveNamesOnOneLineAndCanBeReachedByKey)
@@ -331,6 +331,7 @@ TEST_F(Desk, ShowsTheProgressOfAnImportInPlaceOfThePrompt)
   EXPECT_EQ(pane->findChild<QLabel*>()->text(), QStringLiteral("Loading"));
   EXPECT_EQ(pane->findChild<QProgressBar*>()->value(), 40);
   EXPECT_GT(pane->width(), 200);
+  EXPECT_LT(pane->findChild<QLabel*>()->geometry().right(), pane->findChild<QProgressBar*>()->x());
   ASSERT_NE(QApplication::overrideCursor(), nullptr);
   Window().EndProgress();
   EXPECT_FALSE(pane->isVisible());

@@ -239,6 +239,14 @@ TEST_F(ObjectPane, RowsAreAsLargeAsTheToolkitMeasuresThem)
   ExpectSizesOfTheToolkit();
 }
 
+TEST_F(ObjectPane, WithoutADesignARebuildShowsNothing)
+{
+  ObjectTreeWidget tree(nullptr);
+  tree.BeforeRebuild();
+  tree.Rebuilt();
+  EXPECT_EQ(tree.model(), nullptr);
+}
+
 TEST_F(ObjectPane, TheKeysForCopyingLeaveTheClipboardAlone)
 {
   QApplication::clipboard()->setText(QStringLiteral("12.5"));
