@@ -13,8 +13,8 @@ struct WorldPoint {
 
 /// A position in client pixels, y down; fractions of pixels count.
 struct ScreenPoint {
-  double x = 0.0;
-  double y = 0.0;
+  double x;
+  double y;
 };
 
 /// The mapping between world coordinates (y up, design units) and client pixels (y down). Pure

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <new>
+
 #include "resources/CommandIds.h"
 #include "support/CommandFixture.h"
 
@@ -91,6 +93,16 @@ TEST_F(UnitsCommand, TheUnitHasChangedBeforeTheQuestionAndTheNumbersHaveNot)
   ToFeet();
   EXPECT_THAT(units, ElementsAre(UnitCode{9002}));
   EXPECT_EQ(top.vertices[0]->x, 10.0);
+}
+
+TEST_F(UnitsCommand, WhereMemoryEndsTheUnitAndTheNumbersStayTheOldOnes)
+{
+  const CShapePolyline& top = AddLine(ViewSide::Top, {{3.048, 0.0, 0.0}});
+  messages.onQuestion = [] { throw std::bad_alloc(); };
+  messages.answer = true;
+  EXPECT_THROW(ToFeet(), std::bad_alloc);
+  EXPECT_EQ(app.unitCode, UnitCode::Metre);
+  EXPECT_EQ(top.vertices[0]->x, 3.048);
 }
 
 TEST_F(UnitsCommand, AnEmptySlotEndsTheConversionOfShapesAndNotThatOfOffsets)
