@@ -215,6 +215,8 @@ TEST_F(DxfExportTest, AnEmptyDesignAndOneOfHugeCoordinatesHaveFiniteNumbers)
 {
   RemoveOffsets();
   EXPECT_THAT(Bytes(), HasSubstr("$EXTMIN\n10\n0.0\n"));
+  AddAnchor(2, u"Stern", 3.0, 4.0);  // which has no height
+  EXPECT_THAT(Bytes(), HasSubstr("$EXTMIN\n10\n3.0\n20\n4.0\n30\n0.0\n"));
   constexpr double largest = std::numeric_limits<double>::max();
   AddLine(design, ViewSide::Top, {{-largest, -largest, 0}, {largest, largest, 0}});
   AddAnchor(1, u"Bow", largest, largest);
