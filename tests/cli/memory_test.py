@@ -61,14 +61,15 @@ class MemoryTest(CliTest):
         design = self.write("long.xml", f"<vessel>{line.format('01')}<!--{'x' * (12 * MIB)}-->{line.format('02')}</vessel>")
         whole = self.succeed("info", design)
         statuses = set()
-        for memory in range(16 * MIB, 160 * MIB, 4 * MIB):
+        memory = 12 * MIB
+        while (0, False) not in statuses and memory < 400 * MIB:
+            memory += 4 * MIB
             with self.subTest(memory=memory // MIB):
                 done = self.run_within(memory, "info", design)
                 if done.returncode == 0:
                     self.assertEqual(done.stdout, whole)
                 statuses.add((done.returncode, b"out of memory" in done.stderr))
-        self.assertIn((1, True), statuses)
-        self.assertIn((0, False), statuses)
+        self.assertLessEqual({(1, True), (0, False)}, statuses)
 
     def test_a_drawing_that_came_in_in_part_is_no_success(self):
         # The lines of a comment take memory while the drawing is read, which the save has then.
