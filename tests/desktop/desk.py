@@ -1,5 +1,6 @@
 """A desk for the real program: a display of its own, a window manager, the mouse and the keys."""
 
+import itertools
 import os
 import pathlib
 import re
@@ -299,18 +300,20 @@ class Desk:
         self._close(title, lambda: self.keys(key))
 
     def open_file(self, title, path):
-        """Waits for a dialog that opens a file, types the name and accepts it; the whole name again where a letter
-        got lost, which the dialog answers with a box of the same title."""
+        """Waits for a dialog that opens a file, types the name and accepts it. The list of names that match takes the
+        first key for itself, so it is pressed again. A file that the toolkit has not listed yet leads to its folder
+        instead, and a letter that got lost to a box of the same title; then the whole name is typed again."""
         self.dialog(title)
 
-        def accept():
+        def name():
             if len(self._shown(title)) > 1:
                 self.keys("Return")
             self.keys("ctrl+a")
             self.type(str(path))
             self.keys("Return")
 
-        self._close(title, accept)
+        steps = itertools.cycle([name, lambda: self.keys("Return")])
+        self._close(title, lambda: next(steps)())
 
     def _shown(self, title):
         """The windows of exactly this title that can be seen."""
